@@ -1,7 +1,8 @@
 // The subcommands of the vtyconf program register themselves here.
 //
 // Each subcommand lives in its own file under commands/ and defines one static
-// CommandRegistration. main() builds the CLI11 application, gives every
+// CommandRegistration. A name with a blank ("note check") is a subcommand of
+// a group. main() builds the CLI11 application, gives every
 // registered command its subcommand, and runs the one chosen. A command's run
 // function returns the process exit code (0 success, 1 problems found, 2 usage
 // or input error); exceptions are caught by main().

@@ -33,8 +33,24 @@ int main(int argc, char** argv) {
   std::sort(registry.begin(), registry.end(),
             [](const CommandSpec& a, const CommandSpec& b) { return a.name < b.name; });
   std::map<CLI::App*, std::function<int()>> runners;
+  std::map<std::string, CLI::App*> groups;
   for (auto& spec : registry) {
-    CLI::App* sub = app.add_subcommand(spec.name, spec.description);
+    // "note check" is the subcommand "check" of the group "note".
+    CLI::App* parent = &app;
+    std::string name = spec.name;
+    size_t blank = name.find(' ');
+    if (blank != std::string::npos) {
+      std::string group = name.substr(0, blank);
+      name = name.substr(blank + 1);
+      auto found = groups.find(group);
+      if (found == groups.end()) {
+        CLI::App* g = app.add_subcommand(group, group + " commands");
+        g->require_subcommand(1);
+        found = groups.emplace(group, g).first;
+      }
+      parent = found->second;
+    }
+    CLI::App* sub = parent->add_subcommand(name, spec.description);
     runners[sub] = spec.setup(*sub, global);
   }
 
@@ -50,7 +66,6 @@ int main(int argc, char** argv) {
     for (auto& [sub, run] : runners) {
       if (sub->parsed()) return run();
     }
-    // A subcommand with subcommands of its own (such as "note") dispatches below.
     return 2;
   } catch (const std::exception& e) {
     std::cerr << "vtyconf: " << e.what() << "\n";
