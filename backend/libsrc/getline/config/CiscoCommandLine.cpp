@@ -1,0 +1,362 @@
+#include "config/CiscoCommandLine.h"
+
+#include <memory>
+
+#include "grammar/ParserTreeNode.h"
+#include "toolkit/ParserToolCase.h"
+
+namespace qxparser {
+
+namespace {
+
+const std::string kEndWord = "\n";
+
+bool nodeHas(const ParserTreeNode* node, uint32_t flag) { return node && node->hasFlag(flag); }
+
+}  // namespace
+
+CiscoCommandLine::CiscoCommandLine() = default;
+
+CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
+    : level(other.level),
+      majorCmdStr(other.majorCmdStr),
+      currentCommand(other.currentCommand),
+      originalCmd(other.originalCmd),
+      originalStr(other.originalStr),
+      flag(other.flag),
+      orderNo(other.orderNo),
+      flags(other.flags),
+      treeNodes(other.treeNodes),
+      visitedNodes(other.visitedNodes) {
+  for (CiscoCommandLine* child : other.childCommands) {
+    auto copy = std::make_unique<CiscoCommandLine>(*child);
+    childCommands.push_back(copy.release());
+  }
+  for (auto& entry : other.subCommands) {
+    auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
+    copy->parentCommand = this;
+    subCommands[entry.first] = copy.release();
+  }
+}
+
+CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
+  if (this == &other) return *this;
+  level = other.level;
+  majorCmdStr = other.majorCmdStr;
+  currentCommand = other.currentCommand;
+  originalCmd = other.originalCmd;
+  originalStr = other.originalStr;
+  flag = other.flag;
+  orderNo = other.orderNo;
+  flags = other.flags;
+  treeNodes = other.treeNodes;
+  visitedNodes = other.visitedNodes;
+  for (auto& entry : other.subCommands) {
+    if (subCommands.count(entry.first)) continue;  // an existing entry stays
+    auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
+    copy->parentCommand = this;
+    subCommands[entry.first] = copy.release();
+  }
+  return *this;
+}
+
+CiscoCommandLine::~CiscoCommandLine() {
+  for (auto& entry : subCommands) delete entry.second;
+}
+
+std::vector<std::string> CiscoCommandLine::getMajorCommands() const {
+  std::vector<std::string> out;
+  ParserToolCase::splitString(majorCmdStr, "\r\n", out);
+  return out;
+}
+
+void CiscoCommandLine::getAllChildCommands(std::vector<CiscoCommandLine*>& out) const {
+  for (CiscoCommandLine* child : childCommands) {
+    out.push_back(child);
+    child->getAllChildCommands(out);
+  }
+}
+
+void CiscoCommandLine::setFlags(unsigned int bits, bool recursive) {
+  flags |= bits;
+  if (!recursive) return;
+  for (auto& entry : subCommands) entry.second->setFlags(bits, true);
+}
+
+void CiscoCommandLine::setNoCompleteCmd(bool value) {
+  for (CiscoCommandLine* cmd = this; cmd; cmd = cmd->parentCommand) {
+    if (value) {
+      cmd->flags |= CMDBIT_NO_COMPLETE;
+    } else {
+      cmd->flags &= ~CMDBIT_NO_COMPLETE;
+    }
+    if (!(cmd->flags & CMDBIT_SUB)) break;
+  }
+}
+
+void CiscoCommandLine::setParentCommand(CiscoCommandLine* parent, bool addToChildren) {
+  parentCommand = parent;
+  if (parent && addToChildren) parent->childCommands.push_back(this);
+}
+
+void CiscoCommandLine::flagTheCmd() { flag = ParserToolCase::getCmdFlag(currentCommand); }
+
+void CiscoCommandLine::clearVisitedOption() {
+  orderNo = 0;
+  flags = 0;
+  parentCommand = nullptr;
+  treeNodes.clear();
+  visitedNodes.clear();
+  // Nested commands of a dropped walk would otherwise receive the words of
+  // the next attempt at another level.
+  for (auto& entry : subCommands) delete entry.second;
+  subCommands.clear();
+  currentSubCommand = nullptr;
+}
+
+void CiscoCommandLine::delOnlyChildCmds() {
+  for (CiscoCommandLine* child : childCommands) {
+    child->delOnlyChildCmds();
+    delete child;
+  }
+  childCommands.clear();
+}
+
+void CiscoCommandLine::takeFlagFrom(const ParserTreeNode* node) {
+  if (nodeHas(node, NODE_FLAG_A)) {
+    flag = CMD_ADDITIVE;
+  } else if (nodeHas(node, NODE_FLAG_O)) {
+    flag = CMD_OVERWRITE;
+  } else if (nodeHas(node, NODE_FLAG_M)) {
+    flag = CMD_MERGEABLE;
+  }
+}
+
+void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) {
+  if (visitedNodes.count(node)) {
+    for (auto& entry : treeNodes) {
+      if (entry.node != node) continue;
+      if (node->hasFlag(NODE_FLAG_WA) && !entry.words.empty()) {
+        // Prose keeps its typed order: the words join the first one.
+        std::string joined = *entry.words.begin() + " " + word;
+        entry.words.erase(entry.words.begin());
+        entry.words.insert(joined);
+      } else {
+        entry.words.insert(word);
+      }
+      break;
+    }
+    return;
+  }
+  visitedNodes.insert(node);
+  CmdPathEntry entry;
+  entry.node = node;
+  entry.words.insert(word);
+  treeNodes.push_back(std::move(entry));
+}
+
+void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo) {
+  if (!node) return;
+  if (node->mIsOption && !treeNodes.empty() && node->mParent == treeNodes.back().node) {
+    auto existing = subCommands.find(node);
+    if (existing != subCommands.end()) {
+      currentSubCommand = existing->second;
+      return;
+    }
+    auto sub = std::make_unique<CiscoCommandLine>();
+    sub->parentCommand = this;
+    sub->flags |= CMDBIT_SUB;
+    if (isNo) sub->flags |= CMDBIT_NO;
+    bool noComplete = !node->hasFlag(NODE_FLAG_N) || node->hasFlag(NODE_FLAG_NC);
+    if (noComplete) {
+      flags |= CMDBIT_NO_COMPLETE;
+    } else {
+      flags &= ~CMDBIT_NO_COMPLETE;
+    }
+    if ((flags & CMDBIT_SUB) && parentCommand) parentCommand->setNoCompleteCmd(noComplete);
+    sub->takeFlagFrom(node);
+    sub->enterNode(node, word);
+    currentSubCommand = sub.get();
+    subCommands[node] = sub.release();
+    return;
+  }
+  if (currentSubCommand) {
+    currentSubCommand->addTreeNodes(node, word, isNo);
+    return;
+  }
+  if (isNo) {
+    flags |= CMDBIT_NO;
+    if (treeNodes.empty()) flags &= ~CMDBIT_STORED;
+    if (node->hasFlag(NODE_FLAG_SN) || node->hasFlag(NODE_FLAG_SB)) flags |= CMDBIT_STORED;
+    if (node->hasFlag(NODE_FLAG_NE)) flags |= CMDBIT_NO_ENDS_ANYWHERE;
+    bool noComplete = !(flags & CMDBIT_NO_ENDS_ANYWHERE) &&
+                      (!node->hasFlag(NODE_FLAG_N) || node->hasFlag(NODE_FLAG_NC));
+    if (noComplete) {
+      flags |= CMDBIT_NO_COMPLETE;
+    } else {
+      flags &= ~CMDBIT_NO_COMPLETE;
+    }
+    if ((flags & CMDBIT_SUB) && parentCommand) parentCommand->setNoCompleteCmd(noComplete);
+  } else {
+    if (treeNodes.empty()) flags |= CMDBIT_STORED;
+    if (node->hasFlag(NODE_FLAG_SN)) flags &= ~CMDBIT_STORED;
+    if (node->hasFlag(NODE_FLAG_SB)) flags |= CMDBIT_STORED;
+  }
+  if (node->mEntersMode) flags |= CMDBIT_OPENS_MODE;
+  if (node->hasFlag(NODE_FLAG_CF)) flags |= CMDBIT_CONFLICT;
+  takeFlagFrom(node);
+  enterNode(node, word);
+}
+
+const std::string& CiscoCommandLine::genCommandStr() {
+  originalCmd.clear();
+  bool firstElement = true;
+  for (const auto& entry : treeNodes) {
+    for (const auto& word : entry.words) {
+      if (!firstElement) originalCmd += ' ';
+      originalCmd += word;
+    }
+    firstElement = false;
+  }
+  for (auto& entry : subCommands) {
+    size_t newline = originalCmd.find('\n');
+    if (newline != std::string::npos) originalCmd.erase(newline);
+    originalCmd += ' ';
+    originalCmd += entry.second->genCommandStr();
+  }
+  if (originalCmd.empty() || originalCmd.back() != '\n') originalCmd += '\n';
+  return originalCmd;
+}
+
+bool CiscoCommandLine::isExactlyMatch(CiscoCommandLine* other) const {
+  return other && currentCommand == other->currentCommand;
+}
+
+bool CiscoCommandLine::isComparable(const CiscoCommandLine* other) const {
+  if (!other || (flags & CMDBIT_REMOVED) || treeNodes.empty()) return false;
+  auto mine = treeNodes.begin();
+  auto theirs = other->treeNodes.begin();
+  for (; mine != treeNodes.end() && theirs != other->treeNodes.end(); ++mine, ++theirs) {
+    if (!nodeHas(mine->node, NODE_FLAG_K) && !nodeHas(theirs->node, NODE_FLAG_K)) continue;
+    if (mine->node != theirs->node || mine->words != theirs->words) return false;
+  }
+  for (; mine != treeNodes.end(); ++mine) {
+    if (nodeHas(mine->node, NODE_FLAG_K)) return false;
+  }
+  for (; theirs != other->treeNodes.end(); ++theirs) {
+    if (nodeHas(theirs->node, NODE_FLAG_K)) return false;
+  }
+  return true;
+}
+
+bool CiscoCommandLine::isConflictWith(CiscoCommandLine* other) const {
+  if (!other || !(flags & CMDBIT_CONFLICT) || treeNodes.empty()) return false;
+  auto theirs = other->treeNodes.begin();
+  for (auto mine = treeNodes.begin(); mine != treeNodes.end(); ++mine, ++theirs) {
+    if (theirs == other->treeNodes.end() || mine->node != theirs->node) return false;
+    if (nodeHas(mine->node, NODE_FLAG_CF) && mine->words != theirs->words) return true;
+  }
+  return false;
+}
+
+bool CiscoCommandLine::isNoable(const CiscoCommandLine* no) const {
+  if (!no || (flags & CMDBIT_REMOVED) || treeNodes.empty()) return false;
+  auto mine = treeNodes.begin();
+  auto theirs = no->treeNodes.begin();
+  for (; mine != treeNodes.end() && theirs != no->treeNodes.end(); ++mine, ++theirs) {
+    if (mine->words.count(kEndWord) || theirs->words.count(kEndWord)) break;
+    if (mine->node != theirs->node) return false;
+    if (nodeHas(mine->node, NODE_FLAG_NE)) return true;
+    bool compare = nodeHas(mine->node, NODE_FLAG_K) ||
+                   (nodeHas(mine->node, NODE_FLAG_N) && !nodeHas(mine->node, NODE_FLAG_M));
+    if (compare && mine->words != theirs->words) return false;
+  }
+  for (; theirs != no->treeNodes.end(); ++theirs) {
+    if (nodeHas(theirs->node, NODE_FLAG_N)) return false;
+  }
+  for (; mine != treeNodes.end(); ++mine) {
+    if (nodeHas(mine->node, NODE_FLAG_NK)) return false;
+  }
+  return true;
+}
+
+bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
+  if (!other || flag != CMD_MERGEABLE || other->flag != CMD_MERGEABLE) return true;
+  const bool negated = (other->flags & CMDBIT_NO) != 0;
+  auto mine = treeNodes.begin();
+  auto theirs = other->treeNodes.begin();
+  for (; mine != treeNodes.end() && theirs != other->treeNodes.end(); ++mine, ++theirs) {
+    if (!nodeHas(theirs->node, NODE_FLAG_M) || nodeHas(theirs->node, NODE_FLAG_K) ||
+        !nodeHas(mine->node, NODE_FLAG_M)) {
+      continue;
+    }
+    if (!negated) {
+      mine->words.insert(theirs->words.begin(), theirs->words.end());
+    } else {
+      for (const auto& word : theirs->words) mine->words.erase(word);
+      if (mine->words.empty()) return false;
+    }
+  }
+  bool nestedN = false;
+  for (auto& entry : other->subCommands) {
+    ParserTreeNode* node = entry.first;
+    CiscoCommandLine* theirsSub = entry.second;
+    const bool hasN = nodeHas(node, NODE_FLAG_N);
+    nestedN = nestedN || hasN;
+    auto found = subCommands.find(node);
+    if (found == subCommands.end()) {
+      if (!negated) {
+        auto copy = std::make_unique<CiscoCommandLine>(*theirsSub);
+        copy->parentCommand = this;
+        subCommands[node] = copy.release();
+      }
+      continue;
+    }
+    CiscoCommandLine* mineSub = found->second;
+    if (!negated) {
+      if (theirsSub->flag == CMD_MERGEABLE) {
+        mineSub->mergeCommand(theirsSub);
+      } else {
+        *mineSub = *theirsSub;
+      }
+      continue;
+    }
+    if (theirsSub->flag == CMD_MERGEABLE && !theirsSub->subCommands.empty() && mineSub->mergeCommand(theirsSub)) {
+      continue;
+    }
+    if (hasN) {
+      if (currentSubCommand == mineSub) currentSubCommand = nullptr;
+      mineSub->delOnlyChildCmds();
+      delete mineSub;
+      subCommands.erase(found);
+    }
+  }
+  if (!negated) {
+    genCommandStr();
+    return true;
+  }
+  if (!nestedN && !other->treeNodes.empty()) {
+    auto last = other->treeNodes.end();
+    --last;
+    bool options = last->node && !last->node->mOptions.empty();
+    if (!options && last != other->treeNodes.begin()) {
+      --last;
+      options = last->node && !last->node->mOptions.empty();
+    }
+    if (options) return false;
+  }
+  if (!nestedN || !subCommands.empty()) {
+    genCommandStr();
+    return true;
+  }
+  if (!treeNodes.empty()) {
+    const CmdPathEntry& last = treeNodes.back();
+    if (last.words.count(kEndWord) || (last.node && last.node->mChildren.count(kEndWord))) {
+      genCommandStr();
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,129 @@
+// CiscoCommandLine: one parsed line of a device configuration.
+//
+// A record knows what was typed, what it means in terms of the grammar (its
+// path of nodes with the words that matched each), and where it stands: its
+// mode level, the commands that opened the modes around it, its parent and
+// children. Commands are compared by their grammar paths, so records may only
+// be compared while the grammar that made them is loaded.
+//
+// Ownership: the caller of a reading operation owns the returned records. A
+// record owns its nested option commands (subCommands; the destructor deletes
+// them) and its childCommands, but frees the children only in
+// delOnlyChildCmds and the list deletions of the merge: the destructor does
+// not. A copy keeps (copies of) the children; assignment leaves childCommands
+// alone. Not thread-safe.
+#pragma once
+
+#include <list>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "config/CiscoCommandLineFlag.h"
+#include "platform/Export.h"
+
+namespace qxparser {
+
+class ParserTreeNode;
+
+// One element of a command's path: a grammar node and the sorted words that
+// matched it. The end of a line is the word "\n" on the end-of-line node.
+struct CmdPathEntry {
+  ParserTreeNode* node = nullptr;
+  std::set<std::string> words;
+};
+
+enum CiscoCommandBits : unsigned int {
+  CMDBIT_NO = 0x1,                 // entered in its "no" form
+  CMDBIT_STORED = 0x2,             // appears in a running configuration
+  CMDBIT_OPENS_MODE = 0x4,         // a node of the path opens a mode
+  CMDBIT_REMOVED = 0x8,            // marked for removal by a merge or fallback
+  CMDBIT_NO_ENDS_ANYWHERE = 0x10,  // a "no" command that passed an "ne" node
+  CMDBIT_NO_COMPLETE = 0x20,       // a "no" command that may not end here yet
+  CMDBIT_SUB = 0x40,               // a nested command in subCommands
+  CMDBIT_CONFLICT = 0x80           // a node of the path has "cf"
+};
+
+class VTYCONF_API CiscoCommandLine {
+ public:
+  CiscoCommandLine();
+  CiscoCommandLine(const CiscoCommandLine& other);
+  CiscoCommandLine& operator=(const CiscoCommandLine& other);
+  ~CiscoCommandLine();
+
+  int getLevel() const { return level; }
+  void setLevel(int value) { level = value; }
+  int getLineNo() const { return lineNo; }
+  void setLineNo(int value) { lineNo = value; }
+  int getOrderNo() const { return orderNo; }
+  void setOrderNo(int value) { orderNo = value; }
+  CiscoCommandLineFlag getFlag() const { return flag; }
+  void setFlag(CiscoCommandLineFlag value) { flag = value; }
+  unsigned int getFlags() const { return flags; }
+
+  const std::string& getCurrentCommand() const { return currentCommand; }
+  void setCurrentCommand(const std::string& text) { currentCommand = text; }
+  const std::string& getOriginalCmd() const { return originalCmd; }
+  void setOriginalCmd(const std::string& text) { originalCmd = text; }
+  const std::string& getOriginalStr() const { return originalStr; }
+  void setOriginalStr(const std::string& text) { originalStr = text; }
+  void getMajorCmdStr(std::string& out) const { out = majorCmdStr; }
+  void setMajorCommands(const std::string& text) { majorCmdStr = text; }
+  std::vector<std::string> getMajorCommands() const;
+
+  std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
+  const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
+  // Appends all descendants, depth first, each ahead of its own children.
+  void getAllChildCommands(std::vector<CiscoCommandLine*>& out) const;
+  CiscoCommandLine* getParentCommand() const { return parentCommand; }
+  const std::list<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
+  const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const { return subCommands; }
+  int getTreeNodeSize() const { return static_cast<int>(visitedNodes.size()); }
+
+  void setFlags(unsigned int bits, bool recursive);
+  // Clears bits (vtyconf's own counterpart of setFlags, used by merges).
+  void clearFlags(unsigned int bits) { flags &= ~bits; }
+  bool hasFlags(unsigned int bits) const { return (flags & bits) != 0; }
+  void setNoCompleteCmd(bool value);
+  void setParentCommand(CiscoCommandLine* parent, bool addToChildren);
+  void flagTheCmd();
+  void clearVisitedOption();
+  void delOnlyChildCmds();
+
+  // Extends the path by a matched word (called by the terminal's walk).
+  void addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo);
+  // Takes the order number from the command-order table for the mode opened
+  // by modeNode; does nothing while the table is empty.
+  void setOrderNo(ParserTreeNode* modeNode);
+  // Rebuilds originalCmd from the path and returns it.
+  const std::string& genCommandStr();
+
+  bool isComparable(const CiscoCommandLine* other) const;
+  bool isConflictWith(CiscoCommandLine* other) const;
+  bool isNoable(const CiscoCommandLine* no) const;
+  bool isExactlyMatch(CiscoCommandLine* other) const;
+  bool mergeCommand(CiscoCommandLine* other);
+
+ private:
+  void enterNode(ParserTreeNode* node, const std::string& word);
+  void takeFlagFrom(const ParserTreeNode* node);
+
+  int level = 0;
+  int lineNo = 0;
+  std::string majorCmdStr;
+  std::string currentCommand;
+  std::string originalCmd;
+  std::string originalStr;
+  CiscoCommandLineFlag flag = CMD_ADDITIVE;
+  int orderNo = 0;
+  unsigned int flags = 0;
+  CiscoCommandLine* parentCommand = nullptr;
+  std::vector<CiscoCommandLine*> childCommands;
+  std::list<CmdPathEntry> treeNodes;
+  std::set<ParserTreeNode*> visitedNodes;
+  std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
+  CiscoCommandLine* currentSubCommand = nullptr;
+};
+
+}  // namespace qxparser

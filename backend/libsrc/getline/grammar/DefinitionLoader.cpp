@@ -1,0 +1,441 @@
+// The loader of definition files. The order of steps in addNodeLine and
+// finishNode is what gives the grammar its shape (which map a child lands in,
+// which parent is first, which back edges exist), so it follows the format's
+// rules step by step; see DefinitionLoader.h for the format in short.
+#include "grammar/DefinitionLoader.h"
+
+#include <fstream>
+#include <memory>
+#include <set>
+
+#include "grammar/NodePool.h"
+#include "grammar/ParserException.h"
+#include "platform/Pathname.h"
+#include "platform/PlatformOs.h"
+#include "platform/QXFileSystem.h"
+#include "platform/StlHelper.h"
+#include "toolkit/ParserToolCase.h"
+
+namespace qxparser {
+
+std::map<std::string, KeyTable>& gKeyTables() {
+  static auto* tables = new std::map<std::string, KeyTable>();
+  return *tables;
+}
+
+std::map<std::string, ParserTreeNode*>& gSharedGrammars() {
+  static auto* grammars = new std::map<std::string, ParserTreeNode*>();
+  return *grammars;
+}
+
+std::map<ParserTreeNode*, std::string>& gPromptSuffixes() {
+  static auto* suffixes = new std::map<ParserTreeNode*, std::string>();
+  return *suffixes;
+}
+
+std::vector<std::string>& gModeFileNames() {
+  static auto* names = new std::vector<std::string>();
+  return *names;
+}
+
+void clearLoaderTables() {
+  gKeyTables().clear();
+  gSharedGrammars().clear();
+  gPromptSuffixes().clear();
+  gModeFileNames().clear();
+}
+
+namespace {
+
+const std::map<std::string, uint32_t>& flagCodes() {
+  static const std::map<std::string, uint32_t> codes = {
+      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},    {"m", NODE_FLAG_M},
+      {"mb", NODE_FLAG_MB}, {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB},  {"le", NODE_FLAG_LE},
+      {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN}, {"sb", NODE_FLAG_SB},  {"ob", NODE_FLAG_OB},
+      {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},  {"rp", NODE_FLAG_RP},
+      {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF},  {"wa", NODE_FLAG_WA}};
+  return codes;
+}
+
+// Files being read right now, to refuse a file that links itself.
+std::set<std::string>& filesInProgress() {
+  static auto* files = new std::set<std::string>();
+  return *files;
+}
+
+[[noreturn]] void malformed(const ParserTree& tree, const std::string& what) {
+  std::string where = "(unknown)";
+  if (!tree.mLoading.empty()) {
+    where = tree.mLoading.back().file + ":" + std::to_string(tree.mLoading.back().line);
+  }
+  throw ParserException(where + ": " + what);
+}
+
+// Text streams: a line read from a file written on another platform keeps
+// its carriage return, which is not part of the line.
+bool readTextLine(std::istream& stream, std::string& line) {
+  if (!std::getline(stream, line)) return false;
+  if (!line.empty() && line.back() == '\r') line.pop_back();
+  return true;
+}
+
+ParserTreeNode* stackTop(ParserTree& tree) { return tree.mNodeStack.empty() ? nullptr : tree.mNodeStack.back(); }
+
+ParserTreeNode* findExistingChild(ParserTreeNode* top, const std::string& a) {
+  for (auto* map : {&top->mChildren, &top->mOptionalChildren, &top->mOptions}) {
+    auto it = map->find(a);
+    if (it != map->end()) return it->second;
+  }
+  for (auto* map : {&top->mChildren, &top->mOptions}) {
+    for (auto& entry : *map) {
+      if (entry.second->mIsComplex && entry.second->mKeywords.count(a)) return entry.second;
+    }
+  }
+  return nullptr;
+}
+
+ParserTreeNode::NodeMap& targetMap(ParserTreeNode* parent, ParserTreeNode* child, int optional) {
+  if (child->mIsOption) return parent->mOptions;
+  if (optional == 1) return parent->mOptionalChildren;
+  return parent->mChildren;
+}
+
+// The loop begin that a node with "le" closes, or null.
+ParserTreeNode* findLoopBegin(ParserTreeNode* node) {
+  int depth = 0;
+  for (ParserTreeNode* n = node; n; n = n->mParent) {
+    if (n->hasFlag(NODE_FLAG_LE)) ++depth;
+    int lb = n->hasFlag(NODE_FLAG_LB) ? 1 : 0;
+    if (depth == lb) return n;
+    depth -= lb;
+  }
+  return nullptr;
+}
+
+struct LoadGuard {
+  ParserTree& tree;
+  std::string file;
+  LoadGuard(ParserTree& t, const std::string& f) : tree(t), file(f) {
+    filesInProgress().insert(file);
+    // The file's root has just been pushed: it is the bottom element for it.
+    tree.mLoading.push_back({file, 0, tree.mNodeStack.empty() ? 0 : tree.mNodeStack.size() - 1});
+  }
+  ~LoadGuard() {
+    filesInProgress().erase(file);
+    tree.mLoading.pop_back();
+  }
+};
+
+}  // namespace
+
+void loadKeyFiles() {
+  std::string dir = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + "keyfiles";
+  Pathname folder(dir);
+  if (!folder.exists()) return;
+  if (!platform::isPathSeparator(dir.back())) dir += platform::kPathSeparator;
+  for (const Pathname& entry : Pathname(dir).dirContents()) {
+    std::string name = entry.file();
+    if (name == "." || name == ".." || entry.isDirectory()) continue;
+    std::string path = dir + name;
+    size_t cut = path.find_last_of("/\\");
+    name = cut == std::string::npos ? path : path.substr(cut + 1);
+    KeyTable table;
+    loadKeyFile(table, path);
+    gKeyTables()["&" + name] = table;
+  }
+}
+
+void loadKeyFile(KeyTable& table, const std::string& path) {
+  std::ifstream in(StlHelper::AToW(path));
+  if (!in) {
+    // An unreadable KeyFile is an empty table; the load goes on.
+    return;
+  }
+  std::string line;
+  std::vector<std::string> pieces;
+  while (readTextLine(in, line)) {
+    if (line.empty()) continue;
+    ParserToolCase::splitString(ParserToolCase::string2Lower(line), "|", pieces);
+    if (pieces.size() < 2) continue;
+    table[pieces[0]] = pieces[1];
+  }
+}
+
+ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
+  if (filesInProgress().count(fileName)) {
+    malformed(tree, "\"" + fileName + "\" links itself; a definition file may not include or open its own mode");
+  }
+  ParserTreeNode* root = NodePool::newNode();
+  root->mEntersMode = true;
+  tree.mNodeStack.push_back(root);
+  std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + fileName;
+  std::ifstream in(StlHelper::AToW(path));
+  if (!in) throw ParserException("error: can't open file: " + path);
+  {
+    LoadGuard guard(tree, fileName);
+    readGrammarStream(tree, in);
+  }
+  if (!tree.mNodeStack.empty()) tree.mNodeStack.pop_back();
+  return root;
+}
+
+void readGrammarStream(ParserTree& tree, std::istream& stream) {
+  std::string line, a, b, c, d, e;
+  while (readTextLine(stream, line)) {
+    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
+    if (line.empty()) continue;
+    ParserToolCase::parseCmdLine(line, a, b, c, d, e);
+    if (a.empty()) continue;
+    if (a[0] == '#') {
+      readComplexNode(tree, a, c, stream);
+    } else {
+      ParserTreeNode* node = addNodeLine(tree, a, b, c, d);
+      applyLinks(tree, e, node);
+    }
+  }
+}
+
+ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::string& b, const std::string& c,
+                            const std::string& d) {
+  if (!a.empty() && a[0] == '!') {
+    size_t base = tree.mLoading.empty() ? 0 : tree.mLoading.back().stackBase;
+    // The root of the file is the bottom element for this file; closing it
+    // would make the next line's parent a node of another file, or nothing.
+    if (tree.mNodeStack.size() <= base + 1) malformed(tree, "\"!\" line with no open level to close");
+    tree.mNodeStack.pop_back();
+    return stackTop(tree);
+  }
+  ParserTreeNode* top = stackTop(tree);
+  if (!top) malformed(tree, "line outside of any level");
+  if (!a.empty()) {
+    if (ParserTreeNode* existing = findExistingChild(top, a)) {
+      tree.mNodeStack.push_back(existing);
+      return existing;
+    }
+  }
+  std::string key;
+  bool open = false, close = false;
+  ParserToolCase::testOptionToken(a, key, open, close);
+  ParserTreeNode* node = nullptr;
+  if (close) {
+    if (!open) malformed(tree, "token \"" + a + "\" closes \"]\" without opening \"[\"");
+    node = top;
+  } else {
+    node = NodePool::newNode();
+  }
+  if (key == "<cr>") {
+    node->mIsEnd = true;
+    key = "\n";
+  }
+  node->mKeywords[key] = b;
+  parseNodeFlags(node, c);
+  if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
+  node->mText = d;
+  addChild(top, key, b, node, open ? 1 : 0);
+  finishNode(tree, top, node, d, open ? 1 : 0);
+  tree.mNodeStack.push_back(node);
+  return node;
+}
+
+void parseNodeFlags(ParserTreeNode* node, const std::string& c) {
+  std::vector<std::string> codes;
+  ParserToolCase::splitString(c, "/", codes);
+  const auto& table = flagCodes();
+  for (const auto& code : codes) {
+    auto it = table.find(code);
+    if (it != table.end()) node->mFlags |= it->second;
+  }
+}
+
+void parseConflicts(ParserTreeNode* node, const std::string& d) {
+  if (!node->hasFlag(NODE_FLAG_CF)) return;
+  std::vector<std::string> words;
+  ParserToolCase::splitString(ParserToolCase::string2Lower(d), ",", words);
+  node->mConflicts.insert(words.begin(), words.end());
+}
+
+void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
+              int optional) {
+  if (key.empty() || !parent || !child) return;
+  targetMap(parent, child, optional)[key] = child;
+  if (!child->mIsComplex) parent->mHelp[key] = help;
+  if (!child->mParent) child->mParent = parent;
+}
+
+void finishNode(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, const std::string& text,
+                int optional) {
+  if (node->hasFlag(NODE_FLAG_MB) || node->hasFlag(NODE_FLAG_MA)) node->mText = text;
+  if (node->hasFlag(NODE_FLAG_LE)) {
+    if (ParserTreeNode* begin = findLoopBegin(node)) {
+      addChild(node, begin->firstKeyword(), begin->firstKeywordHelp(), begin, optional);
+    }
+  }
+  parseConflicts(node, text);
+  if (node->hasFlag(NODE_FLAG_OE)) {
+    // From the end of an option the input may go on to any sibling option of
+    // every enclosing group.
+    for (ParserTreeNode* anc = node; anc; anc = anc->mParent) {
+      if (!anc->hasFlag(NODE_FLAG_OB) || !anc->mParent) continue;
+      ParserTreeNode::NodeMap siblings = anc->mParent->mOptions;
+      for (auto& entry : siblings) {
+        if (entry.second == node) continue;
+        addChild(node, entry.first, entry.second->firstKeywordHelp(), entry.second, optional);
+      }
+    }
+  }
+  if (node->hasFlag(NODE_FLAG_OB) && parent) {
+    // A new option must be reachable from the ends of the options before it.
+    std::vector<ParserTreeNode*> work;
+    for (auto& entry : parent->mOptions) {
+      if (entry.second != node && entry.second->mParent == parent) work.push_back(entry.second);
+    }
+    const std::string key = node->firstKeyword();
+    const std::string help = node->firstKeywordHelp();
+    while (!work.empty()) {
+      ParserTreeNode* n = work.back();
+      work.pop_back();
+      for (auto* map : {&n->mOptions, &n->mChildren}) {
+        for (auto& entry : *map) {
+          if (entry.second->mParent == n && entry.second != n) work.push_back(entry.second);
+        }
+      }
+      if (n->hasFlag(NODE_FLAG_OE)) addChild(n, key, help, node, optional);
+    }
+  }
+}
+
+void readComplexNode(ParserTree& tree, const std::string& a, const std::string& c, std::istream& stream) {
+  if (a.empty() || a[0] != '#') return;
+  ParserTreeNode* node = NodePool::newNode();
+  node->mIsComplex = true;
+  parseNodeFlags(node, c);
+  if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
+  ParserTreeNode* parent = stackTop(tree);
+  if (!parent) malformed(tree, "block outside of any level");
+  ++parent->mComplexCounter;
+  std::string key = "complex_node_" + std::to_string(parent->mComplexCounter);
+  (node->mIsOption ? parent->mOptions : parent->mChildren)[key] = node;
+  if (!node->mParent) node->mParent = parent;
+  tree.mNodeStack.push_back(node);
+  std::string line, ka, kb, kc, kd, ke;
+  while (readTextLine(stream, line)) {
+    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
+    if (line.empty()) continue;
+    ParserToolCase::parseCmdLine(line, ka, kb, kc, kd, ke);
+    if (ka.empty()) continue;
+    if (ka[0] == '#') break;
+    node->mKeywords[ka] = kb;
+  }
+  finishNode(tree, parent, node, "", 0);
+}
+
+void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
+  if (e.empty() || !node) return;
+  std::vector<std::string> items;
+  ParserToolCase::splitString(e, " \t", items);
+  for (size_t i = 0; i < items.size(); ++i) {
+    const std::string& item = items[i];
+    if (item[0] == '&') {
+      std::string name = item.substr(1);
+      auto found = gSharedGrammars().find(name);
+      ParserTreeNode* root = nullptr;
+      if (found == gSharedGrammars().end()) {
+        root = loadGrammarFile(tree, name);
+        root->mEntersMode = false;
+        gSharedGrammars()[name] = root;
+      } else {
+        root = found->second;
+      }
+      // An include replaces the maps of the node it is written on.
+      if (ParserTreeNode* top = stackTop(tree)) {
+        top->mChildren = root->mChildren;
+        top->mOptions = root->mOptions;
+        top->mHelp = root->mHelp;
+      }
+    } else if (item[0] == '@') {
+      if (i + 1 >= items.size()) malformed(tree, "mode link \"" + item + "\" names no file");
+      const std::string& file = items[i + 1];
+      gPromptSuffixes()[node] = item.substr(1);
+      node->mModeName = item.substr(1);
+      node->mEntersMode = true;
+      tree.mNodeStack.push_back(node);
+      auto found = tree.mFiles.find(file);
+      ParserTreeNode* root = nullptr;
+      if (found == tree.mFiles.end()) {
+        root = loadGrammarFile(tree, file);
+        tree.mFiles[file] = root;
+        gModeFileNames().push_back(file);
+      } else {
+        root = found->second;
+      }
+      linkModeFile(tree, root, node);
+      node->mFileName = file;
+      tree.mNodeStack.pop_back();
+      ++i;
+    }
+  }
+}
+
+void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
+  if (!root || !node) return;
+  std::string key, help;
+  int optional = 0;
+  for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;
+       child = nextChild(root, key, help, optional, false)) {
+    if (key.empty()) continue;
+    targetMap(node, child, optional)[key] = child;
+    if (!child->mIsComplex) node->mHelp[key] = help;
+    if (!child->mParent) child->mParent = node;
+  }
+}
+
+namespace {
+
+struct ChildWalk {
+  ParserTreeNode* node = nullptr;
+  int map = 0;
+  ParserTreeNode::NodeMap::iterator it;
+};
+
+ChildWalk& childWalk() {
+  static ChildWalk walk;
+  return walk;
+}
+
+ParserTreeNode::NodeMap* walkMap(ParserTreeNode* node, int index) {
+  switch (index) {
+    case 0: return &node->mChildren;
+    case 1: return &node->mOptionalChildren;
+    case 2: return &node->mSpareChildren;
+    case 3: return &node->mOptions;
+    default: return nullptr;
+  }
+}
+
+}  // namespace
+
+ParserTreeNode* nextChild(ParserTreeNode* node, std::string& key, std::string& help, int& optional, bool restart) {
+  ChildWalk& w = childWalk();
+  if (!node) return nullptr;
+  if (restart || w.node != node) {
+    w.node = node;
+    w.map = 0;
+    w.it = node->mChildren.begin();
+  }
+  while (ParserTreeNode::NodeMap* map = walkMap(node, w.map)) {
+    if (w.it != map->end()) {
+      key = w.it->first;
+      auto h = node->mHelp.find(key);
+      help = h == node->mHelp.end() ? std::string() : h->second;
+      optional = w.map == 1 ? 1 : 0;
+      ParserTreeNode* child = w.it->second;
+      ++w.it;
+      return child;
+    }
+    ++w.map;
+    if (ParserTreeNode::NodeMap* nextMap = walkMap(node, w.map)) w.it = nextMap->begin();
+  }
+  return nullptr;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,27 @@
+// NodePool: where every grammar node comes from.
+//
+// A fixed array of 10000 constructed nodes, built once before the first
+// definition file is read, is handed out in order; past its end nodes are
+// allocated one by one and kept on a list. Nothing is returned before the
+// process ends, so node pointers stay valid across destroyParserResource and
+// a later createNewParserResource. Not thread-safe.
+#pragma once
+
+#include <cstddef>
+
+#include "grammar/ParserTreeNode.h"
+#include "platform/Export.h"
+
+namespace qxparser {
+
+class VTYCONF_API NodePool {
+ public:
+  static constexpr size_t kArraySize = 10000;
+
+  // A fresh node, owned by the pool.
+  static ParserTreeNode* newNode();
+  // Number of nodes handed out so far.
+  static size_t used();
+};
+
+}  // namespace qxparser

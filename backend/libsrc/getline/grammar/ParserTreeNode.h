@@ -1,0 +1,82 @@
+// ParserTreeNode: one position in the grammar of a mode.
+//
+// A node answers to the words in mKeywords and leads on to its children. In
+// spite of the word "tree" the nodes form a graph: loops, option groups and
+// shared grammars add back edges, so a node may be reached from several
+// parents; mParent is only the first of them. Nodes are owned by NodePool and
+// live until the process ends; they are never freed one by one.
+//
+// After loading, only mVisitedOptions (per-line scratch state of the walker)
+// and mExcluded change. Because that state sits on shared nodes, only one
+// terminal may walk lines at a time.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+
+#include "platform/Export.h"
+
+namespace qxparser {
+
+// Bits of ParserTreeNode::mFlags, set by the flag codes of a definition line.
+enum ParserNodeFlag : uint32_t {
+  NODE_FLAG_K = 1,        // "k": the value is part of the command's identity
+  NODE_FLAG_O = 2,        // "o": overwriting command
+  NODE_FLAG_A = 4,        // "a": additive command
+  NODE_FLAG_M = 8,        // "m": mergeable command
+  NODE_FLAG_MB = 16,      // "mb": text written in front of the token
+  NODE_FLAG_MA = 32,      // "ma": text stored
+  NODE_FLAG_LB = 64,      // "lb": loop begin
+  NODE_FLAG_LE = 128,     // "le": loop end
+  NODE_FLAG_FIRST = 256,  // no code sets it: "take the first child"
+  NODE_FLAG_N = 512,      // "n": a no form may stop here
+  NODE_FLAG_SN = 1024,    // "sn": only the no form is stored
+  NODE_FLAG_SB = 2048,    // "sb": both forms are stored
+  NODE_FLAG_OB = 4096,    // "ob": option begin
+  NODE_FLAG_OE = 8192,    // "oe": option end
+  NODE_FLAG_NC = 16384,   // "nc": overrides n
+  NODE_FLAG_CF = 32768,   // "cf": words excluded by this option
+  NODE_FLAG_RP = 65536,   // "rp": text replaces the token
+  NODE_FLAG_NE = 131072,  // "ne": a no form may stop anywhere from here
+  NODE_FLAG_NK = 262144,  // "nk": must be spelled in the no form
+  NODE_FLAG_IF = 524288,  // "if": stored, read by nothing
+  NODE_FLAG_WA = 1048576  // "wa": repeated values joined in typed order
+};
+
+class VTYCONF_API ParserTreeNode {
+ public:
+  using NodeMap = std::map<std::string, ParserTreeNode*>;
+
+  ParserTreeNode();
+  ParserTreeNode(const ParserTreeNode&) = delete;
+  ParserTreeNode& operator=(const ParserTreeNode&) = delete;
+
+  bool hasFlag(uint32_t flag) const { return (mFlags & flag) != 0; }
+  // The first entry of mKeywords ("" when there is none).
+  std::string firstKeyword() const;
+  std::string firstKeywordHelp() const;
+
+  bool mEntersMode = false;
+  bool mIsEnd = false;
+  std::string mFileName;
+  std::string mModeName;
+  NodeMap mChildren;
+  std::map<std::string, std::string> mHelp;
+  NodeMap mOptionalChildren;
+  std::set<std::string> mExcluded;
+  std::set<std::string> mConflicts;
+  uint32_t mFlags = 0;
+  std::string mText;
+  ParserTreeNode* mParent = nullptr;
+  NodeMap mSpareChildren;
+  bool mIsComplex = false;
+  std::map<std::string, std::string> mKeywords;
+  int32_t mComplexCounter;
+  NodeMap mOptions;
+  std::set<std::string> mVisitedOptions;
+  bool mIsOption = false;
+};
+
+}  // namespace qxparser

@@ -1,0 +1,114 @@
+// VTY: the emulated terminal of one device.
+//
+// A VTY holds one model for each of the three top modes (view, execution,
+// configuration), a stack that says which mode is current, an input stream
+// (the object itself: execute() reads it) and an output stream in which the
+// device's answers collect (taken with getOutputString). Lines go in through
+// parse(); a whole configuration through getComLineInfo(). The grammar trees
+// are shared by every VTY (mTrees4Modes, filled by createNewParserResource);
+// everything that changes as lines go through lives in the VTY.
+//
+// Records passed to parse() stay owned by the caller. Only one VTY may work
+// at a time: the grammar nodes keep per-line scratch state.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/Export.h"
+
+namespace qxparser {
+
+class CiscoCommandLine;
+class ParserTree;
+class VTYModel;
+
+// The three modes; 3 (no change) and 4 (leave the mode) are results of a
+// line only and are never pushed as modes.
+enum VTYModeType { VIEW_MODE = 0, EXEC_MODE = 1, CONFIG_MODE = 2, MODE_NO_CHANGE = 3, MODE_EXIT = 4 };
+
+// One answer of a hint query: the prompt suffix of the level that gave it and
+// the help text printed for that level.
+struct ConfigHint {
+  std::string prompt;
+  std::string hintText;
+};
+
+class VTYCONF_API VTY : public std::stringstream {
+ public:
+  VTY(const std::string& hostName, bool cliMode);
+  VTY();
+  ~VTY() override;
+
+  // Back to mode 0 with one level in every model; keeps the output stream,
+  // the last error and the removed interfaces.
+  void reset();
+  // The host name, or an empty string while a banner is open.
+  std::string getHostName() const;
+  void getPrompt(std::string& out) const;
+  int getType() const { return mType; }
+  std::string getConfigFile() const { return mConfigFile; }
+  void setConfigAndDeltaFile(const std::string& file, int type);
+  bool runningCLIMode() const { return mCliMode; }
+  void getCompleteLine(std::string& out) const;
+  void getInfoLine(std::string& out) const;
+  void getMajorCommands(std::string& out) const;
+  // Takes everything collected in the output stream and empties it.
+  void getOutputString(std::string& out);
+  void registerDeltaCmd(const std::string& text) { mAllConfigCmds = text; }
+  std::string getAllConfigCmds() const { return mAllConfigCmds; }
+  void registerRemovedInterface(const std::string& name) { mRemovedInterfaces.push_back(name); }
+  const std::vector<std::string>& removedInterface() const { return mRemovedInterfaces; }
+
+  // Feeds one line (no line end needed). `command` may be null; it receives
+  // the path of the line. False when the line failed; the error text is then
+  // in the output and in lastError().
+  bool parse(const std::string& line, bool popMode, CiscoCommandLine* command);
+  // Reads the VTY's own input stream to its end.
+  void execute();
+  // Help ("?" as last character) or completion (a tab) for a line.
+  void hook(const std::string& line);
+  // Replays a whole configuration; appends one new record per non-empty
+  // line (the caller owns them, with their children) and goes on after a
+  // failure. errorText/errorLine keep the last failure.
+  bool getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
+                      int& errorLine, bool popMode);
+  void findMajorCommand(std::string& configuration);
+  bool hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints);
+  // Asks every level for the next words; consumes the levels (reset after).
+  void getNextCmdWords(std::string& line, std::vector<ConfigHint>& hints);
+
+  // vtyconf additions for callers that want to see the state.
+  VTYModeType currentMode() const { return mModeStack.empty() ? VIEW_MODE : mModeStack.back(); }
+  const std::string& lastError() const { return mLastError; }
+  bool inBanner() const { return mInBanner; }
+  // Number of open configuration levels of the current mode (1 at its root).
+  size_t levelCount() const;
+
+  static int mInstanceCounter;
+  static std::map<VTYModeType, ParserTree*> mTrees4Modes;
+
+ private:
+  friend class VTYModel;
+  VTY(const VTY&);
+  void installMode(VTYModeType mode);
+  void DestroyModelAll();
+  VTYModel* currentModel() const;
+
+  std::stringstream mOutput;
+  std::string mConfigFile;
+  int mType = 0;
+  bool mInBanner = false;
+  bool mCliMode = false;
+  std::string mHostName;
+  std::string mAllConfigCmds;
+  std::string mLastError;
+  std::map<VTYModeType, VTYModel*> mModels;
+  std::deque<VTYModeType> mModeStack;
+  std::vector<std::string> mRemovedInterfaces;
+};
+
+}  // namespace qxparser
