@@ -36,8 +36,9 @@ std::string ParserToolCase::string2Lower(const std::string& text) {
 void ParserToolCase::splitString(const std::string& text, const std::string& separators,
                                  std::vector<std::string>& out) {
   out.clear();
-  toolkit_detail::forEachWord(text, separators.c_str(),
-                              [&out](const char* begin, std::size_t length) { out.emplace_back(begin, length); });
+  toolkit_detail::forEachWord(text, separators.c_str(), [&out](const char* begin, std::size_t length) {
+    out.emplace_back(begin, length);
+  });
 }
 
 void ParserToolCase::splitString(const std::string& text, const std::string& separators,

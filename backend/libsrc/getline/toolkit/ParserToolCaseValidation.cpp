@@ -195,7 +195,8 @@ bool ParserToolCase::isNewValidInput(const std::string& token, const std::string
   std::string right;
   if (token == "oui:vpn-index") {
     cutAtColon(input, left, right);
-    return isStringNum(left) && isStringNum(right) && isValidNumber(left, kLimit24) && isValidNumber(right, kLimit32);
+    return isStringNum(left) && isStringNum(right) && isValidNumber(left, kLimit24) &&
+           isValidNumber(right, kLimit32);
   }
   if (token.find(':') != std::string::npos) {
     cutAtColon(input, left, right);
