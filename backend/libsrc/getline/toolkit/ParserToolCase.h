@@ -4,8 +4,9 @@
 // A class of static members used as a namespace. Nothing here holds a tree or
 // a terminal. Two things are shared by the whole process: the overwrite set
 // read by getCmdFlag (filled by QxParserUtil::setOverwriteCmds), and the two
-// timer values. splitString relies on strtok, so none of this may run on two
-// threads at once.
+// timer values. splitString cuts by the rules of strtok (and so the parser's
+// callers treat it as strtok-bound); the overwrite set and the timers are
+// unguarded statics, so none of this may run on two threads at once.
 //
 // Required behaviour kept on purpose: isValidInput throws std::out_of_range
 // ("invalid string position") for a value of only zeros typed into a numeric
@@ -21,6 +22,8 @@
 #include "platform/Export.h"
 
 namespace qxparser {
+
+struct ParserToolCasePeer;  // test access to the private checks
 
 class VTYCONF_API ParserToolCase {
  public:
@@ -68,6 +71,8 @@ class VTYCONF_API ParserToolCase {
   static long stopTime;
 
  private:
+  friend struct ParserToolCasePeer;
+
   static bool isValidRange(const std::string& token, const std::string& input);
   static bool isValidHexRange(const std::string& token, const std::string& input);
   static bool isValidTime(const std::string& input);
