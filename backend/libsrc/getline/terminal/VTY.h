@@ -48,16 +48,16 @@ class VTYCONF_API VTY : public std::stringstream {
   void reset();
   // The host name, or an empty string while a banner is open.
   std::string getHostName() const;
-  void getPrompt(std::string& out) const;
+  void getPrompt(std::string& text) const;
   int getType() const { return mType; }
   std::string getConfigFile() const { return mConfigFile; }
   void setConfigAndDeltaFile(const std::string& file, int type);
   bool runningCLIMode() const { return mCliMode; }
-  void getCompleteLine(std::string& out) const;
-  void getInfoLine(std::string& out) const;
-  void getMajorCommands(std::string& out) const;
+  void getCompleteLine(std::string& text) const;
+  void getInfoLine(std::string& text) const;
+  void getMajorCommands(std::string& text) const;
   // Takes everything collected in the output stream and empties it.
-  void getOutputString(std::string& out);
+  void getOutputString(std::string& text);
   void registerDeltaCmd(const std::string& text) { mAllConfigCmds = text; }
   std::string getAllConfigCmds() const { return mAllConfigCmds; }
   void registerRemovedInterface(const std::string& name) { mRemovedInterfaces.push_back(name); }

@@ -1,0 +1,166 @@
+// Resources and reading: the shared grammar, and the door from configuration
+// text to command records.
+#include "config/QxParserUtil.h"
+
+#include <fstream>
+#include <memory>
+#include <set>
+#include <sstream>
+
+#include "config/CmdOrderTable.h"
+#include "grammar/DefinitionLoader.h"
+#include "grammar/ParserException.h"
+#include "grammar/ParserTree.h"
+#include "platform/Pathname.h"
+#include "platform/PlatformOs.h"
+#include "platform/QXFileSystem.h"
+#include "platform/StlHelper.h"
+#include "toolkit/ParserToolCase.h"
+
+namespace qxparser {
+
+std::map<VTYModeType, ParserTree*>& gResourceTrees() {
+  static auto* trees = new std::map<VTYModeType, ParserTree*>();
+  return *trees;
+}
+
+namespace {
+
+const char* const kTopFiles[] = {"view_mode.cfm", "execution_mode.cfm", "configuration_mod.cfm"};
+const char* const kSuffixes[] = {">", "#", "(config)#"};
+
+// A terminal brought into configuration mode, for the length of one call.
+void enterConfiguration(VTY& vty, const char* configure) {
+  vty.parse("enable\n", true, nullptr);
+  vty.parse(configure, true, nullptr);
+}
+
+}  // namespace
+
+void QxParserUtil::createNewParserResource() {
+  loadKeyFiles();
+  for (int mode = VIEW_MODE; mode <= CONFIG_MODE; ++mode) {
+    auto tree = std::make_unique<ParserTree>(kTopFiles[mode], true);
+    gPromptSuffixes()[tree->mRoot] = kSuffixes[mode];
+    ParserTree*& slot = gResourceTrees()[static_cast<VTYModeType>(mode)];
+    delete slot;
+    slot = tree.release();
+  }
+  clearCmdOrderTable();
+  fillCmdOrderTable();
+}
+
+void QxParserUtil::createParserResource() { createNewParserResource(); }
+
+void QxParserUtil::destroyParserResource() {
+  for (auto& entry : gResourceTrees()) delete entry.second;
+  gResourceTrees().clear();
+  VTY::mTrees4Modes.clear();
+  clearCmdOrderTable();
+}
+
+void QxParserUtil::fillCmdOrderTable() {
+  std::string folder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + "commandorder";
+  for (const Pathname& entry : Pathname(folder).dirContents()) {
+    const std::string name = entry.file();
+    if (name.empty() || name[0] == '.') continue;
+    std::string text;
+    {
+      std::ifstream in(StlHelper::AToW(entry.data()), std::ios::binary);
+      std::stringstream buffer;
+      if (in) buffer << in.rdbuf();
+      text = buffer.str();
+    }
+    std::vector<CiscoCommandLine*> records;
+    std::string errorText;
+    int errorLine = 0;
+    getCmdInfo(text, records, errorText, errorLine);
+    std::vector<CiscoCommandLine*> templates;
+    int counter = 0;
+    for (CiscoCommandLine* record : records) {
+      ++counter;
+      if (record->getTreeNodeSize() > 0) {
+        record->setOrderNo(counter);
+        templates.push_back(record);
+      } else {
+        delete record;
+      }
+    }
+    // Templates of all levels stand in one vector; their child lists are not
+    // used and must not free anything twice.
+    for (CiscoCommandLine* templ : templates) templ->getChildCommands().clear();
+    size_t dot = name.rfind('.');
+    const std::string key = dot == std::string::npos ? name : name.substr(0, dot);
+    if (!gCmdOrderTable().emplace(key, templates).second) {
+      for (CiscoCommandLine* templ : templates) delete templ;
+    }
+  }
+}
+
+void QxParserUtil::setOverwriteCmds() {
+  std::set<std::string>& set = ParserToolCase::overwriteCmds();
+  set.clear();
+  const std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator +
+                           "commandflag" + platform::kPathSeparator + "cisco.flg";
+  std::ifstream in(StlHelper::AToW(path));
+  if (!in) throw ParserException("error: can't open file: " + path);
+  std::string line;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.empty()) continue;
+    set.insert(ParserToolCase::getKeyStr(line));
+  }
+}
+
+bool QxParserUtil::getCmdInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                              std::string& errorText, int& errorLine) {
+  VTY vty("hostName", false);
+  enterConfiguration(vty, "configure terminal \n");
+  return vty.getComLineInfo(text, commands, errorText, errorLine, true);
+}
+
+bool QxParserUtil::transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                                 std::string& errorText, int& errorLine) {
+  std::vector<CiscoCommandLine*> all;
+  bool ok = getCmdInfo(text, all, errorText, errorLine);
+  for (CiscoCommandLine* record : all) {
+    if (record->getLevel() == 0) commands.push_back(record);
+  }
+  // Records of deeper levels stay reachable through their parents; a record
+  // that failed at a deeper level has no parent and would be lost: keep none
+  // such alive.
+  for (CiscoCommandLine* record : all) {
+    if (record->getLevel() != 0 && record->getParentCommand() == nullptr) delete record;
+  }
+  return ok;
+}
+
+bool QxParserUtil::hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints) {
+  VTY vty("hostName", false);
+  enterConfiguration(vty, "configure terminal \n");
+  return vty.hintCommand(configuration, line, hints);
+}
+
+bool QxParserUtil::isTheSameCmd(const std::string& a, const std::string& b, bool withNo) {
+  return ParserToolCase::isTheSameCmd(a, b, withNo);
+}
+
+void QxParserUtil::deleteCommands(std::vector<CiscoCommandLine*>& commands) {
+  // Records of all levels may stand in the vector, and children are owned by
+  // their parents: free each record once, children included.
+  std::set<CiscoCommandLine*> all(commands.begin(), commands.end());
+  std::set<CiscoCommandLine*> reachable;
+  for (CiscoCommandLine* record : commands) {
+    std::vector<CiscoCommandLine*> below;
+    record->getAllChildCommands(below);
+    reachable.insert(below.begin(), below.end());
+  }
+  for (CiscoCommandLine* record : all) {
+    if (reachable.count(record)) continue;
+    record->delOnlyChildCmds();
+    delete record;
+  }
+  commands.clear();
+}
+
+}  // namespace qxparser

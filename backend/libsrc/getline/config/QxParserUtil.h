@@ -1,0 +1,91 @@
+// QxParserUtil: what callers do with whole configurations.
+//
+// A class of static members used as a namespace: set-up and tear-down of the
+// shared grammar resources, reading a configuration into commands (replayed
+// through a scratch terminal in configuration mode), searches of
+// configuration files, device order, merge and fallback.
+//
+// Resources: call createNewParserResource once before the first VTY and
+// destroyParserResource after the last. Records returned by the reading
+// operations belong to the caller, with their children; they may only be
+// compared while the resources live. Only one operation may run at a time in
+// a process (the grammar keeps per-line scratch state).
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "config/CiscoCommandLine.h"
+#include "platform/Export.h"
+#include "terminal/VTY.h"
+
+namespace qxparser {
+
+// What a search of a configuration file returns.
+enum SEARCHTYPE {
+  SEARCH_SECTION_BODY = 0,    // the lines inside the matched section
+  SEARCH_LINE = 1,            // the matched line alone
+  SEARCH_SECTION = 2,         // the head line and its section
+  SEARCH_ACL_SECTION = 4,     // an access list, with the body of a named one
+  SEARCH_ACL_LINE = 5,        // the head lines only
+  SEARCH_ACL_SECTION_ALT = 6  // as SEARCH_ACL_SECTION
+};
+
+class VTYCONF_API QxParserUtil {
+ public:
+  // Loads the KeyFiles, the trees of the three modes and the command-order
+  // table. Throws ParserException when a definition file is missing or
+  // malformed; trees built before the failure stay in place.
+  static void createNewParserResource();
+  static void createParserResource();
+  static void destroyParserResource();
+
+  // Reads a configuration text into records of all levels (caller owns).
+  static bool getCmdInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
+                         int& errorLine);
+  static bool hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints);
+
+  // Searches of a configuration file; the result is appended to `result`.
+  static void GetCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,
+                                SEARCHTYPE type);
+
+  static bool isTheSameCmd(const std::string& a, const std::string& b, bool withNo);
+
+  // Merge: the configuration after the changes, in device order.
+  static std::string mergeConfigCmds(const std::string& changes, const std::string& config);
+  static void SortCiscoCommands(std::vector<CiscoCommandLine*>& commands);
+
+  // Fallback: mode 0 gives the commands that undo `first` (changes) applied
+  // to `second` (configuration); any other mode the commands that turn the
+  // configuration `first` into `second`.
+  static std::string fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode);
+  static bool removeInterfaceFromConfigFile(const std::string& path, const std::string& name);
+
+  // Builds the overwrite set from files/commandflag/cisco.flg. Nothing in the
+  // library calls it; throws ParserException when the file is missing.
+  static void setOverwriteCmds();
+
+  // vtyconf's own: deletes records returned by the reading operations, with
+  // their children (records of all levels may be in the vector).
+  static void deleteCommands(std::vector<CiscoCommandLine*>& commands);
+
+ private:
+  friend struct QxParserUtilPeer;
+  static bool transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                            std::string& errorText, int& errorLine);
+  static void GetSpecialCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,
+                                       SEARCHTYPE type);
+  static void GetAclCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,
+                                   SEARCHTYPE type);
+  static void fillCmdOrderTable();
+  static void mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
+                                 CiscoCommandLine* parent);
+  static std::string expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth);
+  static void fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
+                                    std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent);
+  static void fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from, std::vector<CiscoCommandLine*>& to,
+                                       std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent);
+  static CiscoCommandLine* createNoCommand(CiscoCommandLine* command);
+};
+
+}  // namespace qxparser

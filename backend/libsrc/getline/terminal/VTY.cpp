@@ -1,0 +1,253 @@
+#include "terminal/VTY.h"
+
+#include <memory>
+
+#include "config/CiscoCommandLine.h"
+#include "grammar/DefinitionLoader.h"
+#include "grammar/ParserTree.h"
+#include "terminal/VTYModel.h"
+#include "toolkit/ParserToolCase.h"
+
+namespace qxparser {
+
+int VTY::mInstanceCounter = 0;
+std::map<VTYModeType, ParserTree*> VTY::mTrees4Modes;
+
+std::map<VTYModeType, ParserTree*>& gResourceTrees();
+
+namespace {
+
+// Whether the last good line changed the mode. Shared by all terminals, as the
+// design has it: a failed line right after a mode change resets the model of
+// the new mode a second time (kept on purpose).
+bool gModeChanged = false;
+
+bool isBlankOrEnd(const std::string& line) {
+  size_t start = line.find_first_not_of(" \t");
+  if (start == std::string::npos) return true;
+  return line.compare(start, 3, "end") == 0;
+}
+
+}  // namespace
+
+VTY::VTY(const std::string& hostName, bool cliMode) : mCliMode(cliMode), mHostName(hostName) {
+  for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) mTrees4Modes[mode] = gResourceTrees()[mode];
+  for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) installMode(mode);
+  mModeStack.push_back(VIEW_MODE);
+}
+
+VTY::VTY() : VTY("hostName", false) {}
+
+VTY::VTY(const VTY&) : std::basic_ios<char>(), std::stringstream() {}
+
+VTY::~VTY() { DestroyModelAll(); }
+
+void VTY::installMode(VTYModeType mode) {
+  auto model = std::make_unique<VTYModel>(this, mTrees4Modes[mode]);
+  model->mModeType = mode;
+  mModels[mode] = model.release();
+}
+
+void VTY::DestroyModelAll() {
+  for (auto& entry : mModels) {
+    delete entry.second;
+    entry.second = nullptr;
+  }
+}
+
+VTYModel* VTY::currentModel() const {
+  auto found = mModels.find(currentMode());
+  return found == mModels.end() ? nullptr : found->second;
+}
+
+void VTY::reset() {
+  mModeStack.clear();
+  mModeStack.push_back(VIEW_MODE);
+  for (auto& entry : mModels) {
+    if (entry.second) entry.second->resetModel();
+  }
+}
+
+std::string VTY::getHostName() const { return mInBanner ? std::string() : mHostName; }
+
+void VTY::getPrompt(std::string& text) const {
+  VTYModel* model = currentModel();
+  text = model ? model->mPrompt : std::string();
+}
+
+void VTY::setConfigAndDeltaFile(const std::string& file, int type) {
+  mConfigFile = file;
+  mType = type;
+}
+
+void VTY::getCompleteLine(std::string& text) const {
+  VTYModel* model = currentModel();
+  text = model ? model->mCompleteLine : std::string();
+}
+
+void VTY::getInfoLine(std::string& text) const {
+  VTYModel* model = currentModel();
+  text = model ? model->mInfoLine : std::string();
+}
+
+void VTY::getMajorCommands(std::string& text) const {
+  VTYModel* model = currentModel();
+  if (model) {
+    model->levelText(text, false);
+  } else {
+    text.clear();
+  }
+}
+
+size_t VTY::levelCount() const {
+  VTYModel* model = currentModel();
+  return model ? model->mLevels->nodes.size() : 0;
+}
+
+void VTY::getOutputString(std::string& text) {
+  text = mOutput.str();
+  mOutput.str(std::string());
+  mOutput.clear();
+}
+
+bool VTY::parse(const std::string& line, bool popMode, CiscoCommandLine* command) {
+  VTYModel* model = currentModel();
+  if (!model) return false;
+  const VTYModeType lineMode = currentMode();
+  model->mCurrentCommand = command;
+  int modeResult = MODE_NO_CHANGE;
+  std::string errorText;
+  bool inBanner = false;
+  bool ok = model->parseLine(line, errorText, modeResult, inBanner);
+  mInBanner = inBanner;
+  std::string kept;
+  if (!ok) {
+    mOutput << errorText << "\n";
+    mLastError = errorText;
+  } else {
+    if (modeResult == EXEC_MODE || modeResult == CONFIG_MODE || modeResult == MODE_EXIT) kept = model->mCompleteLine;
+    if (modeResult == MODE_EXIT && lineMode == VIEW_MODE) return true;
+    if (modeResult == EXEC_MODE || modeResult == CONFIG_MODE) {
+      mModeStack.push_back(static_cast<VTYModeType>(modeResult));
+      if (VTYModel* next = currentModel()) {
+        next->resetModel();
+        next->mCompleteLine = kept;
+      }
+    } else if (modeResult == MODE_EXIT) {
+      if (popMode && mModeStack.size() > 1) mModeStack.pop_back();
+      if (VTYModel* next = currentModel()) {
+        next->resetModel();
+        next->mCompleteLine = kept;
+      }
+    }
+    if (lineMode != VIEW_MODE) mLastError.clear();
+    gModeChanged = modeResult != MODE_NO_CHANGE;
+  }
+  if (gModeChanged) {
+    if (VTYModel* top = currentModel()) {
+      top->resetModel();
+      top->mCompleteLine = kept;
+    }
+  }
+  return ok;
+}
+
+void VTY::execute() {
+  std::string line;
+  while (std::getline(*this, line)) {
+    if (!line.empty() && (line.back() == '?' || line.back() == '\t')) {
+      if (VTYModel* model = currentModel()) model->hookLine(line);
+    } else {
+      parse(line + " \n", true, nullptr);
+    }
+  }
+}
+
+void VTY::hook(const std::string& line) {
+  if (VTYModel* model = currentModel()) model->hookLine(line);
+}
+
+bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
+                         int& errorLine, bool popMode) {
+  std::list<std::string*> lines;
+  ParserToolCase::splitString(text, "\r\n", lines);
+  std::vector<std::unique_ptr<std::string>> owned;
+  owned.reserve(lines.size());
+  for (std::string* line : lines) owned.emplace_back(line);
+  if (commands.capacity() < commands.size() + lines.size()) commands.reserve(commands.size() + 2 * lines.size());
+
+  VTYModel* model = currentModel();
+  if (!model) return false;
+  bool wasNew = model->mNewLevel;
+  std::string context;
+  model->levelText(context, false);
+  int level = 0;
+  bool ok = true;
+  int number = 0;
+  for (const auto& holder : owned) {
+    const std::string& line = *holder;
+    ++number;
+    auto command = std::make_unique<CiscoCommandLine>();
+    command->setLineNo(number);
+    if (isBlankOrEnd(line)) {
+      command->setFlag(CMD_TEXT);
+      command->setOriginalStr(line);
+      commands.push_back(command.release());
+      continue;
+    }
+    ok = parse(line, popMode, command.get());
+    if (!ok) {
+      errorLine = number;
+      errorText = mLastError;
+      if (number == 1 || wasNew) {
+        model->levelText(context, true);
+        level = static_cast<int>(model->mMajorLevel) + (wasNew ? 1 : 0);
+      }
+      command->setLevel(level);
+      command->setMajorCommands(context);
+      size_t start = line.find_first_not_of(" \t");
+      std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
+      command->setCurrentCommand(shown);
+      command->setOriginalCmd(shown);
+      commands.push_back(command.release());
+      continue;
+    }
+    if (number == 1 || model->mNewLevel || wasNew != model->mNewLevel) {
+      model->levelText(context, false);
+      level = static_cast<int>(model->mMajorLevel);
+    }
+    wasNew = model->mNewLevel;
+    if (!model->mInfoLine.empty()) {
+      command->setCurrentCommand(model->mInfoLine);
+      command->setOriginalCmd(model->mCompleteLine);
+      command->setMajorCommands(context);
+      command->setLevel(level);
+    } else {
+      command->setFlag(CMD_TEXT);
+      command->setOriginalStr(line);
+    }
+    commands.push_back(command.release());
+  }
+  return ok;
+}
+
+void VTY::findMajorCommand(std::string& configuration) {
+  std::vector<std::string> lines;
+  ParserToolCase::splitString(ParserToolCase::string2Lower(configuration), "\r\n", lines);
+  for (const auto& line : lines) {
+    if (isBlankOrEnd(line)) break;
+    parse(line, true, nullptr);
+  }
+}
+
+bool VTY::hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints) {
+  findMajorCommand(configuration);
+  if (VTYModel* model = currentModel()) model->nextWords(line + "?", hints);
+  return true;
+}
+
+void VTY::getNextCmdWords(std::string& line, std::vector<ConfigHint>& hints) {
+  if (VTYModel* model = currentModel()) model->nextWords(line, hints);
+}
+
+}  // namespace qxparser

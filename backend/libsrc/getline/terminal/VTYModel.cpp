@@ -1,0 +1,381 @@
+// The walk of one line through the grammar of a mode.
+//
+// A line is tried at the level on top of the stack; a line that does not fit
+// there is tried again one level up, and so on, which is how a replayed
+// configuration leaves a sub-mode without an "exit". When no level takes it,
+// parseLine swaps the saved level containers back, so a failed line leaves
+// levels, prompt and mode as they were.
+#include "terminal/VTYModel.h"
+
+#include <cctype>
+#include <locale>
+
+#include "config/CiscoCommandLine.h"
+#include "grammar/DefinitionLoader.h"
+#include "grammar/NodeLookup.h"
+#include "grammar/ParserException.h"
+#include "grammar/ParserTree.h"
+#include "toolkit/ParserToolCase.h"
+
+namespace qxparser {
+
+namespace {
+
+const char* const kSeparators = " \t\r\n";
+const std::string kEndToken = "\n";
+const std::string kInvalidInput = "% Invalid input detected at ^";
+const std::string kIncomplete = "% Incomplete command.";
+
+template <typename T>
+void popBack(T& container) {
+  if (!container.empty()) container.pop_back();
+}
+
+}  // namespace
+
+VTYModel::VTYModel(VTY* owner, ParserTree* tree) : mOwner(owner), mTree(tree), mCliMode(owner->mCliMode) {
+  mPrompt = gPromptSuffixes()[tree ? tree->mRoot : nullptr];
+  resetModel();
+}
+
+void VTYModel::resetModel() {
+  ParserTreeNode* root = mTree ? mTree->mRoot : nullptr;
+  mCurrentNode = root;
+  mLevels->nodes.clear();
+  mLevels->commands.clear();
+  mLevels->texts.clear();
+  if (root) mLevels->nodes.push_back(root);
+  mPrompt = gPromptSuffixes()[root];
+  mMajorLevel = 0;
+  mInsideBanner = false;
+  mNewLevel = false;
+  saveState();
+}
+
+void VTYModel::saveState() {
+  *mSavedLevels = *mLevels;
+  mSavedPrompt = mPrompt;
+  mSavedMajorLevel = mMajorLevel;
+  mSavedNewLevel = mNewLevel;
+}
+
+void VTYModel::levelText(std::string& text, bool allLevels) const {
+  text.clear();
+  size_t count = mLevels->texts.size();
+  if (!allLevels && mMajorLevel != count && count > 0) --count;
+  for (size_t i = 0; i < count; ++i) text += mLevels->texts[i];
+}
+
+bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& modeResult, bool& inBanner) {
+  inBanner = false;
+  modeResult = MODE_NO_CHANGE;
+  try {
+    saveState();
+    int status = tryLine(line, modeResult, errorText);
+    if (status != 0) {
+      std::swap(mLevels, mSavedLevels);
+      mInsideBanner = false;
+      mMajorLevel = mSavedMajorLevel;
+      mNewLevel = mSavedNewLevel;
+      mPrompt = mSavedPrompt;
+    } else {
+      inBanner = mInsideBanner;
+    }
+    return status == 0;
+  } catch (const ParserException&) {
+    return false;
+  }
+}
+
+void VTYModel::clearOptionPairs() {
+  for (ParserTreeNode* node : mOptionPairs) {
+    node->mVisitedOptions.clear();
+    if (node->mParent) node->mParent->mVisitedOptions.clear();
+  }
+  mOptionPairs.clear();
+}
+
+int VTYModel::tryLine(const std::string& line, int& modeResult, std::string& errorText) {
+  modeResult = MODE_NO_CHANGE;
+  mCompleteLine.clear();
+  mInfoLine.clear();
+  mOptionPairs.clear();
+  if (!mCurrentNode && mTree && mTree->mRoot) {
+    mCurrentNode = mTree->mRoot;
+    mLevels->nodes.push_back(mCurrentNode);
+  }
+  int status = 2;
+  if (mCliMode && cliExitCommands(line, modeResult, status)) {
+    mMajorLevel = mLevels->texts.size();
+    return status;
+  }
+  bool climbed = false;
+  while (!mLevels->nodes.empty() && status == 2) {
+    walkLine(line, modeResult, status, errorText);
+    if (status == 2) {
+      mInsideBanner = false;
+      climbed = true;
+    }
+  }
+  clearOptionPairs();
+  if (status != 0) {
+    mCompleteLine.clear();
+    mInfoLine.clear();
+  } else if (climbed) {
+    mNewLevel = true;
+  }
+  return status;
+}
+
+void VTYModel::popLevel() {
+  popBack(mLevels->nodes);
+  popBack(mLevels->commands);
+  popBack(mLevels->texts);
+}
+
+void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, std::string& errorText) {
+  mCompleteLine.clear();
+  mInfoLine.clear();
+  mCurrentNode = mLevels->nodes.back();
+  mPrompt = gPromptSuffixes()[mCurrentNode];
+  if (bannerStep(line)) {
+    modeResult = MODE_NO_CHANGE;
+    status = 0;
+    errorText.clear();
+    return;
+  }
+  size_t start = line.find_first_not_of(kSeparators);
+  if (start == std::string::npos) {
+    status = 0;
+    return;
+  }
+  size_t end = line.find_first_of(kSeparators, start + 1);
+  const std::string firstWord = ParserToolCase::string2Lower(line.substr(start, end == std::string::npos ? std::string::npos : end - start));
+  if (firstWord[0] == '!') {
+    status = 0;
+    return;
+  }
+  if (firstWord == "version" && mLevels->texts.empty()) {
+    status = 0;
+    return;
+  }
+  bool isNo = false;
+  auto advance = [&]() {
+    start = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
+    end = start == std::string::npos ? std::string::npos : line.find_first_of(kSeparators, start + 1);
+  };
+  if (firstWord == "no") {
+    size_t next = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
+    if (next != std::string::npos) {
+      isNo = true;
+      advance();
+    }
+  }
+  bool flag = false;
+  std::string key;
+  while (true) {
+    if (start == std::string::npos) {
+      ParserTreeNode* before = mCurrentNode;
+      ParserTreeNode* node = lookupToken(mCurrentNode, kEndToken, flag, key, mCliMode, nullptr);
+      if (node) {
+        acceptToken(true, kEndToken, node, isNo, status);
+        if (node->mIsOption) {
+          mOptionPairs.push_back(before);
+          mOptionPairs.push_back(node);
+        }
+      } else if (status == 1) {
+        rejectToken(kEndToken, isNo, status, errorText);
+      }
+      break;
+    }
+    const std::string token = line.substr(start, end == std::string::npos ? std::string::npos : end - start);
+    ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr);
+    if (node && node->mIsOption) {
+      mOptionPairs.push_back(mCurrentNode);
+      mOptionPairs.push_back(node);
+    }
+    if (!node && hasInterfaceWords(mCurrentNode)) node = splitInterfaceToken(token, flag, key, isNo);
+    if (node) {
+      acceptToken(flag, key, node, isNo, status);
+    } else {
+      if (mCliMode) {
+        rejectToken("", isNo, status, errorText);
+      } else {
+        popLevel();
+        if (mCurrentCommand) mCurrentCommand->clearVisitedOption();
+        status = 2;
+      }
+      break;
+    }
+    advance();
+  }
+  if (status == 0) {
+    finishCommand(isNo, modeResult);
+  } else if (status == 1) {
+    errorText = kIncomplete;
+  }
+}
+
+void VTYModel::linkToParent() {
+  if (!mCurrentCommand || mCliMode) return;
+  CiscoCommandLine* parent = mLevels->commands.empty() ? nullptr : mLevels->commands.back();
+  mCurrentCommand->setParentCommand(parent, parent != nullptr);
+  mCurrentCommand->setOrderNo(mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
+}
+
+void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode* node, bool isNo, int& status) {
+  recordToken(key, isValue, node, isNo);
+  if (mCurrentCommand) {
+    mCurrentCommand->addTreeNodes(node, key, isNo);
+    if (key == kEndToken) linkToParent();
+  }
+  mCurrentNode = node;
+  if (node->mEntersMode && !isNo) {
+    mLevels->nodes.push_back(node);
+    mLevels->commands.push_back(mCurrentCommand);
+    mLevels->texts.push_back(mCompleteLine);
+    mPrompt = gPromptSuffixes()[node];
+    mMajorLevel = mLevels->texts.size() - 1;
+    mNewLevel = true;
+  } else {
+    mMajorLevel = mLevels->texts.size();
+    mNewLevel = false;
+  }
+  status = nodeStatus(node);
+}
+
+void VTYModel::rejectToken(const std::string& token, bool isNo, int& status, std::string& errorText) {
+  mNewLevel = false;
+  clearExcluded(mCurrentNode);
+  if (token != kEndToken) {
+    popLevel();
+    if (mCurrentCommand) mCurrentCommand->clearVisitedOption();
+    status = 2;
+    // The walker passes an empty token: no position or caret column is given.
+    errorText = kInvalidInput + token;
+    return;
+  }
+  if (isNo) {
+    if (mCurrentCommand && mCurrentCommand->hasFlags(CMDBIT_NO_COMPLETE)) {
+      status = 1;
+      return;
+    }
+    status = 0;
+    recordToken(kEndToken, true, nullptr, isNo);
+    linkToParent();
+    return;
+  }
+  status = 1;
+}
+
+void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNode* node, bool isNo) {
+  std::string prefix;
+  const std::string* word = &token;
+  if (node) {
+    if (node->hasFlag(NODE_FLAG_MB) && !isNo) {
+      prefix = node->mText + " ";
+    } else if (node->hasFlag(NODE_FLAG_RP)) {
+      word = &node->mText;
+    }
+  }
+  if (token == kEndToken) {
+    mInfoLine += prefix + "\n";
+    mCompleteLine += prefix + "\n";
+    return;
+  }
+  if (isValue) {
+    mInfoLine += prefix + "<" + *word + "> ";
+  } else {
+    mInfoLine += prefix + *word + " ";
+  }
+  mCompleteLine += prefix + *word + " ";
+}
+
+ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo) {
+  size_t digit = 0;
+  while (digit < token.size() && !std::isdigit(static_cast<unsigned char>(token[digit]))) ++digit;
+  if (digit == 0 || digit >= token.size()) return nullptr;
+  const std::string name = token.substr(0, digit);
+  const std::string rest = token.substr(digit);
+  ParserTreeNode* first = lookupToken(mCurrentNode, name, flag, key, mCliMode, nullptr);
+  if (!first) return nullptr;
+  mCurrentNode = first;
+  recordToken(key, flag, first, isNo);
+  if (mCurrentCommand) mCurrentCommand->addTreeNodes(first, key, isNo);
+  ParserTreeNode* result = lookupToken(mCurrentNode, rest, flag, key, mCliMode, nullptr);
+  key = rest;
+  return result;
+}
+
+bool VTYModel::bannerStep(const std::string& line) {
+  size_t lead = line.find_first_not_of(" \t");
+  if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
+    // The delimiter stands behind the second blank, counted from the line's
+    // start (leading blanks count).
+    size_t first = line.find(' ');
+    size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
+    if (second != std::string::npos && second + 1 < line.size()) mBannerDelimiter = line[second + 1];
+  }
+  if (mInsideBanner && line.find(mBannerDelimiter) == std::string::npos) {
+    if (mNewLevel) {
+      mNewLevel = false;
+      mMajorLevel = mLevels->texts.size();
+    }
+    mCompleteLine = line + "\n";
+    mInfoLine = line + "\n";
+    return true;
+  }
+  for (char c : line) {
+    if (c == mBannerDelimiter) mInsideBanner = !mInsideBanner;
+  }
+  return false;
+}
+
+void VTYModel::finishCommand(bool isNo, int& modeResult) {
+  if (isNo) {
+    mCompleteLine = "no " + mCompleteLine;
+    mInfoLine = "no " + mInfoLine;
+    for (std::string* text : {&mCompleteLine, &mInfoLine}) {
+      size_t last = text->rfind('\n');
+      if (last != std::string::npos) text->erase(last + 1);
+    }
+  }
+  if (mCompleteLine == "configure \n" || mCompleteLine == "configure terminal \n") {
+    mOwner->mOutput << "Enter configuration commands, one per line." << "\n";
+    modeResult = CONFIG_MODE;
+  } else if (mCompleteLine == "enable \n") {
+    modeResult = EXEC_MODE;
+  }
+}
+
+bool VTYModel::cliExitCommands(const std::string& line, int& modeResult, int& status) {
+  size_t start = line.find_first_not_of(kSeparators);
+  if (start == std::string::npos) return false;
+  size_t end = line.find_first_of(kSeparators, start);
+  const std::string word =
+      ParserToolCase::string2Lower(line.substr(start, end == std::string::npos ? std::string::npos : end - start));
+  if (word == "exit") {
+    popBack(mLevels->nodes);
+    popBack(mLevels->texts);
+    if (!mLevels->nodes.empty()) {
+      mCurrentNode = mLevels->nodes.back();
+      mPrompt = gPromptSuffixes()[mCurrentNode];
+    } else {
+      modeResult = MODE_EXIT;
+    }
+    status = 0;
+    mCompleteLine = "exit";
+    mInfoLine = "exit";
+    return true;
+  }
+  if (word == "end" && mModeType == CONFIG_MODE) {
+    modeResult = MODE_EXIT;
+    status = 0;
+    mCompleteLine = "end \n";
+    mInfoLine = "end \n";
+    return true;
+  }
+  return false;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,91 @@
+// VTYModel: the state of one mode of a VTY (internal to the library).
+//
+// Holds where the walk stands: the current node, the stack of open
+// configuration levels (node, opening command, rebuilt text of each), the
+// prompt, the rebuilt texts of the current line, and banner state. Every
+// level container has a saved twin holding the state before the current
+// line; a failed line swaps them back. The model writes to its owner's output
+// stream. Not thread-safe; owned by its VTY.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "terminal/VTY.h"
+
+namespace qxparser {
+
+class CiscoCommandLine;
+class ParserTree;
+class ParserTreeNode;
+
+class VTYModel {
+ public:
+  VTYModel(VTY* owner, ParserTree* tree);
+
+  void resetModel();
+  void saveState();
+  bool parseLine(const std::string& line, std::string& errorText, int& modeResult, bool& inBanner);
+  void levelText(std::string& text, bool allLevels) const;
+  void hookLine(const std::string& line);
+  void nextWords(const std::string& line, std::vector<ConfigHint>& hints);
+
+  struct Levels {
+    std::deque<ParserTreeNode*> nodes;
+    std::deque<CiscoCommandLine*> commands;
+    std::vector<std::string> texts;
+  };
+
+  VTY* mOwner;
+  ParserTree* mTree;
+  ParserTreeNode* mCurrentNode = nullptr;
+  CiscoCommandLine* mCurrentCommand = nullptr;
+  Levels mLevelsA;
+  Levels mLevelsB;
+  Levels* mLevels = &mLevelsA;       // current
+  Levels* mSavedLevels = &mLevelsB;  // before the current line
+  std::string mPrompt;
+  std::string mSavedPrompt;
+  std::string mCompleteLine;
+  std::string mInfoLine;
+  char mBannerDelimiter = '"';
+  bool mInsideBanner = false;
+  bool mCliMode = false;
+  bool mNewLevel = false;
+  bool mSavedNewLevel = false;
+  uint64_t mMajorLevel = 0;
+  uint64_t mSavedMajorLevel = 0;
+  VTYModeType mModeType = VIEW_MODE;
+  std::vector<ParserTreeNode*> mOptionPairs;
+
+ private:
+  int tryLine(const std::string& line, int& modeResult, std::string& errorText);
+  void walkLine(const std::string& line, int& modeResult, int& status, std::string& errorText);
+  void acceptToken(bool isValue, const std::string& key, ParserTreeNode* node, bool isNo, int& status);
+  void rejectToken(const std::string& token, bool isNo, int& status, std::string& errorText);
+  void recordToken(const std::string& token, bool isValue, ParserTreeNode* node, bool isNo);
+  ParserTreeNode* splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo);
+  bool bannerStep(const std::string& line);
+  void finishCommand(bool isNo, int& modeResult);
+  bool cliExitCommands(const std::string& line, int& modeResult, int& status);
+  void popLevel();
+  void linkToParent();
+  void clearOptionPairs();
+
+  // help and completion
+  ParserTreeNode* walkForHook(const std::string& line, std::string& prefix, std::string& lastWord,
+                              std::vector<ParserTreeNode*>& visited, char& lastChar);
+  ParserTreeNode* splitForHook(ParserTreeNode* node, const std::string& piece, std::string& key);
+  void answerHelp(const std::string& lastWord, ParserTreeNode* node);
+  void answerCompletion(const std::string& prefix, const std::string& lastWord, ParserTreeNode* node);
+  void recordOptionPair(ParserTreeNode* from, ParserTreeNode* to);
+};
+
+// Writes the listing of next words of `node` to `out`: word, tab stops, help,
+// wrapped at 79 columns. Only words that `prefix` abbreviates are listed.
+// True when at least one entry was printed.
+bool printHelp(ParserTreeNode* node, std::ostream& out, const std::string& prefix);
+
+}  // namespace qxparser
