@@ -161,7 +161,7 @@ int DRTranslator::translateSetOperator(WordList& list, bool isAdd) {
   }
   std::string left = list[static_cast<std::size_t>(leftIndex)];
   if (!isAdd) left = drtranslator::storedWord(left);
-  if (left.empty() || left[0] != '#') {
+  if (getWordType(left) != 6) {
     reportMessage("\"" + left + "\" is an illegal variable in expression on code line ");
     return -1;
   }
@@ -196,7 +196,7 @@ int DRTranslator::translateSetOperator(WordList& list, bool isAdd) {
   }
   if (found) {
     right = drtranslator::storedWord(right);
-    if (right.empty() || right[0] != '#') {
+    if (getWordType(right) != 6) {
       reportMessage("\"" + right + "\" is an illegal variable in expression on code line ");
       return -1;
     }
