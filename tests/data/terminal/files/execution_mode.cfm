@@ -1,0 +1,12 @@
+configure|enter configuration mode|k||
+  <cr>|||||
+  !
+  terminal|configure from the terminal|k||
+    <cr>|||||
+    !
+  !
+!
+enable|turn on privileged commands|k||
+  <cr>|||||
+  !
+!

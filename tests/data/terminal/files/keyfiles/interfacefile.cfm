@@ -1,0 +1,3 @@
+ethernet|ieee 802.3
+gigabitethernet|gigabitethernet ieee 802.3z
+loopback|loopback interface
