@@ -1,0 +1,168 @@
+#include "results/DRResultTree.h"
+
+#include <gtest/gtest.h>
+
+#include <list>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "TestFiles.h"
+#include "results/SyntaxStringBuilder.h"
+
+namespace {
+
+using resultstest::freshFolder;
+using resultstest::writeFile;
+
+std::unique_ptr<DRResultTree> treeOf(const std::string& content) {
+  static int serial = 0;
+  std::string path = freshFolder("results-tree") + "r" + std::to_string(++serial) + ".txt";
+  writeFile(path, content);
+  return std::make_unique<DRResultTree>(path);
+}
+
+TEST(LineFormatTest, ParsesEveryForm) {
+  struct Row {
+    std::string line;
+    int number, count, kind;
+    std::string text;
+  };
+  const Row rows[] = {
+      {"no marker here", -1, 0, LineTagNone, "no marker here"},
+      {"12:::interface Gi0/1", 12, 0, LineTagNone, "interface Gi0/1"},
+      {"5:::abc !#tag#xyz#LineNumbers#3", 5, 3, LineTagOpen, "abc !xyz"},
+      {"5:::abc !#tag##LineNumbers#3", 5, 3, LineTagOpen, "abc"},
+      {"7:::abc !#tag_close#q#LineNumbers#2", 7, 2, LineTagClose, "abc !q"},
+      {"7:::abcX!#tag#q#LineNumbers#2", 7, 2, LineTagOpen, "abc !q"},  // any separating byte is dropped
+      {"7:::abc !#tag#q", 7, 0, LineTagNone, "abc !#tag#q"},           // no count: the marker is text
+      {"x:::abc", 0, 0, LineTagNone, "abc"},
+      {"3:::a\bb", 3, 0, LineTagNone, "a b"},
+      {std::string("3:::ab\0cd", 9), 3, 0, LineTagNone, "ab"},
+      {"4:::x !#tag#n#LineNumbers#", 4, 0, LineTagOpen, "x !n"},
+  };
+  for (const Row& row : rows) {
+    LineFormat f(row.line);
+    EXPECT_EQ(f.mLineNumber, row.number) << row.line;
+    EXPECT_EQ(f.mLineCount, row.count) << row.line;
+    EXPECT_EQ(f.mTagKind, row.kind) << row.line;
+    EXPECT_EQ(f.mText, row.text) << row.line;
+    EXPECT_EQ(f.mChildren, nullptr);
+  }
+}
+
+TEST(LineFormatTest, MarkerAtStartStaysInTextIntended) {
+  LineFormat f("5:::!#tag#xyz#LineNumbers#3");
+  EXPECT_EQ(f.mText, "!#tag#xyz#LineNumbers#3 !xyz");
+  EXPECT_EQ(f.mLineCount, 3);
+  EXPECT_EQ(f.mTagKind, LineTagOpen);
+}
+
+TEST(LineFormatTest, CountTakenAtPositionTwelveWhenOnlyCountStandsInFrontIntended) {
+  LineFormat f("9:::0123456789ab42#LineNumbers# !#tag#z");
+  EXPECT_EQ(f.mText, "0123456789ab42#LineNumbers# !z");
+  EXPECT_EQ(f.mLineCount, 42);
+  EXPECT_EQ(f.mTagKind, LineTagOpen);
+}
+
+TEST(DRResultTreeTest, ReadsGroups) {
+  struct Row {
+    const char* name;
+    std::string file;
+    std::string dump;
+  };
+  const Row rows[] = {
+      {"empty file", "", ""},
+      {"plain and unnumbered", "1:::a\r\nfree text\r\n3:::c", "1|0|0|a\n-1|0|0|free text\n3|0|0|c\n"},
+      {"group ends at a line beyond its reach",
+       "5:::abc !#tag#xyz#LineNumbers#3\n6:::a\n7:::b\n20:::c\n",
+       "5|3|1|abc !xyz\n  6|0|0|a\n  7|0|0|b\n20|0|0|c\n"},
+      {"group ends at its count", "5:::p !#tag#n#LineNumbers#2\n6:::a\n7:::b\n8:::c\n",
+       "5|2|1|p !n\n  6|0|0|a\n  7|0|0|b\n8|0|0|c\n"},
+      {"unnumbered lines never end a group", "5:::p !#tag##LineNumbers#2\nfree\n9:::c\n",
+       "5|2|1|p\n  -1|0|0|free\n9|0|0|c\n"},
+      {"nested groups", "1:::r !#tag#a#LineNumbers#6\n2:::s !#tag_close#b#LineNumbers#2\n3:::t\n4:::u\n5:::v\n",
+       "1|6|1|r !a\n  2|2|2|s !b\n    3|0|0|t\n    4|0|0|u\n  5|0|0|v\n"},
+      {"a line ends two groups at once",
+       "1:::r !#tag#a#LineNumbers#5\n2:::s !#tag#b#LineNumbers#3\n3:::t\n9:::u\n",
+       "1|5|1|r !a\n  2|3|1|s !b\n    3|0|0|t\n9|0|0|u\n"},
+      {"count zero has no group", "1:::a !#tag#n#LineNumbers#0\n2:::b\n", "1|0|1|a !n\n  (no children)\n2|0|0|b\n"},
+      {"group at the end of the file is empty, not null", "1:::a !#tag#n#LineNumbers#2\n", "1|2|1|a !n\n"},
+      {"empty line inside a group", "1:::a !#tag##LineNumbers#2\n\n2:::b\n", "1|2|1|a\n  -1|0|0|\n  2|0|0|b\n"},
+  };
+  for (const Row& row : rows) {
+    auto tree = treeOf(row.file);
+    EXPECT_EQ(tree->dump(), row.dump) << row.name;
+  }
+}
+
+TEST(DRResultTreeTest, LineHandedBackIsTakenPastCountIntended) {
+  // The inner group (line 2, reach 3) hands line 6 back when the outer group
+  // has taken its five lines already; the outer group takes it all the same.
+  auto tree = treeOf(
+      "1:::h !#tag##LineNumbers#5\n2:::a\n3:::b\n4:::c\n5:::d\n2:::x !#tag##LineNumbers#1\n6:::y\n7:::z\n");
+  EXPECT_EQ(tree->dump(),
+            "1|5|1|h\n  2|0|0|a\n  3|0|0|b\n  4|0|0|c\n  5|0|0|d\n  2|1|1|x\n  6|0|0|y\n7|0|0|z\n");
+}
+
+TEST(DRResultTreeTest, MissingFileGivesEmptyTree) {
+  DRResultTree tree(freshFolder("results-missing") + "nothing.txt");
+  EXPECT_TRUE(tree.isEmpty());
+  EXPECT_TRUE(treeOf("")->isEmpty());
+  EXPECT_FALSE(treeOf("x\n")->isEmpty());
+}
+
+TEST(DRResultTreeTest, GetAllLinesKeepsFirstTextAndSkipsUnnumbered) {
+  auto first = treeOf("free\n0:::zero\n5:::p !#tag##LineNumbers#2\n6:::a\n12:::first\n");
+  auto second = treeOf("12:::second\n13:::b\n");
+  std::map<int, std::string> lines{{6, "kept"}};
+  first->getAllLines(lines);
+  second->getAllLines(lines);
+  const std::map<int, std::string> expected{{5, "p"}, {6, "kept"}, {12, "first"}, {13, "b"}};
+  EXPECT_EQ(lines, expected);
+}
+
+TEST(SyntaxStringTest, BlocksSeparatorsAndCloseLines) {
+  auto tree = treeOf("1:::a !#tag_close#x#LineNumbers#1\n2:::b\nplain\n3:::c\n");
+  std::string text;
+  std::list<int> closeLines;
+  int counter = 0;
+  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
+  EXPECT_EQ(text, "a !x\r\nb\r\n!\r\nplain\r\n!\r\nc\r\n!\r\n");
+  EXPECT_EQ(closeLines, std::list<int>{1});
+  // The separator behind "plain" is not counted: the counter runs one behind.
+  EXPECT_EQ(counter, 6);
+}
+
+TEST(SyntaxStringTest, AddsToCallersTextAndCounter) {
+  auto tree = treeOf("4:::x\n5:::y !#tag_close##LineNumbers#0\n");
+  std::string text = "head\r\n";
+  std::list<int> closeLines{99};
+  int counter = 10;
+  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
+  EXPECT_EQ(text, "head\r\n!\r\nx\r\n!\r\ny\r\n!\r\n");
+  EXPECT_EQ(closeLines, (std::list<int>{99, 13}));
+  EXPECT_EQ(counter, 14);
+}
+
+TEST(SyntaxStringTest, ClosedTagBelowTopLevelIsNotNamed) {
+  auto tree = treeOf("1:::a !#tag#x#LineNumbers#2\n2:::b !#tag_close#y#LineNumbers#1\n3:::c\n");
+  std::string text;
+  std::list<int> closeLines;
+  int counter = 0;
+  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
+  EXPECT_EQ(text, "a !x\r\nb !y\r\nc\r\n!\r\n");
+  EXPECT_TRUE(closeLines.empty());
+  EXPECT_EQ(counter, 4);
+}
+
+TEST(SyntaxStringTest, NullTreeIsFalse) {
+  std::string text;
+  std::list<int> closeLines;
+  int counter = 0;
+  EXPECT_FALSE(results::buildSyntaxStringFromTree(nullptr, 0, text, closeLines, counter));
+  EXPECT_EQ(text, "");
+  EXPECT_EQ(counter, 0);
+}
+
+}  // namespace
