@@ -1,0 +1,405 @@
+// Key handling, editing and redraw of the line editor, by exact screen bytes.
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "EditorFixture.h"
+#include "platform/PlatformOs.h"
+
+namespace editortest {
+namespace {
+
+struct KeyCase {
+  const char* name;
+  std::string keys;
+  std::string screen;
+  std::string line;
+  int cursor;
+};
+
+TEST_F(EditorTest, KeysGiveExactScreenBytes) {
+  const std::vector<KeyCase> cases = {
+      {"insert at end", "abc", "abc", "abc", 3},
+      {"insert in the middle", "abc\x02\x02X", "abc" + bs(2) + "Xbc" + bs(2), "aXbc", 2},
+      {"backspace", "abc\x08", "abc\b \b", "ab", 2},
+      {"backspace at column 0 beeps", "\x08", "\a", "", 0},
+      {"Ctrl-D deletes under the cursor", "abc\x01\x04", "abc" + bs(3) + "bc " + bs(3), "bc", 0},
+      {"Ctrl-D at the end beeps", "ab\x04", "ab\a", "ab", 2},
+      {"Ctrl-F at the end beeps", "a\x06", "a\a", "a", 1},
+      {"Ctrl-B at column 0 beeps", "\x02", "\a", "", 0},
+      {"Ctrl-E prints the text again up to the end", "abc\x01\x05", "abc" + bs(3) + "abc", "abc",
+       3},
+      {"ESC acts as Ctrl-U", "abc\x1b", "abc" + bs(3) + sp(3) + bs(3), "", 0},
+      {"DEL is inserted as a character", "a\x7f", "a\x7f", "a\x7f", 2},
+      {"unbound control key beeps", "a\x07", "a\a", "a", 1},
+      {"Ctrl-K kills to the end", "abcd\x02\x02\x0b", "abcd" + bs(2) + sp(2) + bs(2), "ab", 2},
+      {"Ctrl-K at the end beeps", "ab\x0b", "ab\a", "ab", 2},
+      {"Ctrl-Y with nothing killed beeps", "ab\x19", "ab\a", "ab", 2},
+      {"kill then yank at the start", "abcd\x02\x02\x0b\x01\x19",
+       "abcd" + bs(2) + sp(2) + bs(2) + bs(2) + "cdab" + bs(2), "cdab", 2},
+      {"Ctrl-T swaps before and under the cursor", "abc\x02\x14", "abc\b\bcb\b", "acb", 2},
+      {"Ctrl-T redraws only the two characters", "abcdef\x02\x02\x02\x02\x14",
+       "abcdef" + bs(4) + "\bcb\b", "acbdef", 2},
+      {"Ctrl-T at column 0 beeps", "ab\x01\x14", "ab\b\b\a", "ab", 0},
+      {"Ctrl-T at the end beeps", "ab\x14", "ab\a", "ab", 2},
+      {"overwrite replaces", "abc\x01\x0fXY", "abc" + bs(3) + "XY", "XYc", 2},
+      {"overwrite at the end inserts", "ab\x0f" "cd", "abcd", "abcd", 4},
+      {"overwrite yank replaces and extends", "abcd\x02\x02\x0b\x01\x0f\x19\x19",
+       "abcd" + bs(2) + sp(2) + bs(2) + bs(2) + "cd" + "cd", "cdcd", 4},
+      {"console keys: home, right, delete", "abc\xb9\xb3\xad", "abc" + bs(3) + "a" + "c " + bs(2),
+       "ac", 1},
+      {"console keys: left, end, overstrike", "abc\xb5\xb5\xb1\xb5\xae" "Z",
+       "abc" + bs(2) + "bc" + "\b" + "Z", "abZ", 3},
+  };
+  for (const KeyCase& c : cases) {
+    SetUp();
+    start();
+    EXPECT_EQ(feed(c.keys), c.screen) << c.name;
+    EXPECT_EQ(line(), c.line) << c.name;
+    EXPECT_EQ(ed->getCursor(), c.cursor) << c.name;
+  }
+}
+
+TEST_F(EditorTest, ConsoleByteMap) {
+  const std::vector<std::pair<unsigned char, int>> rows = {
+      {0xAD, 4}, {0xAE, 15}, {0xB0, 14}, {0xB1, 5}, {0xB3, 6},   {0xB5, 2},
+      {0xB8, 16}, {0xB9, 1}, {0x80, 0},  {0xB2, 0}, {0xFF, 0},   {0, 0},
+      {27, 21},  {127, 127}, {'a', 'a'}, {1, 1},    {'\r', '\r'},
+  };
+  for (const auto& [byte, code] : rows) {
+    EXPECT_EQ(GetLineData::gl_getc(static_cast<char>(byte)), code) << int(byte);
+  }
+}
+
+TEST_F(EditorTest, UnknownHighByteEndsTheCallWithAnEmptyLine) {
+  start();
+  feed("abc");
+  EXPECT_EQ(feed("\xff", 1), "");
+  ASSERT_NE(last, nullptr);
+  EXPECT_STREQ(last, "");
+  EXPECT_FALSE(ed->getNewLine());
+}
+
+TEST_F(EditorTest, EnterReturnsLineWithNewlineAndStartsANewLine) {
+  start();
+  EXPECT_EQ(feed("show\r", 1), "show\n");
+  ASSERT_NE(last, nullptr);
+  EXPECT_STREQ(last, "show\n");
+  EXPECT_TRUE(ed->getNewLine());
+  // The next key sets up an empty line again.
+  feed("x");
+  EXPECT_EQ(line(), "x");
+  EXPECT_FALSE(ed->getNewLine());
+}
+
+TEST_F(EditorTest, ModeOneReturnsNullUntilTheLineEnds) {
+  start();
+  feed("ab", 1);
+  EXPECT_EQ(last, nullptr);
+  feed("\n", 1);
+  ASSERT_NE(last, nullptr);
+  EXPECT_STREQ(last, "ab\n");
+}
+
+TEST_F(EditorTest, ModeTwoAndModeMinusOneReturnNull) {
+  char key[2] = {'a', 0};
+  EXPECT_EQ(ed->Getlinem(key, 2, "R#", nullptr), nullptr);
+  ed->Gl_config("noecho", 1);
+  EXPECT_EQ(ed->Getlinem(key, -1, "R#", nullptr), nullptr);
+  EXPECT_TRUE(ed->getNewLine());
+  EXPECT_EQ(line(), "");
+  // Mode -1 at a new line turned "noecho" off again: typed text is echoed.
+  ed->gl_fixup("R#", -2, 0);
+  EXPECT_EQ(ed->outputString(), "R#");
+  ed->clearOutput();
+  EXPECT_NE(ed->Getlinem(key, 0, "R#", nullptr), nullptr);
+  EXPECT_EQ(ed->outputString(), "a");
+}
+
+TEST_F(EditorTest, CtrlDOnEmptyLineReturnsEmptyLineAndPrintsNewline) {
+  start();
+  EXPECT_EQ(feed("\x04"), "\n");
+  ASSERT_NE(last, nullptr);
+  EXPECT_STREQ(last, "");
+  EXPECT_FALSE(ed->getNewLine());
+}
+
+TEST_F(EditorTest, NoechoHidesTextButNotThePrompt) {
+  start();
+  ed->Gl_config("noecho", 1);
+  ed->gl_fixup("R#", -2, 0);  // noecho applies from the next full draw
+  EXPECT_EQ(ed->outputString(), "R#");
+  EXPECT_EQ(feed("secret\r"), "\n");
+  EXPECT_STREQ(last, "secret\n");
+  EXPECT_EQ(ed->Gl_config("bogus", 1), -1);
+}
+
+TEST_F(EditorTest, EraseWipesTheFinishedLine) {
+  start();
+  ed->Gl_config("erase", 1);
+  EXPECT_EQ(feed("abc\r"), "abc" + bs(3) + sp(3) + bs(3));
+  EXPECT_STREQ(last, "abc\n");
+}
+
+TEST_F(EditorTest, InterruptKeyRedrawsPromptAndLine) {
+  start();
+  EXPECT_EQ(feed("ab\x03"), "ab\nR#ab");
+  EXPECT_EQ(line(), "ab");
+  EXPECT_EQ(feed("c"), "c");
+}
+
+TEST_F(EditorTest, CtrlLRedraws) {
+  start();
+  EXPECT_EQ(feed("abc\x02\x0c"), "abc\b\nR#abc\b");
+}
+
+TEST_F(EditorTest, NotAConsoleWritesNothing) {
+  ed->Gl_setconsole(0);
+  start();
+  EXPECT_EQ(feed("abc\x08\r"), "");
+  EXPECT_STREQ(last, "ab\n");
+}
+
+TEST_F(EditorTest, PromptChangeRedrawsOverTheOldPrompt) {
+  start("Router#");
+  feed("ab");
+  ed->clearOutput();
+  ed->gl_fixup("R(config)#", -1, 2);
+  // Back over text and old prompt, new prompt, the text again.
+  EXPECT_EQ(ed->outputString(), bs(9) + "R(config)#" + "ab");
+  // A shorter prompt blanks what the longer one left behind.
+  ed->clearOutput();
+  ed->gl_fixup("R#", -1, 2);
+  EXPECT_EQ(ed->outputString(), bs(12) + "R#" + "ab" + sp(8) + bs(8));
+}
+
+// ------------------------------------------------------------ scrolling
+
+TEST_F(EditorTest, LongLineScrollsByAThirdOfTheWidthWithDollarMarks) {
+  // Width 30 with a 2-column prompt: 28 text columns, scroll step 10.
+  start("R#", 30);
+  const std::string text = "abcdefghijklmnopqrstuvwxyz01";
+  EXPECT_EQ(feed(text.substr(0, 27)), text.substr(0, 27));
+  // The 28th character scrolls by 10; "$" marks the hidden left part.
+  EXPECT_EQ(feed(text.substr(27)), bs(27) + "$" + text.substr(11) + sp(9) + bs(9));
+  // Home scrolls back; "$" marks the hidden right part.
+  EXPECT_EQ(feed("\x01"), bs(18) + text.substr(0, 26) + "$" + bs(27));
+  EXPECT_EQ(feed("\x05"), "$" + text.substr(11) + sp(9) + bs(9));
+  // Enter brings the line back to its start before the newline.
+  EXPECT_EQ(feed("\r"), bs(18) + text.substr(0, 26) + "$" + bs(4) + "\n");
+  EXPECT_EQ(std::string(last), text + "\n");
+}
+
+TEST_F(EditorTest, EditInsideAScrolledLineKeepsTheLeftMark) {
+  start("R#", 30);
+  feed("abcdefghijklmnopqrstuvwxyz01");  // shifted by 10
+  // Backspace at the end: only the tail changes.
+  EXPECT_EQ(feed("\x08"), "\b \b");
+  EXPECT_EQ(line(), "abcdefghijklmnopqrstuvwxyz0");
+}
+
+TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
+  // Intended: the built-in step is 27 although a third of the default 80 is 26.
+  char none = 0;
+  ed->Getlinem(&none, -1, "", nullptr);
+  ed->gl_fixup("", -2, GetLineData::kBufSize);
+  prompt_ = "";
+  feed(std::string(80, 'x'));
+  // At 80 characters the line is shifted by 27, so column 0 shows "$" and x[28..].
+  ed->clearOutput();
+  ed->gl_fixup("", -1, 0);
+  ed->clearOutput();
+  ed->gl_fixup("", -1, 80);
+  EXPECT_EQ(ed->outputString(), "$" + std::string(52, 'x') + sp(26) + bs(26));
+
+  SetUp();
+  start("", 80);  // a third of 80 is 26
+  feed(std::string(80, 'x'));
+  ed->gl_fixup("", -1, 0);
+  ed->clearOutput();
+  ed->gl_fixup("", -1, 80);
+  EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
+}
+
+// ------------------------------------------------------------ words and regions
+
+struct WordCase {
+  const char* name;
+  std::string text;
+  int cursor;
+  void (GetLineData::*op)();
+  std::string line;
+  int cursorAfter;
+  std::string kill;
+};
+
+TEST_F(EditorTest, WordMotionAndWordKills) {
+  const std::vector<WordCase> cases = {
+      {"fwd skips word then blanks", "ip route 10.0", 0, &GetLineData::gl_fwd_1_word, "ip route 10.0",
+       3, ""},
+      {"fwd stops at the end", "ip route", 4, &GetLineData::gl_fwd_1_word, "ip route", 8, ""},
+      {"fwd treats _ as a word character", "a_b c", 0, &GetLineData::gl_fwd_1_word, "a_b c", 4, ""},
+      {"back from the end", "ip route", 8, &GetLineData::gl_back_1_word, "ip route", 3, ""},
+      {"back from a word start", "ip route", 3, &GetLineData::gl_back_1_word, "ip route", 0, ""},
+      {"back over dots", "10.0.0", 6, &GetLineData::gl_back_1_word, "10.0.0", 5, ""},
+      {"kill word forward", "ip  route x", 2, &GetLineData::gl_kill_1_word, "ip x", 2, "  route"},
+      {"kill word back", "ip route", 8, &GetLineData::gl_kill_back_1_word, "ip ", 3, "route"},
+      {"kill word back over blanks", "ip route  ", 10, &GetLineData::gl_kill_back_1_word, "ip ", 3,
+       "route  "},
+  };
+  for (const WordCase& c : cases) {
+    SetUp();
+    start();
+    feed(c.text);
+    ed->gl_fixup("R#", -1, c.cursor);
+    (ed.get()->*c.op)();
+    EXPECT_EQ(line(), c.line) << c.name;
+    EXPECT_EQ(ed->getCursor(), c.cursorAfter) << c.name;
+    EXPECT_EQ(std::string(ed->getKillBuffer()), c.kill) << c.name;
+  }
+}
+
+TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
+  start();
+  feed("abcd\x02\x02\x0b\x01\x19");  // yank "cd" at 0: mark 0, cursor 2
+  EXPECT_EQ(ed->getMark(), 0);
+  feed("\x18");  // exchange
+  EXPECT_EQ(ed->getCursor(), 0);
+  EXPECT_EQ(ed->getMark(), 2);
+  feed("\x17");  // wipe the region
+  EXPECT_EQ(line(), "ab");
+  EXPECT_EQ(std::string(ed->getKillBuffer()), "cd");
+  EXPECT_EQ(ed->getCursor(), 0);
+  // Mark equal to the cursor: wipe does nothing.
+  EXPECT_EQ(feed("\x17"), "");
+  EXPECT_EQ(line(), "ab");
+}
+
+TEST_F(EditorTest, WipeAndExchangeWithoutMarkDoNothing) {
+  start();
+  EXPECT_EQ(feed("ab\x17\x18"), "ab");
+  EXPECT_EQ(line(), "ab");
+}
+
+TEST_F(EditorTest, KillReplacesTheKillBuffer) {
+  start();
+  feed("one two\x02\x02\x02\x0b");
+  EXPECT_STREQ(ed->getKillBuffer(), "two");
+  feed("\x1b");
+  EXPECT_STREQ(ed->getKillBuffer(), "one ");
+}
+
+TEST_F(EditorTest, GlTabPadsToTheNextStopOfEight) {
+  char buf[32] = "ab";
+  int loc = 2;
+  EXPECT_EQ(ed->gl_tab(buf, 3, loc), 2);  // column 5: three blanks to 8
+  EXPECT_EQ(loc, 5);
+  EXPECT_STREQ(buf, "ab   ");
+  EXPECT_EQ(ed->gl_tab(buf, 3, loc), 5);  // column 8: a full stop of eight
+  EXPECT_EQ(loc, 13);
+}
+
+// ------------------------------------------------------------ hooks
+
+int helpHook(char* line, int, int& cursor, qxparser::VTY*, std::string& out) {
+  out += "\nHELP\n";
+  std::size_t n = std::strlen(line);
+  line[n - 1] = '\0';
+  cursor = static_cast<int>(n - 1);
+  return -2;
+}
+
+int tabHook(char* line, int promptLength, int& cursor, qxparser::VTY*, std::string& out) {
+  out += "\n";
+  out += std::to_string(promptLength);
+  std::strcpy(line, "show ");
+  cursor = 5;
+  return -2;
+}
+
+TEST_F(EditorTest, HelpHookRunsAfterTheQuestionMarkGoesIn) {
+  GetLineData::getline_init(helpHook, tabHook);
+  start();
+  EXPECT_EQ(feed("sh?"), "sh?\nHELP\nR#sh");
+  EXPECT_EQ(line(), "sh");
+  EXPECT_EQ(ed->getCursor(), 2);
+  EXPECT_EQ(feed("\t"), "\n2R#show ");
+  EXPECT_EQ(line(), "show ");
+}
+
+TEST_F(EditorTest, WithoutHooksQuestionMarkIsTextAndTabDoesNothing) {
+  start();
+  EXPECT_EQ(feed("a?\t"), "a?");
+  EXPECT_EQ(line(), "a?");
+}
+
+TEST_F(EditorTest, ParserInitReadsPagerAndStartsALine) {
+  platform::setEnv("VTYSH_PAGER", "less -R");
+  ed->parser_init(nullptr, nullptr);
+  EXPECT_EQ(ed->getPager(), "less -R");
+  ::unsetenv("VTYSH_PAGER");
+  ed->vtysh_pager_init();
+  EXPECT_EQ(ed->getPager(), "more");
+  EXPECT_TRUE(ed->getNewLine());
+}
+
+// ------------------------------------------------------------ limits
+
+TEST_F(EditorTest, ScreenWidthBelow21IsRefusedAndTheProcessGoesOn) {
+  start("R#", 30);
+  ed->clearOutput();
+  try {
+    ed->Gl_setwidth(20);
+    FAIL() << "no error";
+  } catch (const GetLineError& e) {
+    EXPECT_STREQ(e.what(), "\n*** Error: minimum screen width is 21\n");
+  }
+  EXPECT_EQ(ed->outputString(), "\n*** Error: minimum screen width is 21\n");
+  ed->Gl_setwidth(21);
+}
+
+TEST_F(EditorTest, OverflowAt40959CharactersThrowsAndEditorStaysUsable) {
+  start();
+  std::string many(GetLineData::kMaxInput, 'a');
+  feed(many);
+  EXPECT_EQ(line(), many);  // the 40959th character is taken
+  ed->clearOutput();
+  const std::string message = "\n*** Error: Getline(): input buffer overflow\n";
+  try {
+    feed("b");
+    FAIL() << "no overflow";
+  } catch (const GetLineError& e) {
+    EXPECT_EQ(std::string(e.what()), message);
+  }
+  EXPECT_EQ(ed->outputString(), message);
+  EXPECT_EQ(line(), many);  // nothing lost
+  // A full line cannot be finished either: the newline needs one more byte.
+  EXPECT_THROW(feed("\r"), GetLineError);
+  EXPECT_FALSE(ed->getNewLine());
+
+  // Still usable: edit, redraw, finish a line.
+  feed("\x08");
+  EXPECT_EQ(static_cast<int>(line().size()), GetLineData::kMaxInput - 1);
+  ed->clearOutput();
+  ed->gl_redraw();
+  EXPECT_EQ(ed->outputString().substr(0, 3), "\nR#");
+  feed("\x1b" "ok\r");
+  ASSERT_NE(last, nullptr);
+  EXPECT_STREQ(last, "ok\n");
+}
+
+TEST_F(EditorTest, YankPastTheLimitThrowsAndLeavesTheLine) {
+  start();
+  feed("abcdefghij\x01\x0b");  // kill 10 characters
+  std::string many(GetLineData::kMaxInput - 10, 'x');
+  feed(many);
+  EXPECT_THROW(feed("\x19"), GetLineError);
+  EXPECT_EQ(line(), many);
+  // A yank may not reach 40959 characters; one short of it is taken.
+  feed("\x08\x19");
+  EXPECT_EQ(static_cast<int>(line().size()), GetLineData::kMaxInput - 1);
+}
+
+}  // namespace
+}  // namespace editortest
