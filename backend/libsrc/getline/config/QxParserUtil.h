@@ -86,6 +86,8 @@ class VTYCONF_API QxParserUtil {
   static void fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from, std::vector<CiscoCommandLine*>& to,
                                        std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent);
   static CiscoCommandLine* createNoCommand(CiscoCommandLine* command);
+  // vtyconf's own: deletes level-0 records with all their children.
+  static void deleteTopLevel(std::vector<CiscoCommandLine*>& commands);
 };
 
 }  // namespace qxparser

@@ -1,0 +1,276 @@
+// Fallback: the commands that take a device back, either from applied changes
+// (delta mode) or from one complete configuration to another (file mode).
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "config/CommandMatchIndex.h"
+#include "config/QxParserUtil.h"
+#include "platform/StlHelper.h"
+
+namespace qxparser {
+
+namespace {
+
+CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
+  auto* copy = new CiscoCommandLine(*source);
+  copy->setParentCommand(parent, false);
+  return copy;
+}
+
+}  // namespace
+
+CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
+  auto negated = std::make_unique<CiscoCommandLine>();
+  *negated = *command;
+  const std::string& text = negated->getOriginalCmd();
+  if (text.compare(0, 3, "no ") == 0) {
+    // The prefix goes; CMDBIT_NO stays as it was.
+    negated->setOriginalCmd(text.substr(3));
+  } else {
+    negated->setOriginalCmd("no " + text);
+    negated->setFlags(CMDBIT_NO, true);
+  }
+  return negated.release();
+}
+
+std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode) {
+  if (first.empty()) return second;
+  std::vector<CiscoCommandLine*> firstCmds;
+  std::vector<CiscoCommandLine*> secondCmds;
+  std::vector<CiscoCommandLine*> out;
+  std::string text;
+  try {
+    std::string errorText;
+    int errorLine = 0;
+    transformCmds(first, firstCmds, errorText, errorLine);
+    transformCmds(second, secondCmds, errorText, errorLine);
+    // Both sides are brought into the form that a merge writes, so that
+    // comments are gone and repeated words stand in one order.
+    for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {
+      const std::string normalised = expandMergedCmds(*side, 0);
+      deleteTopLevel(*side);
+      transformCmds(normalised, *side, errorText, errorLine);
+    }
+    if (mode == 0) {
+      fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);
+    } else {
+      fallbackCiscoCommandFile(firstCmds, secondCmds, out, nullptr);
+    }
+    text = expandMergedCmds(out, 0);
+  } catch (...) {
+    deleteTopLevel(firstCmds);
+    deleteTopLevel(secondCmds);
+    deleteTopLevel(out);
+    throw;
+  }
+  deleteTopLevel(firstCmds);
+  deleteTopLevel(secondCmds);
+  deleteTopLevel(out);
+  return text;
+}
+
+void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
+                                         std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent) {
+  // Commands to restore; lives for the whole pass.
+  std::vector<CiscoCommandLine*> restore;
+  auto flush = [&]() {
+    for (CiscoCommandLine* record : restore) out.push_back(copyUnder(record, parent));
+    restore.clear();
+  };
+  auto mark = [&restore](CiscoCommandLine* record) {
+    record->setFlags(CMDBIT_REMOVED, false);
+    restore.push_back(record);
+  };
+  auto negate = [&](CiscoCommandLine* record) {
+    CiscoCommandLine* negated = createNoCommand(record);
+    negated->setParentCommand(parent, false);
+    out.push_back(negated);
+  };
+  // The head of a mode is written only when something changes inside it.
+  auto descend = [&](CiscoCommandLine* change, CiscoCommandLine* found, const CiscoCommandLine* data) {
+    auto head = std::make_unique<CiscoCommandLine>();
+    *head = *data;
+    head->setParentCommand(parent, false);
+    fallbackCiscoCommands(change->getChildCommands(), found->getChildCommands(), head->getChildCommands(), head.get());
+    if (!head->getChildCommands().empty()) out.push_back(head.release());
+  };
+  CommandMatchIndex index(config);
+
+  for (CiscoCommandLine* change : changes) {
+    const CiscoCommandLineFlag kind = change->getFlag();
+    const bool stored = change->hasFlags(CMDBIT_STORED);
+    const bool opensMode = change->hasFlags(CMDBIT_OPENS_MODE);
+
+    if (!change->hasFlags(CMDBIT_NO)) {
+      const size_t at = index.firstComparable(change);
+      if (at == CommandMatchIndex::npos) {
+        if (stored) negate(change);
+        continue;
+      }
+      CiscoCommandLine* found = config[at];
+      if (!stored) {
+        if (found->hasFlags(CMDBIT_NO)) out.push_back(copyUnder(found, parent));
+        continue;
+      }
+      if (kind == CMD_ADDITIVE && !opensMode) {
+        bool noEffect = false;
+        for (size_t i = at; i < config.size() && config[i]->isComparable(change); ++i) {
+          CiscoCommandLine* current = config[i];
+          if (current->getCurrentCommand() == change->getCurrentCommand()) {
+            restore.clear();
+            noEffect = true;
+            break;
+          }
+          if (current->hasFlags(CMDBIT_NO) && current->isNoable(change)) mark(current);
+        }
+        if (!noEffect) {
+          negate(change);
+          flush();
+        }
+      } else if (kind == CMD_ADDITIVE) {
+        descend(change, found, found);
+      } else if (kind == CMD_OVERWRITE) {
+        if (!found->isExactlyMatch(change)) {
+          out.push_back(copyUnder(found, parent));
+        } else if (opensMode) {
+          descend(change, found, found);
+        }
+      } else if (kind == CMD_MERGEABLE) {
+        negate(change);
+        out.push_back(copyUnder(found, parent));
+      } else if (opensMode) {
+        descend(change, found, change);
+      }
+      continue;
+    }
+
+    const size_t at = index.firstNoable(change);
+    if (at == CommandMatchIndex::npos) {
+      if (stored) negate(change);
+      continue;
+    }
+    CiscoCommandLine* found = config[at];
+    if (!stored) {
+      if (kind == CMD_ADDITIVE) {
+        // What the "no" took away is written back.
+        for (size_t i = at; i < config.size(); ++i) {
+          CiscoCommandLine* current = config[i];
+          if (current->hasFlags(CMDBIT_NO) || !current->isNoable(change)) break;
+          mark(current);
+        }
+        flush();
+      } else if (kind == CMD_MERGEABLE) {
+        negate(change);
+        out.push_back(copyUnder(found, parent));
+        flush();
+      } else {
+        mark(found);
+        flush();
+      }
+    } else if (found->isComparable(change)) {
+      // A positive one waits for the next flush of the pass, and is lost if
+      // none follows.
+      if (!found->hasFlags(CMDBIT_NO)) mark(found);
+    } else {
+      flush();
+    }
+  }
+}
+
+void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from, std::vector<CiscoCommandLine*>& to,
+                                            std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent) {
+  auto negate = [&](CiscoCommandLine* record) {
+    CiscoCommandLine* negated = createNoCommand(record);
+    negated->setParentCommand(parent, false);
+    out.push_back(negated);
+  };
+  auto descend = [&](CiscoCommandLine* command, CiscoCommandLine* found, const CiscoCommandLine* data) {
+    auto head = std::make_unique<CiscoCommandLine>();
+    *head = *data;
+    head->setParentCommand(parent, false);
+    fallbackCiscoCommandFile(command->getChildCommands(), found->getChildCommands(), head->getChildCommands(),
+                             head.get());
+    if (!head->getChildCommands().empty()) out.push_back(head.release());
+  };
+  CommandMatchIndex toIndex(to);
+
+  for (CiscoCommandLine* command : from) {
+    if (!command->hasFlags(CMDBIT_STORED)) continue;
+    const CiscoCommandLineFlag kind = command->getFlag();
+    const bool opensMode = command->hasFlags(CMDBIT_OPENS_MODE);
+    const size_t at = toIndex.firstComparable(command);
+    if (at == CommandMatchIndex::npos) {
+      if (kind != CMD_MERGEABLE) {
+        negate(command);
+        continue;
+      }
+      // A mergeable command is negated word by word where the grammar
+      // allows that.
+      std::unique_ptr<CiscoCommandLine> negated(createNoCommand(command));
+      auto copy = std::make_unique<CiscoCommandLine>(*command);
+      CiscoCommandLine* result =
+          copy->mergeCommand(negated.get()) ? createNoCommand(copy.get()) : createNoCommand(command);
+      result->setParentCommand(parent, false);
+      out.push_back(result);
+      continue;
+    }
+    CiscoCommandLine* found = to[at];
+    if (kind == CMD_ADDITIVE) {
+      if (opensMode) descend(command, found, found);
+      bool done = false;
+      for (size_t i = at; i < to.size() && to[i]->isComparable(command); ++i) {
+        CiscoCommandLine* current = to[i];
+        if (current->getCurrentCommand() == command->getCurrentCommand()) {
+          done = true;
+          break;
+        }
+        if (current->hasFlags(CMDBIT_NO) != command->hasFlags(CMDBIT_NO) && current->isNoable(command)) {
+          negate(command);
+        }
+      }
+      if (!done) negate(command);
+    } else if (kind == CMD_OVERWRITE) {
+      if (!found->isExactlyMatch(command)) {
+        out.push_back(copyUnder(found, parent));
+      } else if (opensMode) {
+        descend(command, found, command);
+      }
+    } else if (kind == CMD_MERGEABLE) {
+      if (!found->isExactlyMatch(command)) {
+        negate(command);
+        out.push_back(copyUnder(found, parent));
+      }
+    } else if (opensMode) {
+      descend(command, found, command);
+    }
+  }
+
+  // New commands go behind the negations.
+  for (CiscoCommandLine* target : to) {
+    if (!target->hasFlags(CMDBIT_STORED)) continue;
+    bool known = false;
+    for (CiscoCommandLine* command : from) {
+      if (command->isComparable(target)) {
+        known = true;
+        break;
+      }
+    }
+    if (!known) out.push_back(copyUnder(target, parent));
+  }
+}
+
+bool QxParserUtil::removeInterfaceFromConfigFile(const std::string& path, const std::string& name) {
+  // Reads the file and forms the interface head, and leaves the file as it
+  // was: the operation has never changed anything.
+  std::ifstream in(StlHelper::AToW(path), std::ios::binary);
+  std::stringstream buffer;
+  if (in) buffer << in.rdbuf();
+  const std::string content = buffer.str();
+  const std::string head = "interface " + name;
+  (void)content;
+  (void)head;
+  return true;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,209 @@
+// Merge: applies changes in configuration language to a configuration, by
+// grammar path comparison, and writes the result in the device's order.
+#include <set>
+
+#include "config/CommandMatchIndex.h"
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
+  auto* copy = new CiscoCommandLine(*source);
+  copy->setParentCommand(parent, false);
+  return copy;
+}
+
+}  // namespace
+
+void QxParserUtil::deleteTopLevel(std::vector<CiscoCommandLine*>& commands) {
+  for (CiscoCommandLine* record : commands) {
+    record->delOnlyChildCmds();
+    delete record;
+  }
+  commands.clear();
+}
+
+std::string QxParserUtil::mergeConfigCmds(const std::string& changes, const std::string& config) {
+  if (changes.empty()) return config;
+  if (config.empty()) return changes;
+  std::vector<CiscoCommandLine*> changeCmds;
+  std::vector<CiscoCommandLine*> configCmds;
+  std::string errorText;
+  int errorLine = 0;
+  std::string text;
+  try {
+    transformCmds(changes, changeCmds, errorText, errorLine);
+    transformCmds(config, configCmds, errorText, errorLine);
+    mergeCiscoCommands(changeCmds, configCmds, nullptr);
+    text = expandMergedCmds(configCmds, 0);
+  } catch (...) {
+    deleteTopLevel(changeCmds);
+    deleteTopLevel(configCmds);
+    throw;
+  }
+  deleteTopLevel(changeCmds);
+  deleteTopLevel(configCmds);
+  return text;
+}
+
+void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
+                                      CiscoCommandLine* parent) {
+  std::set<CiscoCommandLine*> removed;
+  auto remove = [&removed](CiscoCommandLine* record) {
+    record->setFlags(CMDBIT_REMOVED, false);
+    removed.insert(record);
+  };
+  // The first comparable or noable command is looked up through an index of
+  // the level; the index answers exactly what a scan from the front would.
+  CommandMatchIndex index(config);
+
+  for (CiscoCommandLine* change : changes) {
+    const bool stored = change->hasFlags(CMDBIT_STORED);
+    const bool opensMode = change->hasFlags(CMDBIT_OPENS_MODE);
+    const CiscoCommandLineFlag kind = change->getFlag();
+
+    if (change->hasFlags(CMDBIT_NO)) {
+      const size_t at = index.firstNoable(change);
+      if (at == CommandMatchIndex::npos) {
+        if (stored) index.append(copyUnder(change, parent));
+        continue;
+      }
+      CiscoCommandLine* base = config[at];
+      if (!stored) {
+        if (kind == CMD_ADDITIVE) {
+          // A "no" takes away the whole run of additive commands it negates.
+          for (size_t i = at; i < config.size(); ++i) {
+            CiscoCommandLine* current = config[i];
+            if (current->getFlag() == CMD_TEXT) continue;
+            if (current->hasFlags(CMDBIT_NO) || !current->isNoable(change)) break;
+            remove(current);
+          }
+        } else if (kind == CMD_MERGEABLE) {
+          if (!base->mergeCommand(change)) remove(base);
+        } else {
+          remove(base);
+        }
+      } else if (base->isComparable(change)) {
+        if (kind == CMD_OVERWRITE) {
+          *base = *change;
+          index.refresh(at);
+        } else if (!base->hasFlags(CMDBIT_NO)) {
+          remove(base);
+        }
+      }
+      continue;
+    }
+
+    const size_t at = index.firstComparable(change);
+    if (at == CommandMatchIndex::npos) {
+      if (!stored) continue;
+      CiscoCommandLine* copy = copyUnder(change, parent);
+      if (kind == CMD_ADDITIVE) copy->genCommandStr();
+      if (opensMode) {
+        // The commands of the new mode pass through these rules as well.
+        copy->delOnlyChildCmds();
+        mergeCiscoCommands(change->getChildCommands(), copy->getChildCommands(), copy);
+      }
+      index.append(copy);
+      continue;
+    }
+    CiscoCommandLine* base = config[at];
+    if (!stored) {
+      if (base->hasFlags(CMDBIT_NO) || base->getFlag() == CMD_OVERWRITE) remove(base);
+      continue;
+    }
+    if (change->hasFlags(CMDBIT_CONFLICT) && base->isConflictWith(change)) continue;
+    if (kind == CMD_ADDITIVE && !opensMode) {
+      // Additive commands of one setting stand together; a new one goes at
+      // the end of their run.
+      bool replaced = false;
+      bool inPlace = false;
+      size_t i = at;
+      for (; i < config.size() && config[i]->isComparable(change); ++i) {
+        CiscoCommandLine* current = config[i];
+        if (current->getCurrentCommand() == change->getCurrentCommand()) {
+          inPlace = true;
+          break;
+        }
+        if (current->hasFlags(CMDBIT_NO) && current->isNoable(change)) {
+          remove(current);
+          if (current->hasFlags(CMDBIT_STORED)) replaced = true;
+        }
+      }
+      if (!inPlace && !replaced) index.insert(i, copyUnder(change, parent));
+    } else if (kind == CMD_ADDITIVE) {
+      mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
+    } else if (kind == CMD_OVERWRITE) {
+      if (!base->isExactlyMatch(change)) {
+        *base = *change;
+        index.refresh(at);
+      } else if (opensMode) {
+        mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
+      }
+    } else if (kind == CMD_MERGEABLE) {
+      base->mergeCommand(change);
+      index.refresh(at);
+    } else if (opensMode) {
+      mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
+    }
+  }
+
+  if (!removed.empty()) {
+    std::vector<CiscoCommandLine*> kept;
+    kept.reserve(config.size());
+    for (CiscoCommandLine* record : config) {
+      if (removed.count(record)) {
+        record->delOnlyChildCmds();
+        delete record;
+      } else {
+        kept.push_back(record);
+      }
+    }
+    config.swap(kept);
+  }
+  SortCiscoCommands(config);
+}
+
+void QxParserUtil::SortCiscoCommands(std::vector<CiscoCommandLine*>& commands) {
+  // A selection sort on purpose: the comparison is not a strict order, and
+  // the result depends on this very procedure.
+  const size_t count = commands.size();
+  for (size_t i = 0; i < count; ++i) {
+    size_t candidate = i;
+    for (size_t j = i + 1; j < count; ++j) {
+      const CiscoCommandLine* held = commands[candidate];
+      const CiscoCommandLine* other = commands[j];
+      if (held->getLineNo() >= 1 && other->getLineNo() >= 1) {
+        if (held->getLineNo() > other->getLineNo()) candidate = j;
+      } else if (held->getOrderNo() >= 1 && other->getOrderNo() >= 1) {
+        if (held->getOrderNo() > other->getOrderNo()) candidate = j;
+      }
+    }
+    if (candidate != i) std::swap(commands[i], commands[candidate]);
+  }
+}
+
+std::string QxParserUtil::expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth) {
+  // The indent comes from a constant of one blank followed by NUL bytes, and
+  // the NULs go into the text as they are.
+  std::string indent;
+  if (depth > 0) {
+    indent.assign(1, ' ');
+    indent.append(static_cast<size_t>(depth - 1), '\0');
+  }
+  std::string text;
+  for (const CiscoCommandLine* command : commands) {
+    text += indent;
+    text += command->getOriginalCmd();
+    if (!command->getChildCommands().empty()) text += expandMergedCmds(command->getChildCommands(), depth + 1);
+    if (command->hasFlags(CMDBIT_OPENS_MODE)) {
+      text += indent;
+      text += "!\n";
+    }
+  }
+  return text;
+}
+
+}  // namespace qxparser
