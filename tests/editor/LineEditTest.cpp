@@ -222,6 +222,15 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
 }
 
+TEST_F(EditorTest, PromptWiderThanTheScreenStillEdits) {
+  start(std::string(100, 'p'), 30);
+  feed(std::string(50, 'a') + "\x01\x04\x05\x08" "b\x02\x14");
+  EXPECT_EQ(line(), std::string(47, 'a') + "ba");
+  feed("\r");
+  ASSERT_NE(last, nullptr);
+  EXPECT_EQ(std::string(last), std::string(47, 'a') + "ba\n");
+}
+
 // ------------------------------------------------------------ words and regions
 
 struct WordCase {

@@ -29,7 +29,10 @@
 // 0xAD delete, 0xAE overstrike, 0xB0 next, 0xB1 end, 0xB3 right, 0xB5 left,
 // 0xB8 previous, 0xB9 home; every other high byte is read as "no key", which
 // ends the call with an empty line. ESC acts as Ctrl-U and DEL (127) is
-// inserted like a letter.
+// inserted like a letter. "?" is inserted and then handed to the help hook;
+// the tab key goes to the tab hook and does nothing when none is set. The
+// interrupt key (Ctrl-C on a console) starts the line's drawing over; raising
+// a break in the host is left to the host, which sees the key first.
 #pragma once
 
 #include <array>
