@@ -31,7 +31,7 @@ struct CommandSpec {
 std::vector<CommandSpec>& commandRegistry();
 
 struct CommandRegistration {
-  explicit CommandRegistration(CommandSpec spec) { commandRegistry().push_back(std::move(spec)); }
+  explicit CommandRegistration(CommandSpec entry) { commandRegistry().push_back(std::move(entry)); }
 };
 
 }  // namespace vtycli

@@ -34,10 +34,10 @@ int main(int argc, char** argv) {
             [](const CommandSpec& a, const CommandSpec& b) { return a.name < b.name; });
   std::map<CLI::App*, std::function<int()>> runners;
   std::map<std::string, CLI::App*> groups;
-  for (auto& spec : registry) {
+  for (auto& entry : registry) {
     // "note check" is the subcommand "check" of the group "note".
     CLI::App* parent = &app;
-    std::string name = spec.name;
+    std::string name = entry.name;
     size_t blank = name.find(' ');
     if (blank != std::string::npos) {
       std::string group = name.substr(0, blank);
@@ -50,8 +50,8 @@ int main(int argc, char** argv) {
       }
       parent = found->second;
     }
-    CLI::App* sub = parent->add_subcommand(name, spec.description);
-    runners[sub] = spec.setup(*sub, global);
+    CLI::App* sub = parent->add_subcommand(name, entry.description);
+    runners[sub] = entry.setup(*sub, global);
   }
 
   try {
