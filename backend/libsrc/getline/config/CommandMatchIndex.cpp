@@ -1,13 +1,63 @@
 // First-match lookups over one nesting level of commands.
 #include "config/CommandMatchIndex.h"
 
+#include <algorithm>
+
+#include "grammar/ParserTreeNode.h"
+
 namespace qxparser {
 
-size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
-  for (size_t i = 0; i < mCommands.size(); ++i) {
-    if (mCommands[i]->isComparable(probe)) return i;
+std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
+  std::string key;
+  size_t position = 0;
+  for (const CmdPathEntry& entry : command->getTreeNodes()) {
+    if (entry.node && entry.node->hasFlag(NODE_FLAG_K)) {
+      key += std::to_string(position);
+      key += ':';
+      key += std::to_string(reinterpret_cast<uintptr_t>(entry.node));
+      for (const std::string& word : entry.words) {
+        key += '\x01';
+        key += std::to_string(word.size());
+        key += '=';
+        key += word;
+      }
+      key += '\x02';
+    }
+    ++position;
   }
-  return npos;
+  return key;
+}
+
+CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
+  for (size_t i = 0; i < mCommands.size(); ++i) enter(mCommands[i], static_cast<double>(i));
+}
+
+void CommandMatchIndex::enter(CiscoCommandLine* record, double rank) {
+  mRank[record] = rank;
+  std::string key = signature(record);
+  mBuckets[key].push_back(record);
+  mSignature[record] = std::move(key);
+}
+
+size_t CommandMatchIndex::positionOf(double rank) const {
+  auto found = std::lower_bound(mCommands.begin(), mCommands.end(), rank,
+                                [this](const CiscoCommandLine* c, double r) { return mRank.at(c) < r; });
+  return static_cast<size_t>(found - mCommands.begin());
+}
+
+size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
+  auto bucket = mBuckets.find(signature(probe));
+  if (bucket == mBuckets.end()) return npos;
+  const CiscoCommandLine* best = nullptr;
+  double bestRank = 0;
+  for (const CiscoCommandLine* candidate : bucket->second) {
+    const double rank = mRank.at(candidate);
+    if (best && rank >= bestRank) continue;
+    if (!candidate->isComparable(probe)) continue;
+    best = candidate;
+    bestRank = rank;
+  }
+  return best ? positionOf(bestRank) : npos;
 }
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
@@ -18,7 +68,27 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
 }
 
 void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
+  const double before = position == 0 ? -1.0 : mRank.at(mCommands[position - 1]);
+  const double after = position >= mCommands.size() ? before + 2.0 : mRank.at(mCommands[position]);
   mCommands.insert(mCommands.begin() + static_cast<std::ptrdiff_t>(position), record);
+  const double rank = before + (after - before) / 2;
+  enter(record, rank);
+  if (!(rank > before && rank < after)) renumber();
+}
+
+void CommandMatchIndex::renumber() {
+  for (size_t i = 0; i < mCommands.size(); ++i) mRank[mCommands[i]] = static_cast<double>(i);
+}
+
+void CommandMatchIndex::refresh(size_t position) {
+  CiscoCommandLine* record = mCommands[position];
+  std::string key = signature(record);
+  std::string& old = mSignature[record];
+  if (key == old) return;
+  auto& bucket = mBuckets[old];
+  bucket.erase(std::remove(bucket.begin(), bucket.end(), record), bucket.end());
+  mBuckets[key].push_back(record);
+  old = std::move(key);
 }
 
 }  // namespace qxparser

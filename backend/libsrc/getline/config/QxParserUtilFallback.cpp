@@ -3,6 +3,7 @@
 #include <fstream>
 #include <memory>
 #include <sstream>
+#include <unordered_set>
 
 #include "config/CommandMatchIndex.h"
 #include "config/QxParserUtil.h"
@@ -246,17 +247,17 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
     }
   }
 
-  // New commands go behind the negations.
+  // New commands go behind the negations. A command of `from` is comparable
+  // with a target exactly when their key signatures agree.
+  std::unordered_set<std::string> fromKeys;
+  for (const CiscoCommandLine* command : from) {
+    if (!command->hasFlags(CMDBIT_REMOVED) && !command->getTreeNodes().empty()) {
+      fromKeys.insert(CommandMatchIndex::signature(command));
+    }
+  }
   for (CiscoCommandLine* target : to) {
     if (!target->hasFlags(CMDBIT_STORED)) continue;
-    bool known = false;
-    for (CiscoCommandLine* command : from) {
-      if (command->isComparable(target)) {
-        known = true;
-        break;
-      }
-    }
-    if (!known) out.push_back(copyUnder(target, parent));
+    if (!fromKeys.count(CommandMatchIndex::signature(target))) out.push_back(copyUnder(target, parent));
   }
 }
 

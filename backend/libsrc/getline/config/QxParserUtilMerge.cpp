@@ -82,6 +82,7 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
           }
         } else if (kind == CMD_MERGEABLE) {
           if (!base->mergeCommand(change)) remove(base);
+          index.refresh(at);
         } else {
           remove(base);
         }

@@ -1,0 +1,159 @@
+// Merge of changes into a configuration, sort and the written form.
+#include <string>
+
+#include "ConfigFixture.h"
+
+namespace qxparser {
+namespace {
+
+class MergeTest : public ConfigFixture {};
+
+struct MergeRow {
+  const char* name;
+  const char* changes;
+  const char* config;
+  std::string expected;
+};
+
+const char* const kBase =
+    "hostname r1\n"
+    "interface loopback 0\n"
+    " description old\n"
+    " ip address 1.1.1.1 255.255.255.255\n"
+    "ip route 10.0.0.0 255.0.0.0 1.1.1.1\n"
+    "ip route 10.0.0.0 255.0.0.0 2.2.2.2\n"
+    "access-list 10 permit any\n";
+
+const char* const kBaseOut =
+    "hostname r1 \n"
+    "interface loopback 0 \n"
+    " description old \n"
+    " ip address 1.1.1.1 255.255.255.255 \n"
+    "!\n"
+    "ip route 10.0.0.0 255.0.0.0 1.1.1.1 \n"
+    "ip route 10.0.0.0 255.0.0.0 2.2.2.2 \n"
+    "access-list 10 permit any \n";
+
+TEST_F(MergeTest, EachRuleOfTheMerge) {
+  const std::string baseOut = kBaseOut;
+  const MergeRow rows[] = {
+      // "no" commands
+      {"stored no without match is appended", "no snmp trap 1.1.1.1\n", kBase,
+       baseOut + "no snmp trap 1.1.1.1 \n"},
+      {"unstored no without match does nothing", "no logging host 3.3.3.3\n", kBase, kBaseOut},
+      {"additive no removes the whole run", "no ip route 10.0.0.0 255.0.0.0 1.1.1.1\n", kBase,
+       "hostname r1 \ninterface loopback 0 \n description old \n ip address 1.1.1.1 255.255.255.255 \n!\n"
+       "access-list 10 permit any \n"},
+      {"mergeable no takes words away", "no vlans 10\n", "hostname r1\nvlans 10 20\n", "hostname r1 \nvlans 20 \n"},
+      {"mergeable no of the last word removes the command", "no vlans 10\n", "hostname r1\nvlans 10\n",
+       "hostname r1 \n"},
+      {"no of an overwrite command removes it", "interface loopback 0\n no description\n", kBase,
+       "hostname r1 \ninterface loopback 0 \n ip address 1.1.1.1 255.255.255.255 \n!\n"
+       "ip route 10.0.0.0 255.0.0.0 1.1.1.1 \nip route 10.0.0.0 255.0.0.0 2.2.2.2 \naccess-list 10 permit any \n"},
+      {"stored no removes a comparable positive", "no ip domain lookup\n", "hostname r1\nip domain lookup\n",
+       "hostname r1 \n"},
+      {"stored no beside a stored no changes nothing", "no snmp trap 1.1.1.1\n",
+       "hostname r1\nno snmp trap 1.1.1.1\n", "hostname r1 \nno snmp trap 1.1.1.1 \n"},
+      {"no of a mode head removes its children", "no interface loopback 0\n", kBase,
+       "hostname r1 \nip route 10.0.0.0 255.0.0.0 1.1.1.1 \nip route 10.0.0.0 255.0.0.0 2.2.2.2 \n"
+       "access-list 10 permit any \n"},
+      // positive commands
+      {"unstored positive without match does nothing", "ip domain lookup\n", kBase, kBaseOut},
+      {"unstored positive removes a stored no", "ip domain lookup\n", "hostname r1\nno ip domain lookup\n",
+       "hostname r1 \n"},
+      {"conflicting positive is dropped", "duplex half\n", "hostname r1\nduplex full\n",
+       "hostname r1 \nduplex full \n"},
+      {"equal additive changes nothing", "ip route 10.0.0.0 255.0.0.0 2.2.2.2\n", kBase, kBaseOut},
+      {"new additive goes behind its run", "ip route 10.0.0.0 255.0.0.0 3.3.3.3\n", kBase,
+       "hostname r1 \ninterface loopback 0 \n description old \n ip address 1.1.1.1 255.255.255.255 \n!\n"
+       "ip route 10.0.0.0 255.0.0.0 1.1.1.1 \nip route 10.0.0.0 255.0.0.0 2.2.2.2 \n"
+       "ip route 10.0.0.0 255.0.0.0 3.3.3.3 \naccess-list 10 permit any \n"},
+      {"positive cancels a stored no and adds nothing", "snmp trap 1.1.1.1\n",
+       "hostname r1\nno snmp trap 1.1.1.1\n", "hostname r1 \n"},
+      {"overwrite replaces in place", "hostname r2\n", kBase,
+       "hostname r2 \ninterface loopback 0 \n description old \n ip address 1.1.1.1 255.255.255.255 \n!\n"
+       "ip route 10.0.0.0 255.0.0.0 1.1.1.1 \nip route 10.0.0.0 255.0.0.0 2.2.2.2 \naccess-list 10 permit any \n"},
+      {"overwrite inside a mode keeps the place", "interface loopback 0\n description new text\n", kBase,
+       "hostname r1 \ninterface loopback 0 \n description new text \n ip address 1.1.1.1 255.255.255.255 \n!\n"
+       "ip route 10.0.0.0 255.0.0.0 1.1.1.1 \nip route 10.0.0.0 255.0.0.0 2.2.2.2 \naccess-list 10 permit any \n"},
+      {"mergeable positive joins words", "vlans 30\n", "hostname r1\nvlans 10 20\n",
+       "hostname r1 \nvlans 10 20 30 \n"},
+      {"new mode command with children", "interface gigabitethernet 0/2\n description up\n", "hostname r1\n",
+       "hostname r1 \ninterface gigabitethernet 0/2 \n description up \n!\n"},
+      {"empty mode still ends with its mark", "interface loopback 1\n", "hostname r1\n",
+       "hostname r1 \ninterface loopback 1 \n!\n"},
+      {"unparsable change is dropped", "frobnicate everything\n", "hostname r1\n", "hostname r1 \n"},
+  };
+  for (const MergeRow& row : rows) {
+    EXPECT_EQ(QxParserUtil::mergeConfigCmds(row.changes, row.config), row.expected) << row.name;
+  }
+}
+
+TEST_F(MergeTest, EmptyTextReturnsTheOtherAsItStands) {
+  EXPECT_EQ(QxParserUtil::mergeConfigCmds("", "hostname  r1\n! x\n"), "hostname  r1\n! x\n");
+  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname  r1\n! x\n", ""), "hostname  r1\n! x\n");
+}
+
+TEST_F(MergeTest, CommentsOfTheConfigurationDoNotComeBack) {
+  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname r2\n", "! top\nhostname r1\n!\n"), "hostname r2 \n");
+}
+
+// Records with only the keys that the sort reads.
+std::unique_ptr<CiscoCommandLine> keyed(const char* text, int lineNo, int orderNo) {
+  auto record = std::make_unique<CiscoCommandLine>();
+  record->setOriginalCmd(text);
+  record->setLineNo(lineNo);
+  record->setOrderNo(orderNo);
+  return record;
+}
+
+std::string names(const std::vector<CiscoCommandLine*>& commands) {
+  std::string out;
+  for (const CiscoCommandLine* c : commands) out += c->getOriginalCmd();
+  return out;
+}
+
+TEST_F(MergeTest, SelectionSortKeepsItsNonStrictOrderIntended) {
+  struct Row {
+    const char* name;
+    std::vector<std::tuple<const char*, int, int>> input;
+    const char* expected;
+  };
+  const Row rows[] = {
+      {"line numbers order the old commands", {{"c", 3, 0}, {"a", 1, 0}, {"b", 2, 0}}, "abc"},
+      {"order numbers place a new command", {{"x", 0, 5}, {"y", 0, 2}}, "yx"},
+      {"mixed keys: line number beats order number only pairwise",
+       {{"a", 2, 9}, {"n", 0, 1}, {"b", 1, 9}},
+       // i=0: candidate a; vs n (no line) order 9>1 -> n; vs b (n has no
+       // line) order 1<9 stays n. i=1: a vs b by line 2>1 -> b.
+       "nba"},
+      {"neither key keeps the candidate found first", {{"p", 0, 0}, {"q", 0, 0}, {"r", 1, 0}}, "pqr"},
+      {"equal keys keep the first", {{"s", 0, 3}, {"t", 0, 3}}, "st"},
+      {"a keyless command blocks nothing", {{"z", 0, 0}, {"b", 2, 0}, {"a", 1, 0}}, "zab"},
+  };
+  for (const Row& row : rows) {
+    std::vector<std::unique_ptr<CiscoCommandLine>> owned;
+    std::vector<CiscoCommandLine*> commands;
+    for (const auto& [text, line, order] : row.input) {
+      owned.push_back(keyed(text, line, order));
+      commands.push_back(owned.back().get());
+    }
+    QxParserUtil::SortCiscoCommands(commands);
+    EXPECT_EQ(names(commands), row.expected) << row.name;
+  }
+}
+
+TEST_F(MergeTest, IndentKeepsNulBytesIntended) {
+  TopLevel top("router ospf 1\n network 10.0.0.0 0.0.0.255 area 0\n");
+  ASSERT_EQ(top.get().size(), 1u);
+  const std::string depth0 = QxParserUtilPeer::expand(top.get(), 0);
+  EXPECT_EQ(depth0, "router ospf 1 \n network 10.0.0.0 0.0.0.255 area 0 \n!\n");
+  const std::string depth1 = QxParserUtilPeer::expand(top.get(), 1);
+  EXPECT_EQ(depth1, std::string(" router ospf 1 \n \0network 10.0.0.0 0.0.0.255 area 0 \n !\n", 56));
+  const std::string depth3 = QxParserUtilPeer::expand(top.get(), 3);
+  EXPECT_EQ(depth3.substr(0, 4), std::string(" \0\0r", 4));
+  EXPECT_EQ(depth3.substr(depth3.size() - 5), std::string(" \0\0!\n", 5));
+}
+
+}  // namespace
+}  // namespace qxparser

@@ -1,0 +1,183 @@
+// Searches of a configuration file and the queries built on them.
+#include <list>
+#include <string>
+
+#include "ConfigFixture.h"
+#include "config/QXParserGetConfig.h"
+
+namespace qxparser {
+
+struct QXParserGetConfigPeer {
+  static void orderAcl(const std::string& text, std::list<std::string>& out) {
+    QXParserGetConfig::orderAcl(text, out);
+  }
+};
+
+namespace {
+
+const char* const kDevice =
+    "hostname r1\r\n"
+    "banner motd ^C\n"
+    "interface gigabitethernet 0/9\n"
+    "^C\n"
+    "interface loopback 0\n"
+    " description lo\n"
+    "! comment inside the section\n"
+    " ip vrf forwarding red\n"
+    "--More--\b\b\b ip address 2.2.2.2 255.0.0.0\n"
+    "\n"
+    "interface gigabitethernet 0/1\n"
+    " description gi\n"
+    "ip vrf red\n"
+    " rd 1:1\n"
+    "router ospf 1\n"
+    " network 10.0.0.0 0.0.0.255 area 0\n"
+    " router-id 1.1.1.1\n"
+    "access-list 10 permit any\n"
+    "access-list 10 deny any\n"
+    "ip access-list standard 10\n"
+    " permit any\n"
+    "access-list 20 permit any\n"
+    "ip access-list standard named\n"
+    " deny any\n"
+    "ip nat pool p1\n";
+
+const char* const kLoopback =
+    "interface loopback 0 \n   description lo\n   ip vrf forwarding red\n   ip address 2.2.2.2 255.0.0.0\n";
+
+class SearchTest : public ConfigFixture {
+ protected:
+  void SetUp() override { mPath = writeConfig("device.cfg", kDevice); }
+  std::string search(const std::string& key, int type, const std::string& before = "") {
+    std::string result = before;
+    QxParserUtil::GetCmdsFromConfig(mPath, result, key, static_cast<SEARCHTYPE>(type));
+    return result;
+  }
+  std::string mPath;
+};
+
+TEST_F(SearchTest, SearchKindsAndKeys) {
+  struct Row {
+    const char* name;
+    const char* key;
+    int type;
+    std::string expected;
+  };
+  const Row rows[] = {
+      {"section with comment and pager inside", "interface loopback 0", SEARCH_SECTION, kLoopback},
+      {"two sections at equal level follow each other", "interface", SEARCH_SECTION,
+       std::string(kLoopback) + "interface gigabitethernet 0/1 \n   description gi\n"},
+      {"line search skips banner text", "interface", SEARCH_LINE,
+       "interface loopback 0\ninterface gigabitethernet 0/1\n"},
+      {"banner line is no match", "interface gigabitethernet 0/9", SEARCH_SECTION, ""},
+      {"section body without head", "router ospf 1", SEARCH_SECTION_BODY,
+       "   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n"},
+      {"kind 3 returns nothing", "router ospf 1", 3, ""},
+      {"kind above 6 returns nothing", "router ospf 1", 7, ""},
+      {"numbered and named access list with body", "access-list 10", SEARCH_ACL_SECTION,
+       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n"},
+      {"alternative kind acts the same", "access-list 10", SEARCH_ACL_SECTION_ALT,
+       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n"},
+      {"access list heads only", "access-list 10", SEARCH_ACL_LINE,
+       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n"},
+      {"section that runs to the end of the file", "ip nat pool p1", SEARCH_SECTION, "ip nat pool p1 \n"},
+      {"empty key", "", SEARCH_SECTION, ""},
+  };
+  for (const Row& row : rows) EXPECT_EQ(search(row.key, row.type), row.expected) << row.name;
+}
+
+TEST_F(SearchTest, ResultIsAppendedToEarlierText) {
+  EXPECT_EQ(search("router", SEARCH_LINE, "earlier\n"), "earlier\nrouter ospf 1\n");
+}
+
+TEST_F(SearchTest, BodyLineDirectlyBehindANamedListIsConsumedIntended) {
+  const std::string path = writeConfig("acl.cfg",
+                                       "ip access-list standard 10\n permit any\naccess-list 10 deny any\n"
+                                       "access-list 10 permit any\n");
+  std::string result;
+  QxParserUtil::GetCmdsFromConfig(path, result, "access-list 10", SEARCH_ACL_SECTION);
+  EXPECT_EQ(result, "ip access-list standard 10\n permit any\naccess-list 10 permit any\n");
+}
+
+TEST_F(SearchTest, MissingFileGivesNothing) {
+  std::string result = "kept";
+  QxParserUtil::GetCmdsFromConfig(mPath + ".missing", result, "router", SEARCH_LINE);
+  EXPECT_EQ(result, "kept");
+}
+
+TEST_F(SearchTest, BannerOfTwoWordsKeepsNulDelimiterAndDropsTheRestIntended) {
+  const std::string path = writeConfig("banner.cfg", "banner motd\nrouter ospf 1\n^\nrouter ospf 2\n");
+  std::string result;
+  QxParserUtil::GetCmdsFromConfig(path, result, "router", SEARCH_LINE);
+  EXPECT_EQ(result, "");
+}
+
+TEST_F(SearchTest, Queries) {
+  std::string out = "earlier";
+  QXParserGetConfig::GetAllVrfs(mPath, 0, out);
+  EXPECT_EQ(out, "ip vrf red\n");
+
+  out.clear();
+  QXParserGetConfig::GetVrfCmds(mPath, 0, "ip vrf red", out);
+  EXPECT_EQ(out, "   rd 1:1\n");
+
+  out.clear();
+  QXParserGetConfig::GetRoutingProtocols(mPath, 0, out);
+  EXPECT_EQ(out, "router ospf 1\n");
+
+  out.clear();
+  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, "router ospf 1", out);
+  EXPECT_EQ(out, "router ospf 1\n   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n");
+
+  out.clear();
+  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, "router ospf 2", out);
+  EXPECT_EQ(out, "") << "no head line without a section";
+
+  out.clear();
+  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, std::vector<std::string>{"router ospf 2", "router ospf 1"},
+                                              out);
+  EXPECT_EQ(out, "router ospf 1\n   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n");
+
+  out.clear();
+  QXParserGetConfig::getInterfaceConfig(mPath, 0, "Loopback 0", out);
+  EXPECT_EQ(out, kLoopback);
+  out = "kept";
+  QXParserGetConfig::getInterfaceConfig(mPath + ".missing", 0, "", out);
+  EXPECT_EQ(out, "kept");
+
+  std::vector<std::string> sections;
+  QXParserGetConfig::getInterfacesConfig(mPath, 0, {"GigabitEthernet0/1", "Loopback0", "Serial0"}, sections);
+  ASSERT_EQ(sections.size(), 2u);
+  EXPECT_EQ(sections[0], "interface gigabitethernet 0/1 \n   description gi\n");
+  EXPECT_EQ(sections[1], kLoopback);
+
+  out.clear();
+  QXParserGetConfig::getIpNatConfig(mPath, 0, "ip nat pool p1", out);
+  EXPECT_EQ(out, "ip nat pool p1 \n");
+  out.clear();
+  QXParserGetConfig::getRouteMapConfig(mPath, 0, "ip nat pool p1", out);
+  EXPECT_EQ(out, "ip nat pool p1 \n");
+
+  out.clear();
+  QXParserGetConfig::getAclConfig(mPath, 0, "access-list 10", out);
+  EXPECT_EQ(out, "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n");
+
+  std::list<std::string> acls;
+  QXParserGetConfig::getAcls(mPath, 0, acls);
+  EXPECT_EQ(acls, (std::list<std::string>{"access-list 10", "ip access-list standard 10", "access-list 20",
+                                          "ip access-list standard named"}));
+}
+
+TEST_F(SearchTest, OrderAclGroupsBothSpellings) {
+  std::list<std::string> out;
+  QXParserGetConfigPeer::orderAcl(
+      "access-list 10 permit any\naccess-list 2 permit any\naccess-list 10 deny any\n"
+      "ip access-list standard 10\nip access-list extended web\n",
+      out);
+  EXPECT_EQ(out, (std::list<std::string>{"access-list 10\n  permit any\n  deny any\n  ip access-list standard 10\n",
+                                         "access-list 2\n  permit any\n",
+                                         "ip access-list extended web\n  ip access-list extended web\n"}));
+}
+
+}  // namespace
+}  // namespace qxparser

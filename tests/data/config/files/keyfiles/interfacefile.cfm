@@ -1,0 +1,2 @@
+gigabitethernet|gigabit ethernet interface
+loopback|loopback interface

@@ -1,0 +1,6 @@
+rd|route distinguisher|k/o/n||
+  <value>|distinguisher|||
+    <cr>|||||
+    !
+  !
+!
