@@ -2300,3 +2300,53 @@ service|service|k||
     !
   !
 !
+bgp-policy|bgp-policy|k||
+  accounting|accounting|k||
+    input|input|k||
+      <cr>||||
+      !
+      source|source|k||
+        <cr>||||
+        !
+      !
+    !
+    output|output|k||
+      <cr>||||
+      !
+      source|source|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  source|source|k||
+    ip-prec-map|ip-prec-map|k||
+      <cr>||||
+      !
+    !
+    ip-qos-map|ip-qos-map|k||
+      <cr>||||
+      !
+    !
+  !
+  destination|destination|k||
+    ip-prec-map|ip-prec-map|k||
+      <cr>||||
+      !
+    !
+    ip-qos-map|ip-qos-map|k||
+      <cr>||||
+      !
+    !
+  !
+!
+medium|medium|k||
+  p2p|p2p|k||
+    <cr>||||
+    !
+  !
+  broadcast|broadcast|k||
+    <cr>||||
+    !
+  !
+!

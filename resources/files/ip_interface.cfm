@@ -56,6 +56,20 @@ unnumbered|unnumbered|k||
     !
   !
 !
+cef|cef|k||
+  accounting|accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+flowspec|flowspec|k||
+  disable|disable|k||
+    <cr>||||
+    !
+  !
+!
 vrf|vrf|k||
   forwarding|forwarding|k||
     word|word|o||

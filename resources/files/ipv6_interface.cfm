@@ -1,3 +1,13 @@
+cef|cef|k||
+  <cr>||||
+  !
+  accounting|accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
 address|address|k||
   <x:x::x/n>|x:x::x/n|k||
     <cr>||||
@@ -80,6 +90,16 @@ nd|nd|k||
       id|id|||
         <cr>||||
         !
+      !
+    !
+    solicited|solicited|k||
+      unicast|unicast|k||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
       !
     !
   !
@@ -380,10 +400,6 @@ access-list|access-list|k||
       <cr>||||
       !
     !
-  !
-!
-cef|cef|k||
-  <cr>||||
   !
 !
 source-route|source-route|k||

@@ -733,3 +733,18 @@ service
     id :k
       ethernet @(config-if-srv)#=generic.cfm
         word @(config-if-srv)#=generic.cfm
+bgp-policy
+  accounting
+    input $
+      source $
+    output $
+      source $
+  source
+    ip-prec-map $
+    ip-qos-map $
+  destination
+    ip-prec-map $
+    ip-qos-map $
+medium
+  p2p $
+  broadcast $

@@ -16,6 +16,11 @@ address "set the ip address of an interface" :n
     word $
 unnumbered
   %IF
+cef
+  accounting
+    line *
+flowspec
+  disable $
 vrf
   forwarding
     word :o $
@@ -322,6 +327,9 @@ port-unreachable $
 gratuitous-arps $
 
 file ipv6_interface.cfm
+cef $
+  accounting
+    line *
 address
   <x:x::x/n> :k $
     eui-64 $
@@ -347,6 +355,9 @@ nd
       id $
     lifetime
       id $
+    solicited
+      unicast $
+    line *
   prefix
     line *
   reachable-time
@@ -443,7 +454,6 @@ nat $
 access-list
   word $
     line *
-cef $
 source-route $
 flow
   line *
