@@ -1320,6 +1320,10 @@ clock|configure time-of-day clock|k||
       id|id|||
         <cr>||||
         !
+        id|id|||
+          <cr>||||
+          !
+        !
       !
     !
   !

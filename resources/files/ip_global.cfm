@@ -159,7 +159,7 @@ name-server|name-server|k||
       !
     !
   !
-  <x:x::x>|x:x::x|k||
+  word|word|k||
     <cr>||||
     !
   !

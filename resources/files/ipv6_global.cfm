@@ -25,12 +25,12 @@ multicast|multicast|k||
   !
 !
 route|establish static routes|k||
-  <x:x::x/n>|x:x::x/n|k||
+  word|word|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
         !
-        <x:x::x>|x:x::x|||
+        word|word|||
           <cr>||||
           !
           line|line|lb/le/wa||
@@ -48,7 +48,7 @@ route|establish static routes|k||
         !
       !
     !
-    <x:x::x>|x:x::x|||
+    word|word|||
       <cr>||||
       !
       id|id|||

@@ -531,7 +531,7 @@ neighbor|specify a neighbor router|k||
       !
     !
   !
-  <x:x::x>|x:x::x|k||
+  word|word|k||
     remote-as|specify a bgp neighbor|k||
       <as>|as|o||
         <cr>||||
@@ -1697,7 +1697,7 @@ neighbor|neighbor|k||
       !
     !
   !
-  <x:x::x>|x:x::x|k||
+  word|word|k||
     remote-as|specify a bgp neighbor|k||
       <as>|as|o||
         <cr>||||
@@ -2061,7 +2061,7 @@ network|specify a network to announce via bgp|k||
       !
     !
   !
-  <x:x::x/n>|x:x::x/n|k||
+  word|word|k||
     <cr>||||
     !
     route-map|route-map|k||

@@ -331,7 +331,7 @@ neighbor|neighbor|k||
       !
     !
   !
-  <x:x::x>|x:x::x|k||
+  word|word|k||
     remote-as|specify a bgp neighbor|k||
       <as>|as|o||
         <cr>||||
@@ -695,7 +695,7 @@ network|specify a network to announce via bgp|k||
       !
     !
   !
-  <x:x::x/n>|x:x::x/n|k||
+  word|word|k||
     <cr>||||
     !
     route-map|route-map|k||

@@ -51,7 +51,7 @@ name-server
   a.b.c.d :k $
     a.b.c.d :k $
       a.b.c.d :k $
-  <x:x::x> :k $
+  word :k $
 host
   word :k
     a.b.c.d $
@@ -593,13 +593,13 @@ multicast-routing $
 multicast
   line *
 route "establish static routes"
-  <x:x::x/n> :k
+  word :k
     %IF
-      <x:x::x> $
+      word $
         line *
       id $
       line *
-    <x:x::x> $
+    word $
       id $
       line *
   vrf

@@ -103,7 +103,7 @@ def AFBODY
   neighbor
     a.b.c.d :k
       %BGPNEIGHBOR
-    <x:x::x> :k
+    word :k
       %BGPNEIGHBOR
   network "specify a network to announce via bgp"
     a.b.c.d :k $
@@ -115,7 +115,7 @@ def AFBODY
       route-map
         word $
       backdoor $
-    <x:x::x/n> :k $
+    word :k $
       route-map
         word $
   redistribute "redistribute information from another routing protocol"
@@ -255,7 +255,7 @@ bgp "bgp specific commands"
 neighbor "specify a neighbor router"
   a.b.c.d :k
     %BGPNEIGHBOR
-  <x:x::x> :k
+  word :k
     %BGPNEIGHBOR
   word :k
     peer-group $

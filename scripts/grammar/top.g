@@ -452,6 +452,7 @@ clock "configure time-of-day clock"
       +/-<metric> $
         id $
       id $
+        id $
   summer-time
     word :o
       recurring $
