@@ -1,7 +1,7 @@
 any|any address|k||
   <cr>||||
   !
-  log|log matches|k/ob/oe||
+  log|log matches|k||
     <cr>||||
     !
   !
@@ -10,7 +10,7 @@ host|a single host|k||
   a.b.c.d|host address|k||
     <cr>||||
     !
-    log|log matches|k/ob/oe||
+    log|log matches|k||
       <cr>||||
       !
     !
@@ -22,7 +22,7 @@ a.b.c.d|address|k||
   a.b.c.d|wildcard bits|k||
     <cr>||||
     !
-    log|log matches|k/ob/oe||
+    log|log matches|k||
       <cr>||||
       !
     !

@@ -15,7 +15,7 @@ file acl_ext_entry.cfm
 
 file acl_std_entry.cfm
 %SADDR
-  log :ob/oe "log matches" $
+  log "log matches" $
 
 file acl_ext.cfm
 permit "forward packets" &acl_ext_entry.cfm

@@ -25,9 +25,7 @@ def SADDR
 
 def PORT
   eq "port equal to"
-    &portfile.cfm :k "port" $
-      &portfile.cfm :k "port" $
-        &portfile.cfm :k "port" $
+    &portfile.cfm :k/lb/le "port" $
   neq "port not equal to"
     &portfile.cfm :k "port" $
   gt "port greater than"
@@ -39,45 +37,81 @@ def PORT
       &portfile.cfm :k "last port" $
 
 def ACLOPTS
-  log :ob/oe "log matches" $
-  log-input :ob/oe "log matches with the input interface" $
-  established :ob/oe "established connections" $
-  fragments :ob/oe "non-initial fragments" $
-  echo :ob/oe "echo" $
-  echo-reply :ob/oe "echo reply" $
-  unreachable :ob/oe "unreachable" $
-  time-exceeded :ob/oe "time exceeded" $
-  packet-too-big :ob/oe "packet too big" $
-  port-unreachable :ob/oe "port unreachable" $
-  administratively-prohibited :ob/oe "administratively prohibited" $
-  traceroute :ob/oe "traceroute" $
-  nd-na :ob/oe "neighbor advertisement" $
-  nd-ns :ob/oe "neighbor solicitation" $
-  router-advertisement :ob/oe "router advertisement" $
-  router-solicitation :ob/oe "router solicitation" $
-  syn :ob/oe "syn flag" $
-  ack :ob/oe "ack flag" $
-  rst :ob/oe "rst flag" $
-  fin :ob/oe "fin flag" $
-  dscp :ob "dscp value"
-    <value> :oe "dscp" $
-  precedence :ob "precedence value"
-    <value> :oe "precedence" $
-  tos :ob "type of service"
-    <value> :oe "tos" $
-  time-range :ob "time range"
-    word :oe "time range name" $
-  ttl :ob "time to live"
+  log  "log matches" $
+  log-input  "log matches with the input interface" $
+  established  "established connections" $
+    log $
+    log-input $
+  fragments  "non-initial fragments" $
+    log $
+    log-input $
+  echo  "echo" $
+    log $
+    log-input $
+  echo-reply  "echo reply" $
+    log $
+    log-input $
+  unreachable  "unreachable" $
+    log $
+    log-input $
+  time-exceeded  "time exceeded" $
+    log $
+    log-input $
+  packet-too-big  "packet too big" $
+    log $
+    log-input $
+  port-unreachable  "port unreachable" $
+    log $
+    log-input $
+  administratively-prohibited  "administratively prohibited" $
+    log $
+    log-input $
+  traceroute  "traceroute" $
+    log $
+    log-input $
+  nd-na  "neighbor advertisement" $
+    log $
+    log-input $
+  nd-ns  "neighbor solicitation" $
+    log $
+    log-input $
+  router-advertisement  "router advertisement" $
+    log $
+    log-input $
+  router-solicitation  "router solicitation" $
+    log $
+    log-input $
+  syn  "syn flag" $
+    log $
+    log-input $
+  ack  "ack flag" $
+    log $
+    log-input $
+  rst  "rst flag" $
+    log $
+    log-input $
+  fin  "fin flag" $
+    log $
+    log-input $
+  dscp "dscp value"
+    <value> "dscp" $
+  precedence "precedence value"
+    <value> "precedence" $
+  tos "type of service"
+    <value> "tos" $
+  time-range "time range"
+    word "time range name" $
+  ttl "time to live"
     eq
-      id :oe $
+      id $
     gt
-      id :oe $
+      id $
     lt
-      id :oe $
-  option :ob "ip option"
-    word :oe $
-  sequence :ob "sequence number"
-    id :oe $
+      id $
+  option "ip option"
+    word $
+  sequence "sequence number"
+    id $
 
 def COMMUNITY
   <aa:nn> :wa/lb/le "community value" $
