@@ -1,0 +1,78 @@
+server|server|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  name|name|k||
+    word|word|k||
+      <cr>||||
+      !
+    !
+  !
+  word|word|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ip|ip|k||
+  tacacs|tacacs|k||
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  radius|radius|k||
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  vrf|vrf|k||
+    forwarding|forwarding|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+client|client|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+server-key|server-key|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+auth-type|auth-type|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+attribute|attribute|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

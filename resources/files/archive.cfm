@@ -1,0 +1,62 @@
+path|path|k||
+  line|line|o||
+    <cr>||||
+    !
+  !
+!
+maximum|maximum|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+log|log|k||
+  config|config|k||
+    <cr>||||@(config-archive-log-cfg)# archive_nested.cfm
+    !
+  !
+!
+logging|logging|k||
+  enable|enable|k||
+    <cr>||||
+    !
+  !
+  size|size|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+notify|notify|k||
+  syslog|syslog|k||
+    <cr>||||
+    !
+    contenttype|contenttype|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+hidekeys|hidekeys|k||
+  <cr>||||
+  !
+!
+write-memory|write-memory|k||
+  <cr>||||
+  !
+!
+time-period|time-period|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+rollback|rollback|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

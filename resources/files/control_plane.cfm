@@ -1,0 +1,20 @@
+service-policy|service-policy|k||
+  input|input|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+  output|output|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+!
+management-interface|management-interface|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

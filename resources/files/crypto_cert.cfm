@@ -1,0 +1,24 @@
+certificate|certificate|k||
+  self-signed|self-signed|k||
+    word|word|k||
+      <cr>||||
+      !
+    !
+  !
+  ca|ca|k||
+    word|word|k||
+      <cr>||||
+      !
+    !
+  !
+  rollover|rollover|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  word|word|k||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,90 @@
+encryption|encryption|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+integrity|integrity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+group|group|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+prf|prf|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+proposal|proposal|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+match|match|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+peer|peer|k||
+  word|word|k||
+    <cr>||||
+    !
+  !
+!
+address|address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pre-shared-key|pre-shared-key|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+authentication|authentication|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+keyring|keyring|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+identity|identity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+lifetime|lifetime|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+dpd|dpd|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,184 @@
+encr|encryption|k||
+  aes|aes|k/o||
+    <cr>||||
+    !
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  3des|3des|k/o||
+    <cr>||||
+    !
+  !
+  des|des|k/o||
+    <cr>||||
+    !
+  !
+!
+encryption|encryption|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+hash|hash|k||
+  md5|md5|k/o||
+    <cr>||||
+    !
+  !
+  sha|sha|k/o||
+    <cr>||||
+    !
+  !
+  sha256|sha256|k/o||
+    <cr>||||
+    !
+  !
+  sha384|sha384|k/o||
+    <cr>||||
+    !
+  !
+  sha512|sha512|k/o||
+    <cr>||||
+    !
+  !
+!
+authentication|authentication|k||
+  pre-share|pre-share|k/o||
+    <cr>||||
+    !
+  !
+  rsa-sig|rsa-sig|k/o||
+    <cr>||||
+    !
+  !
+  rsa-encr|rsa-encr|k/o||
+    <cr>||||
+    !
+  !
+  ecdsa-sig|ecdsa-sig|k/o||
+    <cr>||||
+    !
+  !
+!
+group|group|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+lifetime|lifetime|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+key|key|k||
+  line|line|o||
+    <cr>||||
+    !
+  !
+!
+pool|pool|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+dns|dns|k||
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+  !
+!
+domain|domain|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+acl|acl|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+save-password|save-password|k||
+  <cr>||||
+  !
+!
+include-local-lan|include-local-lan|k||
+  <cr>||||
+  !
+!
+split-dns|split-dns|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+netmask|netmask|k||
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+  !
+!
+max-users|max-users|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+max-logins|max-logins|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+banner|banner|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+firewall|firewall|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+backup-gateway|backup-gateway|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pfs|pfs|k||
+  <cr>||||
+  !
+!
+dhcp|dhcp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+wins|wins|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+crypto|crypto|k||
+  aaa|aaa|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!

@@ -1,0 +1,160 @@
+vrf|vrf|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+keyring|keyring|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+match|match|k||
+  identity|identity|k||
+    address|address|k||
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+        a.b.c.d|a.b.c.d|||
+          <cr>||||
+          !
+        !
+        word|word|||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      ipv6|ipv6|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    host|host|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    group|group|k||
+      word|word|k||
+        <cr>||||
+        !
+      !
+    !
+    user|user|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  certificate|certificate|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+local-address|local-address|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+self-identity|self-identity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+keepalive|keepalive|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+initiate|initiate|k||
+  mode|mode|k||
+    aggressive|aggressive|k||
+      <cr>||||
+      !
+    !
+  !
+!
+client|client|k||
+  configuration|configuration|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  authentication|authentication|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+isakmp|isakmp|k||
+  authorization|authorization|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+virtual-template|virtual-template|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+ca|ca|k||
+  trust-point|trust-point|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+qos-group|qos-group|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+accounting|accounting|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+dpd|dpd|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

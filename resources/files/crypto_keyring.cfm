@@ -1,0 +1,64 @@
+pre-shared-key|pre-shared-key|k||
+  address|address|k||
+    a.b.c.d|a.b.c.d|k||
+      a.b.c.d|a.b.c.d|k||
+        key|key|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      key|key|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    ipv6|ipv6|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  hostname|hostname|k||
+    word|word|k||
+      key|key|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+local-address|local-address|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rsa-pubkey|rsa-pubkey|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

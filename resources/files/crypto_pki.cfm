@@ -1,0 +1,160 @@
+enrollment|enrollment|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+serial-number|serial-number|k||
+  <cr>||||
+  !
+  none|none|k||
+    <cr>||||
+    !
+  !
+!
+ip-address|ip-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+subject-name|subject-name|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+subject-alt-name|subject-alt-name|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+revocation-check|revocation-check|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rsakeypair|rsakeypair|k||
+  word|word|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+fqdn|fqdn|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+auto-enroll|auto-enroll|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+usage|usage|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+password|password|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+hash|hash|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+fingerprint|fingerprint|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+chain-validation|chain-validation|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+crl|crl|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+database|database|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+issuer-name|issuer-name|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+lifetime|lifetime|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+grant|grant|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+source|source|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vrf|vrf|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+storage|storage|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+eku|eku|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+match|match|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+trustpoint|trustpoint|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+no-shutdown|no-shutdown|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,14 @@
+mode|mode|k||
+  tunnel|tunnel|k/o||
+    <cr>||||
+    !
+  !
+  transport|transport|k/o||
+    <cr>||||
+    !
+    require|require|k||
+      <cr>||||
+      !
+    !
+  !
+!

@@ -1,0 +1,214 @@
+network|network|k||
+  a.b.c.d|a.b.c.d|o||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+    </nn>|/nn|||
+      <cr>||||
+      !
+    !
+  !
+!
+default-router|default-router|k||
+  a.b.c.d|a.b.c.d|m||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|m||
+      <cr>||||
+      !
+      a.b.c.d|a.b.c.d|m||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+dns-server|dns-server|k||
+  a.b.c.d|a.b.c.d|m||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|m||
+      <cr>||||
+      !
+      a.b.c.d|a.b.c.d|m||
+        <cr>||||
+        !
+        a.b.c.d|a.b.c.d|m||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+domain-name|domain-name|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+lease|lease|k||
+  id|id|o||
+    <cr>||||
+    !
+    id|id|||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  infinite|infinite|k||
+    <cr>||||
+    !
+  !
+!
+option|option|k||
+  id|id|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+host|host|k||
+  a.b.c.d|a.b.c.d|o||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+    </nn>|/nn|||
+      <cr>||||
+      !
+    !
+  !
+!
+client-identifier|client-identifier|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+hardware-address|hardware-address|k||
+  word|word|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+client-name|client-name|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+netbios-name-server|netbios-name-server|k||
+  a.b.c.d|a.b.c.d|m||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|m||
+      <cr>||||
+      !
+    !
+  !
+!
+netbios-node-type|netbios-node-type|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+next-server|next-server|k||
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+  !
+!
+bootfile|bootfile|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+import|import|k||
+  all|all|k||
+    <cr>||||
+    !
+  !
+!
+update|update|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vrf|vrf|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+relay|relay|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+class|class|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+utilization|utilization|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+origin|origin|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+subnet|subnet|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address|address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+dns|dns|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+prefix-delegation|prefix-delegation|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+domain-search|domain-search|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

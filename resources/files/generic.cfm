@@ -1,0 +1,562 @@
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!
+zone|zone|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ras|ras|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+gw-type-prefix|gw-type-prefix|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+lrq|lrq|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+bandwidth|bandwidth|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+endpoint|endpoint|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+arq|arq|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+gateway|gateway|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+member|member|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+cor|cor|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+name|name|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+reachability|reachability|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+delay|delay|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+default-state|default-state|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+object|object|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+virtual-ip|virtual-ip|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+cli|cli|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+event|event|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+action|action|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+cron|cron|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+policy-list|policy-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+protocol|protocol|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pppoe|pppoe|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+virtual-template|virtual-template|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+sessions|sessions|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+activate|activate|k||
+  <cr>||||
+  !
+!
+profile|profile|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vnic|vnic|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+guest-ipaddress|guest-ipaddress|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+app-vnic|app-vnic|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+app-default-gateway|app-default-gateway|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+app-resource|app-resource|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+start|start|k||
+  <cr>||||
+  !
+!
+destination|destination|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+contact-email-addr|contact-email-addr|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+service|service|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+http-proxy|http-proxy|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+encapsulation|encapsulation|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ip|ip|k||
+  address|address|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  nbar|nbar|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+accept-dialin|accept-dialin|k||
+  <cr>||||@(config-vpdn-acc-in)# generic_nested.cfm
+  !
+!
+request-dialin|request-dialin|k||
+  <cr>||||@(config-vpdn-req-in)# generic_nested.cfm
+  !
+!
+l2tp|l2tp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+lcp|lcp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+codec|codec|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+session|session|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+incoming|incoming|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vad|vad|k||
+  <cr>||||
+  !
+!
+dtmf-relay|dtmf-relay|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+answer-address|answer-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+destination-pattern|destination-pattern|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+port|port|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+huntstop|huntstop|k||
+  <cr>||||
+  !
+!
+rule|rule|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+translate|translate|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+fax|fax|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+modem|modem|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+h323|h323|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+sip|sip|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+allow-connections|allow-connections|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+supplementary-service|supplementary-service|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+no-shutdown|no-shutdown|k||
+  <cr>||||
+  !
+!
+match|match|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rekey|rekey|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+sa|sa|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+server|server|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address|address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+identity|identity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+type|type|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timer|timer|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+reverse-route|reverse-route|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+interface|interface|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+interworking|interworking|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+control-word|control-word|k||
+  <cr>||||
+  !
+!
+preferred-path|preferred-path|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+sequencing|sequencing|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+next-address|next-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+index|index|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exclude-address|exclude-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+hostname|hostname|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+hidekeys|hidekeys|k||
+  <cr>||||
+  !
+!
+enable|enable|k||
+  <cr>||||
+  !
+!
+monitor|monitor|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+path|path|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+frequency|frequency|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+security|security|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+recovery|recovery|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+version|version|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+transport|transport|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+subscribe-to-alert-group|subscribe-to-alert-group|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+profile|profile|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+credential|credential|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+clock|clock|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mtu|mtu|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,1786 @@
+cef|cisco express forwarding|k/sn||
+  <cr>||||
+  !
+  distributed|distributed|k||
+    <cr>||||
+    !
+  !
+  accounting|accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  load-sharing|load-sharing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  optimize|optimize|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+routing|ip routing|k/sn||
+  <cr>||||
+  !
+  protocol|protocol|k||
+    purge|purge|k||
+      interface|interface|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+classless|classless|k/sn||
+  <cr>||||
+  !
+!
+subnet-zero|subnet-zero|k/sn||
+  <cr>||||
+  !
+!
+source-route|source-route|k/sn||
+  <cr>||||
+  !
+!
+gratuitous-arps|gratuitous-arps|k/sn||
+  <cr>||||
+  !
+!
+finger|finger|k/sn||
+  <cr>||||
+  !
+!
+bootp|bootp|k||
+  server|server|k/sn||
+    <cr>||||
+    !
+  !
+!
+domain-lookup|domain-lookup|k/sn||
+  <cr>||||
+  !
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+domain|domain name system|k||
+  lookup|lookup|k/sn||
+    <cr>||||
+    !
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  name|name|k/o||
+    word|word|o||
+      <cr>||||
+      !
+    !
+    vrf|vrf|k||
+      word|word|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  list|list|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  timeout|timeout|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  retry|retry|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+domain-name|domain-name|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+  vrf|vrf|k||
+    word|word|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+name-server|name-server|k||
+  vrf|vrf|k||
+    word|word|k||
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  word|word|k||
+    <cr>||||
+    !
+  !
+!
+host|host|k||
+  word|word|k||
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+      a.b.c.d|a.b.c.d|||
+        <cr>||||
+        !
+      !
+    !
+    id|id|||
+      a.b.c.d|a.b.c.d|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+forward-protocol|forward-protocol|k||
+  nd|nd|k/sn||
+    <cr>||||
+    !
+  !
+  udp|udp|k||
+    &portfile.cfm|&portfile.cfm|k||
+      <cr>||||
+      !
+    !
+  !
+!
+http|http|k||
+  server|server|k/sn||
+    <cr>||||
+    !
+  !
+  secure-server|secure-server|k/sn||
+    <cr>||||
+    !
+  !
+  authentication|authentication|k||
+    local|local|k||
+      <cr>||||
+      !
+    !
+    aaa|aaa|k||
+      <cr>||||
+      !
+      login-authentication|login-authentication|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+  access-class|access-class|k||
+    word|word|||
+      <cr>||||
+      !
+      ipv4|ipv4|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  max-connections|max-connections|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  timeout-policy|timeout-policy|k||
+    idle|idle|k||
+      id|id|||
+        life|life|k||
+          id|id|||
+            requests|requests|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  path|path|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  client|client|k||
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  port|port|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  secure-trustpoint|secure-trustpoint|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  secure-ciphersuite|secure-ciphersuite|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  secure-port|secure-port|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  active-session-modules|active-session-modules|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  session-module-list|session-module-list|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  secure-active-session-modules|secure-active-session-modules|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  tls-version|tls-version|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ssh|configure secure shell|k||
+  version|version|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  time-out|time-out|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  authentication-retries|authentication-retries|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  logging|logging|k||
+    events|events|k||
+      <cr>||||
+      !
+    !
+  !
+  rsa|rsa|k||
+    keypair-name|keypair-name|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  server|server|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  client|client|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  dh|dh|k||
+    min|min|k||
+      size|size|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  pubkey-chain|pubkey-chain|k||
+    <cr>||||@(conf-ssh-pubkey)# ssh_pubkey.cfm
+    !
+  !
+  port|port|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  dscp|dscp|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  precedence|precedence|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  break-string|break-string|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  maxstartups|maxstartups|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  bulk-mode|bulk-mode|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+scp|scp|k||
+  server|server|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+tftp|tftp|k||
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  blocksize|blocksize|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+ftp|ftp|k||
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  username|username|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  password|password|k||
+    id|id|||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  passive|passive|k||
+    <cr>||||
+    !
+  !
+!
+telnet|telnet|k||
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  tos|tos|k||
+    <value>|value|||
+      <cr>||||
+      !
+    !
+  !
+  hidden|hidden|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+tcp|tcp|k||
+  synwait-time|synwait-time|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  path-mtu-discovery|path-mtu-discovery|k||
+    <cr>||||
+    !
+    age-timer|age-timer|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  selective-ack|selective-ack|k||
+    <cr>||||
+    !
+  !
+  timestamp|timestamp|k||
+    <cr>||||
+    !
+  !
+  window-size|window-size|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  queuemax|queuemax|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  mss|mss|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  ecn|ecn|k||
+    <cr>||||
+    !
+  !
+  intercept|intercept|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+route|establish static routes|k||
+  a.b.c.d|destination prefix|k||
+    a.b.c.d|destination prefix mask|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+          a.b.c.d|forwarding router's address|||
+            <cr>||||
+            !
+            id|distance metric|||
+              <cr>||||
+              !
+              line|line|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          id|distance metric|||
+            <cr>||||
+            !
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      a.b.c.d|forwarding router's address|||
+        <cr>||||
+        !
+        id|distance metric|||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      dhcp|dhcp|k||
+        <cr>||||
+        !
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  vrf|vrf|k||
+    word|word|k||
+      a.b.c.d|a.b.c.d|k||
+        a.b.c.d|a.b.c.d|k||
+          &interfacefile.cfm|interface type|k||
+            <number>|interface number|k||
+              <cr>||||
+              !
+              a.b.c.d|a.b.c.d|||
+                <cr>||||
+                !
+                line|line|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+              id|id|||
+                <cr>||||
+                !
+              !
+              line|line|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          a.b.c.d|a.b.c.d|||
+            <cr>||||
+            !
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          dhcp|dhcp|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  static|static|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+access-list|named access list|k||
+  standard|standard|k||
+    word|word|k||
+      <cr>||||@(config-std-nacl)# acl_std.cfm
+      !
+    !
+  !
+  extended|extended|k||
+    word|word|k||
+      <cr>||||@(config-ext-nacl)# acl_ext.cfm
+      !
+    !
+  !
+  log-update|log-update|k||
+    threshold|threshold|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  logging|logging|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  resequence|resequence|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  role-based|role-based|k||
+    word|word|k||
+      <cr>||||@(config-rb-acl)# acl_ext.cfm
+      !
+    !
+  !
+!
+prefix-list|build a prefix list|k||
+  word|word|k||
+    seq|seq|k||
+      id|id|k||
+        permit|permit|k||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+            <cr>||||
+            !
+            ge|ge|k||
+              id|id|||
+                <cr>||||
+                !
+                le|le|k||
+                  id|id|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        deny|deny|k||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+            <cr>||||
+            !
+            ge|ge|k||
+              id|id|||
+                <cr>||||
+                !
+                le|le|k||
+                  id|id|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    permit|permit|k||
+      a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        <cr>||||
+        !
+        ge|ge|k||
+          id|id|||
+            <cr>||||
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        le|le|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    deny|deny|k||
+      a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        <cr>||||
+        !
+        ge|ge|k||
+          id|id|||
+            <cr>||||
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        le|le|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    description|description|k||
+      line|text|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  sequence-number|sequence-number|k||
+    <cr>||||
+    !
+  !
+!
+community-list|add a community list entry|k||
+  standard|standard|k||
+    word|word|k||
+      permit|permit|k||
+        <aa:nn>|community value|wa/lb/le||
+          <cr>||||
+          !
+        !
+      !
+      deny|deny|k||
+        <aa:nn>|community value|wa/lb/le||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  expanded|expanded|k||
+    word|word|k||
+      permit|permit|k||
+        line|text|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      deny|deny|k||
+        line|text|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  id|id|k||
+    permit|permit|k||
+      <aa:nn>|community value|wa/lb/le||
+        <cr>||||
+        !
+      !
+    !
+    deny|deny|k||
+      <aa:nn>|community value|wa/lb/le||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+extcommunity-list|extcommunity-list|k||
+  standard|standard|k||
+    word|word|k||
+      permit|permit|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      deny|deny|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  expanded|expanded|k||
+    word|word|k||
+      permit|permit|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      deny|deny|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  id|id|k||
+    permit|permit|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    deny|deny|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+as-path|as-path|k||
+  access-list|access-list|k||
+    id|id|k||
+      permit|permit|k||
+        line|text|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      deny|deny|k||
+        line|text|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+bgp-community|bgp-community|k||
+  new-format|new-format|k/o||
+    <cr>||||
+    !
+  !
+!
+nat|nat configuration|k||
+  inside|inside|k||
+    source|source|k||
+      list|list|k||
+        word|word|k||
+          interface|interface|k||
+            &interfacefile.cfm|interface type|k||
+              <number>|interface number|k||
+                <cr>||||
+                !
+                overload|overload|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+          pool|pool|k||
+            word|word|k||
+              <cr>||||
+              !
+              overload|overload|k||
+                <cr>||||
+                !
+              !
+              vrf|vrf|k||
+                word|word|||
+                  <cr>||||
+                  !
+                  overload|overload|k||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      route-map|route-map|k||
+        word|word|k||
+          interface|interface|k||
+            &interfacefile.cfm|interface type|k||
+              <number>|interface number|k||
+                <cr>||||
+                !
+                overload|overload|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+          pool|pool|k||
+            word|word|k||
+              <cr>||||
+              !
+              overload|overload|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      static|static|k||
+        a.b.c.d|a.b.c.d|k||
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          interface|interface|k||
+            &interfacefile.cfm|interface type|k||
+              <number>|interface number|k||
+                <cr>||||
+                !
+                line|line|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+        tcp|tcp|k||
+          a.b.c.d|a.b.c.d|k||
+            id|id|k||
+              a.b.c.d|a.b.c.d|k||
+                id|id|k||
+                  <cr>||||
+                  !
+                  line|line|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              interface|interface|k||
+                &interfacefile.cfm|interface type|k||
+                  <number>|interface number|k||
+                    <cr>||||
+                    !
+                    id|id|k||
+                      <cr>||||
+                      !
+                      line|line|lb/le/wa||
+                        <cr>||||
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+        udp|udp|k||
+          a.b.c.d|a.b.c.d|k||
+            id|id|k||
+              a.b.c.d|a.b.c.d|k||
+                id|id|k||
+                  <cr>||||
+                  !
+                  line|line|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              interface|interface|k||
+                &interfacefile.cfm|interface type|k||
+                  <number>|interface number|k||
+                    <cr>||||
+                    !
+                    id|id|k||
+                      <cr>||||
+                      !
+                      line|line|lb/le/wa||
+                        <cr>||||
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+        network|network|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    destination|destination|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  outside|outside|k||
+    source|source|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  pool|pool|k||
+    word|word|k||
+      a.b.c.d|a.b.c.d|||
+        a.b.c.d|a.b.c.d|||
+          netmask|netmask|k||
+            a.b.c.d|a.b.c.d|||
+              <cr>||||
+              !
+              line|line|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          prefix-length|prefix-length|k||
+            id|id|||
+              <cr>||||
+              !
+              line|line|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      netmask|netmask|k||
+        a.b.c.d|a.b.c.d|||
+          <cr>||||@(config-ipnat-pool)# generic.cfm
+          !
+        !
+      !
+      prefix-length|prefix-length|k||
+        id|id|||
+          <cr>||||@(config-ipnat-pool)# generic.cfm
+          !
+        !
+      !
+    !
+  !
+  translation|translation|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  log|log|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  service|service|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+dhcp|configure dhcp server and relay parameters|k||
+  pool|pool|k||
+    word|word|k||
+      <cr>||||@(dhcp-config)# dhcp_pool.cfm
+      !
+    !
+  !
+  excluded-address|excluded-address|k||
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+      !
+    !
+    vrf|vrf|k||
+      word|word|k||
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  snooping|snooping|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  relay|relay|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  conflict|conflict|k||
+    logging|logging|k||
+      <cr>||||
+      !
+    !
+  !
+  database|database|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ping|ping|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  bootp|bootp|k||
+    ignore|ignore|k||
+      <cr>||||
+      !
+    !
+  !
+  use|use|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  compatibility|compatibility|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  smart-relay|smart-relay|k||
+    <cr>||||
+    !
+  !
+!
+sla|ip service level agreement|k||
+  id|id|k||
+    <cr>||||@(config-ip-sla)# ip_sla.cfm
+    !
+  !
+  monitor|monitor|k||
+    id|id|k||
+      <cr>||||@(config-sla-monitor)# ip_sla.cfm
+      !
+    !
+    schedule|schedule|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  schedule|schedule|k||
+    id|id|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  responder|responder|k||
+    <cr>||||
+    !
+  !
+  logging|logging|k||
+    traps|traps|k||
+      <cr>||||
+      !
+    !
+  !
+  enable|enable|k||
+    reaction-alerts|reaction-alerts|k||
+      <cr>||||
+      !
+    !
+  !
+  reaction-configuration|reaction-configuration|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  auto|auto|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+inspect|context-based access control|k||
+  name|name|k||
+    word|word|k||
+      &protocolfile.cfm|&protocolfile.cfm|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      word|word|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  tcp|tcp|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  udp|udp|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  dns-timeout|dns-timeout|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  alert-off|alert-off|k||
+    <cr>||||
+    !
+  !
+  audit-trail|audit-trail|k||
+    <cr>||||
+    !
+  !
+  max-incomplete|max-incomplete|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  one-minute|one-minute|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  hashtable-size|hashtable-size|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  log|log|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ips|ips|k||
+  name|name|k||
+    word|word|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+multicast-routing|multicast-routing|k||
+  <cr>||||
+  !
+  vrf|vrf|k||
+    word|word|k||
+      <cr>||||
+      !
+      distributed|distributed|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  distributed|distributed|k||
+    <cr>||||
+    !
+  !
+!
+multicast|multicast|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pim|pim|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+igmp|igmp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+wccp|wccp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+sla-monitor|sla-monitor|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vrf|configure an ip vrf|k||
+  word|word|k||
+    <cr>||||@(config-vrf)# vrf.cfm
+    !
+  !
+!
+explicit-path|explicit-path|k||
+  name|name|k||
+    word|word|k||
+      <cr>||||
+      !
+      enable|enable|k||
+        <cr>||||@(cfg-ip-expl-path)# generic.cfm
+        !
+      !
+    !
+  !
+  identifier|identifier|k||
+    id|id|k||
+      <cr>||||
+      !
+      enable|enable|k||
+        <cr>||||@(cfg-ip-expl-path)# generic.cfm
+        !
+      !
+    !
+  !
+!
+local|local|k||
+  pool|pool|k||
+    word|word|k||
+      a.b.c.d|a.b.c.d|||
+        a.b.c.d|a.b.c.d|||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  policy|policy|k||
+    route-map|route-map|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+default-gateway|default-gateway|k||
+  a.b.c.d|a.b.c.d|o||
+    <cr>||||
+    !
+  !
+!
+default-network|default-network|k||
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+  !
+!
+flow-export|flow-export|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+flow-cache|flow-cache|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+flow|flow|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+accounting-threshold|accounting-threshold|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+accounting-list|accounting-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+options|options|k||
+  drop|drop|k||
+    <cr>||||
+    !
+  !
+  ignore|ignore|k||
+    <cr>||||
+    !
+  !
+!
+icmp|icmp|k||
+  rate-limit|rate-limit|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  redirect|redirect|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+arp|arp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+radius|radius|k||
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+tacacs|tacacs|k||
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+ospf|ospf|k||
+  name-lookup|name-lookup|k||
+    <cr>||||
+    !
+  !
+!
+dns|dns|k||
+  server|server|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  view|view|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  spoofing|spoofing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+rcmd|rcmd|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+auth-proxy|auth-proxy|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+admission|admission|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+msdp|msdp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rsvp|rsvp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mroute|mroute|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+bgp|bgp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+extcommunity|extcommunity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+device|device|k||
+  tracking|tracking|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+port-map|port-map|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+urlfilter|urlfilter|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+audit|audit|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+policy-list|policy-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mfib|mfib|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+nhrp|nhrp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+security|security|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+wlan|wlan|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ddns|ddns|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+virtual-reassembly|virtual-reassembly|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+reflexive-list|reflexive-list|k||
+  timeout|timeout|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+forward-protocol-nd|forward-protocol-nd|k||
+  <cr>||||
+  !
+!
+vrrp|vrrp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pim-vrf|pim-vrf|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+gdoi|gdoi|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,1026 @@
+address|set the ip address of an interface|k/n||
+  a.b.c.d|ip address|k||
+    a.b.c.d|ip subnet mask|||
+      <cr>||||
+      !
+      secondary|secondary|k||
+        <cr>||||
+        !
+        vrf|vrf|k||
+          word|word|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  dhcp|dhcp|k||
+    <cr>||||
+    !
+    client-id|client-id|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    hostname|hostname|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  negotiated|negotiated|k||
+    <cr>||||
+    !
+    previous|previous|k||
+      <cr>||||
+      !
+    !
+  !
+  pool|pool|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+unnumbered|unnumbered|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+cef|cef|k||
+  accounting|accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+flowspec|flowspec|k||
+  disable|disable|k||
+    <cr>||||
+    !
+  !
+!
+vrf|vrf|k||
+  forwarding|forwarding|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+  receive|receive|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  sitemap|sitemap|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+access-group|specify access control for packets|k||
+  word|word|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+  in|in|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+helper-address|specify a destination address for udp broadcasts|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+  !
+  vrf|vrf|k||
+    word|word|k||
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  global|global|k||
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+    !
+  !
+!
+redirects|redirects|k/sn||
+  <cr>||||
+  !
+!
+unreachables|unreachables|k/sn||
+  <cr>||||
+  !
+!
+proxy-arp|proxy-arp|k/sn||
+  <cr>||||
+  !
+!
+local-proxy-arp|local-proxy-arp|k||
+  <cr>||||
+  !
+!
+directed-broadcast|directed-broadcast|k/sn||
+  <cr>||||
+  !
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+mask-reply|mask-reply|k||
+  <cr>||||
+  !
+!
+route-cache|route-cache|k/sn||
+  <cr>||||
+  !
+  cef|cef|k/sn||
+    <cr>||||
+    !
+  !
+  flow|flow|k||
+    <cr>||||
+    !
+  !
+  same-interface|same-interface|k||
+    <cr>||||
+    !
+  !
+  policy|policy|k||
+    <cr>||||
+    !
+  !
+  distributed|distributed|k||
+    <cr>||||
+    !
+  !
+!
+mroute-cache|mroute-cache|k/sn||
+  <cr>||||
+  !
+!
+split-horizon|split-horizon|k/sn||
+  <cr>||||
+  !
+  eigrp|eigrp|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+summary-address|summary-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+hello-interval|hello-interval|k||
+  eigrp|eigrp|k||
+    id|id|||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+hold-time|hold-time|k||
+  eigrp|eigrp|k||
+    id|id|||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+bandwidth-percent|bandwidth-percent|k||
+  eigrp|eigrp|k||
+    id|id|||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+authentication|authentication|k||
+  mode|mode|k||
+    eigrp|eigrp|k||
+      id|id|||
+        md5|md5|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  key-chain|key-chain|k||
+    eigrp|eigrp|k||
+      id|id|||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+mtu|mtu|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+tcp|tcp|k||
+  adjust-mss|adjust-mss|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  header-compression|header-compression|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+virtual-reassembly|virtual-reassembly|k||
+  <cr>||||
+  !
+  in|in|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  out|out|k||
+    <cr>||||
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+virtual-reassembly-out|virtual-reassembly-out|k||
+  <cr>||||
+  !
+!
+nat|nat|k||
+  inside|inside|k||
+    <cr>||||
+    !
+  !
+  outside|outside|k||
+    <cr>||||
+    !
+  !
+  enable|enable|k||
+    <cr>||||
+    !
+  !
+!
+policy|policy|k||
+  route-map|route-map|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+!
+verify|verify|k||
+  unicast|unicast|k||
+    source|source|k||
+      reachable-via|reachable-via|k||
+        rx|rx|k||
+          <cr>||||
+          !
+          allow-default|allow-default|k||
+            <cr>||||
+            !
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+        any|any|k||
+          <cr>||||
+          !
+          allow-default|allow-default|k||
+            <cr>||||
+            !
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    reverse-path|reverse-path|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+flow|flow|k||
+  ingress|ingress|k||
+    <cr>||||
+    !
+  !
+  egress|egress|k||
+    <cr>||||
+    !
+  !
+  monitor|monitor|k||
+    word|word|k||
+      input|input|k||
+        <cr>||||
+        !
+      !
+      output|output|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+pim|pim|k||
+  sparse-mode|sparse-mode|k||
+    <cr>||||
+    !
+  !
+  dense-mode|dense-mode|k||
+    <cr>||||
+    !
+  !
+  sparse-dense-mode|sparse-dense-mode|k||
+    <cr>||||
+    !
+  !
+  dr-priority|dr-priority|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  query-interval|query-interval|k||
+    id|id|||
+      <cr>||||
+      !
+      msec|msec|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  join-prune-interval|join-prune-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  bsr-border|bsr-border|k||
+    <cr>||||
+    !
+  !
+  nbma-mode|nbma-mode|k||
+    <cr>||||
+    !
+  !
+  passive|passive|k||
+    <cr>||||
+    !
+  !
+  neighbor-filter|neighbor-filter|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  version|version|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  border|border|k||
+    <cr>||||
+    !
+  !
+!
+igmp|igmp|k||
+  version|version|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  query-interval|query-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  query-max-response-time|query-max-response-time|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  last-member-query-interval|last-member-query-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  last-member-query-count|last-member-query-count|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  v3-query-max-response-time|v3-query-max-response-time|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  tcn|tcn|k||
+    query|query|k||
+      count|count|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      interval|interval|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  join-group|join-group|k||
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+    !
+  !
+  static-group|static-group|k||
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+    !
+  !
+  access-group|access-group|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  helper-address|helper-address|k||
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+  !
+  snooping|snooping|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  proxy-service|proxy-service|k||
+    <cr>||||
+    !
+  !
+  immediate-leave|immediate-leave|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  limit|limit|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  explicit-tracking|explicit-tracking|k||
+    <cr>||||
+    !
+  !
+  querier-timeout|querier-timeout|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+cgmp|cgmp|k||
+  <cr>||||
+  !
+  proxy|proxy|k||
+    <cr>||||
+    !
+  !
+!
+dvmrp|dvmrp|k||
+  accept-filter|accept-filter|k||
+    word|word|||
+      <cr>||||
+      !
+      neighbor-list|neighbor-list|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+      id|id|||
+        <cr>||||
+        !
+        neighbor-list|neighbor-list|k||
+          word|word|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  unicast-routing|unicast-routing|k||
+    <cr>||||
+    !
+  !
+  metric|metric|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  summary-address|summary-address|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  default-information|default-information|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  reject-non-pruners|reject-non-pruners|k||
+    <cr>||||
+    !
+  !
+  auto-summary|auto-summary|k||
+    <cr>||||
+    !
+  !
+!
+mfib|mfib|k||
+  <cr>||||
+  !
+  forwarding|forwarding|k||
+    input|input|k||
+      <cr>||||
+      !
+    !
+    output|output|k||
+      <cr>||||
+      !
+    !
+  !
+  cef|cef|k||
+    input|input|k||
+      <cr>||||
+      !
+    !
+    output|output|k||
+      <cr>||||
+      !
+    !
+  !
+!
+inspect|inspect|k||
+  word|word|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+ips|ips|k||
+  word|word|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+ospf|ospf interface commands|k||
+  id|process id|k||
+    area|area|k||
+      id|id|k||
+        <cr>||||
+        !
+        secondary|secondary|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  cost|cost|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  network|network|k||
+    point-to-point|point-to-point|k/o||
+      <cr>||||
+      !
+    !
+    broadcast|broadcast|k/o||
+      <cr>||||
+      !
+    !
+    non-broadcast|non-broadcast|k/o||
+      <cr>||||
+      !
+    !
+    point-to-multipoint|point-to-multipoint|k/o||
+      <cr>||||
+      !
+      non-broadcast|non-broadcast|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  mtu-ignore|mtu-ignore|k||
+    <cr>||||
+    !
+  !
+  priority|priority|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  hello-interval|hello-interval|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  dead-interval|dead-interval|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+    minimal|minimal|k||
+      hello-multiplier|hello-multiplier|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  retransmit-interval|retransmit-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  transmit-delay|transmit-delay|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  authentication|authentication|k||
+    <cr>||||
+    !
+    message-digest|message-digest|k||
+      <cr>||||
+      !
+    !
+    null|null|k||
+      <cr>||||
+      !
+    !
+    key-chain|key-chain|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  authentication-key|authentication-key|k||
+    id|id|||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  message-digest-key|message-digest-key|k||
+    id|id|k||
+      md5|md5|k||
+        id|id|||
+          word|word|||
+            <cr>||||
+            !
+          !
+        !
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  demand-circuit|demand-circuit|k||
+    <cr>||||
+    !
+  !
+  bfd|bfd|k||
+    <cr>||||
+    !
+    disable|disable|k||
+      <cr>||||
+      !
+    !
+  !
+  database-filter|database-filter|k||
+    all|all|k||
+      out|out|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  flood-reduction|flood-reduction|k||
+    <cr>||||
+    !
+  !
+  resync-timeout|resync-timeout|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  shutdown|shutdown|k||
+    <cr>||||
+    !
+  !
+  ttl-security|ttl-security|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  prefix-suppression|prefix-suppression|k||
+    <cr>||||
+    !
+    disable|disable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+rip|rip|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+dhcp|dhcp|k||
+  relay|relay|k||
+    information|information|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  snooping|snooping|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  client|client|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  server|server|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+nhrp|nhrp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+wccp|wccp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+accounting|accounting|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rsvp|rsvp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+sap|sap|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+multicast|multicast|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+admission|admission|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+auth-proxy|auth-proxy|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+urlfilter|urlfilter|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+load-sharing|load-sharing|k||
+  per-packet|per-packet|k||
+    <cr>||||
+    !
+  !
+  per-destination|per-destination|k||
+    <cr>||||
+    !
+  !
+!
+information-reply|information-reply|k||
+  <cr>||||
+  !
+!
+security|security|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+irdp|irdp|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+probe|probe|k||
+  proxy|proxy|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+router|router|k||
+  isis|isis|k||
+    <cr>||||
+    !
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+!
+authentication-key|authentication-key|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+bgp|bgp|k||
+  fast-external-fallover|fast-external-fallover|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ddns|ddns|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+domain|domain|k||
+  lookup|lookup|k||
+    <cr>||||
+    !
+  !
+!
+rtp|rtp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+port-unreachable|port-unreachable|k||
+  <cr>||||
+  !
+!
+gratuitous-arps|gratuitous-arps|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,170 @@
+icmp-echo|icmp-echo|k||
+  a.b.c.d|a.b.c.d|o||
+    <cr>||||
+    !
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    source-ip|source-ip|k||
+      a.b.c.d|a.b.c.d|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  word|word|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+udp-jitter|udp-jitter|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+udp-echo|udp-echo|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+tcp-connect|tcp-connect|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+http|http|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+dns|dns|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+path-echo|path-echo|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+type|type|k||
+  echo|echo|k||
+    protocol|protocol|k||
+      ipIcmpEcho|ipIcmpEcho|k||
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+frequency|frequency|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+timeout|timeout|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+threshold|threshold|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+tag|tag|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vrf|vrf|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+tos|tos|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+request-data-size|request-data-size|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+owner|owner|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+data-pattern|data-pattern|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+verify-data|verify-data|k||
+  <cr>||||
+  !
+!
+history|history|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+source-interface|source-interface|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+source-ipaddr|source-ipaddr|k||
+  a.b.c.d|a.b.c.d|||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,202 @@
+unicast-routing|unicast-routing|k||
+  <cr>||||
+  !
+!
+cef|cef|k/sn||
+  <cr>||||
+  !
+  distributed|distributed|k||
+    <cr>||||
+    !
+  !
+!
+multicast-routing|multicast-routing|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+multicast|multicast|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+route|establish static routes|k||
+  word|word|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+        word|word|||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        id|id|||
+          <cr>||||
+          !
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    word|word|||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  vrf|vrf|k||
+    word|word|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  static|static|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+router|router|k||
+  ospf|ospf|k||
+    id|id|k||
+      <cr>||||@(config-rtr)# router_ospf.cfm
+      !
+    !
+  !
+  eigrp|eigrp|k||
+    id|id|k||
+      <cr>||||@(config-rtr)# router_eigrp.cfm
+      !
+    !
+    word|word|k||
+      <cr>||||@(config-rtr)# router_eigrp.cfm
+      !
+    !
+  !
+  rip|rip|k||
+    word|word|k||
+      <cr>||||@(config-rtr)# router_rip.cfm
+      !
+    !
+  !
+!
+access-list|access-list|k||
+  word|word|k||
+    <cr>||||@(config-ipv6-acl)# acl_ipv6.cfm
+    !
+  !
+!
+prefix-list|prefix-list|k||
+  word|word|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+source-route|source-route|k/sn||
+  <cr>||||
+  !
+!
+icmp|icmp|k||
+  error-interval|error-interval|k||
+    id|id|||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+ioam|ioam|k||
+  timestamp|timestamp|k||
+    <cr>||||
+    !
+  !
+!
+dhcp|dhcp|k||
+  pool|pool|k||
+    word|word|k||
+      <cr>||||@(config-dhcpv6)# generic.cfm
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+general-prefix|general-prefix|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+neighbor|neighbor|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+nd|nd|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+local|local|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+host|host|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+flowset|flowset|k||
+  <cr>||||
+  !
+!
+hop-limit|hop-limit|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+mld|mld|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pim|pim|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

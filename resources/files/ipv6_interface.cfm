@@ -1,0 +1,420 @@
+cef|cef|k||
+  <cr>||||
+  !
+  accounting|accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+address|address|k||
+  <x:x::x/n>|x:x::x/n|k||
+    <cr>||||
+    !
+    eui-64|eui-64|k||
+      <cr>||||
+      !
+    !
+    anycast|anycast|k||
+      <cr>||||
+      !
+    !
+    link-local|link-local|k||
+      <cr>||||
+      !
+    !
+  !
+  <x:x::x>|x:x::x|k||
+    link-local|link-local|k||
+      <cr>||||
+      !
+    !
+  !
+  autoconfig|autoconfig|k||
+    <cr>||||
+    !
+    default|default|k||
+      <cr>||||
+      !
+    !
+  !
+  dhcp|dhcp|k||
+    <cr>||||
+    !
+    rapid-commit|rapid-commit|k||
+      <cr>||||
+      !
+    !
+  !
+  word|word|k||
+    <x:x::x/n>|x:x::x/n|k||
+      <cr>||||
+      !
+      eui-64|eui-64|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+enable|enable|k||
+  <cr>||||
+  !
+!
+unreachables|unreachables|k/sn||
+  <cr>||||
+  !
+!
+redirects|redirects|k/sn||
+  <cr>||||
+  !
+!
+nd|nd|k||
+  ra|ra|k||
+    suppress|suppress|k||
+      <cr>||||
+      !
+      all|all|k||
+        <cr>||||
+        !
+      !
+    !
+    interval|interval|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    lifetime|lifetime|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    solicited|solicited|k||
+      unicast|unicast|k||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  prefix|prefix|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  reachable-time|reachable-time|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  nud|nud|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ns-interval|ns-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  dad|dad|k||
+    attempts|attempts|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  other-config-flag|other-config-flag|k||
+    <cr>||||
+    !
+  !
+  managed-config-flag|managed-config-flag|k||
+    <cr>||||
+    !
+  !
+  router-preference|router-preference|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  suppress-ra|suppress-ra|k||
+    <cr>||||
+    !
+  !
+  cache|cache|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  autoconfig|autoconfig|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ra-interval|ra-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  ra-lifetime|ra-lifetime|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  prefix-advertisement|prefix-advertisement|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+mfib|mfib|k||
+  forwarding|forwarding|k||
+    input|input|k||
+      <cr>||||
+      !
+    !
+    output|output|k||
+      <cr>||||
+      !
+    !
+  !
+  cef|cef|k||
+    input|input|k||
+      <cr>||||
+      !
+    !
+    output|output|k||
+      <cr>||||
+      !
+    !
+  !
+!
+ospf|ospf|k||
+  id|id|k||
+    area|area|k||
+      id|id|k||
+        <cr>||||
+        !
+      !
+      a.b.c.d|a.b.c.d|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  cost|cost|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  network|network|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  mtu-ignore|mtu-ignore|k||
+    <cr>||||
+    !
+  !
+  priority|priority|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  hello-interval|hello-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  dead-interval|dead-interval|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  authentication|authentication|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  encryption|encryption|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ospfv3|ospfv3|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+eigrp|eigrp|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+rip|rip|k||
+  word|word|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+mtu|mtu|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+traffic-filter|traffic-filter|k||
+  word|word|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+dhcp|dhcp|k||
+  server|server|k||
+    word|word|||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  relay|relay|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  client|client|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+policy|policy|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+pim|pim|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mld|mld|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+tcp|tcp|k||
+  adjust-mss|adjust-mss|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+verify|verify|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+flowspec|flowspec|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+virtual-reassembly|virtual-reassembly|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+nat|nat|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+access-list|access-list|k||
+  word|word|||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+source-route|source-route|k||
+  <cr>||||
+  !
+!
+flow|flow|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+router|router|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

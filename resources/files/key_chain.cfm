@@ -1,0 +1,6 @@
+key|key|k||
+  id|id|k||
+    <cr>||||@(config-keychain-key)# key_chain_key.cfm
+    !
+  !
+!

@@ -1,0 +1,30 @@
+key-string|key-string|k||
+  id|id|||
+    line|line|o||
+      <cr>||||
+      !
+    !
+  !
+  line|line|o||
+    <cr>||||
+    !
+  !
+!
+accept-lifetime|accept-lifetime|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+send-lifetime|send-lifetime|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+cryptographic-algorithm|cryptographic-algorithm|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,8 @@
+emergencies|system is unusable (severity=0)
+alerts|immediate action needed (severity=1)
+critical|critical conditions (severity=2)
+errors|error conditions (severity=3)
+warnings|warning conditions (severity=4)
+notifications|normal but significant conditions (severity=5)
+informational|informational messages (severity=6)
+debugging|debugging messages (severity=7)

@@ -1,0 +1,412 @@
+exec-timeout|set the exec timeout|k||
+  id|id|o||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+logging|logging|k||
+  synchronous|synchronous|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+stopbits|stopbits|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+privilege|privilege|k||
+  level|level|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+login|login|k/sn||
+  <cr>||||
+  !
+  local|local|k||
+    <cr>||||
+    !
+  !
+  authentication|authentication|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+!
+transport|transport|k||
+  input|input|k/o||
+    all|all|k||
+      <cr>||||
+      !
+    !
+    none|none|k||
+      <cr>||||
+      !
+    !
+    ssh|ssh|k||
+      <cr>||||
+      !
+      telnet|telnet|k||
+        <cr>||||
+        !
+      !
+    !
+    telnet|telnet|k||
+      <cr>||||
+      !
+      ssh|ssh|k||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  output|output|k/o||
+    all|all|k||
+      <cr>||||
+      !
+    !
+    none|none|k||
+      <cr>||||
+      !
+    !
+    ssh|ssh|k||
+      <cr>||||
+      !
+      telnet|telnet|k||
+        <cr>||||
+        !
+      !
+    !
+    telnet|telnet|k||
+      <cr>||||
+      !
+      ssh|ssh|k||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  preferred|preferred|k/o||
+    none|none|k||
+      <cr>||||
+      !
+    !
+    ssh|ssh|k||
+      <cr>||||
+      !
+    !
+    telnet|telnet|k||
+      <cr>||||
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+password|password|k||
+  id|id|||
+    line|line|o||
+      <cr>||||
+      !
+    !
+  !
+  line|line|o||
+    <cr>||||
+    !
+  !
+!
+exec|exec|k/sn||
+  <cr>||||
+  !
+  prompt|prompt|k||
+    timestamp|timestamp|k||
+      <cr>||||
+      !
+    !
+  !
+!
+exec-character-bits|exec-character-bits|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+history|history|k||
+  <cr>||||
+  !
+  size|size|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+access-class|access-class|k||
+  word|word|k||
+    in|in|k||
+      <cr>||||
+      !
+      vrf-also|vrf-also|k||
+        <cr>||||
+        !
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+ipv6|ipv6|k||
+  access-class|access-class|k||
+    word|word|k||
+      in|in|k||
+        <cr>||||
+        !
+      !
+      out|out|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+session-timeout|session-timeout|k||
+  id|id|||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+absolute-timeout|absolute-timeout|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+autocommand|autocommand|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+speed|speed|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+flowcontrol|flowcontrol|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+modem|modem|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+length|length|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+width|width|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+terminal-type|terminal-type|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+accounting|accounting|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+authorization|authorization|k||
+  exec|exec|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  commands|commands|k||
+    id|id|||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+escape-character|escape-character|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+no-escape|no-escape|k||
+  <cr>||||
+  !
+!
+motd-banner|motd-banner|k||
+  <cr>||||
+  !
+!
+exec-banner|exec-banner|k||
+  <cr>||||
+  !
+!
+logout-warning|logout-warning|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+activation-character|activation-character|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+stopbits-character|stopbits-character|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+databits|databits|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+parity|parity|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rotary|rotary|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+autoselect|autoselect|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+notify|notify|k||
+  <cr>||||
+  !
+!
+monitor|monitor|k||
+  <cr>||||
+  !
+!
+refuse-message|refuse-message|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+vacant-message|vacant-message|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timeout|timeout|k||
+  login|login|k||
+    response|response|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+data-character-bits|data-character-bits|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+international|international|k||
+  <cr>||||
+  !
+!
+lockable|lockable|k||
+  <cr>||||
+  !
+!
+padding|padding|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+editing|editing|k||
+  <cr>||||
+  !
+!
+full-help|full-help|k||
+  <cr>||||
+  !
+!
+location|location|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+session-disconnect-warning|session-disconnect-warning|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

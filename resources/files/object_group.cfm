@@ -1,0 +1,66 @@
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+host|host|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+  !
+!
+a.b.c.d|a.b.c.d|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+  !
+!
+range|range|k||
+  a.b.c.d|a.b.c.d|k||
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+    !
+  !
+!
+group-object|group-object|k||
+  word|word|k||
+    <cr>||||
+    !
+  !
+!
+&protocolfile.cfm|&protocolfile.cfm|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+tcp|tcp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+udp|udp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+tcp-udp|tcp-udp|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+icmp|icmp|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,324 @@
+bandwidth|bandwidth|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+  percent|percent|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  remaining|remaining|k||
+    percent|percent|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    ratio|ratio|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+priority|priority|k||
+  id|id|o||
+    <cr>||||
+    !
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  percent|percent|k||
+    id|id|o||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  level|level|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+police|police|k||
+  cir|cir|k||
+    percent|percent|k||
+      id|id|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    id|id|o||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  rate|rate|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  id|id|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+shape|shape|k||
+  average|average|k||
+    id|id|o||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    percent|percent|k||
+      id|id|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  peak|peak|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  max-buffers|max-buffers|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  adaptive|adaptive|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+set|set|k||
+  dscp|dscp|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ip|ip|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  precedence|precedence|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  qos-group|qos-group|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  discard-class|discard-class|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  mpls|mpls|k||
+    experimental|experimental|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  cos|cos|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  fr-de|fr-de|k||
+    <cr>||||
+    !
+  !
+  atm-clp|atm-clp|k||
+    <cr>||||
+    !
+  !
+!
+queue-limit|queue-limit|k||
+  id|id|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+random-detect|random-detect|k||
+  <cr>||||
+  !
+  dscp-based|dscp-based|k||
+    <cr>||||
+    !
+  !
+  prec-based|prec-based|k||
+    <cr>||||
+    !
+  !
+  discard-class-based|discard-class-based|k||
+    <cr>||||
+    !
+  !
+  dscp|dscp|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  precedence|precedence|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  discard-class|discard-class|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  exponential-weighting-constant|exponential-weighting-constant|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+  ecn|ecn|k||
+    <cr>||||
+    !
+  !
+!
+fair-queue|fair-queue|k||
+  <cr>||||
+  !
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+service-policy|service-policy|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+inspect|inspect|k||
+  <cr>||||
+  !
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+drop|drop|k||
+  <cr>||||
+  !
+  log|log|k||
+    <cr>||||
+    !
+  !
+!
+pass|pass|k||
+  <cr>||||
+  !
+  log|log|k||
+    <cr>||||
+    !
+  !
+!
+conform-action|conform-action|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exceed-action|exceed-action|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+violate-action|violate-action|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+compression|compression|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+estimate|estimate|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+admit|admit|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+account|account|k||
+  <cr>||||
+  !
+!
+trust|trust|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+log|log|k||
+  <cr>||||
+  !
+!

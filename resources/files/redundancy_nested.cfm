@@ -1,0 +1,108 @@
+mode|mode|k||
+  sso|sso|k/o||
+    <cr>||||
+    !
+  !
+  rpr|rpr|k/o||
+    <cr>||||
+    !
+  !
+  rpr-plus|rpr-plus|k/o||
+    <cr>||||
+    !
+  !
+  none|none|k/o||
+    <cr>||||
+    !
+  !
+!
+main-cpu|main-cpu|k||
+  <cr>||||
+  !
+!
+auto-sync|auto-sync|k||
+  running-config|running-config|k||
+    <cr>||||
+    !
+  !
+  startup-config|startup-config|k||
+    <cr>||||
+    !
+  !
+  standard|standard|k||
+    <cr>||||
+    !
+  !
+  config-register|config-register|k||
+    <cr>||||
+    !
+  !
+  bootvar|bootvar|k||
+    <cr>||||
+    !
+  !
+!
+application|application|k||
+  redundancy|redundancy|k||
+    <cr>||||
+    !
+  !
+!
+group|group|k||
+  id|id|k||
+    <cr>||||
+    !
+  !
+!
+name|name|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+priority|priority|k||
+  id|id|||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+control|control|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+data|data|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+keepalive-timer|keepalive-timer|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+interchassis|interchassis|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+notification-timer|notification-timer|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+linecard-group|linecard-group|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,248 @@
+network|network|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+    a.b.c.d|a.b.c.d|k||
+      <cr>||||
+      !
+    !
+  !
+!
+eigrp|eigrp|k||
+  router-id|router-id|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+  !
+  stub|stub|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  log-neighbor-changes|log-neighbor-changes|k||
+    <cr>||||
+    !
+  !
+  log-neighbor-warnings|log-neighbor-warnings|k||
+    <cr>||||
+    !
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+passive-interface|passive-interface|k||
+  default|default|k||
+    <cr>||||
+    !
+  !
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+redistribute|redistribute|k||
+  connected|connected|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  static|static|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ospf|ospf|k||
+    id|id|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  bgp|bgp|k||
+    <as>|as|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  eigrp|eigrp|k||
+    id|id|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  rip|rip|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+auto-summary|auto-summary|k/sn||
+  <cr>||||
+  !
+!
+metric|metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+variance|variance|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+maximum-paths|maximum-paths|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+distance|distance|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distribute-list|distribute-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+default-metric|default-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+offset-list|offset-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timers|timers|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+traffic-share|traffic-share|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+summary-metric|summary-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address-family|address-family|k||
+  ipv4|ipv4|k||
+    <cr>||||@(config-router-af)# router_eigrp_af.cfm
+    !
+    unicast|unicast|k||
+      <cr>||||@(config-router-af)# router_eigrp_af.cfm
+      !
+      autonomous-system|autonomous-system|k||
+        id|id|||
+          <cr>||||@(config-router-af)# router_eigrp_af.cfm
+          !
+        !
+      !
+      vrf|vrf|k||
+        word|word|||
+          <cr>||||@(config-router-af)# router_eigrp_af.cfm
+          !
+          autonomous-system|autonomous-system|k||
+            id|id|||
+              <cr>||||@(config-router-af)# router_eigrp_af.cfm
+              !
+            !
+          !
+        !
+      !
+    !
+    autonomous-system|autonomous-system|k||
+      id|id|||
+        <cr>||||@(config-router-af)# router_eigrp_af.cfm
+        !
+      !
+    !
+    vrf|vrf|k||
+      word|word|||
+        <cr>||||@(config-router-af)# router_eigrp_af.cfm
+        !
+        autonomous-system|autonomous-system|k||
+          id|id|||
+            <cr>||||@(config-router-af)# router_eigrp_af.cfm
+            !
+          !
+        !
+      !
+    !
+  !
+  ipv6|ipv6|k||
+    <cr>||||@(config-router-af)# router_eigrp_af.cfm
+    !
+    unicast|unicast|k||
+      <cr>||||@(config-router-af)# router_eigrp_af.cfm
+      !
+      autonomous-system|autonomous-system|k||
+        id|id|||
+          <cr>||||@(config-router-af)# router_eigrp_af.cfm
+          !
+        !
+      !
+    !
+    autonomous-system|autonomous-system|k||
+      id|id|||
+        <cr>||||@(config-router-af)# router_eigrp_af.cfm
+        !
+      !
+    !
+  !
+!
+no-shutdown|no-shutdown|k||
+  <cr>||||
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!
+nsf|nsf|k||
+  <cr>||||
+  !
+!

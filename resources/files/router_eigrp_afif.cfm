@@ -1,0 +1,54 @@
+passive-interface|passive-interface|k||
+  <cr>||||
+  !
+!
+hello-interval|hello-interval|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+hold-time|hold-time|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+authentication|authentication|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+summary-address|summary-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+split-horizon|split-horizon|k||
+  <cr>||||
+  !
+!
+bandwidth-percent|bandwidth-percent|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+bfd|bfd|k||
+  <cr>||||
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!
+next-hop-self|next-hop-self|k||
+  <cr>||||
+  !
+!
+exit-af-interface|exit-af-interface|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,68 @@
+redistribute|redistribute|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+variance|variance|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+maximum-paths|maximum-paths|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+distance|distance|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distribute-list|distribute-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+default-metric|default-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+auto-summary|auto-summary|k||
+  <cr>||||
+  !
+!
+summary-metric|summary-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+offset-list|offset-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+traffic-share|traffic-share|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timers|timers|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit-af-topology|exit-af-topology|k||
+  <cr>||||
+  !
+!

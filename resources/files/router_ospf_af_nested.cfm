@@ -1,0 +1,354 @@
+router-id|router id for this ospf process|k||
+  a.b.c.d|a.b.c.d|o||
+    <cr>||||
+    !
+  !
+!
+network|enable routing on an ip network|k||
+  a.b.c.d|a.b.c.d|k||
+    a.b.c.d|a.b.c.d|k||
+      area|area|k||
+        id|id|k||
+          <cr>||||
+          !
+        !
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+log-adjacency-changes|log-adjacency-changes|k/sn||
+  <cr>||||
+  !
+  detail|detail|k||
+    <cr>||||
+    !
+  !
+!
+passive-interface|suppress routing updates on an interface|k||
+  default|default|k||
+    <cr>||||
+    !
+  !
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+area|ospf area parameters|k||
+  id|id|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  a.b.c.d|a.b.c.d|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+redistribute|redistribute|k||
+  connected|connected|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  static|static|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  bgp|bgp|k||
+    <as>|as|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  ospf|ospf|k||
+    id|id|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  eigrp|eigrp|k||
+    id|id|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  rip|rip|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  isis|isis|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+default-information|default-information|k||
+  originate|originate|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+auto-cost|auto-cost|k||
+  reference-bandwidth|reference-bandwidth|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+timers|timers|k||
+  throttle|throttle|k||
+    spf|spf|k||
+      id|id|||
+        id|id|||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    lsa|lsa|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  lsa|lsa|k||
+    arrival|arrival|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  pacing|pacing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+summary-address|summary-address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+summary-prefix|summary-prefix|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distance|distance|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distribute-list|distribute-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+maximum-paths|maximum-paths|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+default-metric|default-metric|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+bfd|bfd|k||
+  all-interfaces|all-interfaces|k||
+    <cr>||||
+    !
+  !
+!
+nsf|nsf|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mpls|mpls|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+capability|capability|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+max-metric|max-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ispf|ispf|k||
+  <cr>||||
+  !
+!
+prefix-suppression|prefix-suppression|k||
+  <cr>||||
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!
+compatible|compatible|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ignore|ignore|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+graceful-restart|graceful-restart|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+fast-reroute|fast-reroute|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+segment-routing|segment-routing|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+microloop|microloop|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address-family|address-family|k||
+  ipv4|ipv4|k||
+    <cr>||||
+    !
+    unicast|unicast|k||
+      <cr>||||
+      !
+    !
+  !
+  ipv6|ipv6|k||
+    <cr>||||
+    !
+    unicast|unicast|k||
+      <cr>||||
+      !
+    !
+  !
+!
+discard-route|discard-route|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+domain-id|domain-id|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+domain-tag|domain-tag|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+local-rib-criteria|local-rib-criteria|k||
+  <cr>||||
+  !
+!
+queue-depth|queue-depth|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+event-log|event-log|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+interface-id|interface-id|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit-address-family|exit-address-family|k||
+  <cr>||||
+  !
+!

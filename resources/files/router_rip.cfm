@@ -1,0 +1,102 @@
+version|version|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+network|network|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+  !
+!
+redistribute|redistribute|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+passive-interface|passive-interface|k||
+  default|default|k||
+    <cr>||||
+    !
+  !
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+auto-summary|auto-summary|k/sn||
+  <cr>||||
+  !
+!
+default-information|default-information|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timers|timers|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distance|distance|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+distribute-list|distribute-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+default-metric|default-metric|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+neighbor|neighbor|k||
+  a.b.c.d|a.b.c.d|k||
+    <cr>||||
+    !
+  !
+!
+offset-list|offset-list|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+maximum-paths|maximum-paths|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+address-family|address-family|k||
+  line|line|lb/le/wa||
+    <cr>||||@(config-router-af)# router_rip_nested.cfm
+    !
+  !
+!
+exit-address-family|exit-address-family|k||
+  <cr>||||
+  !
+!
+validate-update-source|validate-update-source|k/sn||
+  <cr>||||
+  !
+!
+output-delay|output-delay|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!

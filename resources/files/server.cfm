@@ -1,0 +1,58 @@
+address|address|k||
+  ipv4|ipv4|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  ipv6|ipv6|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+key|key|k||
+  id|id|||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timeout|timeout|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+single-connection|single-connection|k||
+  <cr>||||
+  !
+!
+port|port|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+pac|pac|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+automate-tester|automate-tester|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,14 @@
+key-string|key-string|k||
+  <cr>||||
+  !
+!
+key-hash|key-hash|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+quit|quit|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,156 @@
+rd|specify route distinguisher|k||
+  aa:nn|aa:nn|o||
+    <cr>||||
+    !
+  !
+!
+route-target|route-target|k||
+  export|export|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+  import|import|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+  both|both|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+!
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+import|import|k||
+  map|map|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  ipv4|ipv4|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+export|export|k||
+  map|map|k||
+    word|word|||
+      <cr>||||
+      !
+    !
+  !
+  ipv4|ipv4|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+vpn|vpn|k||
+  id|id|||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+mdt|mdt|k||
+  default|default|k||
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+  !
+  data|data|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address-family|address-family|k||
+  ipv4|ipv4|k||
+    <cr>||||@(config-vrf-af)# vrf_nested.cfm
+    !
+    unicast|unicast|k||
+      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+      !
+    !
+    multicast|multicast|k||
+      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+      !
+    !
+  !
+  ipv6|ipv6|k||
+    <cr>||||@(config-vrf-af)# vrf_nested.cfm
+    !
+    unicast|unicast|k||
+      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+      !
+    !
+    multicast|multicast|k||
+      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+      !
+    !
+  !
+!
+exit-address-family|exit-address-family|k||
+  <cr>||||
+  !
+!
+maximum|maximum|k||
+  routes|routes|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+vnet|vnet|k||
+  tag|tag|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
+!
+auto-classify|auto-classify|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rd-auto|rd-auto|k||
+  <cr>||||
+  !
+!
+context|context|k||
+  word|word|||
+    <cr>||||
+    !
+  !
+!
+protection|protection|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

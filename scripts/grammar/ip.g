@@ -1,0 +1,650 @@
+# Global "ip ..." and "ipv6 ..." commands.
+
+file ip_global.cfm
+cef "cisco express forwarding" $ :sn
+  distributed $
+  accounting
+    line *
+  load-sharing
+    line *
+  optimize
+    line *
+routing "ip routing" $ :sn
+  protocol
+    purge
+      interface $
+classless $ :sn
+subnet-zero $ :sn
+source-route $ :sn
+gratuitous-arps $ :sn
+finger $ :sn
+bootp
+  server $ :sn
+domain-lookup $ :sn
+  source-interface
+    %IF
+domain "domain name system"
+  lookup $ :sn
+    source-interface
+      %IF
+  name :o
+    word :o $
+    vrf
+      word :k
+        word $
+  list
+    word $
+  timeout
+    id $
+  retry
+    id $
+domain-name
+  word :o $
+  vrf
+    word :k
+      word $
+name-server
+  vrf
+    word :k
+      a.b.c.d :k $
+        a.b.c.d :k $
+  a.b.c.d :k $
+    a.b.c.d :k $
+      a.b.c.d :k $
+  word :k $
+host
+  word :k
+    a.b.c.d $
+      a.b.c.d $
+    id
+      a.b.c.d $
+forward-protocol
+  nd $ :sn
+  udp
+    &portfile.cfm :k $
+http
+  server $ :sn
+  secure-server $ :sn
+  authentication
+    local $
+    aaa $
+      login-authentication
+        word $
+    enable $
+  access-class
+    word $
+      ipv4
+        word $
+  max-connections
+    id $
+  timeout-policy
+    idle
+      id
+        life
+          id
+            requests
+              id $
+  path
+    line *
+  client
+    source-interface
+      %IF
+    line *
+  port
+    id $
+  secure-trustpoint
+    word $
+  secure-ciphersuite
+    line *
+  secure-port
+    id $
+  active-session-modules
+    line *
+  session-module-list
+    line *
+  secure-active-session-modules
+    line *
+  tls-version
+    line *
+ssh "configure secure shell"
+  version
+    id :o $
+  time-out
+    id :o $
+  authentication-retries
+    id :o $
+  source-interface
+    %IF
+  logging
+    events $
+  rsa
+    keypair-name
+      word $
+  server
+    line *
+  client
+    line *
+  dh
+    min
+      size
+        id $
+  pubkey-chain @(conf-ssh-pubkey)#=ssh_pubkey.cfm
+  port
+    line *
+  dscp
+    id $
+  precedence
+    id $
+  break-string
+    line *
+  maxstartups
+    id $
+  bulk-mode $
+    line *
+scp
+  server
+    enable $
+tftp
+  source-interface
+    %IF
+  blocksize
+    id $
+ftp
+  source-interface
+    %IF
+  username
+    word $
+  password
+    id
+      word $
+    word $
+  passive $
+telnet
+  source-interface
+    %IF
+  tos
+    <value> $
+  hidden
+    line *
+tcp
+  synwait-time
+    id :o $
+  path-mtu-discovery $
+    age-timer
+      id $
+  selective-ack $
+  timestamp $
+  window-size
+    id $
+  queuemax
+    id $
+  mss
+    id $
+  ecn $
+  intercept
+    line *
+route "establish static routes"
+  a.b.c.d :k "destination prefix"
+    a.b.c.d :k "destination prefix mask"
+      %IF
+        a.b.c.d "forwarding router's address" $
+          id "distance metric" $
+            line *
+          line *
+        id "distance metric" $
+        line *
+      a.b.c.d "forwarding router's address" $
+        id "distance metric" $
+          line *
+        line *
+      dhcp $
+        id $
+  vrf
+    word :k
+      a.b.c.d :k
+        a.b.c.d :k
+          %IF
+            a.b.c.d $
+              line *
+            id $
+            line *
+          a.b.c.d $
+            line *
+          dhcp $
+  static
+    line *
+access-list "named access list"
+  standard
+    word :k @(config-std-nacl)#=acl_std.cfm
+  extended
+    word :k @(config-ext-nacl)#=acl_ext.cfm
+  log-update
+    threshold
+      id $
+  logging
+    line *
+  resequence
+    line *
+  role-based
+    word :k @(config-rb-acl)#=acl_ext.cfm
+prefix-list "build a prefix list"
+  word :k
+    seq
+      id :k
+        permit
+          a.b.c.d/<1-32> :k $
+            ge
+              id $
+                le
+                  id $
+            le
+              id $
+        deny
+          a.b.c.d/<1-32> :k $
+            ge
+              id $
+                le
+                  id $
+            le
+              id $
+    permit
+      a.b.c.d/<1-32> :k $
+        ge
+          id $
+            le
+              id $
+        le
+          id $
+    deny
+      a.b.c.d/<1-32> :k $
+        ge
+          id $
+            le
+              id $
+        le
+          id $
+    description
+      %TEXT
+  sequence-number $
+community-list "add a community list entry"
+  standard
+    word :k
+      permit
+        %COMMUNITY
+      deny
+        %COMMUNITY
+  expanded
+    word :k
+      permit
+        %TEXT
+      deny
+        %TEXT
+  id :k
+    permit
+      %COMMUNITY
+    deny
+      %COMMUNITY
+extcommunity-list
+  standard
+    word :k
+      permit
+        line *
+      deny
+        line *
+  expanded
+    word :k
+      permit
+        line *
+      deny
+        line *
+  id :k
+    permit
+      line *
+    deny
+      line *
+as-path
+  access-list
+    id :k
+      permit
+        %TEXT
+      deny
+        %TEXT
+bgp-community
+  new-format $ :o
+nat "nat configuration"
+  inside
+    source
+      list
+        word :k
+          interface
+            %IF
+              overload $
+          pool
+            word :k $
+              overload $
+              vrf
+                word $
+                  overload $
+      route-map
+        word :k
+          interface
+            %IF
+              overload $
+          pool
+            word :k $
+              overload $
+      static
+        a.b.c.d :k
+          a.b.c.d :k $
+            line *
+          interface
+            %IF
+              line *
+        tcp
+          a.b.c.d :k
+            id :k
+              a.b.c.d :k
+                id :k $
+                  line *
+              interface
+                %IF
+                  id :k $
+                    line *
+        udp
+          a.b.c.d :k
+            id :k
+              a.b.c.d :k
+                id :k $
+                  line *
+              interface
+                %IF
+                  id :k $
+                    line *
+        network
+          line *
+    destination
+      line *
+  outside
+    source
+      line *
+  pool
+    word :k
+      a.b.c.d
+        a.b.c.d
+          netmask
+            a.b.c.d $
+              line *
+          prefix-length
+            id $
+              line *
+      netmask
+        a.b.c.d @(config-ipnat-pool)#=generic.cfm
+      prefix-length
+        id @(config-ipnat-pool)#=generic.cfm
+  translation
+    line *
+  log
+    line *
+  service
+    line *
+dhcp "configure dhcp server and relay parameters"
+  pool
+    word :k @(dhcp-config)#=dhcp_pool.cfm
+  excluded-address
+    a.b.c.d :k $
+      a.b.c.d :k $
+    vrf
+      word :k
+        a.b.c.d :k $
+          a.b.c.d :k $
+  snooping $
+    line *
+  relay
+    line *
+  conflict
+    logging $
+  database
+    line *
+  ping
+    line *
+  bootp
+    ignore $
+  use
+    line *
+  compatibility
+    line *
+  smart-relay $
+sla "ip service level agreement"
+  id :k @(config-ip-sla)#=ip_sla.cfm
+  monitor
+    id :k @(config-sla-monitor)#=ip_sla.cfm
+    schedule
+      line *
+  schedule
+    id :k
+      line * $
+  responder $
+  logging
+    traps $
+  enable
+    reaction-alerts $
+  reaction-configuration
+    line *
+  auto
+    line *
+inspect "context-based access control"
+  name
+    word :k
+      &protocolfile.cfm :k $
+        line *
+      word :k $
+        line *
+  tcp
+    line *
+  udp
+    line *
+  dns-timeout
+    id $
+  alert-off $
+  audit-trail $
+  max-incomplete
+    line *
+  one-minute
+    line *
+  hashtable-size
+    id $
+  log
+    line *
+ips
+  name
+    word :k $
+      line *
+  line *
+multicast-routing $
+  vrf
+    word :k $
+      distributed $
+  distributed $
+multicast
+  line *
+pim
+  line *
+igmp
+  line *
+wccp
+  line *
+sla-monitor
+  line *
+vrf "configure an ip vrf"
+  word :k @(config-vrf)#=vrf.cfm
+explicit-path
+  name
+    word :k $
+      enable @(cfg-ip-expl-path)#=generic.cfm
+  identifier
+    id :k $
+      enable @(cfg-ip-expl-path)#=generic.cfm
+local
+  pool
+    word :k
+      a.b.c.d
+        a.b.c.d $
+          line *
+      line *
+  policy
+    route-map
+      word $
+default-gateway
+  a.b.c.d :o $
+default-network
+  a.b.c.d $
+flow-export
+  line *
+flow-cache
+  line *
+flow
+  line *
+accounting-threshold
+  id $
+accounting-list
+  line *
+options
+  drop $
+  ignore $
+icmp
+  rate-limit
+    line *
+  redirect
+    line *
+arp
+  line *
+radius
+  source-interface
+    %IF
+tacacs
+  source-interface
+    %IF
+ospf
+  name-lookup $
+dns
+  server $
+    line *
+  view
+    line *
+  spoofing
+    line *
+rcmd
+  line *
+auth-proxy
+  line *
+admission
+  line *
+msdp
+  line *
+rsvp
+  line *
+mroute
+  line *
+bgp
+  line *
+extcommunity
+  line *
+device
+  tracking $
+    line *
+  line *
+port-map
+  line *
+urlfilter
+  line *
+audit
+  line *
+policy-list
+  line *
+mfib $
+  line *
+nhrp
+  line *
+security
+  line *
+wlan
+  line *
+ddns
+  line *
+virtual-reassembly
+  line *
+reflexive-list
+  timeout
+    id $
+forward-protocol-nd $
+vrrp
+  line *
+pim-vrf
+  line *
+gdoi
+  line *
+
+file ipv6_global.cfm
+unicast-routing $
+cef $ :sn
+  distributed $
+multicast-routing $
+  line *
+multicast
+  line *
+route "establish static routes"
+  word :k
+    %IF
+      word $
+        line *
+      id $
+      line *
+    word $
+      id $
+      line *
+  vrf
+    word :k
+      line *
+  static
+    line *
+router
+  ospf
+    id :k @(config-rtr)#=router_ospf.cfm
+  eigrp
+    id :k @(config-rtr)#=router_eigrp.cfm
+    word :k @(config-rtr)#=router_eigrp.cfm
+  rip
+    word :k @(config-rtr)#=router_rip.cfm
+access-list
+  word :k @(config-ipv6-acl)#=acl_ipv6.cfm
+prefix-list
+  word :k
+    line *
+source-route $ :sn
+icmp
+  error-interval
+    id $
+      id $
+ioam
+  timestamp $
+dhcp
+  pool
+    word :k @(config-dhcpv6)#=generic.cfm
+  line *
+general-prefix
+  line *
+neighbor
+  line *
+nd
+  line *
+local
+  line *
+host
+  line *
+flowset $
+hop-limit
+  id $
+mld
+  line *
+pim
+  line *

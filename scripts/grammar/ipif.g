@@ -1,0 +1,461 @@
+file ip_interface.cfm
+address "set the ip address of an interface" :n
+  a.b.c.d :o "ip address" :k
+    a.b.c.d "ip subnet mask" $
+      secondary :k $
+        vrf
+          word $
+  dhcp $
+    client-id
+      %IF
+    hostname
+      word $
+  negotiated $
+    previous $
+  pool
+    word $
+unnumbered
+  %IF
+cef
+  accounting
+    line *
+flowspec
+  disable $
+vrf
+  forwarding
+    word :o $
+  receive
+    word $
+  sitemap
+    word $
+access-group "specify access control for packets"
+  word :k
+    in :k $
+    out :k $
+  in :k
+    word $
+helper-address "specify a destination address for udp broadcasts"
+  a.b.c.d :k $
+  vrf
+    word :k
+      a.b.c.d :k $
+  global
+    a.b.c.d :k $
+redirects $ :sn
+unreachables $ :sn
+proxy-arp $ :sn
+local-proxy-arp $
+directed-broadcast $ :sn
+  id $
+mask-reply $
+route-cache $ :sn
+  cef $ :sn
+  flow $
+  same-interface $
+  policy $
+  distributed $
+mroute-cache $ :sn
+split-horizon $ :sn
+  eigrp
+    id $
+summary-address
+  line *
+hello-interval
+  eigrp
+    id
+      id $
+hold-time
+  eigrp
+    id
+      id $
+bandwidth-percent
+  eigrp
+    id
+      id $
+authentication
+  mode
+    eigrp
+      id
+        md5 $
+  key-chain
+    eigrp
+      id
+        word $
+mtu
+  id :o $
+tcp
+  adjust-mss
+    id :o $
+  header-compression $
+    line *
+virtual-reassembly $
+  in $
+    line *
+  out $
+  line *
+virtual-reassembly-out $
+nat
+  inside $
+  outside $
+  enable $
+policy
+  route-map
+    word :o $
+verify
+  unicast
+    source
+      reachable-via
+        rx $
+          allow-default $
+          id $
+        any $
+          allow-default $
+          id $
+    reverse-path $
+      id $
+flow
+  ingress $
+  egress $
+  monitor
+    word :k
+      input $
+      output $
+pim
+  sparse-mode $
+  dense-mode $
+  sparse-dense-mode $
+  dr-priority
+    id $
+  query-interval
+    id $
+      msec $
+  join-prune-interval
+    id $
+  bsr-border $
+  nbma-mode $
+  passive $
+  neighbor-filter
+    word $
+  version
+    id $
+  border $
+igmp
+  version
+    id $
+  query-interval
+    id $
+  query-max-response-time
+    id $
+  last-member-query-interval
+    id $
+  last-member-query-count
+    id $
+  v3-query-max-response-time
+    id $
+  tcn
+    query
+      count
+        id $
+      interval
+        id $
+  join-group
+    a.b.c.d :k $
+  static-group
+    a.b.c.d :k $
+  access-group
+    word $
+  helper-address
+    a.b.c.d $
+  snooping
+    line *
+  proxy-service $
+  immediate-leave
+    line *
+  limit
+    id $
+  explicit-tracking $
+  querier-timeout
+    id $
+cgmp $
+  proxy $
+dvmrp
+  accept-filter
+    word $
+      neighbor-list
+        word $
+      id $
+        neighbor-list
+          word $
+  unicast-routing $
+  metric
+    line *
+  summary-address
+    line *
+  default-information
+    line *
+  reject-non-pruners $
+  auto-summary $
+mfib $
+  forwarding
+    input $
+    output $
+  cef
+    input $
+    output $
+inspect
+  word :k
+    in $
+    out $
+ips
+  word :k
+    in $
+    out $
+ospf "ospf interface commands"
+  id :k "process id"
+    area
+      id :k $
+        secondary
+          line *
+      a.b.c.d :k $
+  cost
+    id :o $
+  network
+    point-to-point :o $
+    broadcast :o $
+    non-broadcast :o $
+    point-to-multipoint :o $
+      non-broadcast $
+  mtu-ignore $
+  priority
+    id :o $
+  hello-interval
+    id :o $
+  dead-interval
+    id :o $
+    minimal
+      hello-multiplier
+        id $
+  retransmit-interval
+    id $
+  transmit-delay
+    id $
+  authentication $
+    message-digest $
+    null $
+    key-chain
+      word $
+  authentication-key
+    id
+      word $
+    word $
+  message-digest-key
+    id :k
+      md5
+        id
+          word $
+        word $
+  demand-circuit $
+  bfd $
+    disable $
+  database-filter
+    all
+      out $
+  flood-reduction $
+  resync-timeout
+    id $
+  shutdown $
+  ttl-security
+    line *
+  prefix-suppression $
+    disable $
+rip
+  line *
+dhcp
+  relay
+    information
+      line *
+  snooping
+    line *
+  client
+    line *
+  server
+    line *
+nhrp
+  line *
+wccp
+  line *
+accounting
+  line *
+rsvp
+  line *
+sap
+  line *
+multicast
+  line *
+admission
+  word $
+auth-proxy
+  word $
+urlfilter
+  line *
+load-sharing
+  per-packet $
+  per-destination $
+information-reply $
+security
+  line *
+irdp $
+  line *
+probe
+  proxy
+    line *
+router
+  isis $
+    word $
+authentication-key
+  line *
+bgp
+  fast-external-fallover
+    line *
+ddns
+  line *
+domain
+  lookup $
+rtp
+  line *
+port-unreachable $
+gratuitous-arps $
+
+file ipv6_interface.cfm
+cef $
+  accounting
+    line *
+address
+  <x:x::x/n> :k $
+    eui-64 $
+    anycast $
+    link-local $
+  <x:x::x> :k
+    link-local $
+  autoconfig $
+    default $
+  dhcp $
+    rapid-commit $
+  word :k
+    <x:x::x/n> :k $
+      eui-64 $
+enable $
+unreachables $ :sn
+redirects $ :sn
+nd
+  ra
+    suppress $
+      all $
+    interval
+      id $
+    lifetime
+      id $
+    solicited
+      unicast $
+    line *
+  prefix
+    line *
+  reachable-time
+    id $
+  nud
+    line *
+  ns-interval
+    id $
+  dad
+    attempts
+      id $
+    line *
+  other-config-flag $
+  managed-config-flag $
+  router-preference
+    line *
+  suppress-ra $
+  cache
+    line *
+  autoconfig
+    line *
+  ra-interval
+    id $
+  ra-lifetime
+    id $
+  prefix-advertisement
+    line *
+mfib
+  forwarding
+    input $
+    output $
+  cef
+    input $
+    output $
+ospf
+  id :k
+    area
+      id :k $
+      a.b.c.d :k $
+  cost
+    id $
+  network
+    line *
+  mtu-ignore $
+  priority
+    id $
+  hello-interval
+    id $
+  dead-interval
+    id $
+  authentication
+    line *
+  encryption
+    line *
+ospfv3
+  line *
+eigrp
+  id $
+rip
+  word :k
+    enable $
+    line *
+mtu
+  id :o $
+traffic-filter
+  word :k
+    in $
+    out $
+dhcp
+  server
+    word $
+      line *
+  relay
+    line *
+  client
+    line *
+policy
+  line *
+pim $
+  line *
+mld
+  line *
+tcp
+  adjust-mss
+    id $
+verify
+  line *
+flowspec
+  line *
+virtual-reassembly $
+  line *
+nat $
+  line *
+access-list
+  word $
+    line *
+source-route $
+flow
+  line *
+router
+  line *

@@ -1,0 +1,440 @@
+file generic.cfm
+description
+  %TEXT
+shutdown $
+zone
+  line *
+ras
+  line *
+gw-type-prefix
+  line *
+lrq
+  line *
+bandwidth
+  line *
+endpoint
+  line *
+arq
+  line *
+gateway
+  line *
+member
+  line *
+cor
+  line *
+name
+  line *
+reachability
+  line *
+delay
+  line *
+default-state
+  line *
+object
+  line *
+virtual-ip
+  line *
+cli
+  line *
+event
+  line *
+action
+  line *
+cron
+  line *
+policy-list
+  line *
+protocol
+  line *
+pppoe
+  line *
+virtual-template
+  id $
+sessions
+  line *
+activate $
+profile
+  line *
+vnic
+  line *
+guest-ipaddress
+  line *
+app-vnic
+  line *
+app-default-gateway
+  line *
+app-resource
+  line *
+start $
+destination
+  line *
+contact-email-addr
+  line *
+service
+  line *
+http-proxy
+  line *
+encapsulation
+  line *
+ip
+  address
+    line *
+  nbar
+    line *
+accept-dialin @(config-vpdn-acc-in)#=generic.cfm
+request-dialin @(config-vpdn-req-in)#=generic.cfm
+l2tp
+  line *
+lcp
+  line *
+codec
+  line *
+session
+  line *
+incoming
+  line *
+vad $
+dtmf-relay
+  line *
+answer-address
+  line *
+destination-pattern
+  line *
+port
+  line *
+huntstop $
+rule
+  line *
+translate
+  line *
+fax
+  line *
+modem
+  line *
+h323
+  line *
+sip
+  line *
+allow-connections
+  line *
+supplementary-service
+  line *
+no-shutdown $
+match
+  line *
+rekey
+  line *
+sa
+  line *
+server
+  line *
+address
+  line *
+identity
+  line *
+type
+  line *
+timer
+  line *
+reverse-route $
+  line *
+interface
+  line *
+interworking
+  line *
+control-word $
+preferred-path
+  line *
+sequencing
+  line *
+next-address
+  line *
+index
+  line *
+exclude-address
+  line *
+hostname
+  line *
+hidekeys $
+enable $
+monitor
+  line *
+path
+  line *
+frequency
+  line *
+security
+  line *
+recovery
+  line *
+version
+  line *
+transport
+  line *
+subscribe-to-alert-group
+  line *
+profile
+  line *
+credential
+  line *
+clock
+  line *
+mtu
+  line *
+exit $
+
+file archive.cfm
+path
+  line * :o
+maximum
+  id $
+log
+  config @(config-archive-log-cfg)#=archive.cfm
+logging
+  enable $
+  size
+    id $
+notify
+  syslog $
+    contenttype
+      line *
+hidekeys $
+write-memory $
+time-period
+  id $
+rollback
+  line *
+
+file vrf.cfm
+rd "specify route distinguisher"
+  aa:nn :o $
+route-target
+  export
+    aa:nn :k $
+  import
+    aa:nn :k $
+  both
+    aa:nn :k $
+description
+  %TEXT
+import
+  map
+    word $
+  ipv4
+    line *
+export
+  map
+    word $
+  ipv4
+    line *
+vpn
+  id
+    line *
+mdt
+  default
+    a.b.c.d $
+  data
+    line *
+  line *
+address-family
+  ipv4 @(config-vrf-af)#=vrf.cfm
+    unicast @(config-vrf-af)#=vrf.cfm
+    multicast @(config-vrf-af)#=vrf.cfm
+  ipv6 @(config-vrf-af)#=vrf.cfm
+    unicast @(config-vrf-af)#=vrf.cfm
+    multicast @(config-vrf-af)#=vrf.cfm
+exit-address-family $
+maximum
+  routes
+    line *
+vnet
+  tag
+    id $
+auto-classify $
+  line *
+rd-auto $
+context
+  word $
+protection
+  line *
+
+file dhcp_pool.cfm
+network
+  a.b.c.d :o $
+    a.b.c.d $
+    </nn> $
+default-router
+  a.b.c.d :m $
+    a.b.c.d :m $
+      a.b.c.d :m $
+dns-server
+  a.b.c.d :m $
+    a.b.c.d :m $
+      a.b.c.d :m $
+        a.b.c.d :m $
+domain-name
+  word :o $
+lease
+  id :o $
+    id $
+      id $
+  infinite $
+option
+  id :k
+    line *
+host
+  a.b.c.d :o $
+    a.b.c.d $
+    </nn> $
+client-identifier
+  word :o $
+hardware-address
+  word :o $
+    line *
+client-name
+  word $
+netbios-name-server
+  a.b.c.d :m $
+    a.b.c.d :m $
+netbios-node-type
+  word $
+next-server
+  a.b.c.d $
+bootfile
+  word $
+import
+  all $
+update
+  line *
+vrf
+  word $
+relay
+  line *
+class
+  line *
+utilization
+  line *
+origin
+  line *
+subnet
+  line *
+address
+  line *
+dns
+  line *
+prefix-delegation
+  line *
+domain-search
+  line *
+
+file ip_sla.cfm
+icmp-echo
+  a.b.c.d :o $
+    source-interface
+      %IF
+    source-ip
+      a.b.c.d $
+  word :o $
+    line *
+udp-jitter
+  line *
+udp-echo
+  line *
+tcp-connect
+  line *
+http
+  line *
+dns
+  line *
+path-echo
+  line *
+type
+  echo
+    protocol
+      ipIcmpEcho
+        a.b.c.d :o $
+          line *
+      line *
+  line *
+frequency
+  id :o $
+timeout
+  id :o $
+threshold
+  id :o $
+tag
+  %TEXT
+vrf
+  word $
+tos
+  id $
+request-data-size
+  id $
+owner
+  word $
+data-pattern
+  word $
+verify-data $
+history
+  line *
+source-interface
+  %IF
+source-ipaddr
+  a.b.c.d $
+exit $
+
+file object_group.cfm
+description
+  %TEXT
+host
+  a.b.c.d :k $
+a.b.c.d :k
+  a.b.c.d :k $
+range
+  a.b.c.d :k
+    a.b.c.d :k $
+group-object
+  word :k $
+&protocolfile.cfm :k $
+  line *
+tcp
+  line *
+udp
+  line *
+tcp-udp
+  line *
+icmp $
+  line *
+
+file server.cfm
+address
+  ipv4
+    a.b.c.d :o $
+      line *
+  ipv6
+    line *
+key
+  id
+    line *
+  line *
+timeout
+  id $
+single-connection $
+port
+  id $
+pac
+  line *
+automate-tester
+  line *
+
+file ssh_pubkey.cfm
+username
+  word :k @(conf-ssh-pubkey-user)#=ssh_pubkey_user.cfm
+server
+  word :k @(conf-ssh-pubkey-server)#=ssh_pubkey_user.cfm
+
+file ssh_pubkey_user.cfm
+key-string $
+key-hash
+  line *
+quit $

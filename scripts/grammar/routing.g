@@ -1,0 +1,666 @@
+def BGPNEIGHBOR
+  remote-as "specify a bgp neighbor"
+    <as> :o $
+      line *
+  activate $
+  peer-group "member of the peer-group" $
+    word :o $
+  update-source
+    %IF
+  description
+    %TEXT
+  send-community $
+    both $
+    standard $
+    extended $
+  route-map
+    word
+      in :k $
+      out :k $
+  next-hop-self $
+    all $
+  soft-reconfiguration
+    inbound $
+  route-reflector-client $
+  advertisement-interval
+    id :o $
+  timers
+    id
+      id $
+        id $
+  default-originate $
+    route-map
+      word $
+  password
+    id
+      line *
+    line *
+  ebgp-multihop $
+    id $
+  shutdown $
+  weight
+    id $
+  send-label $
+    explicit-null $
+  filter-list
+    id
+      in $
+      out $
+  prefix-list
+    word
+      in :k $
+      out :k $
+  distribute-list
+    word
+      in :k $
+      out :k $
+  maximum-prefix
+    id $
+      line *
+  allowas-in $
+    id $
+  as-override $
+  remove-private-as $
+    all $
+      replace-as $
+  local-as
+    <as> $
+      line *
+  version
+    id $
+  dmzlink-bw $
+  advertise
+    additional-paths
+      line *
+    best-external $
+  additional-paths
+    line *
+  fall-over $
+    line *
+  disable-connected-check $
+  ttl-security
+    hops
+      id $
+  transport
+    line *
+  unsuppress-map
+    word $
+  capability
+    line *
+  inherit
+    line *
+  ha-mode
+    line *
+  fast-external-fallover $
+  slow-peer
+    line *
+  translate-update
+    line *
+  aigp $
+    line *
+
+def AFBODY
+  neighbor
+    a.b.c.d :k
+      %BGPNEIGHBOR
+    word :k
+      %BGPNEIGHBOR
+  network "specify a network to announce via bgp"
+    a.b.c.d :k $
+      mask
+        a.b.c.d :k $
+          route-map
+            word $
+          backdoor $
+      route-map
+        word $
+      backdoor $
+    word :k $
+      route-map
+        word $
+  redistribute "redistribute information from another routing protocol"
+    connected $
+      route-map
+        word $
+      metric
+        id $
+          line *
+      subnets $
+    static $
+      route-map
+        word $
+      metric
+        id $
+          line *
+      subnets $
+    ospf
+      id :k $
+        line *
+    eigrp
+      id :k $
+        line *
+    rip $
+      line *
+    bgp
+      <as> :k $
+        line *
+    isis $
+      line *
+    lisp $
+      line *
+  aggregate-address
+    line *
+  maximum-paths
+    id $
+    ibgp
+      id $
+    eibgp
+      id $
+  synchronization $
+  auto-summary $
+  default-information
+    originate $
+  bgp
+    dampening $
+      line *
+    additional-paths
+      line *
+    redistribute-internal $
+    nexthop
+      line *
+    scan-time
+      line *
+  distance
+    line *
+  table-map
+    line *
+  default-metric
+    id $
+  import
+    line *
+  export
+    line *
+  exit-address-family $
+  segment-routing
+    line *
+  label
+    line *
+  allocate-label
+    line *
+
+file router_bgp.cfm
+bgp "bgp specific commands"
+  log-neighbor-changes $ :sn
+  router-id
+    a.b.c.d :o $
+    vrf
+      auto-assign $
+  default
+    ipv4-unicast $ :sn
+    local-preference
+      id $
+    route-target
+      filter $ :sn
+  additional-paths
+    line *
+  dampening $
+    line *
+  bestpath
+    line *
+  cluster-id
+    line *
+  confederation
+    line *
+  deterministic-med $
+  always-compare-med $
+  graceful-restart $
+    line *
+  fast-external-fallover $
+  enforce-first-as $
+  maxas-limit
+    id $
+  listen
+    line *
+  asnotation
+    dot $
+  update-delay
+    id $
+  scan-time
+    id $
+  nopeerup-delay
+    line *
+  redistribute-internal $
+  transport
+    line *
+  client-to-client
+    reflection $
+  suppress-inactive $
+  recursion
+    host $
+  nexthop
+    line *
+  consistency-checker
+    line *
+  inject-map
+    line *
+  regexp
+    line *
+  aggregate-timer
+    id $
+  soft-reconfig-backup $
+  sso
+    line *
+  mpls
+    line *
+neighbor "specify a neighbor router"
+  a.b.c.d :k
+    %BGPNEIGHBOR
+  word :k
+    %BGPNEIGHBOR
+  word :k
+    peer-group $
+    %BGPNEIGHBOR
+address-family "enter address family command mode"
+  ipv4 :k @(config-router-af)#=router_bgp_af.cfm
+    unicast :k @(config-router-af)#=router_bgp_af.cfm
+      vrf
+        word :k @(config-router-af)#=router_bgp_af.cfm
+    multicast :k @(config-router-af)#=router_bgp_af.cfm
+      vrf
+        word :k @(config-router-af)#=router_bgp_af.cfm
+    vrf
+      word :k @(config-router-af)#=router_bgp_af.cfm
+    mdt :k @(config-router-af)#=router_bgp_af.cfm
+    flowspec @(config-router-af)#=router_bgp_af.cfm
+    mvpn @(config-router-af)#=router_bgp_af.cfm
+    labeled-unicast @(config-router-af)#=router_bgp_af.cfm
+  ipv6 :k @(config-router-af)#=router_bgp_af.cfm
+    unicast :k @(config-router-af)#=router_bgp_af.cfm
+      vrf
+        word :k @(config-router-af)#=router_bgp_af.cfm
+    multicast :k @(config-router-af)#=router_bgp_af.cfm
+    vrf
+      word :k @(config-router-af)#=router_bgp_af.cfm
+    flowspec @(config-router-af)#=router_bgp_af.cfm
+    mvpn @(config-router-af)#=router_bgp_af.cfm
+  vpnv4 :k @(config-router-af)#=router_bgp_af.cfm
+    unicast :k @(config-router-af)#=router_bgp_af.cfm
+    multicast @(config-router-af)#=router_bgp_af.cfm
+    flowspec @(config-router-af)#=router_bgp_af.cfm
+  vpnv6 :k @(config-router-af)#=router_bgp_af.cfm
+    unicast :k @(config-router-af)#=router_bgp_af.cfm
+  l2vpn @(config-router-af)#=router_bgp_af.cfm
+    vpls @(config-router-af)#=router_bgp_af.cfm
+    evpn @(config-router-af)#=router_bgp_af.cfm
+  nsap @(config-router-af)#=router_bgp_af.cfm
+  rtfilter @(config-router-af)#=router_bgp_af.cfm
+    unicast @(config-router-af)#=router_bgp_af.cfm
+  link-state @(config-router-af)#=router_bgp_af.cfm
+    link-state @(config-router-af)#=router_bgp_af.cfm
+template
+  peer-session
+    word :k @(config-router-stmp)#=router_bgp_af.cfm
+  peer-policy
+    word :k @(config-router-ptmp)#=router_bgp_af.cfm
+timers
+  bgp
+    id
+      id $
+        id $
+%AFBODY
+
+file router_bgp_af.cfm
+%AFBODY
+
+def OSPFBODY
+  router-id "router id for this ospf process"
+    a.b.c.d :o $
+  network "enable routing on an ip network"
+    a.b.c.d :k
+      a.b.c.d :k
+        area
+          id :k $
+          a.b.c.d :k $
+  log-adjacency-changes $ :sn
+    detail $
+  passive-interface "suppress routing updates on an interface"
+    default $
+    %IF
+  area "ospf area parameters"
+    id :k
+      line * $
+    a.b.c.d :k
+      line * $
+  redistribute
+    connected $
+      line *
+    static $
+      line *
+    bgp
+      <as> :k $
+        line *
+    ospf
+      id :k $
+        line *
+    eigrp
+      id :k $
+        line *
+    rip $
+      line *
+    isis $
+      line *
+  default-information
+    originate $
+      line *
+  auto-cost
+    reference-bandwidth
+      id :o $
+  timers
+    throttle
+      spf
+        id
+          id
+            id $
+      lsa
+        line *
+    lsa
+      arrival
+        id $
+    pacing
+      line *
+  summary-address
+    line *
+  summary-prefix
+    line *
+  distance
+    line *
+  distribute-list
+    line *
+  maximum-paths
+    id $
+  default-metric
+    id $
+  bfd
+    all-interfaces $
+  nsf $
+    line *
+  mpls
+    line *
+  capability
+    line *
+  max-metric
+    line *
+  ispf $
+  prefix-suppression $
+  shutdown $
+  compatible
+    line *
+  ignore
+    line *
+  graceful-restart $
+    line *
+  fast-reroute
+    line *
+  segment-routing
+    line *
+  microloop
+    line *
+  address-family
+    ipv4 @(config-router-af)#=router_ospf_af.cfm
+      unicast @(config-router-af)#=router_ospf_af.cfm
+    ipv6 @(config-router-af)#=router_ospf_af.cfm
+      unicast @(config-router-af)#=router_ospf_af.cfm
+  discard-route
+    line *
+  domain-id
+    line *
+  domain-tag
+    line *
+  local-rib-criteria $
+  queue-depth
+    line *
+  event-log $
+    line *
+  interface-id
+    line *
+  exit-address-family $
+
+file router_ospf.cfm
+%OSPFBODY
+
+file router_ospf_af.cfm
+%OSPFBODY
+
+file router_eigrp.cfm
+network
+  a.b.c.d :k $
+    a.b.c.d :k $
+eigrp
+  router-id
+    a.b.c.d :o $
+  stub $
+    line *
+  log-neighbor-changes $
+  log-neighbor-warnings $
+    id $
+passive-interface
+  default $
+  %IF
+redistribute
+  connected $
+    line *
+  static $
+    line *
+  ospf
+    id :k $
+      line *
+  bgp
+    <as> :k $
+      line *
+  eigrp
+    id :k $
+      line *
+  rip $
+    line *
+auto-summary $ :sn
+metric
+  line *
+variance
+  id $
+maximum-paths
+  id $
+distance
+  line *
+distribute-list
+  line *
+default-metric
+  line *
+offset-list
+  line *
+timers
+  line *
+traffic-share
+  line *
+summary-metric
+  line *
+address-family
+  ipv4 @(config-router-af)#=router_eigrp_af.cfm
+    unicast @(config-router-af)#=router_eigrp_af.cfm
+      autonomous-system
+        id @(config-router-af)#=router_eigrp_af.cfm
+      vrf
+        word @(config-router-af)#=router_eigrp_af.cfm
+          autonomous-system
+            id @(config-router-af)#=router_eigrp_af.cfm
+    autonomous-system
+      id @(config-router-af)#=router_eigrp_af.cfm
+    vrf
+      word @(config-router-af)#=router_eigrp_af.cfm
+        autonomous-system
+          id @(config-router-af)#=router_eigrp_af.cfm
+  ipv6 @(config-router-af)#=router_eigrp_af.cfm
+    unicast @(config-router-af)#=router_eigrp_af.cfm
+      autonomous-system
+        id @(config-router-af)#=router_eigrp_af.cfm
+    autonomous-system
+      id @(config-router-af)#=router_eigrp_af.cfm
+no-shutdown $
+shutdown $
+nsf $
+
+file router_eigrp_af.cfm
+network
+  a.b.c.d :k $
+    a.b.c.d :k $
+eigrp
+  router-id
+    a.b.c.d :o $
+  stub $
+    line *
+af-interface @(config-router-af-interface)#=router_eigrp_afif.cfm
+  default @(config-router-af-interface)#=router_eigrp_afif.cfm
+  %IF @(config-router-af-interface)#=router_eigrp_afif.cfm
+topology
+  base @(config-router-af-topology)#=router_eigrp_topo.cfm
+  word @(config-router-af-topology)#=router_eigrp_topo.cfm
+exit-address-family $
+metric
+  line *
+shutdown $
+nsf $
+passive-interface
+  %IF
+
+file router_eigrp_afif.cfm
+passive-interface $
+hello-interval
+  id $
+hold-time
+  id $
+authentication
+  line *
+summary-address
+  line *
+split-horizon $
+bandwidth-percent
+  id $
+bfd $
+shutdown $
+next-hop-self $
+exit-af-interface $
+
+file router_eigrp_topo.cfm
+redistribute
+  line *
+variance
+  id $
+maximum-paths
+  id $
+distance
+  line *
+distribute-list
+  line *
+default-metric
+  line *
+auto-summary $
+summary-metric
+  line *
+offset-list
+  line *
+traffic-share
+  line *
+timers
+  line *
+exit-af-topology $
+
+file router_rip.cfm
+version
+  id :o $
+network
+  a.b.c.d :k $
+redistribute
+  line *
+passive-interface
+  default $
+  %IF
+auto-summary $ :sn
+default-information
+  line *
+timers
+  line *
+distance
+  line *
+distribute-list
+  line *
+default-metric
+  line *
+neighbor
+  a.b.c.d :k $
+offset-list
+  line *
+maximum-paths
+  id $
+address-family
+  line * @(config-router-af)#=router_rip.cfm
+exit-address-family $
+validate-update-source $ :sn
+output-delay
+  id $
+
+file router_isis.cfm
+net
+  <value> :k $
+is-type
+  line * :o
+metric-style
+  line *
+passive-interface
+  default $
+  %IF
+redistribute
+  line *
+log-adjacency-changes $
+  all $
+address-family
+  line * @(config-router-af)#=router_isis.cfm
+exit-address-family $
+authentication
+  line *
+area-password
+  line *
+domain-password
+  line *
+summary-address
+  line *
+default-information
+  line *
+set-overload-bit $
+  line *
+max-lsp-lifetime
+  id $
+lsp-refresh-interval
+  id $
+spf-interval
+  line *
+prc-interval
+  line *
+lsp-gen-interval
+  line *
+bfd
+  line *
+nsf
+  line *
+distance
+  line *
+maximum-paths
+  id $
+metric
+  line *
+fast-reroute
+  line *
+segment-routing
+  line *
+mpls
+  line *
+hostname
+  dynamic $

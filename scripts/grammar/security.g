@@ -1,0 +1,468 @@
+def SECTOP
+aaa "authentication, authorization and accounting"
+  new-model $ :sn
+  authentication
+    login
+      word :k
+        line *
+    enable
+      default
+        line *
+    ppp
+      word :k
+        line *
+    dot1x
+      word :k
+        line *
+    attempts
+      login
+        id $
+    password-prompt
+      line *
+    username-prompt
+      line *
+    banner
+      line *
+    fail-message
+      line *
+  authorization
+    exec
+      word :k
+        line *
+    network
+      word :k
+        line *
+    commands
+      id :k
+        word :k
+          line *
+    console $
+    config-commands $
+    configuration
+      word :k
+        line *
+    auth-proxy
+      line *
+    reverse-access
+      line *
+  accounting
+    exec
+      word :k
+        line *
+    network
+      word :k
+        line *
+    commands
+      id :k
+        word :k
+          line *
+    connection
+      word :k
+        line *
+    system
+      line *
+    update
+      line *
+    send
+      line *
+    delay-start $
+    dot1x
+      line *
+    identity
+      line *
+  session-id
+    common $ :o
+    unique $ :o
+  group
+    server
+      tacacs+
+        word :k @(config-sg-tacacs+)#=aaa_group.cfm
+      radius
+        word :k @(config-sg-radius)#=aaa_group.cfm
+  server
+    radius
+      dynamic-author @(config-locsvr-da-radius)#=aaa_group.cfm
+  local
+    authentication
+      line *
+  password
+    restriction $
+  common-criteria
+    line *
+  attribute
+    list
+      word :k @(config-attr-list)#=aaa_group.cfm
+ntp "configure ntp"
+  server
+    vrf
+      word :k
+        word :k $
+          line *
+    ip
+      word :k $
+        line *
+    word :k "ntp server address" $
+      prefer $
+        source
+          %IF
+        key
+          id $
+      source
+        %IF
+      key
+        id $
+          prefer $
+      version
+        id $
+      burst $
+      iburst $
+        line *
+  peer
+    vrf
+      word :k
+        word :k $
+          line *
+    word :k $
+      line *
+  master $
+    id $
+  source
+    %IF
+  update-calendar $
+  clock-period
+    id :o $
+  authenticate $
+  authentication-key
+    id :k
+      md5
+        word
+          id $
+        line *
+  trusted-key
+    id :k $
+  logging $
+  access-group
+    line *
+  broadcastdelay
+    id $
+  max-associations
+    id $
+logging "modify message logging facilities"
+  a.b.c.d :k "ip address of the logging host" $
+    line *
+  host
+    a.b.c.d :k $
+      line *
+    ipv6
+      line *
+    word :k $
+      line *
+  buffered $
+    id :o $
+      line *
+    line * :o
+  console $ :sn
+    line * :o
+    discriminator
+      word $
+  monitor $ :sn
+    line * :o
+  trap $
+    line * :o
+  source-interface
+    %IF
+      vrf
+        word $
+  facility
+    word :o $
+  synchronous
+    line *
+  rate-limit
+    line *
+  snmp-authfail $
+  userinfo $
+  origin-id
+    line *
+  discriminator
+    word :k
+      line *
+  event
+    line *
+  count $
+  persistent
+    line *
+  queue-limit
+    line *
+  history
+    line *
+  file
+    line *
+  on $
+  timestamp
+    line *
+  reload
+    line *
+  alarm
+    line *
+  message-counter
+    line *
+  dmvpn
+    line *
+  cns-events
+    line *
+  exception
+    line *
+  server-arp $
+  hostname
+    line *
+snmp-server "modify snmp engine parameters"
+  community
+    word :k
+      view
+        word
+          line *
+      ro $
+        line *
+      rw $
+        line *
+      id $
+      word $
+  location
+    %TEXT
+  contact
+    %TEXT
+  enable
+    traps $
+      line *
+    informs $
+  host
+    a.b.c.d :k
+      line *
+    word :k
+      line *
+  trap-source
+    %IF
+  trap
+    link
+      line *
+    line *
+  ifindex
+    persist $
+  chassis-id
+    line *
+  user
+    line *
+  group
+    line *
+  view
+    line *
+  engineID
+    line *
+  source-interface
+    line *
+  packetsize
+    id $
+  queue-length
+    id $
+  trap-timeout
+    id $
+  system-shutdown $
+  manager $
+  tftp-server-list
+    line *
+  file-transfer
+    line *
+  mib
+    line *
+  vrf
+    line *
+  context
+    line *
+  inform
+    line *
+  trap-authentication
+    line *
+  ip
+    line *
+snmp
+  ifmib
+    line *
+  mib
+    line *
+key "key management"
+  chain
+    word :k @(config-keychain)#=key_chain.cfm
+  config-key
+    line *
+class-map "configure class map"
+  match-all
+    word :k @(config-cmap)#=class_map.cfm
+  match-any
+    word :k @(config-cmap)#=class_map.cfm
+  type
+    inspect
+      match-all
+        word :k @(config-cmap)#=class_map.cfm
+      match-any
+        word :k @(config-cmap)#=class_map.cfm
+      word :k @(config-cmap)#=class_map.cfm
+    word
+      line * @(config-cmap)#=class_map.cfm
+  word :k @(config-cmap)#=class_map.cfm
+policy-map "configure qos service policy"
+  type
+    inspect
+      word :k @(config-pmap)#=policy_map.cfm
+    word
+      line * @(config-pmap)#=policy_map.cfm
+  word :k @(config-pmap)#=policy_map.cfm
+vrf "vrf commands"
+  definition
+    word :k @(config-vrf)#=vrf.cfm
+crypto "encryption module"
+  isakmp
+    policy
+      id :k @(config-isakmp)#=crypto_isakmp.cfm
+    profile
+      word :k @(conf-isa-prof)#=crypto_isakmp_prof.cfm
+    key
+      id
+        word
+          address
+            a.b.c.d :k $
+              a.b.c.d $
+              no-xauth $
+          hostname
+            word :k $
+      word
+        address
+          a.b.c.d :k $
+            a.b.c.d $
+            no-xauth $
+          ipv6
+            line *
+        hostname
+          word :k $
+    keepalive
+      id $
+        id $
+          periodic $
+          on-demand $
+        periodic $
+        on-demand $
+    client
+      configuration
+        group
+          word :k @(config-isakmp-group)#=crypto_isakmp.cfm
+        address-pool
+          line *
+    identity
+      address $
+      hostname $
+      dn $
+    nat
+      keepalive
+        id $
+    invalid-spi-recovery $
+    aggressive-mode
+      disable $
+    enable $
+    xauth
+      line *
+    fragmentation $
+  keyring
+    word :k @(conf-keyring)#=crypto_keyring.cfm
+      vrf
+        word @(conf-keyring)#=crypto_keyring.cfm
+  ipsec
+    transform-set
+      word :k
+        line * @(cfg-crypto-trans)#=crypto_transform.cfm
+    profile
+      word :k @(ipsec-profile)#=crypto_map.cfm
+    security-association
+      line *
+    df-bit
+      line *
+    nat-transparency
+      line *
+    client
+      line *
+    fragmentation
+      line *
+    optional $
+  map
+    word :k
+      id :k
+        ipsec-isakmp @(config-crypto-map)#=crypto_map.cfm
+          dynamic
+            word $
+          profile
+            word @(config-crypto-map)#=crypto_map.cfm
+        ipsec-manual @(config-crypto-map)#=crypto_map.cfm
+        gdoi @(config-crypto-map)#=crypto_map.cfm
+      local-address
+        %IF
+      client
+        line *
+      isakmp
+        line *
+      isakmp-profile
+        word $
+      redundancy
+        line *
+  dynamic-map
+    word :k
+      id :k @(config-crypto-map)#=crypto_map.cfm
+  pki
+    trustpoint
+      word :k @(ca-trustpoint)#=crypto_pki.cfm
+    certificate
+      chain
+        word :k @(config-cert-chain)#=crypto_cert.cfm
+      map
+        line *
+      storage
+        line *
+    token
+      line *
+    server
+      word :k @(cs-server)#=crypto_pki.cfm
+    trustpool
+      line *
+  key
+    generate
+      line *
+    pubkey-chain
+      line *
+    storage
+      line *
+  gdoi
+    group
+      word :k @(config-gkm-group)#=generic.cfm
+  ikev2
+    proposal
+      word :k @(config-ikev2-proposal)#=crypto_ikev2.cfm
+    policy
+      word :k @(config-ikev2-policy)#=crypto_ikev2.cfm
+    keyring
+      word :k @(config-ikev2-keyring)#=crypto_ikev2.cfm
+    profile
+      word :k @(config-ikev2-profile)#=crypto_ikev2.cfm
+    line *
+  call
+    admission
+      limit
+        line *
+  engine
+    line *
+  ca
+    line *
+  logging
+    line *
+  vpn
+    line *
+  ctcp
+    line *
+  mib
+    line *

@@ -1,0 +1,699 @@
+# The three top modes.
+
+file view_mode.cfm
+enable "turn on privileged commands" $
+  id "privilege level" $
+exit "leave the terminal" $
+logout "leave the terminal" $
+
+file execution_mode.cfm
+configure "enter configuration mode" $
+  terminal "configure from the terminal" $
+disable "turn off privileged commands" $
+exit "leave the terminal" $
+logout "leave the terminal" $
+show "show running system information"
+  running-config "current operating configuration" $
+  version "system hardware and software status" $
+write "write running configuration"
+  memory "write to nonvolatile memory" $
+  terminal "write to terminal" $
+copy "copy from one file to another"
+  running-config
+    startup-config $
+
+file configuration_mod.cfm
+^c "end of a banner" $
+hostname "set system's network name"
+  word :o "this system's network name" $
+interface "select an interface to configure"
+  %IF
+    point-to-point "point-to-point subinterface" @(config-subif)#=interface.cfm
+    multipoint "multipoint subinterface" @(config-subif)#=interface.cfm
+    type "interface type"
+      word :k @(config-if)#=interface.cfm
+  &interfacefile.cfm "interface type"
+    <number> :k "interface number" @(config-if)#=interface.cfm
+  range "interface range"
+    line * @(config-if-range)#=interface.cfm
+version "version"
+  <value> :o $
+boot-start-marker "boot marker" $
+boot-end-marker "boot marker" $
+boot "boot commands"
+  system "system image"
+    %TEXT
+  host
+    %TEXT
+  config
+    %TEXT
+  nvram
+    %TEXT
+end "exit configuration mode" $
+exit "exit configuration mode" $
+service "modify use of network based services"
+  timestamps "timestamp debug/log messages"
+    debug :k
+      datetime $ :o
+        msec $
+          localtime $
+            show-timezone $
+              year $
+          show-timezone $
+          year $
+        localtime $
+          show-timezone $
+            year $
+          year $
+          msec $
+            show-timezone $
+        show-timezone $
+          year $
+        year $
+      uptime $
+    log :k
+      datetime $ :o
+        msec $
+          localtime $
+            show-timezone $
+              year $
+          show-timezone $
+          year $
+        localtime $
+          show-timezone $
+            year $
+          year $
+          msec $
+            show-timezone $
+        show-timezone $
+          year $
+        year $
+      uptime $
+  password-encryption $ :sn
+  pad $ :sn
+  config $ :sn
+  tcp-keepalives-in $
+  tcp-keepalives-out $
+  tcp-small-servers $
+  udp-small-servers $
+  nagle $
+  internal $
+  compress-config $
+  sequence-numbers $
+  call-home $
+  dhcp $ :sn
+  slave-log $
+  finger $
+  unsupported-transceiver $
+  linenumber $
+  counters
+    max
+      age
+        id $
+  prompt
+    config $ :sn
+  password-recovery $ :sn
+control-plane "control plane configuration" @(config-cp)#=control_plane.cfm
+  host @(config-cp-host)#=control_plane.cfm
+redundancy "redundancy configuration" @(config-red)#=redundancy.cfm
+multilink "ppp multilink"
+  bundle-name
+    authenticated $
+    endpoint $
+    both $
+username "establish user name authentication"
+  word :k "user name" $
+    privilege
+      id :o
+        password
+          id
+            line * :o
+          line * :o
+        secret
+          id
+            line * :o
+          line * :o
+        view
+          word $
+      %TEXT
+    password
+      id
+        line * :o
+      line * :o
+    secret
+      id
+        line * :o
+      line * :o
+    nopassword $
+    view
+      word $
+    autocommand
+      %TEXT
+    algorithm-type
+      word
+        secret
+          id
+            line *
+enable "modify enable password parameters"
+  secret
+    level
+      id
+        id
+          line * :o
+    id
+      line * :o
+    line * :o
+  password
+    level
+      id
+        id
+          line * :o
+    id
+      line * :o
+    line * :o
+  algorithm-type
+    word
+      secret
+        id
+          line * :o
+banner "define a login banner"
+  motd :k
+    line *
+  login :k
+    line *
+  exec :k
+    line *
+  incoming :k
+    line *
+  slip-ppp :k
+    line *
+  prompt-timeout :k
+    line *
+line "configure a terminal line"
+  con :k "primary terminal line"
+    id :k @(config-line)#=line.cfm
+  vty :k "virtual terminal"
+    id :k @(config-line)#=line.cfm
+      id :k @(config-line)#=line.cfm
+  aux :k "auxiliary line"
+    id :k @(config-line)#=line.cfm
+  console :k
+    id :k @(config-line)#=line.cfm
+  tty :k
+    id :k @(config-line)#=line.cfm
+      id :k @(config-line)#=line.cfm
+  id :k "first line number" @(config-line)#=line.cfm
+    id :k "last line number" @(config-line)#=line.cfm
+router "enable a routing process"
+  bgp "border gateway protocol"
+    <as> :k "autonomous system number" @(config-router)#=router_bgp.cfm
+  ospf "open shortest path first"
+    id :k "process id" @(config-router)#=router_ospf.cfm
+      vrf
+        word :k @(config-router)#=router_ospf.cfm
+  ospfv3 "ospf version 3"
+    id :k @(config-router)#=router_ospf.cfm
+  eigrp "enhanced interior gateway routing protocol"
+    id :k "autonomous system" @(config-router)#=router_eigrp.cfm
+    word :k "virtual instance name" @(config-router)#=router_eigrp.cfm
+  rip "routing information protocol" @(config-router)#=router_rip.cfm
+  isis "intermediate system to intermediate system" @(config-router)#=router_isis.cfm
+    word :k @(config-router)#=router_isis.cfm
+  lisp @(config-router-lisp)#=router_rip.cfm
+access-list "add an access list entry"
+  <1-99> :k "ip standard access list"
+    permit &acl_std_entry.cfm
+    deny &acl_std_entry.cfm
+    remark
+      %TEXT
+  <1300-1999> :k "ip standard access list (expanded range)"
+    permit &acl_std_entry.cfm
+    deny &acl_std_entry.cfm
+    remark
+      %TEXT
+  <100-199> :k "ip extended access list"
+    permit &acl_ext_entry.cfm
+    deny &acl_ext_entry.cfm
+    dynamic
+      word :k
+        permit &acl_ext_entry.cfm
+    remark
+      %TEXT
+  <2000-2699> :k "ip extended access list (expanded range)"
+    permit &acl_ext_entry.cfm
+    deny &acl_ext_entry.cfm
+    remark
+      %TEXT
+vlan "vlan commands"
+  <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
+  internal
+    allocation
+      policy
+        ascending $
+        descending $
+  access-log
+    ratelimit
+      id $
+    maxflow
+      id $
+    threshold
+      id $
+  access-map
+    word :k @(config-access-map)#=vlan.cfm
+      id :k @(config-access-map)#=vlan.cfm
+  filter
+    word :k
+      vlan-list
+        <vlan> $
+  dot1q
+    tag
+      native $
+spanning-tree "spanning tree subsystem"
+  mode
+    pvst $ :o
+    rapid-pvst $ :o
+    mst $ :o
+  extend
+    system-id $
+  portfast
+    default $
+    edge
+      default $
+      bpduguard
+        default $
+      bpdufilter
+        default $
+    bpduguard
+      default $
+    bpdufilter
+      default $
+  vlan
+    <vlan> :k $
+      priority
+        id :o $
+      forward-time
+        id $
+      hello-time
+        id $
+      max-age
+        id $
+      root
+        primary $
+        secondary $
+  loopguard
+    default $
+  etherchannel
+    guard
+      misconfig $
+  logging $
+  optimize
+    bpdu
+      transmission $
+  backbonefast $
+  uplinkfast $
+  pathcost
+    method
+      long $
+      short $
+  mst
+    configuration @(config-mst)#=vlan.cfm
+    id :k
+      priority
+        id $
+route-map "create route-map or enter route-map command mode"
+  word :k "route map tag" @(config-route-map)#=route_map.cfm
+    permit "route map permits set operations" @(config-route-map)#=route_map.cfm
+      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    deny "route map denies set operations" @(config-route-map)#=route_map.cfm
+      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    id :k @(config-route-map)#=route_map.cfm
+control-plane-policing $
+platform "platform configuration"
+  line * :o
+license "license configuration"
+  line *
+upgrade "upgrade commands"
+  fpd
+    auto $
+    path
+      %TEXT
+subscriber "subscriber configuration"
+  templating $
+  line *
+virtual-service "virtual service"
+  word :k @(config-virt-serv)#=generic.cfm
+archive "archive configuration" @(config-archive)#=archive.cfm
+cdp "global cdp configuration"
+  run $ :sn
+  advertise-v2 $ :sn
+  timer
+    id :o $
+  holdtime
+    id :o $
+  log
+    mismatch
+      duplex $
+lldp "global lldp configuration"
+  run $
+  timer
+    id $
+  holdtime
+    id $
+  reinit
+    id $
+diagnostic "diagnostic configuration"
+  bootup
+    level
+      minimal $
+      complete $
+      bypass $
+  monitor
+    line *
+login "login options"
+  block-for
+    id
+      attempts
+        id
+          within
+            id $
+  on-success
+    log $
+      every
+        id $
+  on-failure
+    log $
+      every
+        id $
+  delay
+    id $
+  quiet-mode
+    access-class
+      word $
+memory "memory configuration"
+  statistics
+    history
+      table $
+  free
+    low-watermark
+      processor
+        id $
+      io
+        id $
+  reserve
+    critical
+      id $
+  lite $
+memory-size
+  iomem
+    id $
+netconf-yang "netconf yang" $
+  line *
+restconf "restconf" $
+netconf
+  line *
+gatekeeper "gatekeeper configuration" @(config-gk)#=generic.cfm
+track "object tracking"
+  id :k
+    ip
+      sla
+        id :k @(config-track)#=generic.cfm
+          reachability @(config-track)#=generic.cfm
+          state @(config-track)#=generic.cfm
+      route
+        a.b.c.d/<1-32> :k
+          reachability @(config-track)#=generic.cfm
+          metric
+            threshold @(config-track)#=generic.cfm
+        a.b.c.d :k
+          a.b.c.d :k
+            reachability @(config-track)#=generic.cfm
+            metric
+              threshold @(config-track)#=generic.cfm
+    interface
+      %IF
+        line-protocol @(config-track)#=generic.cfm
+        ip
+          routing @(config-track)#=generic.cfm
+    list
+      boolean
+        and @(config-track)#=generic.cfm
+        or @(config-track)#=generic.cfm
+      threshold
+        weight @(config-track)#=generic.cfm
+        percentage @(config-track)#=generic.cfm
+    rtr
+      id :k @(config-track)#=generic.cfm
+        reachability @(config-track)#=generic.cfm
+        state @(config-track)#=generic.cfm
+    stub-object @(config-track)#=generic.cfm
+clock "configure time-of-day clock"
+  timezone
+    word :o
+      +/-<metric> $
+        id $
+      id $
+        id $
+  summer-time
+    word :o
+      recurring $
+        line *
+      date
+        line *
+  calendar-valid $
+security "security commands"
+  passwords
+    min-length
+      id :o $
+  authentication
+    failure
+      rate
+        id
+          log $
+  line *
+spd "selective packet discard"
+  headroom
+    id :o $
+  enable $
+  mode
+    aggressive $
+alias "create command alias"
+  exec
+    word :k
+      %TEXT
+  configure
+    word :k
+      %TEXT
+  interface
+    word :k
+      %TEXT
+dial-peer "dial peer configuration"
+  cor
+    custom @(config-dp-cor)#=generic.cfm
+    list
+      word :k @(config-dp-corlist)#=generic.cfm
+  voice
+    id :k
+      voip @(config-dial-peer)#=generic.cfm
+      pots @(config-dial-peer)#=generic.cfm
+dialer-list "dialer list"
+  id :k
+    protocol
+      word :k
+        permit $
+        deny $
+        list
+          id $
+dialer
+  watch-list
+    line *
+domain "domain configuration"
+  word :k @(config-domain)#=generic.cfm
+    line * @(config-domain)#=generic.cfm
+vpdn "virtual private dialup network"
+  enable $
+  logging $
+  group
+    word :k @(config-vpdn)#=generic.cfm
+  line *
+vpdn-group
+  word :k @(config-vpdn)#=generic.cfm
+bba-group "bba group"
+  pppoe
+    word :k @(config-bba-group)#=generic.cfm
+mpls "mpls configuration"
+  ldp
+    router-id
+      %IF
+        force $
+      a.b.c.d $
+        force $
+    explicit-null $
+    graceful-restart $
+    session
+      protection $
+    discovery
+      line *
+    neighbor
+      line *
+    label
+      line *
+    password
+      line *
+    igp
+      sync
+        holddown
+          id $
+    backoff
+      id
+        id $
+  label
+    range
+      id
+        id $
+          static
+            id
+              id $
+    protocol
+      ldp $
+      tdp $
+  traffic-eng
+    tunnels $
+    line *
+  ip $
+    line *
+  mtu
+    id $
+  oam $
+  ipv6
+    line *
+kron "command scheduler"
+  policy-list
+    word :k @(config-kron-policy)#=generic.cfm
+  occurrence
+    word :k
+      line * @(config-kron-occurrence)#=generic.cfm
+object-group "object group"
+  network
+    word :k @(config-network-group)#=object_group.cfm
+  service
+    word :k @(config-service-group)#=object_group.cfm
+zone "firewall zone"
+  security
+    word :k @(config-sec-zone)#=generic.cfm
+zone-pair "zone pair"
+  security
+    word :k
+      source
+        word :k
+          destination
+            word :k @(config-sec-zone-pair)#=generic.cfm
+tacacs-server "tacacs server configuration"
+  host
+    a.b.c.d :k $
+      line *
+  key
+    id
+      line *
+    line * :o
+  timeout
+    id $
+  directed-request $
+  administration $
+tacacs "tacacs server"
+  server
+    word :k @(config-server-tacacs)#=server.cfm
+radius-server "radius server configuration"
+  host
+    a.b.c.d :k $
+      line *
+  key
+    id
+      line *
+    line * :o
+  line *
+radius "radius server"
+  server
+    word :k @(config-radius-server)#=server.cfm
+mmi "modem management"
+  polling-interval
+    id $
+  auto-configure
+    id $
+  pvc
+    line * $
+  snmp-timeout
+    id $
+iox "application hosting" $
+app-hosting "application hosting"
+  appid
+    word :k @(config-app-hosting)#=generic.cfm
+call-home "call home" @(cfg-call-home)#=generic.cfm
+aqm-register-fnf $
+event "event manager"
+  manager
+    applet
+      word :k @(config-applet)#=generic.cfm
+        line * @(config-applet)#=generic.cfm
+    environment
+      word :k
+        line *
+    session
+      line *
+    directory
+      line *
+ethernet "ethernet configuration"
+  lmi
+    ce $
+  cfm
+    line *
+  evc
+    word :k @(config-evc)#=generic.cfm
+mgcp "media gateway control protocol" $
+  profile
+    word :k @(config-mgcp-profile)#=generic.cfm
+  line *
+pseudowire-class "pseudowire class"
+  word :k @(config-pw-class)#=generic.cfm
+l2tp-class
+  word :k @(config-l2tp-class)#=generic.cfm
+voice "voice configuration"
+  service
+    voip @(config-voi-serv)#=generic.cfm
+  class
+    codec
+      id :k @(config-class)#=generic.cfm
+  translation-rule
+    id :k @(config-translate)#=generic.cfm
+  translation-profile
+    word :k @(config-translate)#=generic.cfm
+  rtp
+    send-recv $
+voice-card
+  id :k @(config-voicecard)#=generic.cfm
+sccp "skinny client control protocol" $
+  line *
+stcapp $
+  line *
+card "card type"
+  type
+    line *
+controller "controller configuration"
+  word :k
+    <number> :k @(config-controller)#=generic.cfm
+network-clock-participate "network clock"
+  line *
+network-clock
+  line *
+network-clock-select
+  line *
+scheduler "scheduler"
+  allocate $
+    id
+      id $
+  interval
+    id $
+  max-task-time
+    id $
+ipv6 "ipv6 configuration" &ipv6_global.cfm
+ip "global ip configuration" &ip_global.cfm
+%SECTOP

@@ -1,0 +1,42 @@
+// ConfigInput: reading configuration files for the subcommands of vtyconf.
+//
+// Reads a file (or standard input for "-") and, unless told to keep it,
+// cleans a terminal capture: a byte-order mark, the prompt line that asked
+// for the configuration ("R1#show running-config"), the "Building
+// configuration..." and "Current configuration : N bytes" lines, and a
+// prompt left at the end. Each left-out line is reported so the caller can
+// say so. Lines that are left out become empty lines, so the file's own line
+// numbers stay valid.
+//
+// The library reads only non-empty lines and numbers them from 1
+// (splitting at carriage returns and line feeds); fileLineOf maps such a
+// number back to the line of the file. Plain values, no shared state.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vtycli {
+
+struct ConfigInput {
+  std::string path;                     // as given ("-" for standard input)
+  std::string text;                     // the text handed to the library
+  std::vector<std::string> leftOut;     // "LINE: text" of every line left out
+  std::vector<int> fileLines;           // file line of each non-empty line, in order
+  std::vector<bool> bannerText;         // per non-empty line: inside a banner
+  std::vector<std::string> readerLines; // the non-empty lines as the library sees them
+
+  // File line of the library's line number `number` (1-based); 0 if unknown.
+  int fileLineOf(int number) const;
+  bool isBannerText(int number) const;
+  // The name used in messages: the file name without its folders.
+  std::string displayName() const;
+};
+
+// Reads `path`; false with `error` set when the file cannot be read.
+bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out, std::string& error);
+
+// Cleans a capture in place (exposed for tests and other subcommands).
+void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
+
+}  // namespace vtycli

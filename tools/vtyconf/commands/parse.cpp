@@ -1,0 +1,200 @@
+// vtyconf parse: read configurations into commands and show what the device
+// made of each line; refused lines go to standard error with the file's own
+// line number.
+#include <algorithm>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "CommandRegistry.h"
+#include "ConfigInput.h"
+#include "config/QxParserUtil.h"
+
+namespace vtycli {
+namespace {
+
+using qxparser::CiscoCommandLine;
+using qxparser::QxParserUtil;
+
+struct ParseOptions {
+  std::vector<std::string> files;
+  bool json = false;
+  bool strict = false;
+  bool stats = false;
+  bool keepCapture = false;
+};
+
+const char* flagName(qxparser::CiscoCommandLineFlag flag) {
+  switch (flag) {
+    case qxparser::CMD_NEGATED: return "negated";
+    case qxparser::CMD_NEGATED_OVERWRITE: return "negated-overwrite";
+    case qxparser::CMD_ADDITIVE: return "additive";
+    case qxparser::CMD_OVERWRITE: return "overwrite";
+    case qxparser::CMD_MERGEABLE: return "mergeable";
+    case qxparser::CMD_TEXT: return "text";
+  }
+  return "unknown";
+}
+
+std::vector<std::string> bitNames(const CiscoCommandLine& record) {
+  static const std::pair<unsigned int, const char*> kBits[] = {
+      {qxparser::CMDBIT_NO, "no"},           {qxparser::CMDBIT_STORED, "stored"},
+      {qxparser::CMDBIT_OPENS_MODE, "mode"}, {qxparser::CMDBIT_REMOVED, "removed"},
+      {qxparser::CMDBIT_NO_ENDS_ANYWHERE, "no-ends-anywhere"},
+      {qxparser::CMDBIT_NO_COMPLETE, "no-incomplete"}, {qxparser::CMDBIT_SUB, "sub"},
+      {qxparser::CMDBIT_CONFLICT, "conflict"}};
+  std::vector<std::string> names;
+  for (const auto& bit : kBits) {
+    if (record.hasFlags(bit.first)) names.push_back(bit.second);
+  }
+  return names;
+}
+
+std::string commandText(const CiscoCommandLine& record) {
+  std::string text = record.getOriginalCmd();
+  if (text.empty()) text = record.getOriginalStr();
+  while (!text.empty() && (text.back() == '\n' || text.back() == ' ' || text.back() == '\r')) text.pop_back();
+  size_t start = text.find_first_not_of(" \t");
+  return start == std::string::npos ? std::string() : text.substr(start);
+}
+
+// The first two words of a line, lower-cased, for the refused-line groups.
+std::string groupKey(const std::string& line) {
+  std::istringstream in(line);
+  std::string first, second;
+  in >> first >> second;
+  std::string key = second.empty() ? first : first + " " + second;
+  std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return key;
+}
+
+struct FileResult {
+  size_t lines = 0;
+  size_t refused = 0;
+};
+
+// A refused line keeps no path, or (an incomplete one) a path that never
+// reached the end of a command; a "no" line may stop early on purpose.
+bool reachedEnd(const CiscoCommandLine& record) {
+  for (const auto& entry : record.getTreeNodes()) {
+    if (entry.words.count("\n") != 0) return true;
+  }
+  return false;
+}
+
+bool isRefused(const CiscoCommandLine& record, const ConfigInput& input) {
+  if (record.getFlag() == qxparser::CMD_TEXT || input.isBannerText(record.getLineNo())) return false;
+  if (record.getTreeNodeSize() == 0) return true;
+  return !reachedEnd(record) && !record.hasFlags(qxparser::CMDBIT_NO);
+}
+
+nlohmann::json toJson(const CiscoCommandLine& record, const ConfigInput& input) {
+  nlohmann::json item;
+  item["line"] = input.fileLineOf(record.getLineNo());
+  item["level"] = record.getLevel();
+  item["text"] = commandText(record);
+  item["flag"] = flagName(record.getFlag());
+  item["order"] = record.getOrderNo();
+  item["flags"] = bitNames(record);
+  nlohmann::json children = nlohmann::json::array();
+  for (const CiscoCommandLine* child : record.getChildCommands()) children.push_back(toJson(*child, input));
+  item["children"] = children;
+  return item;
+}
+
+int runParse(const ParseOptions& options, const GlobalOptions& global) {
+  QxParserUtil::createNewParserResource();
+  std::map<std::string, size_t> groups;
+  size_t totalLines = 0, totalRefused = 0;
+  bool failed = false;
+  nlohmann::json jsonOut = nlohmann::json::array();
+  for (const std::string& path : options.files) {
+    ConfigInput input;
+    std::string error;
+    if (!readConfigInput(path, options.keepCapture, input, error)) {
+      std::cerr << "vtyconf: " << error << "\n";
+      failed = true;
+      continue;
+    }
+    if (!global.quiet) {
+      for (const std::string& left : input.leftOut)
+        std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+    }
+    std::vector<CiscoCommandLine*> records;
+    std::string errorText;
+    int errorLine = 0;
+    QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+    std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
+        &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
+    FileResult result;
+    std::ostringstream text;
+    for (const CiscoCommandLine* record : records) {
+      ++result.lines;
+      const int fileLine = input.fileLineOf(record->getLineNo());
+      if (isRefused(*record, input)) {
+        ++result.refused;
+        const std::string shown = commandText(*record);
+        groups[groupKey(shown)]++;
+        std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
+        continue;
+      }
+      if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
+      const std::string shown = commandText(*record);
+      if (input.isBannerText(record->getLineNo())) {
+        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << shown << "\t[banner text]\n";
+        continue;
+      }
+      text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << shown << "\t[" << fileLine
+           << " order " << record->getOrderNo() << " " << flagName(record->getFlag());
+      for (const std::string& bit : bitNames(*record)) text << " " << bit;
+      text << "]\n";
+    }
+    if (options.json) {
+      for (const CiscoCommandLine* record : records) {
+        if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
+        if (isRefused(*record, input)) continue;
+        jsonOut.push_back(toJson(*record, input));
+      }
+    } else if (!options.stats) {
+      std::cout << text.str();
+    }
+    totalLines += result.lines;
+    totalRefused += result.refused;
+    if (options.stats) {
+      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused << " refused\n";
+    }
+  }
+  if (options.json) std::cout << jsonOut.dump(2) << "\n";
+  if (options.stats) {
+    double share = totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
+    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, " << totalRefused
+              << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
+    std::vector<std::pair<std::string, size_t>> sorted(groups.begin(), groups.end());
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const auto& a, const auto& b) { return a.second > b.second; });
+    for (const auto& group : sorted) std::cout << std::setw(6) << group.second << "  " << group.first << "\n";
+  }
+  QxParserUtil::destroyParserResource();
+  if (failed) return 2;
+  return options.strict && totalRefused > 0 ? 1 : 0;
+}
+
+CommandRegistration registration{CommandSpec{
+    "parse", "read configurations into commands (one per line, indented by level)",
+    [](CLI::App& sub, const GlobalOptions& global) -> std::function<int()> {
+      auto options = std::make_shared<ParseOptions>();
+      sub.add_option("CONFIG", options->files, "configuration files ('-' for standard input)")->required();
+      sub.add_flag("--json", options->json, "print the commands as a JSON array");
+      sub.add_flag("--strict", options->strict, "exit 1 when a line was refused");
+      sub.add_flag("--stats", options->stats, "print lines read, refused, and refused lines by their first words");
+      sub.add_flag("--keep-capture", options->keepCapture,
+                   "keep prompt lines and \"Building configuration...\" of a terminal capture");
+      sub.footer("Example: vtyconf parse router1.cfg --strict");
+      return [options, &global]() { return runParse(*options, global); };
+    }}};
+
+}  // namespace
+}  // namespace vtycli
