@@ -6,6 +6,9 @@
 #include <iterator>
 #include <regex>
 #include <sstream>
+#include <utility>
+
+#include "config/QxParserUtil.h"
 
 namespace vtycli {
 
@@ -167,6 +170,29 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
     }
   }
   return true;
+}
+
+bool readInput(const std::string& path, std::string& text, bool keepCapture) {
+  ConfigInput input;
+  std::string error;
+  if (!readConfigInput(path, keepCapture, input, error)) {
+    std::cerr << "vtyconf: " << error << "\n";
+    return false;
+  }
+  for (const std::string& left : input.leftOut)
+    std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+  text = std::move(input.text);
+  return true;
+}
+
+bool loadResources() {
+  try {
+    qxparser::QxParserUtil::createNewParserResource();
+    return true;
+  } catch (const std::exception& e) {
+    std::cerr << "vtyconf: " << e.what() << "\n";
+    return false;
+  }
 }
 
 }  // namespace vtycli

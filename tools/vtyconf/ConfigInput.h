@@ -39,4 +39,14 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
 // Cleans a capture in place (exposed for tests and other subcommands).
 void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 
+// Reads `path` for a subcommand that needs only the text: the capture is
+// cleaned (unless `keepCapture`) and every left-out line is reported on
+// standard error. False, after the message "vtyconf: ...", when the file
+// cannot be read.
+bool readInput(const std::string& path, std::string& text, bool keepCapture = false);
+
+// Loads the definition files; false, after a message, when they cannot be
+// loaded.
+bool loadResources();
+
 }  // namespace vtycli

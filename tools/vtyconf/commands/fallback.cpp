@@ -2,7 +2,8 @@
 #include <iostream>
 
 #include "CommandRegistry.h"
-#include "commands/ConfigInput.h"
+#include "ConfigInput.h"
+#include "config/QxParserUtil.h"
 
 namespace vtycli {
 namespace {

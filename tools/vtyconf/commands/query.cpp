@@ -6,7 +6,8 @@
 #include <list>
 
 #include "CommandRegistry.h"
-#include "commands/ConfigInput.h"
+#include "ConfigInput.h"
+#include "config/QxParserUtil.h"
 #include "config/QXParserGetConfig.h"
 #include "platform/QXFileSystem.h"
 
