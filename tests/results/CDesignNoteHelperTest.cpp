@@ -1,10 +1,9 @@
-#include "notes/CDesignNoteHelper.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "TestFiles.h"
+#include "notes/CDesignNoteHelper.h"
 #include "platform/MultiVendorFileSystem.h"
 #include "platform/PlatformOs.h"
 #include "results/UIVariableForDR.h"
@@ -19,10 +18,12 @@ TEST(CDesignNoteHelperTest, MapFilterByKey) {
     bool known;
     std::string name;
   };
-  const Row rows[] = {{1, true, "Interface Name"},       {2, true, "Interface Protocol"}, {3, false, "Configuration Summary"},
-                      {4, false, "Configuration Summary"}, {5, true, "Interface IP"},        {9, true, "BGP Neighbor"},
-                      {10, true, "Interface Name"},        {11, true, "Interface Protocol"}, {13, true, "Interface NAT"},
-                      {14, false, "Configuration Summary"}, {-1, false, "Configuration Summary"}};
+  const Row rows[] = {{1, true, "Interface Name"},         {2, true, "Interface Protocol"},
+                      {3, false, "Configuration Summary"}, {4, false, "Configuration Summary"},
+                      {5, true, "Interface IP"},           {9, true, "BGP Neighbor"},
+                      {10, true, "Interface Name"},        {11, true, "Interface Protocol"},
+                      {13, true, "Interface NAT"},         {14, false, "Configuration Summary"},
+                      {-1, false, "Configuration Summary"}};
   for (const Row& row : rows) {
     std::string name = "old";
     std::string path = "old";
@@ -41,11 +42,17 @@ TEST(CDesignNoteHelperTest, FullConfigurationFilterHasNoFolder) {
 }
 
 TEST(CDesignNoteHelperTest, DefaultNames) {
-  const std::pair<const char*, bool> rows[] = {
-      {"Global", true},           {"Map", true},          {"My Interface NAT copy", true},
-      {"BGP Neighbor", true},     {"global", false},      {"Map Filters", false},
-      {"Full Configuration", false}, {"Configuration Summary", false}, {"interface name", false}};
-  for (const auto& [name, expected] : rows) EXPECT_EQ(CDesignNoteHelper::IsDefaultName(name), expected) << name;
+  const std::pair<const char*, bool> rows[] = {{"Global", true},
+                                               {"Map", true},
+                                               {"My Interface NAT copy", true},
+                                               {"BGP Neighbor", true},
+                                               {"global", false},
+                                               {"Map Filters", false},
+                                               {"Full Configuration", false},
+                                               {"Configuration Summary", false},
+                                               {"interface name", false}};
+  for (const auto& [name, expected] : rows)
+    EXPECT_EQ(CDesignNoteHelper::IsDefaultName(name), expected) << name;
 }
 
 TEST(CDesignNoteHelperTest, FilterFolders) {
@@ -59,7 +66,8 @@ TEST(CDesignNoteHelperTest, FilterFolders) {
   EXPECT_EQ(CDesignNoteHelper::GetDesignDevFilterByType(7, &ui), MultiVendorFileSystem::s_DrMapPath + kSep);
   EXPECT_EQ(CDesignNoteHelper::GetDesignFilterDirByType(7, &ui), "");
   ui.setRootPath(MultiVendorFileSystem::s_DrGlobalPath);
-  EXPECT_EQ(CDesignNoteHelper::GetDesignDevFilterByType(0, &ui), MultiVendorFileSystem::s_DrGlobalPath + kSep);
+  EXPECT_EQ(CDesignNoteHelper::GetDesignDevFilterByType(0, &ui),
+            MultiVendorFileSystem::s_DrGlobalPath + kSep);
   ui.setRootPath("Other");
   EXPECT_EQ(CDesignNoteHelper::GetDesignDevFilterByType(0, &ui), "");
   EXPECT_EQ(CDesignNoteHelper::GetDesignMapFilterDirByType(1), "");

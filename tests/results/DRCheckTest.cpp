@@ -1,9 +1,8 @@
-#include "results/DRCheck.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "results/DRCheck.h"
 #include "results/DRCheckCounters.h"
 
 namespace {
@@ -36,15 +35,16 @@ TEST_F(DRCheckTest, MessagesByteForByte) {
   const Row rows[] = {
       {"empty", "", ""},
       {"balanced", "#a = search_line(\"x\", all);\n{ [ ( ) ] }\n", ""},
-      {"lone open brace", "{", "*Unclosed parenthesis at EOF: } opened on line 1.\nSummary:\n1 too few 1 braces.\n"},
-      {"lone close brace", "}", "Muddle detected at unmatched closing } line 1.\nSummary:\n1 too few 0 braces.\n"},
-      {"paren closed by square",
-       "(]",
+      {"lone open brace", "{",
+       "*Unclosed parenthesis at EOF: } opened on line 1.\nSummary:\n1 too few 1 braces.\n"},
+      {"lone close brace", "}",
+       "Muddle detected at unmatched closing } line 1.\nSummary:\n1 too few 0 braces.\n"},
+      {"paren closed by square", "(]",
        "Muddle detected at unmatched closing ] line 1.\n*Unclosed parenthesis at EOF: ) opened on line 1.\n"
        "Summary:\n1 too few 0 square brackets.\n1 too few 1 parentheses.\n"},
-      {"square closes over paren",
-       "[(]",
-       "Missing closers detected line 1.\n\tMissing closing ) opened line 1.\nSummary:\n1 too few 1 parentheses.\n"},
+      {"square closes over paren", "[(]",
+       "Missing closers detected line 1.\n\tMissing closing ) opened line 1.\nSummary:\n1 too few 1 "
+       "parentheses.\n"},
       {"line numbers count line ends", "a\n\n  b\n{\n",
        "*Unclosed parenthesis at EOF: } opened on line 4.\nSummary:\n1 too few 1 braces.\n"},
       {"two surplus closers", "x ) )",
@@ -63,7 +63,8 @@ TEST_F(DRCheckTest, MessagesByteForByte) {
       {"if else without braces", "x\nif (a == b) y; else z;\n", ""},
       {"nested ifs", "x\nif (a == b) if (c == d) y; else z;\nw;\n", ""},
       {"unclosed if body", "x\nif (a == b) {\n",
-       "*Unclosed parenthesis at EOF: } opened on line 2.\n*Unclosed parenthesis at EOF: then opened on line 2.\n"
+       "*Unclosed parenthesis at EOF: } opened on line 2.\n*Unclosed parenthesis at EOF: then opened on line "
+       "2.\n"
        "*Unclosed parenthesis at EOF: if opened on line 2.\nSummary:\n1 too few 1 braces.\n"},
       {"delimiters in strings constants comments", "x \"({[\" '(' '\\'' '\\12' ! ({[\ny", ""},
       {"comment mark hides the rest of a line", "x\nif (a != b) {\n}\n",
@@ -86,7 +87,8 @@ TEST_F(DRCheckTest, MessagesByteForByte) {
 
 TEST_F(DRCheckTest, EndOfTextInsideCommentStringOrConstantEndsTheScan) {
   const Row rows[] = {
-      {"comment", "x ( ! ({", "*Unclosed parenthesis at EOF: ) opened on line 1.\nSummary:\n1 too few 1 parentheses.\n"},
+      {"comment", "x ( ! ({",
+       "*Unclosed parenthesis at EOF: ) opened on line 1.\nSummary:\n1 too few 1 parentheses.\n"},
       {"escape at end of string", "x \"ab\\",
        std::string("*Error: '\"' quoted string not ended by end of file.\n") + kPossible},
       {"constant", "x '\\", ""},
@@ -122,7 +124,8 @@ TEST_F(DRCheckTest, TenErrorsShowNineAndTheNotice) {
   std::string text;
   for (int i = 0; i < 10; ++i) text += "}\n";
   std::string expected;
-  for (int i = 1; i <= 9; ++i) expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
+  for (int i = 1; i <= 9; ++i)
+    expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
   expected += "Other error messages being suppressed.\nSummary:\n10 too few 0 braces.\n";
   EXPECT_EQ(check(text), expected);
 }
@@ -133,7 +136,8 @@ TEST_F(DRCheckTest, CountCarriesOverToNextCheckIntended) {
   std::string text;
   for (int i = 0; i < 10; ++i) text += "}\n";
   std::string expected;
-  for (int i = 1; i <= 8; ++i) expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
+  for (int i = 1; i <= 8; ++i)
+    expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
   expected += "Other error messages being suppressed.\nSummary:\n10 too few 0 braces.\n";
   EXPECT_EQ(check(text), expected);
   // A clean check leaves the count where it stood.
@@ -167,6 +171,33 @@ TEST_F(DRCheckTest, UngetCharTurnsLineEndIntoBlankOnRequest) {
   c.ungetChar('x', false);
   EXPECT_EQ(c.getChar(), 'x');
   EXPECT_EQ(c.getChar(), 0);
+}
+
+}  // namespace
+
+namespace {
+
+// Texts made of the bytes the check reacts to, in random order: every read,
+// pushback and stack access must stay in bounds (the sanitizer build checks),
+// and every check must end with a message text that is empty or closed by a
+// summary.
+TEST_F(DRCheckTest, RandomTextsStayInBounds) {
+  const std::string alphabet = "{}[]()\"'\\!=;ifelsx \t\n\r0";
+  unsigned state = 12345;
+  for (int round = 0; round < 2000; ++round) {
+    state = state * 1103515245u + 12345u;
+    size_t length = (state >> 16) % 200;
+    std::string text;
+    for (size_t i = 0; i < length; ++i) {
+      state = state * 1103515245u + 12345u;
+      text += alphabet[(state >> 16) % alphabet.size()];
+    }
+    std::string out = check(text);
+    if (!out.empty()) {
+      EXPECT_NE(out.find("Summary:\n"), std::string::npos) << text;
+    }
+  }
+  EXPECT_EQ(check(std::string(5000, '{') + std::string(5000, '}')).find("***stack overflow"), 0u);
 }
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include "results/UIVariableForDR.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
@@ -7,6 +5,7 @@
 
 #include "TestFiles.h"
 #include "platform/Pathname.h"
+#include "results/UIVariableForDR.h"
 
 namespace {
 
@@ -15,10 +14,11 @@ using resultstest::readFile;
 using Values = std::set<std::string>;
 
 TEST(UIVariableTypeTest, FileNames) {
-  const std::pair<int, const char*> rows[] = {
-      {1, "UI_InterfaceList"}, {2, "UI_ProtocolList"},     {3, "UI_IPAddressList"}, {4, "UI_InterfaceNameList"},
-      {5, "UI_VrfNameList"},   {6, "UI_RouteMapNameList"}, {7, "UI_NATList"},       {0, "UI_Unknown"},
-      {8, "UI_Unknown"},       {-1, "UI_Unknown"}};
+  const std::pair<int, const char*> rows[] = {{1, "UI_InterfaceList"}, {2, "UI_ProtocolList"},
+                                              {3, "UI_IPAddressList"}, {4, "UI_InterfaceNameList"},
+                                              {5, "UI_VrfNameList"},   {6, "UI_RouteMapNameList"},
+                                              {7, "UI_NATList"},       {0, "UI_Unknown"},
+                                              {8, "UI_Unknown"},       {-1, "UI_Unknown"}};
   for (const auto& [kind, name] : rows) EXPECT_EQ(UIVariableType::toString(kind), name) << kind;
   EXPECT_EQ(UIVariableAction::ExtendNbr | UIVariableAction::Click | UIVariableAction::ShowTip |
                 UIVariableAction::Observe | UIVariableAction::AsTip,

@@ -8,12 +8,13 @@ const std::string CDesignNoteHelper::s_EmptyString;
 const std::string CDesignNoteHelper::s_FilterDir;
 
 const char* const CDesignNoteHelper::s_DeviceTypeNames[] = {
-    "Unclassified Device", "Router",         "L3 Switch",      "Firewall",    "End System", "LAN Segment",
-    "WAN Cloud",           "LAN Switch",     "MPLS Cloud",     "Mute LAN",    "Load Balancer",
-    "Call Manager",        "IP Phone",       "VLAN",           "Link",        "Generic L2 Switch",
-    "WAP",                 "Site",           "DMVPN",          "WLC",         "WAN Optimizer"};
-const int CDesignNoteHelper::s_DeviceTypeCount =
-    static_cast<int>(sizeof(CDesignNoteHelper::s_DeviceTypeNames) / sizeof(CDesignNoteHelper::s_DeviceTypeNames[0]));
+    "Unclassified Device", "Router",       "L3 Switch",  "Firewall",   "End System",
+    "LAN Segment",         "WAN Cloud",    "LAN Switch", "MPLS Cloud", "Mute LAN",
+    "Load Balancer",       "Call Manager", "IP Phone",   "VLAN",       "Link",
+    "Generic L2 Switch",   "WAP",          "Site",       "DMVPN",      "WLC",
+    "WAN Optimizer"};
+const int CDesignNoteHelper::s_DeviceTypeCount = static_cast<int>(
+    sizeof(CDesignNoteHelper::s_DeviceTypeNames) / sizeof(CDesignNoteHelper::s_DeviceTypeNames[0]));
 const std::string CDesignNoteHelper::s_LineBreakPattern = "\r\n[\r][\n]";
 
 namespace {
@@ -31,10 +32,9 @@ bool isFilterFolder(const std::string& folder) {
 
 const std::map<int, std::string>& CDesignNoteHelper::filterTable() {
   static const std::map<int, std::string> table = {
-      {1, "Interface Name"},      {2, "Interface Protocol"}, {5, "Interface IP"},
-      {6, "Interface ACL"},       {7, "Interface Multicast"}, {8, "Interface MPLS"},
-      {9, "BGP Neighbor"},        {10, "Interface Name"},     {11, "Interface Protocol"},
-      {12, "Interface PBR"},      {13, "Interface NAT"}};
+      {1, "Interface Name"},      {2, "Interface Protocol"}, {5, "Interface IP"},  {6, "Interface ACL"},
+      {7, "Interface Multicast"}, {8, "Interface MPLS"},     {9, "BGP Neighbor"},  {10, "Interface Name"},
+      {11, "Interface Protocol"}, {12, "Interface PBR"},     {13, "Interface NAT"}};
   return table;
 }
 

@@ -244,7 +244,8 @@ bool DRCheck::checkCloser(int type) {
       mMessages << "\tMissing closing " << getStrForBrakType(entry.type) << " opened line " << entry.line
                 << ".\n";
     }
-    if (entry.type == BrakBrace || entry.type == BrakSquare || entry.type == BrakParen) ++countFor(entry.type);
+    if (entry.type == BrakBrace || entry.type == BrakSquare || entry.type == BrakParen)
+      ++countFor(entry.type);
     pop();
   }
   pop();
@@ -440,7 +441,8 @@ bool DRCheck::syntaxCheck() {
     const Entry entry = top();
     mMessages << "*Unclosed parenthesis at EOF: " << getStrForBrakType(entry.type) << " opened on line "
               << entry.line << ".\n";
-    if (entry.type == BrakBrace || entry.type == BrakSquare || entry.type == BrakParen) ++countFor(entry.type);
+    if (entry.type == BrakBrace || entry.type == BrakSquare || entry.type == BrakParen)
+      ++countFor(entry.type);
     pop();
   }
 
@@ -456,7 +458,8 @@ bool DRCheck::syntaxCheck() {
     const char* what;
   } lines[] = {{mBraces, " braces.\n"}, {mSquares, " square brackets.\n"}, {mParens, " parentheses.\n"}};
   for (const auto& line : lines) {
-    if (line.count != 0) mMessages << std::abs(line.count) << " too few " << (line.count > 0 ? "1" : "0") << line.what;
+    if (line.count != 0)
+      mMessages << std::abs(line.count) << " too few " << (line.count > 0 ? "1" : "0") << line.what;
   }
   if (mErrorSeen && !imbalance) mMessages << "\tPossible error(s), but no net delimiter imbalance.\n";
   return true;

@@ -1,6 +1,5 @@
 #include "results/DRResultTree.h"
 
-#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <fstream>
@@ -20,7 +19,6 @@ constexpr size_t kLineNumbersLength = sizeof(kLineNumbers) - 1;
 // atoi without its undefined behaviour: leading white space, an optional sign,
 // digits; out-of-range values are clamped to int.
 int toInt(const std::string& text) {
-  errno = 0;
   long long value = std::strtoll(text.c_str(), nullptr, 10);
   if (value > INT_MAX) return INT_MAX;
   if (value < INT_MIN) return INT_MIN;

@@ -14,8 +14,8 @@ bool endsWith(const std::string& text, const std::string& tail) {
 
 }  // namespace
 
-bool buildSyntaxStringFromTree(const DRResultTree* tree, int depth, std::string& text, std::list<int>& closeLines,
-                               int& lineCounter) {
+bool buildSyntaxStringFromTree(const DRResultTree* tree, int depth, std::string& text,
+                               std::list<int>& closeLines, int& lineCounter) {
   if (tree == nullptr) return false;
   const DRResultTree::LineList lines = tree->getLines();
   for (const LineFormat* line : lines) {

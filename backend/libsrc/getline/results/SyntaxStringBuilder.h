@@ -1,6 +1,6 @@
-// Internal to the library (not installed): the text of a result tree as the
-// note editor shows it, built for DesignNoteParser::BuildSyntaxStringFromTree,
-// which forwards its arguments here unchanged.
+// Internal to the library (not installed): a result tree turned back into one
+// text, the work of DesignNoteParser::BuildSyntaxStringFromTree, which forwards
+// its arguments here unchanged.
 //
 // Each numbered top-level line opens a block that holds the line and its
 // subordinate lines and is closed by a line "!"; every line ends in CR LF.
@@ -19,7 +19,7 @@ class DRResultTree;
 
 namespace results {
 
-bool buildSyntaxStringFromTree(const DRResultTree* tree, int depth, std::string& text, std::list<int>& closeLines,
-                               int& lineCounter);
+bool buildSyntaxStringFromTree(const DRResultTree* tree, int depth, std::string& text,
+                               std::list<int>& closeLines, int& lineCounter);
 
 }  // namespace results

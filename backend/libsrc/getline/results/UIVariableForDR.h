@@ -43,7 +43,8 @@ class VTYCONF_API UIVariableAction {
 
 class VTYCONF_API UIVariableForDR {
  public:
-  explicit UIVariableForDR(const std::string& deviceName = std::string(), int uiAction = UIVariableAction::Unknown);
+  explicit UIVariableForDR(const std::string& deviceName = std::string(),
+                           int uiAction = UIVariableAction::Unknown);
 
   void setDeviceName(const std::string& name) { mDeviceName = name; }
   int getUiAction() const { return mUiAction; }
