@@ -8,6 +8,7 @@
 #include <sstream>
 #include <utility>
 
+#include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
@@ -182,6 +183,16 @@ bool readInput(const std::string& path, std::string& text, bool keepCapture) {
   for (const std::string& left : input.leftOut)
     std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
   text = std::move(input.text);
+  return true;
+}
+
+bool isRefusedRecord(const qxparser::CiscoCommandLine& record) {
+  if (record.getFlag() == qxparser::CMD_TEXT) return false;
+  if (record.getTreeNodeSize() == 0) return true;
+  if (record.hasFlags(qxparser::CMDBIT_NO)) return false;
+  for (const auto& entry : record.getTreeNodes()) {
+    if (entry.words.count("\n") != 0) return false;
+  }
   return true;
 }
 

@@ -16,6 +16,10 @@
 #include <string>
 #include <vector>
 
+namespace qxparser {
+class CiscoCommandLine;
+}
+
 namespace vtycli {
 
 struct ConfigInput {
@@ -44,6 +48,11 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 // standard error. False, after the message "vtyconf: ...", when the file
 // cannot be read.
 bool readInput(const std::string& path, std::string& text, bool keepCapture = false);
+
+// A refused line: its walk found no path, or a path that never reached the
+// end of a command (a "no" line may stop early on purpose). Comment records
+// are never refused; banner text is the caller's to leave out.
+bool isRefusedRecord(const qxparser::CiscoCommandLine& record);
 
 // Loads the definition files; false, after a message, when they cannot be
 // loaded.

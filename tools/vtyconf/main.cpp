@@ -28,6 +28,8 @@ int main(int argc, char** argv) {
   app.add_option("--resources", global.resources, "folder of definition files and scripts")
       ->check(CLI::ExistingDirectory);
   app.add_flag("--quiet", global.quiet, "no narration or progress on standard error");
+  // Global options may also follow the subcommand ("vtyconf demo --quiet").
+  app.fallthrough();
 
   auto& registry = commandRegistry();
   std::sort(registry.begin(), registry.end(),
