@@ -6,7 +6,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 GENERATOR := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
 CMAKE_FLAGS ?=
 
-.PHONY: all bootstrap configure build test demo bench asan clean
+.PHONY: all bootstrap configure build test demo bench asan package clean
 
 all: build
 
@@ -29,6 +29,9 @@ bench: bootstrap
 	@cmake -S . -B $(BUILD)-bench $(GENERATOR) -DCMAKE_BUILD_TYPE=Release -DVTYCONF_BUILD_BENCH=ON -DVTYCONF_BUILD_TESTS=OFF >/dev/null
 	@cmake --build $(BUILD)-bench -j $(JOBS)
 	@bash bench/run_all.sh $(BUILD)-bench
+
+package: build
+	@bash scripts/package-check $(BUILD)
 
 asan: bootstrap
 	@cmake -S . -B $(ASAN_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DVTYCONF_SANITIZE=ON $(CMAKE_FLAGS) >/dev/null

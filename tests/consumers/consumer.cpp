@@ -1,13 +1,16 @@
-// A tiny program that uses the installed or embedded library.
 #include <iostream>
+#include <string>
 
-#include "platform/QXFileSystem.h"
-#include "toolkit/ParserToolCase.h"
+#include "config/QxParserUtil.h"
 
 int main() {
-  using qxparser::ParserToolCase;
-  if (ParserToolCase::string2Lower("Interface") != "interface") return 1;
-  if (!ParserToolCase::isPvFormStr("<1-10>")) return 1;
-  std::cout << "resources: " << QXFileSystem::GetSystemResourceFolder() << "\n";
-  return 0;
+  using qxparser::QxParserUtil;
+  QxParserUtil::createNewParserResource();  // compile the grammar once per process
+  const std::string running = "hostname R1\ninterface GigabitEthernet0/1\n shutdown\n";
+  const std::string changes = "interface GigabitEthernet0/1\n description uplink\n";
+  const std::string merged = QxParserUtil::mergeConfigCmds(changes, running);
+  const std::string undo = QxParserUtil::fallbackConfigCmds(changes, running, 0);
+  std::cout << merged << "--- undo:\n" << undo;
+  QxParserUtil::destroyParserResource();
+  return merged.find("description uplink") != std::string::npos ? 0 : 1;
 }

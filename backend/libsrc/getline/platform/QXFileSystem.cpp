@@ -34,8 +34,9 @@ bool isFolder(const std::string& path) {
   return !path.empty() && fs::is_directory(path, ec);
 }
 
-// The resources installed beside the shared library: <prefix>/lib/libvtyconf.so
-// gives <prefix>/share/vtyconf/resources/.
+// The resources installed with the shared library: the build records the path
+// from the library's folder to them (<prefix>/lib/libvtyconf.so gives
+// <prefix>/lib/../share/vtyconf/resources/), so a moved install tree works.
 std::string installedResources() {
 #ifdef VTYCONF_INSTALL_RELATIVE_RESOURCES
   Dl_info info{};
@@ -43,8 +44,7 @@ std::string installedResources() {
   std::error_code ec;
   fs::path lib = fs::weakly_canonical(fs::path(info.dli_fname), ec);
   if (ec) return {};
-  fs::path prefix = lib.parent_path().parent_path();
-  return (prefix / VTYCONF_INSTALL_RELATIVE_RESOURCES).string();
+  return (lib.parent_path() / VTYCONF_INSTALL_RELATIVE_RESOURCES).lexically_normal().string();
 #else
   return {};
 #endif
