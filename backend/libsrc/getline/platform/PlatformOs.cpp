@@ -45,4 +45,6 @@ int terminalWidth(int fd, int def) {
 
 int consoleWidth(int def) { return terminalWidth(STDOUT_FILENO, def); }
 
+bool isTerminal(int fd) { return ::isatty(fd) == 1; }
+
 }  // namespace platform

@@ -40,5 +40,7 @@ VTYCONF_API std::string getEnv(const std::string& name, const std::string& def =
 VTYCONF_API int consoleWidth(int def);
 // Width of the terminal on the given descriptor, or def.
 VTYCONF_API int terminalWidth(int fd, int def);
+// True when the descriptor (0 input, 1 output, 2 error) is a terminal.
+VTYCONF_API bool isTerminal(int fd);
 
 }  // namespace platform

@@ -1,0 +1,26 @@
+// ManyFiles: running one subcommand over many configuration files.
+//
+// expandInputs() turns the arguments into a list of files: a folder stands
+// for the regular files in it (sorted by name, hidden files left out), "-"
+// and plain files stand for themselves. runPerFile() treats each file with
+// `job` in worker processes (see platform/WorkerPool.h: the grammar is loaded
+// once, before, by the caller), prints each file's output and messages in
+// the order of the inputs, shows a progress line on standard error when it
+// is a terminal, and returns the highest exit code of all files.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vtycli {
+
+// Files named by the arguments; false after a message for a missing one.
+bool expandInputs(const std::vector<std::string>& arguments, std::vector<std::string>& files);
+
+using FileJob = std::function<int(const std::string& file, std::string& out, std::string& err)>;
+
+// jobs 0 means one per processor.
+int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet, const FileJob& job);
+
+}  // namespace vtycli
