@@ -1,0 +1,220 @@
+// Script files: the format round trip, the reader's treatment of odd headers,
+// the writer's translation side effect, and the side-file operations.
+#include <gtest/gtest.h>
+
+#include "NoteTestSupport.h"
+#include "notes/DRScriptFile.h"
+#include "notes/DesignNoteParser.h"
+
+using notestest::exists;
+using notestest::readFile;
+using notestest::scratch;
+using notestest::writeFile;
+
+namespace {
+
+const char kGoodScript[] = "#x = search_line(\"^hostname \", all);\nprint #x;\n";
+
+TEST(DRScriptFileTest, WriteThenReadKeepsEveryField) {
+  const std::string dir = scratch("sf-roundtrip");
+  struct Row {
+    std::string description;
+    std::string context;
+    bool favourite;
+  } rows[] = {
+      {"", kGoodScript, true},
+      {"one line", kGoodScript, false},
+      {"first\nsecond\n\nfourth", "print \"x\";\n", true},
+      {"ends with a line end\n", "", false},
+      {"!!! looks like a marker", "! only a comment\n#a = #b;", true},
+  };
+  int i = 0;
+  for (const Row& row : rows) {
+    const std::string path = dir + "/s" + std::to_string(i++) + ".cmf";
+    ASSERT_TRUE(DRScriptFile(row.context, row.description, row.favourite).saveScriptFile(path));
+    DRScriptFile back(path);
+    EXPECT_EQ(back.getDescription(), row.description) << path;
+    EXPECT_EQ(back.getContext(), row.context) << path;
+    EXPECT_EQ(back.isFavourite(), row.favourite) << path;
+    EXPECT_EQ(back.getFileName(), "s" + std::to_string(i - 1));
+    EXPECT_EQ(back.getFilePath(), path);
+  }
+}
+
+TEST(DRScriptFileTest, WrittenFormIsTheFourMarkedItems) {
+  const std::string dir = scratch("sf-form");
+  ASSERT_TRUE(DRScriptFile("CTX", "a\nb", false).saveScriptFile(dir + "/f.cmf"));
+  EXPECT_EQ(readFile(dir + "/f.cmf"), "!!!Version,200\n!!!Favourite,0\n!!!Description:\n!!!a\n!!!b\n!!!Context:\nCTX");
+}
+
+TEST(DRScriptFileTest, ReaderOnHandWrittenFiles) {
+  const std::string dir = scratch("sf-read");
+  struct Row {
+    const char* name;
+    std::string file;
+    std::string description;
+    std::string context;
+    bool favourite;
+  } rows[] = {
+      {"no header at all", "print \"x\";\n", "", "print \"x\";\n", true},
+      {"no context marker: all is context", "!!!Version,200\n!!!Favourite,1\nabc",
+       "", "!!!Version,200\n!!!Favourite,1\nabc", true},
+      {"favourite 0", "!!!Favourite,0\n!!!Context:\nx", "", "x", false},
+      {"favourite true is not 1", "!!!Favourite,true\n!!!Context:\nx", "", "x", false},
+      {"favourite 11 is not 1", "!!!Favourite,11\n!!!Context:\nx", "", "x", false},
+      {"CR LF on disk reads as LF", "!!!Favourite,1\r\n!!!Description:\r\n!!!d1\r\n!!!d2\r\n!!!Context:\r\na\r\nb",
+       "d1\nd2", "a\nb", true},
+      {"empty description", "!!!Description:\n!!!\n!!!Context:\nbody", "", "body", true},
+  };
+  for (const Row& row : rows) {
+    writeFile(dir + "/h.cmf", row.file);
+    DRScriptFile s(dir + "/h.cmf");
+    EXPECT_EQ(s.getDescription(), row.description) << row.name;
+    EXPECT_EQ(s.getContext(), row.context) << row.name;
+    EXPECT_EQ(s.isFavourite(), row.favourite) << row.name;
+  }
+}
+
+TEST(DRScriptFileTest, DescriptionLineStartingWithContextCutsItIntendedly) {
+  const std::string dir = scratch("sf-ctxline");
+  ASSERT_TRUE(DRScriptFile("body", "intro\nContext: here", true).saveScriptFile(dir + "/c.cmf"));
+  DRScriptFile back(dir + "/c.cmf");
+  EXPECT_EQ(back.getDescription(), "intro");
+  // The context is found at the first marker, the one the description made.
+  EXPECT_EQ(back.getContext(), "here\n!!!Context:\nbody");
+}
+
+TEST(DRScriptFileTest, SaveTranslatesOnlyAScriptThatPassesTheCheck) {
+  const std::string dir = scratch("sf-translate");
+  ASSERT_TRUE(DRScriptFile(kGoodScript, "", true).saveScriptFile(dir + "/good.cmf"));
+  EXPECT_TRUE(exists(dir + "/good.pl"));
+  EXPECT_NE(readFile(dir + "/good.pl").find("search_line("), std::string::npos);
+
+  writeFile(dir + "/bad.pl", "stale");
+  ASSERT_TRUE(DRScriptFile("if (isempty(#a) {\n", "", true).saveScriptFile(dir + "/bad.cmf"));
+  EXPECT_TRUE(exists(dir + "/bad.cmf"));
+  EXPECT_FALSE(exists(dir + "/bad.pl")) << "a stale translation must go";
+
+  // Passes the delimiter check, refused by the translator.
+  ASSERT_TRUE(DRScriptFile("print (#a);\n", "", true).saveScriptFile(dir + "/refused.cmf"));
+  EXPECT_FALSE(exists(dir + "/refused.pl"));
+}
+
+TEST(DRScriptFileTest, SaveByExtensionOfThePath) {
+  const std::string dir = scratch("sf-ext");
+  DRScriptFile s(kGoodScript, "d", true);
+  EXPECT_TRUE(s.saveScriptFile(dir + "/p.py"));
+  EXPECT_EQ(readFile(dir + "/p.py"), kGoodScript);
+  EXPECT_TRUE(s.saveScriptFile(dir + "/none.txt")) << "nothing written, still true";
+  EXPECT_FALSE(exists(dir + "/none.txt"));
+  // A ".pl" path gets the header form and is then replaced by the translation.
+  EXPECT_TRUE(s.saveScriptFile(dir + "/t.pl"));
+  EXPECT_NE(readFile(dir + "/t.pl").find("hashConfigFile"), std::string::npos);
+  EXPECT_FALSE(s.saveScriptFile(dir + "/missing-folder/x.cmf"));
+  EXPECT_FALSE(s.save()) << "an object built from text has no file path";
+}
+
+TEST(DRScriptFileTest, SettersSaveToTheFileTheyCameFrom) {
+  const std::string dir = scratch("sf-set");
+  ASSERT_TRUE(DRScriptFile("a", "d", true).saveScriptFile(dir + "/s.cmf"));
+  DRScriptFile s(dir + "/s.cmf");
+  s.setDescription("new", true);
+  s.setFavourite(false, true);
+  s.setContext("not saved", false);
+  DRScriptFile back(dir + "/s.cmf");
+  EXPECT_EQ(back.getDescription(), "new");
+  EXPECT_FALSE(back.isFavourite());
+  EXPECT_EQ(back.getContext(), "a");
+}
+
+TEST(DRScriptFileTest, ScriptTypeAndExtension) {
+  struct Row {
+    std::string name;
+    DRScriptFileType type;
+    std::string base;
+  } rows[] = {
+      {"", ScriptTypeNone, ""},
+      {"a.py", ScriptTypePython, "a"},
+      {"A.PY", ScriptTypePython, "A"},
+      {"a.pyx.cmf", ScriptTypePython, "a"},  // ".py" is searched first, anywhere: intended
+      {"dir/n.cmf", ScriptTypeDesign, "dir/n"},
+      {"n.CMF", ScriptTypeDesign, "n"},
+      {"n.pl", ScriptTypeDesign, "n"},
+      {"notes.txt", ScriptTypeOther, "notes.txt"},
+  };
+  for (const Row& row : rows) {
+    std::string base = "junk";
+    EXPECT_EQ(DRScriptFile::getScriptType(row.name, &base), row.type) << row.name;
+    EXPECT_EQ(base, row.base) << row.name;
+  }
+  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeDesign), ".cmf");
+  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeOther), "");
+  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeNone), ".py") << "every other value gives .py: intended";
+  EXPECT_EQ(DRScriptFile::getExtName(99), ".py");
+}
+
+TEST(DRScriptFileTest, BaseNameOfAScriptPath) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"/d/a.cmf", "/d/a"},        {"/d/a.cmf.pl", "/d/a"},  {"/d/a.pl", "/d/a"},
+      {"/d/a.py", "/d/a"},         {"/d/a.txt", "/d/a"},     {"/d.x/noext", "/d"},
+      {"noext", "noext"},          {"/d/x.cmf/y.cmf", "/d/x.cmf/y"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(DesignNoteParser::getBaceNameFromScriptFilePath(row.first), row.second);
+}
+
+TEST(DRScriptFileTest, DeleteTakesTheSideFilesAlong) {
+  const std::string dir = scratch("sf-del");
+  for (const char* ext : {".cmf", ".pl", ".py", ".sample1", ".sample2", ".qmap", ".map", ".keep"})
+    writeFile(dir + "/n" + ext, "x");
+  DRScriptFile::delScriptFile(dir + "/n.cmf");
+  for (const char* ext : {".cmf", ".pl", ".py", ".sample1", ".sample2", ".qmap", ".map"})
+    EXPECT_FALSE(exists(dir + "/n" + ext)) << ext;
+  EXPECT_TRUE(exists(dir + "/n.keep"));
+
+  platform::makeDir(dir + "/sub");
+  writeFile(dir + "/sub/m.cmf", "x");
+  writeFile(dir + "/sub/m.sample1", "x");
+  DRScriptFile::delScriptFiles(dir + "/");
+  EXPECT_FALSE(exists(dir));
+}
+
+TEST(DRScriptFileTest, RenameMovesEverySideFileAndTurnsMapIntoQmap) {
+  const std::string dir = scratch("sf-ren") + "/";
+  for (const char* ext : {".cmf", ".pl", ".sample1", ".map"}) writeFile(dir + "old" + ext, ext);
+  ASSERT_TRUE(DRScriptFile::renameScriptFile(dir, "old", "new"));
+  EXPECT_EQ(readFile(dir + "new.cmf"), ".cmf");
+  EXPECT_EQ(readFile(dir + "new.pl"), ".pl");
+  EXPECT_EQ(readFile(dir + "new.sample1"), ".sample1");
+  EXPECT_EQ(readFile(dir + "new.qmap"), ".map");
+  EXPECT_FALSE(exists(dir + "old.cmf"));
+
+  writeFile(dir + "only.py", "py");
+  EXPECT_TRUE(DRScriptFile::renameScriptFile(dir, "only", "moved"));
+  EXPECT_TRUE(exists(dir + "moved.py"));
+  EXPECT_FALSE(DRScriptFile::renameScriptFile(dir, "ghost", "x"));
+  EXPECT_FALSE(DRScriptFile::renameScriptFile(dir, "moved", ""));
+}
+
+TEST(DRScriptFileTest, SampleIndexThreeIsWrittenAsTwoButNotReadIntended) {
+  const std::string dir = scratch("sf-sample");
+  writeFile(dir + "/n.cmf", "x");
+  writeFile(dir + "/cfg", "hostname r1\n");
+  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 1), "");
+  EXPECT_TRUE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/cfg", 1));
+  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 1), dir + "/n.sample1");
+  EXPECT_TRUE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/cfg", 3));
+  EXPECT_EQ(readFile(dir + "/n.sample2"), "hostname r1\n");
+  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 3), "");
+  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 2), dir + "/n.sample2");
+  EXPECT_FALSE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/nothing", 1));
+  EXPECT_FALSE(DRScriptFile::setSampleFile(dir + "/none.cmf", dir + "/cfg", 1));
+
+  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), "");
+  writeFile(dir + "/n.map", "old");
+  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), dir + "/n.map");
+  EXPECT_TRUE(DRScriptFile::setSampleMap(dir + "/n.cmf", dir + "/cfg"));
+  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), dir + "/n.qmap");
+  EXPECT_EQ(readFile(dir + "/n.map"), "old") << "setSampleMap never writes .map";
+}
+
+}  // namespace

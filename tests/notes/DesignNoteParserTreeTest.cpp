@@ -1,0 +1,139 @@
+// The folder tree of scripts: scanning with and without filters and UI
+// variables, the add and delete operations, and path lookup.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "NoteTestSupport.h"
+#include "notes/DRScriptFile.h"
+#include "notes/DesignNoteParser.h"
+#include "results/UIVariableForDR.h"
+
+using notestest::exists;
+using notestest::scratch;
+using notestest::writeFile;
+
+namespace {
+
+// A canonical text of a tree: "folder/" lines and script names, indented.
+std::string dumpTree(const DesignNoteParser& tree, int depth = 0) {
+  std::string out;
+  const std::string indent(static_cast<std::size_t>(depth) * 2, ' ');
+  for (const auto& name : tree.getScriptFiles()) out += indent + name + "\n";
+  for (const auto& sub : tree.getSubDirects()) {
+    out += indent + sub.first + "/\n";
+    out += dumpTree(*sub.second, depth + 1);
+  }
+  return out;
+}
+
+// root: a.cmf b.py c.pl notes.txt .hidden.cmf, Global/{g.cmf, deep/{d.cmf}}, Map/{m.cmf}, .git/{x.cmf}
+std::string makeTree(const std::string& name) {
+  const std::string root = scratch(name);
+  for (const char* f : {"/a.cmf", "/b.py", "/c.pl", "/notes.txt", "/.hidden.cmf"}) writeFile(root + f, "x");
+  for (const char* d : {"/Global", "/Global/deep", "/Map", "/.git"}) platform::makeDir(root + d);
+  for (const char* f : {"/Global/g.cmf", "/Global/deep/d.cmf", "/Map/m.cmf", "/.git/x.cmf"}) writeFile(root + f, "x");
+  return root;
+}
+
+TEST(DesignNoteParserTreeTest, ScanWithFilters) {
+  const std::string root = makeTree("tree-scan");
+  const DesignNoteParser::NameSet onlyMap{"Map"};
+  const DesignNoteParser::NameSet noSuchFolder{"Nothing"};
+  const DesignNoteParser::NameSet excludeG{"g."};
+  struct Row {
+    const char* name;
+    const DesignNoteParser::NameSet* folderFilter;
+    const DesignNoteParser::NameSet* nameFilter;
+    std::string expected;
+  } rows[] = {
+      {"everything but hidden entries", nullptr, nullptr,
+       "a.cmf\nb.py\nGlobal/\n  g.cmf\n  deep/\n    d.cmf\nMap/\n  m.cmf\n"},
+      {"folder filter admits one first-level folder", &onlyMap, nullptr, "a.cmf\nb.py\nMap/\n  m.cmf\n"},
+      {"folder filter with no match leaves the root's files", &noSuchFolder, nullptr, "a.cmf\nb.py\n"},
+      {"name filter excludes at every level", nullptr, &excludeG,
+       "a.cmf\nb.py\nGlobal/\n  deep/\n    d.cmf\nMap/\n  m.cmf\n"},
+  };
+  for (const Row& row : rows) {
+    DesignNoteParser tree(root, nullptr, true, row.folderFilter, row.nameFilter);
+    EXPECT_EQ(dumpTree(tree), row.expected) << row.name;
+    EXPECT_EQ(tree.getRootDirct(), root);
+  }
+}
+
+TEST(DesignNoteParserTreeTest, OneTrailingSeparatorIsDropped) {
+  const std::string root = makeTree("tree-sep");
+  EXPECT_EQ(DesignNoteParser(root + "/", nullptr, false).getRootDirct(), root);
+  EXPECT_EQ(DesignNoteParser(root + "//", nullptr, false).getRootDirct(), root + "/");
+  EXPECT_TRUE(DesignNoteParser(root, nullptr, false).getScriptFiles().empty()) << "no scan, no reading";
+  DesignNoteParser missing(root + "/none");
+  EXPECT_TRUE(missing.getScriptFiles().empty());
+  EXPECT_TRUE(missing.getSubDirects().empty());
+}
+
+TEST(DesignNoteParserTreeTest, UiRootPathSelectsTheDeviceFolder) {
+  const std::string root = makeTree("tree-ui");
+  UIVariableForDR ui;
+  ui.setRootPath("Global");
+  DesignNoteParser tree(root, &ui, true);
+  EXPECT_EQ(tree.getRootDirct(), root + "/Global");
+  EXPECT_EQ(dumpTree(tree), "a.cmf\nb.py\nGlobal/\n  g.cmf\n  deep/\n    d.cmf\n");
+
+  const DesignNoteParser::NameSet none{"Nothing"};
+  DesignNoteParser filtered(root, &ui, true, &none);
+  EXPECT_EQ(dumpTree(filtered), "a.cmf\nb.py\nGlobal/\n  g.cmf\n") << "the filter acts inside the device folder";
+
+  ui.setRootPath("Absent");
+  DesignNoteParser absent(root, &ui, true);
+  EXPECT_EQ(absent.getRootDirct(), root + "/Absent");
+  EXPECT_EQ(dumpTree(absent), "");
+
+  ui.setRootPath("Global");
+  EXPECT_EQ(DesignNoteParser(root, &ui, false).getRootDirct(), root + "/Global");
+}
+
+TEST(DesignNoteParserTreeTest, AddAndDeleteChangeDiskAndTree) {
+  const std::string root = scratch("tree-add");
+  DesignNoteParser tree(root);
+  EXPECT_TRUE(tree.addScriptFile("n.cmf", "#x = search_line(\"a\", all);\n", "desc"));
+  EXPECT_TRUE(exists(root + "/n.cmf"));
+  EXPECT_TRUE(exists(root + "/n.pl"));
+  EXPECT_FALSE(DRScriptFile(root + "/n.cmf").isFavourite()) << "a new script starts as no favourite: intended";
+  EXPECT_FALSE(tree.addScriptFile("n.cmf", "other", "")) << "already listed";
+  EXPECT_FALSE(tree.addScriptFile("e.cmf", "", ""));
+  EXPECT_FALSE(tree.addScriptFile("n.txt", "x", ""));
+  EXPECT_TRUE(tree.addScriptFile("p.py", "x", ""));
+  EXPECT_FALSE(exists(root + "/p.py")) << "the caller provides the Python file";
+
+  EXPECT_TRUE(tree.addSubDirect("sub"));
+  EXPECT_FALSE(tree.addSubDirect("sub"));
+  EXPECT_FALSE(tree.addSubDirect(""));
+  EXPECT_TRUE(Pathname(root + "/sub").isDirectory());
+  EXPECT_EQ(dumpTree(tree), "n.cmf\np.py\nsub/\n");
+
+  EXPECT_TRUE(tree.delScriptFile("n.cmf"));
+  EXPECT_FALSE(exists(root + "/n.cmf"));
+  EXPECT_TRUE(exists(root + "/n.pl")) << "side files stay";
+  EXPECT_FALSE(tree.delScriptFile("n.cmf"));
+  EXPECT_TRUE(tree.delSubDirect("sub"));
+  EXPECT_FALSE(exists(root + "/sub"));
+  EXPECT_FALSE(tree.delSubDirect("sub"));
+}
+
+TEST(DesignNoteParserTreeTest, ScriptFullPath) {
+  const std::string root = scratch("tree-path");
+  writeFile(root + "/pl.pl", "x");
+  writeFile(root + "/both.cmf", "x");
+  writeFile(root + "/both.py", "x");
+  writeFile(root + "/f.txt", "x");
+  DesignNoteParser tree(root);
+  const std::pair<std::string, std::string> rows[] = {
+      {"x.cmf", root + "/x.cmf"},  // an extension: no check
+      {"f.txt", root + "/f.txt"},  {"g.txt", ""},
+      {"pl", root + "/pl.pl"},     {"both", root + "/both.cmf"},
+      {"none", root + "/none.cmf"},  // nothing on disk: the .cmf path all the same
+  };
+  for (const auto& row : rows) EXPECT_EQ(tree.getScriptFileFullPath(row.first), row.second) << row.first;
+}
+
+}  // namespace
