@@ -11,6 +11,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "DemoNotes.h"
 #include "LineDiff.h"
 #include "OutputText.h"
 #include "config/QXParserGetConfig.h"
@@ -145,7 +146,8 @@ int runDemo(const DemoOptions& options, const GlobalOptions& global) {
   qxparser::QXParserGetConfig::getInterfaceConfig(path, 0, "GigabitEthernet0/1", text);
   std::cout << "interface GigabitEthernet0/1:\n" << text << (text.empty() || text.back() != '\n' ? "\n" : "");
 
-  return 0;
+  narrator.step("design notes", "Two example notes run over the configuration with perl; their result trees.");
+  return runDemoNotes(folder, path) ? 0 : 2;
 }
 
 CommandRegistration registration{CommandSpec{

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "CommandRegistry.h"
+#include "NoteOutput.h"
 #include "NoteStaging.h"
 #include "notes/DesignNoteParser.h"
 #include "results/DRResultTree.h"
@@ -47,16 +48,6 @@ int uiKindOf(std::string kind) {
   }
   if (kind.size() == 1 && kind[0] >= '1' && kind[0] <= '7') return kind[0] - '0';
   return 0;
-}
-
-void printIndented(const DRResultTree& tree, int depth) {
-  for (const LineFormat* line : tree.getLines()) {
-    if (line == nullptr) continue;
-    std::cout << std::string(static_cast<std::size_t>(depth) * 2, ' ');
-    if (line->mLineNumber > 0) std::cout << line->mLineNumber << ": ";
-    std::cout << line->mText << "\n";
-    if (line->mChildren != nullptr) printIndented(*line->mChildren, depth + 1);
-  }
 }
 
 nlohmann::json toJson(const DRResultTree& tree) {
@@ -119,7 +110,7 @@ int runNote(const RunOptions& options) {
   } else if (options.json) {
     std::cout << toJson(*tree).dump(2) << "\n";
   } else {
-    printIndented(*tree, 0);
+    std::cout << vtycli::indentedTree(*tree, 0);
   }
   std::cout.flush();
   return std::cout ? 0 : 2;
