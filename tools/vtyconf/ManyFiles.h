@@ -10,6 +10,8 @@
 #pragma once
 
 #include <functional>
+#include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -19,6 +21,32 @@ namespace vtycli {
 bool expandInputs(const std::vector<std::string>& arguments, std::vector<std::string>& files);
 
 using FileJob = std::function<int(const std::string& file, std::string& out, std::string& err)>;
+
+// While it lives, std::cout and std::cerr write into the given strings
+// (flushed there when it goes), so that a job written for the terminal can
+// run as a FileJob.
+class StreamCapture {
+ public:
+  StreamCapture(std::string& out, std::string& err)
+      : mOut(out), mErr(err), mOldOut(std::cout.rdbuf(mOutBuffer.rdbuf())), mOldErr(std::cerr.rdbuf(mErrBuffer.rdbuf())) {}
+  ~StreamCapture() {
+    std::cout.flush();
+    std::cout.rdbuf(mOldOut);
+    std::cerr.rdbuf(mOldErr);
+    mOut += mOutBuffer.str();
+    mErr += mErrBuffer.str();
+  }
+  StreamCapture(const StreamCapture&) = delete;
+  StreamCapture& operator=(const StreamCapture&) = delete;
+
+ private:
+  std::string& mOut;
+  std::string& mErr;
+  std::ostringstream mOutBuffer;
+  std::ostringstream mErrBuffer;
+  std::streambuf* mOldOut;
+  std::streambuf* mOldErr;
+};
 
 // jobs 0 means one per processor.
 int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet, const FileJob& job);

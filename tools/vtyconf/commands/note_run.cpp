@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "CommandRegistry.h"
+#include "ManyFiles.h"
 #include "NoteOutput.h"
 #include "NoteStaging.h"
 #include "notes/DesignNoteParser.h"
@@ -26,7 +27,8 @@ namespace {
 
 struct RunOptions {
   std::string script;
-  std::string config;
+  std::vector<std::string> configs;
+  unsigned jobs = 0;
   std::vector<std::string> ui;
   bool raw = false;
   bool json = false;
@@ -65,7 +67,7 @@ nlohmann::json toJson(const DRResultTree& tree) {
   return lines;
 }
 
-int runNote(const RunOptions& options) {
+int runNote(const RunOptions& options, const std::string& config) {
   if (options.raw && options.json) {
     std::cerr << "vtyconf: --raw and --json exclude each other\n";
     return 2;
@@ -92,7 +94,7 @@ int runNote(const RunOptions& options) {
     vtycli::printNoteMessages(options.script, messages);
     return 2;
   }
-  if (!staged.stageConfig(options.config, error)) {
+  if (!staged.stageConfig(config, error)) {
     if (!error.empty()) std::cerr << "vtyconf: " << error << "\n";
     return 2;
   }
@@ -116,18 +118,32 @@ int runNote(const RunOptions& options) {
   return std::cout ? 0 : 2;
 }
 
+// Several configurations: each gets a "== NAME" heading and its own run.
+int runNoteOnAll(const RunOptions& options, const vtycli::GlobalOptions& global) {
+  std::vector<std::string> files;
+  if (!vtycli::expandInputs(options.configs, files)) return 2;
+  if (files.size() == 1) return runNote(options, files.front());
+  return vtycli::runPerFile(files, options.jobs, global.quiet,
+                            [&options](const std::string& file, std::string& out, std::string& err) {
+                              vtycli::StreamCapture capture(out, err);
+                              std::cout << "== " << file << "\n";
+                              return runNote(options, file);
+                            });
+}
+
 vtycli::CommandRegistration registration({
     "note run",
     "run a design note over a configuration and print its result tree",
-    [](CLI::App& sub, const vtycli::GlobalOptions&) -> std::function<int()> {
+    [](CLI::App& sub, const vtycli::GlobalOptions& global) -> std::function<int()> {
       auto options = std::make_shared<RunOptions>();
       sub.add_option("SCRIPT", options->script, "design script (.cmf, plain script text, or .py)")->required();
-      sub.add_option("CONFIG", options->config, "configuration file (- reads standard input)")->required();
+      sub.add_option("CONFIG", options->configs, "configuration files or folders (- reads standard input)")->required();
+      sub.add_option("-j,--jobs", options->jobs, "worker processes for many files (default: one per processor)");
       sub.add_option("--ui", options->ui, "a value the note reads from its @UI_ lists, as KIND=VALUE");
       sub.add_flag("--raw", options->raw, "print the result file as the note wrote it");
       sub.add_flag("--json", options->json, "print the result tree as JSON");
       sub.footer("Example: vtyconf note run examples/notes/shut_interfaces.cmf router1.cfg --ui interface=Gi0/1");
-      return [options]() { return runNote(*options); };
+      return [options, &global]() { return runNoteOnAll(*options, global); };
     },
 });
 
