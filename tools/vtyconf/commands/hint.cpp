@@ -94,7 +94,9 @@ int runHint(const HintOptions& options) {
       std::cout << hints[i].prompt << "\n";
       std::istringstream in(texts[i]);
       std::string listed;
-      while (std::getline(in, listed)) std::cout << "  " << listed << "\n";
+      while (std::getline(in, listed)) {
+        if (!listed.empty()) std::cout << "  " << listed << "\n";
+      }
     }
   }
   qxparser::QxParserUtil::destroyParserResource();
