@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -98,6 +99,12 @@ class PtySession {
     tcgetattr(master_, &mode);
     return (mode.c_lflag & (ICANON | ECHO)) == 0;
   }
+  void resize(int columns) {
+    struct winsize size {};
+    size.ws_row = 24;
+    size.ws_col = static_cast<unsigned short>(columns);
+    ioctl(master_, TIOCSWINSZ, &size);
+  }
   pid_t pid() const { return pid_; }
   const std::string& screen() const { return screen_; }
   size_t mark() const { return mark_; }
@@ -171,6 +178,25 @@ TEST(ConsoleProgramTest, TerminalIsRestoredWhenTheProgramIsTerminated) {
     EXPECT_EQ(WTERMSIG(status), sig);
     EXPECT_FALSE(session.keyByKey()) << "signal " << sig;
   }
+}
+
+TEST(ConsoleProgramTest, NewTerminalWidthTakesEffectAtTheNextLine) {
+  if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
+  PtySession session("R5");
+  ASSERT_TRUE(session.started());
+  ASSERT_TRUE(session.waitFor("R5>")) << session.screen();
+  const std::string words = "abcdefghij abcdefghij abcdefghij abcdefghij";
+  session.type(words);
+  ASSERT_TRUE(session.waitFor(words)) << "100 columns hold the whole line: " << session.screen();
+  session.type("\x15");
+  session.resize(30);
+  session.type("\r");
+  ASSERT_TRUE(session.waitFor("R5>")) << session.screen();
+  session.type(words);
+  ASSERT_TRUE(session.waitFor("$")) << "a line wider than 30 columns scrolls: " << session.screen();
+  session.type("\x15\x04");
+  int status = session.finish();
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
 }
 
 // Runs the program with `input` on standard input; standard output and error.

@@ -12,6 +12,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "config/QxParserUtil.h"
 #include "editor/GetLineData.h"
 #include "main.h"
 #include "platform/PlatformOs.h"
@@ -169,10 +170,9 @@ int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
   for (;;) {
     char byte = 0;
     int got = platform::readByte(0, byte);
-    if (got == -2) {
-      if (platform::terminalResized()) console.resized();
-      continue;
-    }
+    // The size may change while a key is read or while one is handled.
+    if (platform::terminalResized()) console.resized();
+    if (got == -2) continue;
     if (got <= 0) {
       console.show("\n");
       return 0;
@@ -219,6 +219,7 @@ CommandRegistration registration{CommandSpec{
       return [options, &global]() {
         if (!loadResources()) return 2;
         int rc = platform::isTerminal(0) ? runInteractive(*options, global) : runScripted(*options);
+        qxparser::QxParserUtil::destroyParserResource();
         return rc;
       };
     }}};
