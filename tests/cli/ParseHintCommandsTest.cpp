@@ -216,7 +216,8 @@ TEST_F(ProgramTest, ParseTurnsALibraryExceptionIntoFileAndLine) {
   std::string good = tempFile("good.cfg", "hostname R1\n");
   ProgramRun run = runCli("--resources '" + kShipped + "' parse '" + bad + "' '" + good + "'");
   EXPECT_EQ(run.exitCode, 2);
-  EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: invalid string position\n") << "the file's own line, blank lines counted";
+  EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: invalid string position\n")
+      << "the file's own line, blank lines counted";
   EXPECT_NE(run.out.find("hostname R1"), std::string::npos) << "the next file is still read: " << run.out;
 }
 
@@ -233,7 +234,8 @@ TEST_F(ProgramTest, HintListsTheNextWordsOfEveryLevel) {
        "(config-router)#\n"
        "  neighbor\tspecify a neighbor router\n",
        0},
-      {"hostname R1\n", "ip route 1.1.1.1 255.0.0.0 ", "(config)#\n  a.b.c.d\tforwarding router's address\n", 0},
+      {"hostname R1\n", "ip route 1.1.1.1 255.0.0.0 ", "(config)#\n  a.b.c.d\tforwarding router's address\n",
+       0},
       {"hostname R1\n", "", nullptr, 0},
       {"hostname R1\n", "frobnicate", "", 1},
   };
@@ -253,7 +255,8 @@ TEST_F(ProgramTest, WordUnknownAtTheDeepestLevelHidesTheUpperLevelsAsIntended) {
   // The query asks the deepest level first, and once one level has answered
   // "% Unrecognized command" every later answer is dropped too.
   std::string config = tempFile("hint.cfg", kSample);
-  ProgramRun run = runCli("--resources '" + kFixture + "' hint '" + config + "' 'ip route 1.1.1.1 255.0.0.0 '");
+  ProgramRun run =
+      runCli("--resources '" + kFixture + "' hint '" + config + "' 'ip route 1.1.1.1 255.0.0.0 '");
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.exitCode, 1);
 }

@@ -98,10 +98,10 @@ TEST_F(ConsoleLoopTest, TabReplacesTheLineWithItsCompletion) {
     const char* lineAfter;
   } rows[] = {
       {"hostn\t", "hostname "},
-      {"i\t", "i"},                     // interface and ip: the common prefix only
+      {"i\t", "i"},  // interface and ip: the common prefix only
       {"ip ro\t", "ip route "},
       {"interface gi\t", "interface gigabitethernet "},
-      {"zz\t", ""},                     // a word that matches nothing is erased
+      {"zz\t", ""},  // a word that matches nothing is erased
   };
   for (const auto& row : rows) {
     type("\x15");
@@ -164,17 +164,12 @@ TEST_F(ConsoleLoopTest, ConsoleArrowCodesRecallHistory) {
     const char* keys;
     const char* lineAfter;
   } rows[] = {
-      {"\xb8", "end"},  // previous
-      {"\xb8", "conf t"},
-      {"\xb8", "enable"},
-      {"\xb8", ""},        // one step past the oldest: the free slot
-      {"\xb8", ""},        // and no further, with a beep
-      {"\xb0", "enable"},  // next
-      {"\xb0", "conf t"},
-      {"\xb0", "end"},
-      {"\xb0", ""},        // the newest slot is the empty line
-      {"\xb8", "end"},
-      {"\xb8", "conf t"},
+      {"\xb8", "end"},                                       // previous
+      {"\xb8", "conf t"}, {"\xb8", "enable"}, {"\xb8", ""},  // one step past the oldest: the free slot
+      {"\xb8", ""},                                          // and no further, with a beep
+      {"\xb0", "enable"},                                    // next
+      {"\xb0", "conf t"}, {"\xb0", "end"},    {"\xb0", ""},  // the newest slot is the empty line
+      {"\xb8", "end"},    {"\xb8", "conf t"},
   };
   for (const auto& row : rows) {
     type(row.keys);
@@ -194,12 +189,15 @@ TEST_F(ConsoleLoopTest, CtrlDOnAnEmptyLineEndsItWithoutRunningIt) {
 TEST_F(ConsoleLoopTest, OverflowShowsTheErrorAndKeepsTheLine) {
   std::string output;
   char key[2] = {'a', '\0'};
-  for (int i = 0; i < GetLineData::kMaxInput; ++i) parser_main(vty_.get(), editor_.get(), key, output, &delta_);
+  for (int i = 0; i < GetLineData::kMaxInput; ++i)
+    parser_main(vty_.get(), editor_.get(), key, output, &delta_);
   EXPECT_EQ(std::string(editor_->getLine()).size(), static_cast<size_t>(GetLineData::kMaxInput));
   parser_main(vty_.get(), editor_.get(), key, output, &delta_);
   EXPECT_NE(output.find("*** Error: Getline(): input buffer overflow"), std::string::npos);
   EXPECT_EQ(std::string(editor_->getLine()).size(), static_cast<size_t>(GetLineData::kMaxInput));
-  std::string shown = type("\x15" "enable\r");
+  std::string shown = type(
+      "\x15"
+      "enable\r");
   EXPECT_EQ(shown.substr(shown.size() - 10), "enable\nR1#") << "the console goes on after the error";
   EXPECT_EQ(vty_->currentMode(), qxparser::EXEC_MODE);
 }

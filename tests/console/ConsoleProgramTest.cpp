@@ -206,12 +206,13 @@ struct ProgramRun {
   std::string err;
 };
 
-ProgramRun runScripted(const std::string& arguments, const std::string& input, const std::string& environment = "") {
+ProgramRun runScripted(const std::string& arguments, const std::string& input,
+                       const std::string& environment = "") {
   std::string dir = QXFileSystem::GetTempFolder();
   std::string in = dir + "console-in.txt", out = dir + "console-out.txt", err = dir + "console-err.txt";
   std::ofstream(in, std::ios::binary) << input;
-  std::string command = environment + " '" + kCli + "' --resources '" + kResources + "' console " + arguments +
-                        " <'" + in + "' >'" + out + "' 2>'" + err + "'";
+  std::string command = environment + " '" + kCli + "' --resources '" + kResources + "' console " +
+                        arguments + " <'" + in + "' >'" + out + "' 2>'" + err + "'";
   ProgramRun run;
   run.status = std::system(command.c_str());
   std::stringstream o, e;
@@ -225,18 +226,19 @@ ProgramRun runScripted(const std::string& arguments, const std::string& input, c
 TEST(ConsoleProgramTest, StandardInputThatIsNoTerminalIsTypedLineByLine) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   ProgramRun run = runScripted("--hostname R3",
-                        "enable\n"
-                        "conf t\r\n"
-                        "hostn\tR4\n"
-                        "bogus\n"
-                        "\x1b[A\n"
-                        "end\n");
+                               "enable\n"
+                               "conf t\r\n"
+                               "hostn\tR4\n"
+                               "bogus\n"
+                               "\x1b[A\n"
+                               "end\n");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out.substr(0, 45), "R3>enable\nR3#conf t\nEnter configuration comma");
   EXPECT_NE(run.out.find("R3(config)#hostname R4\n"), std::string::npos) << run.out;
   size_t refused = run.out.find("R3(config)#bogus\n%");
   ASSERT_NE(refused, std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("R3(config)#bogus\n%", refused + 1), std::string::npos) << "the up arrow recalled bogus";
+  EXPECT_NE(run.out.find("R3(config)#bogus\n%", refused + 1), std::string::npos)
+      << "the up arrow recalled bogus";
   EXPECT_EQ(run.out.substr(run.out.size() - 9), "#end\nR3#\n") << "a line end after the last prompt";
 }
 
@@ -246,8 +248,9 @@ TEST(ConsoleProgramTest, EveryKeyIsLoggedWhenTheLogIsOn) {
   EXPECT_EQ(quiet.err, "");
   ProgramRun logged = runScripted("", "enable\n", "VTYCONF_LOG=info");
   EXPECT_EQ(logged.status, 0);
-  EXPECT_NE(logged.err.find("EmulatedCLI backend\\libsrc\\getline\\main:80 parser_main: After Parser Main Buf e"),
-            std::string::npos)
+  EXPECT_NE(
+      logged.err.find("EmulatedCLI backend\\libsrc\\getline\\main:80 parser_main: After Parser Main Buf e"),
+      std::string::npos)
       << logged.err;
   EXPECT_NE(logged.err.find("After Parser Main Buf \nRouter#"), std::string::npos) << logged.err;
 }

@@ -84,7 +84,8 @@ int vtysh_tab_hook(char* line, int /*promptLength*/, int& cursor, qxparser::VTY*
   return -2;
 }
 
-void parser_main(qxparser::VTY* vty, GetLineData* editor, char* buffer, std::string& output, std::string* delta) {
+void parser_main(qxparser::VTY* vty, GetLineData* editor, char* buffer, std::string& output,
+                 std::string* delta) {
   editor->clearOutput();
   try {
     editor->vtysh_rl_gets(buffer, vty);

@@ -26,89 +26,9 @@ struct ConsoleOptions {
   std::string history = "-";
 };
 
-constexpr char kEsc = 27;
 constexpr int kMinWidth = 21;
 // How long a lone ESC waits for the rest of a sequence before it counts as a key.
 constexpr int kEscapeWaitMs = 50;
-
-// Turns terminal key sequences into the bytes the editor understands.
-class KeyDecoder {
- public:
-  // Feeds one byte; appends the editor keys it completes to `keys`.
-  void feed(char byte, std::string& keys) {
-    switch (mState) {
-      case State::Plain:
-        if (byte == kEsc) {
-          mState = State::Escape;
-        } else if (byte == 127) {
-          keys += '\b';  // the backspace key of a terminal sends DEL
-        } else {
-          keys += byte;
-        }
-        return;
-      case State::Escape:
-        if (byte == '[') {
-          mState = State::Csi;
-          mParameters.clear();
-        } else if (byte == 'O') {
-          mState = State::Ss3;
-        } else {
-          // ESC on its own is a key of the editor (it clears the line).
-          mState = State::Plain;
-          keys += kEsc;
-          feed(byte, keys);
-        }
-        return;
-      case State::Ss3:
-        mState = State::Plain;
-        appendFinal(byte, "", keys);
-        return;
-      case State::Csi:
-        if (byte >= 0x40 && byte <= 0x7e) {
-          mState = State::Plain;
-          appendFinal(byte, mParameters, keys);
-        } else if (mParameters.size() < 16) {
-          mParameters += byte;
-        }
-        return;
-    }
-  }
-  // No further byte came: an ESC that started nothing is the ESC key, and
-  // an unfinished sequence is dropped.
-  void flush(std::string& keys) {
-    if (mState == State::Escape) keys += kEsc;
-    mState = State::Plain;
-  }
-  bool pending() const { return mState != State::Plain; }
-
- private:
-  enum class State { Plain, Escape, Csi, Ss3 };
-
-  static void appendFinal(char final, const std::string& parameters, std::string& keys) {
-    // "1;5C" and the like carry modifiers; the key is the first number.
-    std::string number = parameters.substr(0, parameters.find(';'));
-    char code = 0;
-    switch (final) {
-      case 'A': code = static_cast<char>(0xB8); break;  // up: previous line
-      case 'B': code = static_cast<char>(0xB0); break;  // down: next line
-      case 'C': code = static_cast<char>(0xB3); break;  // right
-      case 'D': code = static_cast<char>(0xB5); break;  // left
-      case 'H': code = static_cast<char>(0xB9); break;  // home
-      case 'F': code = static_cast<char>(0xB1); break;  // end
-      case '~':
-        if (number == "1" || number == "7") code = static_cast<char>(0xB9);
-        if (number == "4" || number == "8") code = static_cast<char>(0xB1);
-        if (number == "3") code = static_cast<char>(0xAD);  // delete
-        if (number == "2") code = static_cast<char>(0xAE);  // insert: overstrike
-        break;
-      default: break;
-    }
-    if (code != 0) keys += code;  // other sequences (function keys) are dropped
-  }
-
-  State mState = State::Plain;
-  std::string mParameters;
-};
 
 // Puts the terminal back on every way out of the session.
 struct RawModeGuard {
@@ -166,7 +86,7 @@ int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
   }
   if (!global.quiet) platform::writeAll(2, "vtyconf console: Ctrl-D on an empty line leaves.\r\n");
   Console console(options, true);
-  KeyDecoder decoder;
+  platform::TerminalKeyDecoder decoder;
   for (;;) {
     char byte = 0;
     int got = platform::readByte(0, byte);
@@ -188,7 +108,7 @@ int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
 
 int runScripted(const ConsoleOptions& options) {
   Console console(options, false);
-  KeyDecoder decoder;
+  platform::TerminalKeyDecoder decoder;
   std::string line;
   while (std::getline(std::cin, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

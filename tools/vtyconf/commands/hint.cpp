@@ -84,7 +84,8 @@ int runHint(const HintOptions& options) {
       nlohmann::json level;
       level["prompt"] = hints[i].prompt;
       nlohmann::json words = nlohmann::json::array();
-      for (const HintWord& word : splitListing(texts[i])) words.push_back({{"word", word.word}, {"help", word.help}});
+      for (const HintWord& word : splitListing(texts[i]))
+        words.push_back({{"word", word.word}, {"help", word.help}});
       level["words"] = words;
       out.push_back(level);
     }

@@ -37,7 +37,8 @@ std::string groupKey(const std::string& line) {
   std::string first, second;
   in >> first >> second;
   std::string key = second.empty() ? first : first + " " + second;
-  std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  std::transform(key.begin(), key.end(), key.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return key;
 }
 
@@ -150,12 +151,13 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
       }
       if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
       if (input.isBannerText(record->getLineNo())) {
-        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << CommandDump::commandText(*record)
-             << "\t[banner text]\n";
+        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ')
+             << CommandDump::commandText(*record) << "\t[banner text]\n";
         continue;
       }
       std::string line;
-      CommandDump::dumpCommand(*record, line, false, [&input](int number) { return input.fileLineOf(number); });
+      CommandDump::dumpCommand(*record, line, false,
+                               [&input](int number) { return input.fileLineOf(number); });
       text << line;
     }
     if (options.json) {
@@ -170,14 +172,16 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
     totalLines += result.lines;
     totalRefused += result.refused;
     if (options.stats) {
-      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused << " refused\n";
+      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused
+                << " refused\n";
     }
   }
   if (options.json) std::cout << jsonOut.dump(2) << "\n";
   if (options.stats) {
-    double share = totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
-    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, " << totalRefused
-              << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
+    double share =
+        totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
+    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, "
+              << totalRefused << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
     std::vector<std::pair<std::string, size_t>> sorted(groups.begin(), groups.end());
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const auto& a, const auto& b) { return a.second > b.second; });
@@ -195,7 +199,8 @@ CommandRegistration registration{CommandSpec{
       sub.add_option("CONFIG", options->files, "configuration files ('-' for standard input)")->required();
       sub.add_flag("--json", options->json, "print the commands as a JSON array");
       sub.add_flag("--strict", options->strict, "exit 1 when a line was refused");
-      sub.add_flag("--stats", options->stats, "print lines read, refused, and refused lines by their first words");
+      sub.add_flag("--stats", options->stats,
+                   "print lines read, refused, and refused lines by their first words");
       sub.add_flag("--keep-capture", options->keepCapture,
                    "keep prompt lines and \"Building configuration...\" of a terminal capture");
       sub.footer("Example: vtyconf parse router1.cfg --strict");

@@ -4,26 +4,31 @@ namespace qxparser {
 
 const char* CommandDump::flagName(CiscoCommandLineFlag flag) {
   switch (flag) {
-    case CMD_NEGATED: return "negated";
-    case CMD_NEGATED_OVERWRITE: return "negated-overwrite";
-    case CMD_ADDITIVE: return "additive";
-    case CMD_OVERWRITE: return "overwrite";
-    case CMD_MERGEABLE: return "mergeable";
-    case CMD_TEXT: return "text";
+    case CMD_NEGATED:
+      return "negated";
+    case CMD_NEGATED_OVERWRITE:
+      return "negated-overwrite";
+    case CMD_ADDITIVE:
+      return "additive";
+    case CMD_OVERWRITE:
+      return "overwrite";
+    case CMD_MERGEABLE:
+      return "mergeable";
+    case CMD_TEXT:
+      return "text";
   }
   return "unknown";
 }
 
 std::vector<std::string> CommandDump::markNames(const CiscoCommandLine& record) {
-  static const std::pair<unsigned int, const char*> kBits[] = {
-      {CMDBIT_NO, "no"},
-      {CMDBIT_STORED, "stored"},
-      {CMDBIT_OPENS_MODE, "mode"},
-      {CMDBIT_REMOVED, "removed"},
-      {CMDBIT_NO_ENDS_ANYWHERE, "no-ends-anywhere"},
-      {CMDBIT_NO_COMPLETE, "no-incomplete"},
-      {CMDBIT_SUB, "sub"},
-      {CMDBIT_CONFLICT, "conflict"}};
+  static const std::pair<unsigned int, const char*> kBits[] = {{CMDBIT_NO, "no"},
+                                                               {CMDBIT_STORED, "stored"},
+                                                               {CMDBIT_OPENS_MODE, "mode"},
+                                                               {CMDBIT_REMOVED, "removed"},
+                                                               {CMDBIT_NO_ENDS_ANYWHERE, "no-ends-anywhere"},
+                                                               {CMDBIT_NO_COMPLETE, "no-incomplete"},
+                                                               {CMDBIT_SUB, "sub"},
+                                                               {CMDBIT_CONFLICT, "conflict"}};
   std::vector<std::string> names;
   for (const auto& bit : kBits) {
     if (record.hasFlags(bit.first)) names.push_back(bit.second);

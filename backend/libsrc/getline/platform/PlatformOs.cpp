@@ -154,4 +154,72 @@ bool writeAll(int fd, const std::string& text) {
   return true;
 }
 
+// ------------------------------------------------------------ terminal keys
+
+void TerminalKeyDecoder::feed(char byte, std::string& keys) {
+  constexpr char kEsc = 27;
+  switch (mState) {
+    case State::Plain:
+      if (byte == kEsc) {
+        mState = State::Escape;
+      } else if (byte == 127) {
+        keys += '\b';
+      } else {
+        keys += byte;
+      }
+      return;
+    case State::Escape:
+      if (byte == '[') {
+        mState = State::Csi;
+        mParameters.clear();
+      } else if (byte == 'O') {
+        mState = State::Ss3;
+      } else {
+        mState = State::Plain;
+        keys += kEsc;
+        feed(byte, keys);
+      }
+      return;
+    case State::Ss3:
+      mState = State::Plain;
+      appendFinal(byte, "", keys);
+      return;
+    case State::Csi:
+      if (byte >= 0x40 && byte <= 0x7e) {
+        mState = State::Plain;
+        appendFinal(byte, mParameters, keys);
+      } else if (mParameters.size() < 16) {
+        mParameters += byte;
+      }
+      return;
+  }
+}
+
+void TerminalKeyDecoder::flush(std::string& keys) {
+  if (mState == State::Escape) keys += static_cast<char>(27);
+  mState = State::Plain;
+}
+
+void TerminalKeyDecoder::appendFinal(char final, const std::string& parameters, std::string& keys) {
+  // "1;5C" and the like carry modifiers; the key is the first number.
+  const std::string number = parameters.substr(0, parameters.find(';'));
+  int code = 0;
+  switch (final) {
+    case 'A': code = 0xB8; break;
+    case 'B': code = 0xB0; break;
+    case 'C': code = 0xB3; break;
+    case 'D': code = 0xB5; break;
+    case 'H': code = 0xB9; break;
+    case 'F': code = 0xB1; break;
+    case '~':
+      if (number == "1" || number == "7") code = 0xB9;
+      if (number == "4" || number == "8") code = 0xB1;
+      if (number == "3") code = 0xAD;
+      if (number == "2") code = 0xAE;
+      break;
+    default: break;
+  }
+  if (code != 0) keys += static_cast<char>(code);
+}
+
 }  // namespace platform

@@ -69,4 +69,29 @@ VTYCONF_API bool waitInput(int fd, int milliseconds);
 // Writes all of text to fd; false on an error.
 VTYCONF_API bool writeAll(int fd, const std::string& text);
 
+// Turns the bytes a terminal sends for its special keys into the one-byte
+// key codes of the console line editor: the arrows (0xB8 up, 0xB0 down,
+// 0xB3 right, 0xB5 left), Home 0xB9, End 0xB1, Delete 0xAD and Insert 0xAE,
+// in both their "ESC [" and "ESC O" forms and with modifiers ("ESC [1;5C").
+// The backspace key (DEL, 127) becomes Ctrl-H. Other sequences, such as
+// function keys, are dropped. An ESC that starts no sequence is passed on as
+// the ESC key. One object per input stream; plain value, no shared state.
+class VTYCONF_API TerminalKeyDecoder {
+ public:
+  // Feeds one byte; appends the keys it completes to `keys`.
+  void feed(char byte, std::string& keys);
+  // No further byte came in time: a pending ESC is the ESC key, and an
+  // unfinished sequence is dropped.
+  void flush(std::string& keys);
+  // True while a sequence has begun and not ended.
+  bool pending() const { return mState != State::Plain; }
+
+ private:
+  enum class State { Plain, Escape, Csi, Ss3 };
+  static void appendFinal(char final, const std::string& parameters, std::string& keys);
+
+  State mState = State::Plain;
+  std::string mParameters;
+};
+
 }  // namespace platform
