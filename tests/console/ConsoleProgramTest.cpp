@@ -242,6 +242,25 @@ TEST(ConsoleProgramTest, StandardInputThatIsNoTerminalIsTypedLineByLine) {
   EXPECT_EQ(run.out.substr(run.out.size() - 9), "#end\nR3#\n") << "a line end after the last prompt";
 }
 
+TEST(ConsoleProgramTest, LibraryErrorOnALineIsShownAndTheSessionGoesOn) {
+  if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
+  // A range value of only zeros raises the library's out-of-range error, on
+  // a finished line as well as under "?".
+  ProgramRun run = runScripted("--hostname R6",
+                               "enable\n"
+                               "conf t\n"
+                               "access-list 0 permit any\n"
+                               "access-list 0 ?\x15"
+                               "hostname R7\n");
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_NE(run.out.find(
+                "R6(config)#access-list 0 permit any\n% invalid string position\nR6(config)#access-list 0 ?\n"
+                "% invalid string position\nR6(config)#access-list 0 ?"),
+            std::string::npos)
+      << run.out;
+  EXPECT_NE(run.out.find("hostname R7\nR6(config)#\n"), std::string::npos) << run.out;
+}
+
 TEST(ConsoleProgramTest, EveryKeyIsLoggedWhenTheLogIsOn) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   ProgramRun quiet = runScripted("", "enable\n");

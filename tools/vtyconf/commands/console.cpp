@@ -55,12 +55,41 @@ class Console {
     bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
     char buffer[2] = {key, '\0'};
     std::string output;
-    parser_main(&mVty, mEditor.get(), buffer, output, &mDelta);
+    try {
+      parser_main(&mVty, mEditor.get(), buffer, output, &mDelta);
+    } catch (const std::exception& e) {
+      output = recover(e.what());
+    }
     show(output);
     return !leave;
   }
 
   void resized() { mEditor->Gl_setwidth(screenWidth()); }
+
+  // The library let an error out of a line or a hook (a value it cannot
+  // take, such as a range value of only zeros): it is shown like a message
+  // of the device and the session goes on, on a new line or on the line as
+  // it was.
+  std::string recover(const std::string& what) {
+    std::string shown = mEditor->outputString();
+    std::string pending;
+    mVty.getOutputString(pending);
+    // A finished line has already moved the screen to a new line.
+    if (!mEditor->getNewLine()) shown += "\n";
+    shown += pending + "% " + what + "\n";
+    mEditor->clearOutput();
+    char* prompt = vtysh_prompt(&mVty);
+    mEditor->setPrompt(prompt);
+    if (mEditor->getNewLine()) {
+      mEditor->clearLine();
+      mEditor->gl_fixup(prompt, -2, GetLineData::kBufSize);
+    } else {
+      mEditor->gl_fixup(prompt, -2, mEditor->getCursor());
+    }
+    shown += mEditor->outputString();
+    mEditor->clearOutput();
+    return shown;
+  }
 
   void show(const std::string& text) {
     if (mInteractive) {
