@@ -126,7 +126,7 @@ void parser_main(qxparser::VTY* vty, GetLineData* editor, char* buffer, std::str
   }
   output = editor->outputString();
   ILogger::GetInstance()->LogStr("", "EmulatedCLI", "backend\\libsrc\\getline\\main", "parser_main", 80,
-                                 static_cast<ELogLevel>(1), "After Parser Main Buf " + output);
+                                 LOG_INFO, "After Parser Main Buf " + output);
 }
 
 std::string vtysh_console_init(qxparser::VTY* vty, GetLineData* editor, int width, const char* historyFile) {
