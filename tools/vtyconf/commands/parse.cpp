@@ -11,7 +11,9 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
+#include "terminal/VTY.h"
 
 namespace vtycli {
 namespace {
@@ -27,39 +29,7 @@ struct ParseOptions {
   bool keepCapture = false;
 };
 
-const char* flagName(qxparser::CiscoCommandLineFlag flag) {
-  switch (flag) {
-    case qxparser::CMD_NEGATED: return "negated";
-    case qxparser::CMD_NEGATED_OVERWRITE: return "negated-overwrite";
-    case qxparser::CMD_ADDITIVE: return "additive";
-    case qxparser::CMD_OVERWRITE: return "overwrite";
-    case qxparser::CMD_MERGEABLE: return "mergeable";
-    case qxparser::CMD_TEXT: return "text";
-  }
-  return "unknown";
-}
-
-std::vector<std::string> bitNames(const CiscoCommandLine& record) {
-  static const std::pair<unsigned int, const char*> kBits[] = {
-      {qxparser::CMDBIT_NO, "no"},           {qxparser::CMDBIT_STORED, "stored"},
-      {qxparser::CMDBIT_OPENS_MODE, "mode"}, {qxparser::CMDBIT_REMOVED, "removed"},
-      {qxparser::CMDBIT_NO_ENDS_ANYWHERE, "no-ends-anywhere"},
-      {qxparser::CMDBIT_NO_COMPLETE, "no-incomplete"}, {qxparser::CMDBIT_SUB, "sub"},
-      {qxparser::CMDBIT_CONFLICT, "conflict"}};
-  std::vector<std::string> names;
-  for (const auto& bit : kBits) {
-    if (record.hasFlags(bit.first)) names.push_back(bit.second);
-  }
-  return names;
-}
-
-std::string commandText(const CiscoCommandLine& record) {
-  std::string text = record.getOriginalCmd();
-  if (text.empty()) text = record.getOriginalStr();
-  while (!text.empty() && (text.back() == '\n' || text.back() == ' ' || text.back() == '\r')) text.pop_back();
-  size_t start = text.find_first_not_of(" \t");
-  return start == std::string::npos ? std::string() : text.substr(start);
-}
+using qxparser::CommandDump;
 
 // The first two words of a line, lower-cased, for the refused-line groups.
 std::string groupKey(const std::string& line) {
@@ -67,7 +37,8 @@ std::string groupKey(const std::string& line) {
   std::string first, second;
   in >> first >> second;
   std::string key = second.empty() ? first : first + " " + second;
-  std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  std::transform(key.begin(), key.end(), key.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return key;
 }
 
@@ -91,14 +62,37 @@ bool isRefused(const CiscoCommandLine& record, const ConfigInput& input) {
   return !reachedEnd(record) && !record.hasFlags(qxparser::CMDBIT_NO);
 }
 
+// The file line at which the reading of `input` raises an exception: the
+// lines are replayed one at a time on a terminal of their own, brought into
+// configuration mode as the reader's is. 0 when no single line raises one.
+int failingLine(const ConfigInput& input) {
+  qxparser::VTY vty("hostName", false);
+  vty.parse("enable\n", true, nullptr);
+  vty.parse("configure terminal \n", true, nullptr);
+  for (size_t i = 0; i < input.readerLines.size(); ++i) {
+    std::vector<CiscoCommandLine*> records;
+    std::string errorText;
+    int errorLine = 0;
+    bool raised = false;
+    try {
+      vty.getComLineInfo(input.readerLines[i] + "\r\n", records, errorText, errorLine, true);
+    } catch (const std::exception&) {
+      raised = true;
+    }
+    QxParserUtil::deleteCommands(records);
+    if (raised) return input.fileLineOf(static_cast<int>(i) + 1);
+  }
+  return 0;
+}
+
 nlohmann::json toJson(const CiscoCommandLine& record, const ConfigInput& input) {
   nlohmann::json item;
   item["line"] = input.fileLineOf(record.getLineNo());
   item["level"] = record.getLevel();
-  item["text"] = commandText(record);
-  item["flag"] = flagName(record.getFlag());
+  item["text"] = CommandDump::commandText(record);
+  item["flag"] = CommandDump::flagName(record.getFlag());
   item["order"] = record.getOrderNo();
-  item["flags"] = bitNames(record);
+  item["flags"] = CommandDump::markNames(record);
   nlohmann::json children = nlohmann::json::array();
   for (const CiscoCommandLine* child : record.getChildCommands()) children.push_back(toJson(*child, input));
   item["children"] = children;
@@ -126,7 +120,21 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
     std::vector<CiscoCommandLine*> records;
     std::string errorText;
     int errorLine = 0;
-    QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+    std::string exceptionText;
+    try {
+      QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+    } catch (const std::exception& e) {
+      exceptionText = e.what();
+    }
+    if (!exceptionText.empty()) {
+      QxParserUtil::deleteCommands(records);
+      const int line = failingLine(input);
+      std::cerr << "vtyconf: " << input.displayName() << ":";
+      if (line > 0) std::cerr << line << ":";
+      std::cerr << " " << exceptionText << "\n";
+      failed = true;
+      continue;
+    }
     std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
         &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
     FileResult result;
@@ -136,21 +144,21 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
       const int fileLine = input.fileLineOf(record->getLineNo());
       if (isRefused(*record, input)) {
         ++result.refused;
-        const std::string shown = commandText(*record);
+        const std::string shown = CommandDump::commandText(*record);
         groups[groupKey(shown)]++;
         std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
         continue;
       }
       if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
-      const std::string shown = commandText(*record);
       if (input.isBannerText(record->getLineNo())) {
-        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << shown << "\t[banner text]\n";
+        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ')
+             << CommandDump::commandText(*record) << "\t[banner text]\n";
         continue;
       }
-      text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << shown << "\t[" << fileLine
-           << " order " << record->getOrderNo() << " " << flagName(record->getFlag());
-      for (const std::string& bit : bitNames(*record)) text << " " << bit;
-      text << "]\n";
+      std::string line;
+      CommandDump::dumpCommand(*record, line, false,
+                               [&input](int number) { return input.fileLineOf(number); });
+      text << line;
     }
     if (options.json) {
       for (const CiscoCommandLine* record : records) {
@@ -164,14 +172,16 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
     totalLines += result.lines;
     totalRefused += result.refused;
     if (options.stats) {
-      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused << " refused\n";
+      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused
+                << " refused\n";
     }
   }
   if (options.json) std::cout << jsonOut.dump(2) << "\n";
   if (options.stats) {
-    double share = totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
-    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, " << totalRefused
-              << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
+    double share =
+        totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
+    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, "
+              << totalRefused << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
     std::vector<std::pair<std::string, size_t>> sorted(groups.begin(), groups.end());
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const auto& a, const auto& b) { return a.second > b.second; });
@@ -189,7 +199,8 @@ CommandRegistration registration{CommandSpec{
       sub.add_option("CONFIG", options->files, "configuration files ('-' for standard input)")->required();
       sub.add_flag("--json", options->json, "print the commands as a JSON array");
       sub.add_flag("--strict", options->strict, "exit 1 when a line was refused");
-      sub.add_flag("--stats", options->stats, "print lines read, refused, and refused lines by their first words");
+      sub.add_flag("--stats", options->stats,
+                   "print lines read, refused, and refused lines by their first words");
       sub.add_flag("--keep-capture", options->keepCapture,
                    "keep prompt lines and \"Building configuration...\" of a terminal capture");
       sub.footer("Example: vtyconf parse router1.cfg --strict");

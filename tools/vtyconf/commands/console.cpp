@@ -1,0 +1,177 @@
+// vtyconf console: an emulated device console on the terminal, key by key.
+//
+// On a terminal the keys are read one byte at a time in raw mode and handed
+// to parser_main; the escape sequences of the arrow, Home, End, Insert and
+// Delete keys become the editor's one-byte console codes, and the backspace
+// key (DEL) becomes Ctrl-H. When standard input is not a terminal, it is read
+// line by line and each line is typed, so a session can be scripted.
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "CommandRegistry.h"
+#include "ConfigInput.h"
+#include "config/QxParserUtil.h"
+#include "editor/GetLineData.h"
+#include "main.h"
+#include "platform/PlatformOs.h"
+#include "terminal/VTY.h"
+
+namespace vtycli {
+namespace {
+
+struct ConsoleOptions {
+  std::string hostname = "Router";
+  std::string history = "-";
+};
+
+constexpr int kMinWidth = 21;
+// How long a lone ESC waits for the rest of a sequence before it counts as a key.
+constexpr int kEscapeWaitMs = 50;
+
+// Puts the terminal back on every way out of the session.
+struct RawModeGuard {
+  bool active = false;
+  ~RawModeGuard() {
+    if (active) platform::terminalRestore();
+  }
+};
+
+int screenWidth() {
+  int width = platform::terminalWidth(1, platform::terminalWidth(0, 80));
+  return std::max(width, kMinWidth);
+}
+
+class Console {
+ public:
+  Console(const ConsoleOptions& options, bool interactive)
+      : mVty(options.hostname, true), mEditor(std::make_unique<GetLineData>()), mInteractive(interactive) {
+    show(vtysh_console_init(&mVty, mEditor.get(), interactive ? screenWidth() : 80, options.history.c_str()));
+  }
+
+  // Types one key; false when the session ends with it.
+  bool key(char key) {
+    bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
+    char buffer[2] = {key, '\0'};
+    std::string output;
+    try {
+      parser_main(&mVty, mEditor.get(), buffer, output, &mDelta);
+    } catch (const std::exception& e) {
+      output = recover(e.what());
+    }
+    show(output);
+    return !leave;
+  }
+
+  void resized() { mEditor->Gl_setwidth(screenWidth()); }
+
+  // The library let an error out of a line or a hook (a value it cannot
+  // take, such as a range value of only zeros): it is shown like a message
+  // of the device and the session goes on, on a new line or on the line as
+  // it was.
+  std::string recover(const std::string& what) {
+    std::string shown = mEditor->outputString();
+    std::string pending;
+    mVty.getOutputString(pending);
+    // A finished line has already moved the screen to a new line.
+    if (!mEditor->getNewLine()) shown += "\n";
+    shown += pending + "% " + what + "\n";
+    mEditor->clearOutput();
+    char* prompt = vtysh_prompt(&mVty);
+    mEditor->setPrompt(prompt);
+    if (mEditor->getNewLine()) {
+      mEditor->clearLine();
+      mEditor->gl_fixup(prompt, -2, GetLineData::kBufSize);
+    } else {
+      mEditor->gl_fixup(prompt, -2, mEditor->getCursor());
+    }
+    shown += mEditor->outputString();
+    mEditor->clearOutput();
+    return shown;
+  }
+
+  void show(const std::string& text) {
+    if (mInteractive) {
+      platform::writeAll(1, text);
+    } else {
+      std::cout << text << std::flush;
+    }
+  }
+
+ private:
+  qxparser::VTY mVty;
+  std::unique_ptr<GetLineData> mEditor;
+  std::string mDelta;
+  bool mInteractive;
+};
+
+int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
+  RawModeGuard guard;
+  guard.active = platform::terminalEnterRaw(0);
+  if (!guard.active) {
+    std::cerr << "vtyconf: console: the terminal cannot be put into key-by-key mode\n";
+    return 2;
+  }
+  if (!global.quiet) platform::writeAll(2, "vtyconf console: Ctrl-D on an empty line leaves.\r\n");
+  Console console(options, true);
+  platform::TerminalKeyDecoder decoder;
+  for (;;) {
+    char byte = 0;
+    int got = platform::readByte(0, byte);
+    // The size may change while a key is read or while one is handled.
+    if (platform::terminalResized()) console.resized();
+    if (got == -2) continue;
+    if (got <= 0) {
+      console.show("\n");
+      return 0;
+    }
+    std::string keys;
+    decoder.feed(byte, keys);
+    if (decoder.pending() && !platform::waitInput(0, kEscapeWaitMs)) decoder.flush(keys);
+    for (char k : keys) {
+      if (!console.key(k)) return 0;
+    }
+  }
+}
+
+int runScripted(const ConsoleOptions& options) {
+  Console console(options, false);
+  platform::TerminalKeyDecoder decoder;
+  std::string line;
+  while (std::getline(std::cin, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    std::string keys;
+    for (char byte : line) decoder.feed(byte, keys);
+    decoder.flush(keys);
+    keys += '\n';
+    for (char k : keys) {
+      if (!console.key(k)) return 0;
+    }
+  }
+  console.show("\n");
+  return 0;
+}
+
+CommandRegistration registration{CommandSpec{
+    "console", "an emulated device console on the terminal, key by key",
+    [](CLI::App& sub, const GlobalOptions& global) -> std::function<int()> {
+      auto options = std::make_shared<ConsoleOptions>();
+      sub.add_option("--hostname", options->hostname, "host name shown in the prompt")->capture_default_str();
+      sub.add_option("--history", options->history, "file that keeps the line history ('-': none)")
+          ->capture_default_str();
+      sub.footer(
+          "Keys: arrows, Home/End, Delete, Ctrl-A/E/K/U/W/Y, Ctrl-R search, '?' help, Tab completion; "
+          "Ctrl-D on an empty line leaves.\n"
+          "Without a terminal, standard input is typed line by line.\n"
+          "Example: vtyconf console --hostname R1 --history ~/.vtyconf_history");
+      return [options, &global]() {
+        if (!loadResources()) return 2;
+        int rc = platform::isTerminal(0) ? runInteractive(*options, global) : runScripted(*options);
+        qxparser::QxParserUtil::destroyParserResource();
+        return rc;
+      };
+    }}};
+
+}  // namespace
+}  // namespace vtycli
