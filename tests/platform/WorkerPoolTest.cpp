@@ -7,10 +7,11 @@
 
 namespace {
 
-int describe(size_t index, std::string& out, std::string& err) {
-  out = "out " + std::to_string(index) + std::string(index * 1000, 'x');  // large enough to need several reads
-  if (index % 3 == 0) err = "err " + std::to_string(index);
-  return static_cast<int>(index % 2);
+void describe(size_t index, platform::WorkerResult& result) {
+  result.out = "out " + std::to_string(index) + std::string(index * 1000, 'x');  // needs several reads
+  if (index % 3 == 0) result.err = "err " + std::to_string(index);
+  result.data = std::string(index, '\0');
+  result.exitCode = static_cast<int>(index % 2);
 }
 
 TEST(WorkerPoolTest, ForkedResultsEqualTheSerialOnesInInputOrder) {
@@ -27,15 +28,15 @@ TEST(WorkerPoolTest, ForkedResultsEqualTheSerialOnesInInputOrder) {
     EXPECT_EQ(forked[i].exitCode, serial[i].exitCode) << i;
     EXPECT_EQ(forked[i].out, serial[i].out) << i;
     EXPECT_EQ(forked[i].err, serial[i].err) << i;
+    EXPECT_EQ(forked[i].data, serial[i].data) << i;
   }
 }
 
 TEST(WorkerPoolTest, ADeadWorkerCostsOnlyItsOwnInput) {
   const pid_t parent = ::getpid();
-  const auto results = platform::runInWorkers(6, 2, [parent](size_t index, std::string& out, std::string&) {
+  const auto results = platform::runInWorkers(6, 2, [parent](size_t index, platform::WorkerResult& result) {
     if (index == 2 && ::getpid() != parent) ::_exit(7);
-    out = std::to_string(index);
-    return 0;
+    result.out = std::to_string(index);
   });
   ASSERT_EQ(results.size(), 6u);
   EXPECT_EQ(results[2].exitCode, 2);
@@ -47,9 +48,8 @@ TEST(WorkerPoolTest, ADeadWorkerCostsOnlyItsOwnInput) {
 }
 
 TEST(WorkerPoolTest, AnExceptionInAWorkerBecomesAMessage) {
-  const auto results = platform::runInWorkers(3, 2, [](size_t index, std::string&, std::string&) -> int {
+  const auto results = platform::runInWorkers(3, 2, [](size_t index, platform::WorkerResult&) {
     if (index == 1) throw std::runtime_error("bad input");
-    return 0;
   });
   EXPECT_EQ(results[1].exitCode, 2);
   EXPECT_EQ(results[1].err, "vtyconf: bad input\n");

@@ -5,7 +5,6 @@
 #include <iostream>
 
 #include "platform/PlatformOs.h"
-#include "platform/WorkerPool.h"
 
 namespace vtycli {
 
@@ -33,7 +32,8 @@ bool expandInputs(const std::vector<std::string>& arguments, std::vector<std::st
   return ok;
 }
 
-int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet, const FileJob& job) {
+std::vector<platform::WorkerResult> runPerFileWithData(const std::vector<std::string>& files, unsigned jobs, bool quiet,
+                                                       const FileJobWithData& job) {
   if (jobs == 0) jobs = platform::processorCount();
   // Standard input can be read once only, and only by this process.
   if (std::count(files.begin(), files.end(), std::string("-")) > 0) jobs = 1;
@@ -41,16 +41,22 @@ int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet,
   auto progress = [&](size_t done, size_t total) {
     if (showProgress) std::cerr << "\r" << done << "/" << total << " files" << (done == total ? "\n" : "") << std::flush;
   };
-  const auto results = platform::runInWorkers(
-      files.size(), jobs, [&](size_t index, std::string& out, std::string& err) { return job(files[index], out, err); },
-      progress);
-  int worst = 0;
+  auto results = platform::runInWorkers(
+      files.size(), jobs, [&](size_t index, platform::WorkerResult& result) { job(files[index], result); }, progress);
   for (const auto& result : results) {
     std::cout << result.out;
     std::cerr << result.err;
-    worst = std::max(worst, result.exitCode);
   }
   std::cout.flush();
+  return results;
+}
+
+int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet, const FileJob& job) {
+  const auto results = runPerFileWithData(files, jobs, quiet, [&job](const std::string& file, platform::WorkerResult& result) {
+    result.exitCode = job(file, result.out, result.err);
+  });
+  int worst = 0;
+  for (const auto& result : results) worst = std::max(worst, result.exitCode);
   return worst;
 }
 

@@ -15,12 +15,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/WorkerPool.h"
+
 namespace vtycli {
 
 // Files named by the arguments; false after a message for a missing one.
 bool expandInputs(const std::vector<std::string>& arguments, std::vector<std::string>& files);
 
 using FileJob = std::function<int(const std::string& file, std::string& out, std::string& err)>;
+// A job that also hands back data for the caller to gather (see WorkerResult).
+using FileJobWithData = std::function<void(const std::string& file, platform::WorkerResult& result)>;
 
 // While it lives, std::cout and std::cerr write into the given strings
 // (flushed there when it goes), so that a job written for the terminal can
@@ -50,5 +54,9 @@ class StreamCapture {
 
 // jobs 0 means one per processor.
 int runPerFile(const std::vector<std::string>& files, unsigned jobs, bool quiet, const FileJob& job);
+// As runPerFile; returns every file's result (after printing its output and
+// messages) so that the caller can gather the data.
+std::vector<platform::WorkerResult> runPerFileWithData(const std::vector<std::string>& files, unsigned jobs, bool quiet,
+                                                       const FileJobWithData& job);
 
 }  // namespace vtycli

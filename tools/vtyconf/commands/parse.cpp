@@ -11,6 +11,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "ManyFiles.h"
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
 #include "terminal/VTY.h"
@@ -27,6 +28,7 @@ struct ParseOptions {
   bool strict = false;
   bool stats = false;
   bool keepCapture = false;
+  unsigned jobs = 0;
 };
 
 using qxparser::CommandDump;
@@ -99,94 +101,123 @@ nlohmann::json toJson(const CiscoCommandLine& record, const ConfigInput& input) 
   return item;
 }
 
-int runParse(const ParseOptions& options, const GlobalOptions& global) {
-  QxParserUtil::createNewParserResource();
+// What one file contributes to the totals of a run over many files.
+struct FileSummary {
+  size_t lines = 0;
+  size_t refused = 0;
   std::map<std::string, size_t> groups;
-  size_t totalLines = 0, totalRefused = 0;
-  bool failed = false;
-  nlohmann::json jsonOut = nlohmann::json::array();
-  for (const std::string& path : options.files) {
-    ConfigInput input;
-    std::string error;
-    if (!readConfigInput(path, options.keepCapture, input, error)) {
-      std::cerr << "vtyconf: " << error << "\n";
-      failed = true;
+  nlohmann::json records = nlohmann::json::array();
+};
+
+nlohmann::json toData(const FileSummary& summary) {
+  return nlohmann::json{{"lines", summary.lines}, {"refused", summary.refused}, {"groups", summary.groups},
+                        {"records", summary.records}};
+}
+
+// Reads one file; its output and messages go to std::cout and std::cerr.
+// 2 when it cannot be read or the library failed on it, else 0.
+int parseOne(const std::string& path, const ParseOptions& options, const GlobalOptions& global, FileSummary& summary) {
+  ConfigInput input;
+  std::string error;
+  if (!readConfigInput(path, options.keepCapture, input, error)) {
+    std::cerr << "vtyconf: " << error << "\n";
+    return 2;
+  }
+  if (!global.quiet) {
+    for (const std::string& left : input.leftOut)
+      std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+  }
+  std::vector<CiscoCommandLine*> records;
+  std::string errorText;
+  int errorLine = 0;
+  std::string exceptionText;
+  try {
+    QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+  } catch (const std::exception& e) {
+    exceptionText = e.what();
+  }
+  if (!exceptionText.empty()) {
+    QxParserUtil::deleteCommands(records);
+    const int line = failingLine(input);
+    std::cerr << "vtyconf: " << input.displayName() << ":";
+    if (line > 0) std::cerr << line << ":";
+    std::cerr << " " << exceptionText << "\n";
+    return 2;
+  }
+  std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
+      &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
+  std::ostringstream text;
+  for (const CiscoCommandLine* record : records) {
+    ++summary.lines;
+    const int fileLine = input.fileLineOf(record->getLineNo());
+    if (isRefused(*record, input)) {
+      ++summary.refused;
+      const std::string shown = CommandDump::commandText(*record);
+      summary.groups[groupKey(shown)]++;
+      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
       continue;
     }
-    if (!global.quiet) {
-      for (const std::string& left : input.leftOut)
-        std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
-    }
-    std::vector<CiscoCommandLine*> records;
-    std::string errorText;
-    int errorLine = 0;
-    std::string exceptionText;
-    try {
-      QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
-    } catch (const std::exception& e) {
-      exceptionText = e.what();
-    }
-    if (!exceptionText.empty()) {
-      QxParserUtil::deleteCommands(records);
-      const int line = failingLine(input);
-      std::cerr << "vtyconf: " << input.displayName() << ":";
-      if (line > 0) std::cerr << line << ":";
-      std::cerr << " " << exceptionText << "\n";
-      failed = true;
+    if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
+    if (input.isBannerText(record->getLineNo())) {
+      text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << CommandDump::commandText(*record)
+           << "\t[banner text]\n";
       continue;
     }
-    std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
-        &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
-    FileResult result;
-    std::ostringstream text;
+    std::string line;
+    CommandDump::dumpCommand(*record, line, false, [&input](int number) { return input.fileLineOf(number); });
+    text << line;
+  }
+  if (options.json) {
     for (const CiscoCommandLine* record : records) {
-      ++result.lines;
-      const int fileLine = input.fileLineOf(record->getLineNo());
-      if (isRefused(*record, input)) {
-        ++result.refused;
-        const std::string shown = CommandDump::commandText(*record);
-        groups[groupKey(shown)]++;
-        std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
-        continue;
-      }
-      if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
-      if (input.isBannerText(record->getLineNo())) {
-        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ')
-             << CommandDump::commandText(*record) << "\t[banner text]\n";
-        continue;
-      }
-      std::string line;
-      CommandDump::dumpCommand(*record, line, false,
-                               [&input](int number) { return input.fileLineOf(number); });
-      text << line;
+      if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
+      if (isRefused(*record, input)) continue;
+      summary.records.push_back(toJson(*record, input));
     }
-    if (options.json) {
-      for (const CiscoCommandLine* record : records) {
-        if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
-        if (isRefused(*record, input)) continue;
-        jsonOut.push_back(toJson(*record, input));
-      }
-    } else if (!options.stats) {
-      std::cout << text.str();
-    }
-    totalLines += result.lines;
-    totalRefused += result.refused;
-    if (options.stats) {
-      std::cout << input.displayName() << ": " << result.lines << " lines read, " << result.refused
-                << " refused\n";
-    }
+  } else if (!options.stats) {
+    std::cout << text.str();
+  }
+  if (options.stats) {
+    std::cout << input.displayName() << ": " << summary.lines << " lines read, " << summary.refused << " refused\n";
+  }
+  return 0;
+}
+
+void printStats(size_t files, size_t totalLines, size_t totalRefused, const std::map<std::string, size_t>& groups) {
+  double share = totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
+  std::cout << "total: " << files << " files, " << totalLines << " lines read, " << totalRefused << " refused ("
+            << std::fixed << std::setprecision(3) << share << "%)\n";
+  std::vector<std::pair<std::string, size_t>> sorted(groups.begin(), groups.end());
+  std::stable_sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+  for (const auto& group : sorted) std::cout << std::setw(6) << group.second << "  " << group.first << "\n";
+}
+
+int runParse(const ParseOptions& options, const GlobalOptions& global) {
+  std::vector<std::string> files;
+  bool failed = !expandInputs(options.files, files);
+  QxParserUtil::createNewParserResource();
+  // Each file is read in a worker process; its totals come back as data.
+  const auto results = runPerFileWithData(files, options.jobs, global.quiet,
+                                          [&](const std::string& file, platform::WorkerResult& result) {
+                                            FileSummary summary;
+                                            StreamCapture capture(result.out, result.err);
+                                            result.exitCode = parseOne(file, options, global, summary);
+                                            result.data = toData(summary).dump();
+                                          });
+  size_t totalLines = 0;
+  size_t totalRefused = 0;
+  std::map<std::string, size_t> groups;
+  nlohmann::json jsonOut = nlohmann::json::array();
+  for (const auto& result : results) {
+    if (result.exitCode != 0) failed = true;
+    if (result.data.empty()) continue;
+    const nlohmann::json data = nlohmann::json::parse(result.data);
+    totalLines += data.at("lines").get<size_t>();
+    totalRefused += data.at("refused").get<size_t>();
+    for (const auto& [key, count] : data.at("groups").items()) groups[key] += count.get<size_t>();
+    for (const auto& record : data.at("records")) jsonOut.push_back(record);
   }
   if (options.json) std::cout << jsonOut.dump(2) << "\n";
-  if (options.stats) {
-    double share =
-        totalLines == 0 ? 0.0 : 100.0 * static_cast<double>(totalRefused) / static_cast<double>(totalLines);
-    std::cout << "total: " << options.files.size() << " files, " << totalLines << " lines read, "
-              << totalRefused << " refused (" << std::fixed << std::setprecision(3) << share << "%)\n";
-    std::vector<std::pair<std::string, size_t>> sorted(groups.begin(), groups.end());
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const auto& a, const auto& b) { return a.second > b.second; });
-    for (const auto& group : sorted) std::cout << std::setw(6) << group.second << "  " << group.first << "\n";
-  }
+  if (options.stats) printStats(files.size(), totalLines, totalRefused, groups);
   QxParserUtil::destroyParserResource();
   if (failed) return 2;
   return options.strict && totalRefused > 0 ? 1 : 0;
@@ -196,7 +227,8 @@ CommandRegistration registration{CommandSpec{
     "parse", "read configurations into commands (one per line, indented by level)",
     [](CLI::App& sub, const GlobalOptions& global) -> std::function<int()> {
       auto options = std::make_shared<ParseOptions>();
-      sub.add_option("CONFIG", options->files, "configuration files ('-' for standard input)")->required();
+      sub.add_option("CONFIG", options->files, "configuration files or folders ('-' for standard input)")->required();
+      sub.add_option("-j,--jobs", options->jobs, "worker processes for many files (default: one per processor)");
       sub.add_flag("--json", options->json, "print the commands as a JSON array");
       sub.add_flag("--strict", options->strict, "exit 1 when a line was refused");
       sub.add_flag("--stats", options->stats,

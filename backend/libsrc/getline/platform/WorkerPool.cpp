@@ -21,7 +21,7 @@ namespace {
 std::vector<WorkerResult> runHere(size_t count, const WorkerJob& job, const WorkerProgress& progress) {
   std::vector<WorkerResult> results(count);
   for (size_t i = 0; i < count; ++i) {
-    results[i].exitCode = job(i, results[i].out, results[i].err);
+    job(i, results[i]);
     if (progress) progress(i + 1, count);
   }
   return results;
@@ -72,14 +72,14 @@ bool readText(int fd, std::string& text) {
   while (readAll(tasks, &index, sizeof index)) {
     WorkerResult result;
     try {
-      result.exitCode = job(static_cast<size_t>(index), result.out, result.err);
+      job(static_cast<size_t>(index), result);
     } catch (const std::exception& e) {
       result.exitCode = 2;
       result.err += std::string("vtyconf: ") + e.what() + "\n";
     }
     const int32_t code = result.exitCode;
     if (!writeAll(answers, &code, sizeof code) || !writeText(answers, result.out) ||
-        !writeText(answers, result.err))
+        !writeText(answers, result.err) || !writeText(answers, result.data))
       break;
   }
   ::_exit(0);
@@ -182,7 +182,7 @@ std::vector<WorkerResult> runForked(size_t count, unsigned jobs, const WorkerJob
       // No worker is left: the rest runs here.
       for (; next < count; ++next) {
         WorkerResult result;
-        result.exitCode = job(next, result.out, result.err);
+        job(next, result);
         finish(next, std::move(result));
       }
       break;
@@ -197,7 +197,7 @@ std::vector<WorkerResult> runForked(size_t count, unsigned jobs, const WorkerJob
       WorkerResult result;
       int32_t code = 0;
       const bool ok = readAll(worker.answers, &code, sizeof code) && readText(worker.answers, result.out) &&
-                      readText(worker.answers, result.err);
+                      readText(worker.answers, result.err) && readText(worker.answers, result.data);
       worker.busy = false;
       if (ok) {
         result.exitCode = code;

@@ -4,7 +4,7 @@
 // many files: each worker is a fork of the caller, so it starts with the
 // loaded resources and needs no start-up of its own. Jobs are handed out one
 // at a time to whichever worker is free; a job's output and error text and
-// its exit code travel back through a pipe, and the results are returned in
+// its exit code and data travel back through a pipe, and the results are returned in
 // the order of the inputs, whatever order the jobs finished in.
 //
 // With jobs <= 1, or a single input, everything runs in the calling process.
@@ -27,10 +27,11 @@ struct WorkerResult {
   int exitCode = 0;
   std::string out;  // what the job wrote for standard output
   std::string err;  // what the job wrote for standard error
+  std::string data;  // anything else the caller wants back, serialised by the job
 };
 
-// job(index, out, err) returns the exit code of input `index`.
-using WorkerJob = std::function<int(size_t index, std::string& out, std::string& err)>;
+// job(index, result) treats input `index` and fills in its result.
+using WorkerJob = std::function<void(size_t index, WorkerResult& result)>;
 // Called in the calling process after each finished job with the count done.
 using WorkerProgress = std::function<void(size_t done, size_t total)>;
 
