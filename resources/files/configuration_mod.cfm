@@ -542,7 +542,7 @@ banner|define a login banner|k||
     !
   !
 !
-line|configure a terminal line|||
+&linefile.cfm|configure a terminal line|k||
   con|primary terminal line|k||
     id|id|k||
       <cr>||||@(config-line)# line.cfm

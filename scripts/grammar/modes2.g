@@ -2,8 +2,6 @@ file generic.cfm
 description
   %TEXT
 shutdown $
-zone
-  line *
 ras
   line *
 gw-type-prefix
@@ -36,8 +34,6 @@ virtual-ip
   line *
 cli
   line *
-event
-  line *
 action
   line *
 cron
@@ -69,8 +65,6 @@ start $
 destination
   line *
 contact-email-addr
-  line *
-service
   line *
 http-proxy
   line *
@@ -138,8 +132,6 @@ timer
   line *
 reverse-route $
   line *
-interface
-  line *
 interworking
   line *
 control-word $
@@ -153,8 +145,6 @@ index
   line *
 exclude-address
   line *
-hostname
-  line *
 hidekeys $
 enable $
 monitor
@@ -163,11 +153,7 @@ path
   line *
 frequency
   line *
-security
-  line *
 recovery
-  line *
-version
   line *
 transport
   line *
@@ -176,8 +162,6 @@ subscribe-to-alert-group
 profile
   line *
 credential
-  line *
-clock
   line *
 mtu
   line *

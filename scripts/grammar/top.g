@@ -189,7 +189,7 @@ banner "define a login banner"
     line *
   prompt-timeout :k
     line *
-line "configure a terminal line"
+&linefile.cfm "configure a terminal line"
   con :k "primary terminal line"
     id :k @(config-line)#=line.cfm
   vty :k "virtual terminal"
