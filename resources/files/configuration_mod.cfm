@@ -358,24 +358,24 @@ username|establish user name authentication|k||
       id|id|o||
         password|password|k||
           id|id|||
-            line|line|o||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
         !
         secret|secret|k||
           id|id|||
-            line|line|o||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -394,24 +394,24 @@ username|establish user name authentication|k||
     !
     password|password|k||
       id|id|||
-        line|line|o||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
       !
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
     secret|secret|k||
       id|id|||
-        line|line|o||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
       !
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
@@ -451,7 +451,7 @@ enable|modify enable password parameters|k||
     level|level|k||
       id|id|||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -459,12 +459,12 @@ enable|modify enable password parameters|k||
       !
     !
     id|id|||
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -473,7 +473,7 @@ enable|modify enable password parameters|k||
     level|level|k||
       id|id|||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -481,12 +481,12 @@ enable|modify enable password parameters|k||
       !
     !
     id|id|||
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -495,7 +495,7 @@ enable|modify enable password parameters|k||
     word|word|||
       secret|secret|k||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -955,7 +955,7 @@ control-plane-policing|control-plane-policing|k||
   !
 !
 platform|platform configuration|k||
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !
@@ -1734,7 +1734,7 @@ tacacs-server|tacacs server configuration|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -1780,7 +1780,7 @@ radius-server|radius server configuration|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2526,7 +2526,7 @@ logging|modify message logging facilities|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2534,7 +2534,7 @@ logging|modify message logging facilities|k||
   console|console|k/sn||
     <cr>||||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2548,7 +2548,7 @@ logging|modify message logging facilities|k||
   monitor|monitor|k/sn||
     <cr>||||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2556,7 +2556,7 @@ logging|modify message logging facilities|k||
   trap|trap|k||
     <cr>||||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !

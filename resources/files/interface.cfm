@@ -1156,7 +1156,7 @@ clock|configure serial interface clock|k||
     !
   !
   source|source|k||
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !

@@ -130,12 +130,12 @@ transport|transport|k||
 !
 password|password|k||
   id|id|||
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !

@@ -47,7 +47,8 @@ def parse_line(text):
         node.macro = node.token[1:]
     for p in parts[1:]:
         if p.startswith(":"):
-            node.flags = p[1:]
+            # Flags add up, whatever their order with "*" on the line.
+            node.flags = "/".join(x for x in (node.flags, p[1:]) if x)
         elif p == "$":
             node.end = True
         elif p == "*":
