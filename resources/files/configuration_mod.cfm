@@ -644,11 +644,13 @@ router|enable a routing process|k||
 !
 access-list|add an access list entry|k||
   <1-99>|ip standard access list|k||
-    permit|permit|k||&acl_std_entry.cfm
+    permit|permit|||&acl_std_entry.cfm
     !
-    deny|deny|k||&acl_std_entry.cfm
+    deny|deny|||&acl_std_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -656,11 +658,13 @@ access-list|add an access list entry|k||
     !
   !
   <1300-1999>|ip standard access list (expanded range)|k||
-    permit|permit|k||&acl_std_entry.cfm
+    permit|permit|||&acl_std_entry.cfm
     !
-    deny|deny|k||&acl_std_entry.cfm
+    deny|deny|||&acl_std_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -668,17 +672,19 @@ access-list|add an access list entry|k||
     !
   !
   <100-199>|ip extended access list|k||
-    permit|permit|k||&acl_ext_entry.cfm
+    permit|permit|||&acl_ext_entry.cfm
     !
-    deny|deny|k||&acl_ext_entry.cfm
+    deny|deny|||&acl_ext_entry.cfm
     !
-    dynamic|dynamic|k||
+    dynamic|dynamic|||
       word|word|k||
-        permit|permit|k||&acl_ext_entry.cfm
+        permit|permit|||&acl_ext_entry.cfm
         !
       !
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -686,11 +692,13 @@ access-list|add an access list entry|k||
     !
   !
   <2000-2699>|ip extended access list (expanded range)|k||
-    permit|permit|k||&acl_ext_entry.cfm
+    permit|permit|||&acl_ext_entry.cfm
     !
-    deny|deny|k||&acl_ext_entry.cfm
+    deny|deny|||&acl_ext_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -1137,6 +1145,10 @@ memory|memory configuration|k||
     history|history|k||
       table|table|k||
         <cr>||||
+        !
+        id|number of entries|o||
+          <cr>||||
+          !
         !
       !
     !
@@ -1687,7 +1699,7 @@ object-group|object group|k||
   !
   service|service|k||
     word|word|k||
-      <cr>||||@(config-service-group)# object_group.cfm
+      <cr>||||@(config-service-group)# object_group_service.cfm
       !
     !
   !
@@ -1707,7 +1719,7 @@ zone-pair|zone pair|k||
         word|word|k||
           destination|destination|k||
             word|word|k||
-              <cr>||||@(config-sec-zone-pair)# generic.cfm
+              <cr>||||@(config-sec-zone-pair)# zone_pair.cfm
               !
             !
           !
@@ -1837,7 +1849,7 @@ app-hosting|application hosting|k||
   !
 !
 call-home|call home|k||
-  <cr>||||@(cfg-call-home)# generic.cfm
+  <cr>||||@(cfg-call-home)# call_home.cfm
   !
 !
 aqm-register-fnf|aqm-register-fnf|k||
@@ -1848,10 +1860,10 @@ event|event manager|k||
   manager|manager|k||
     applet|applet|k||
       word|word|k||
-        <cr>||||@(config-applet)# generic.cfm
+        <cr>||||@(config-applet)# eem_applet.cfm
         !
         line|line|lb/le/wa||
-          <cr>||||@(config-applet)# generic.cfm
+          <cr>||||@(config-applet)# eem_applet.cfm
           !
         !
       !
@@ -2737,10 +2749,6 @@ snmp-server|modify snmp engine parameters|k||
         <cr>||||
         !
       !
-      word|word|||
-        <cr>||||
-        !
-      !
     !
   !
   location|location|k||
@@ -3378,7 +3386,7 @@ crypto|encryption module|k||
   gdoi|gdoi|k||
     group|group|k||
       word|word|k||
-        <cr>||||@(config-gkm-group)# generic.cfm
+        <cr>||||@(config-gkm-group)# gdoi_group.cfm
         !
       !
     !

@@ -167,6 +167,14 @@ cdp|cdp interface subcommands|k||
     <cr>||||
     !
   !
+  log|log|k||
+    mismatch|mismatch|k||
+      duplex|duplex|k/sn||
+        <cr>||||
+        !
+      !
+    !
+  !
   tlv|tlv|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1348,6 +1356,30 @@ ethernet|ethernet|k||
         !
       !
     !
+    max-rate|max-rate|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    min-rate|min-rate|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    timeout|timeout|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    link-monitor|link-monitor|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
   !
   cfm|cfm|k||
     mip|mip|k||
@@ -1704,12 +1736,12 @@ peer|peer|k||
 !
 pvc|configure an atm pvc|k||
   <vpi/vci>|vpi/vci|k||
-    <cr>||||@(config-if-atm-vc)# generic.cfm
+    <cr>||||@(config-if-atm-vc)# atm_vc.cfm
     !
   !
   word|word|k||
     <vpi/vci>|vpi/vci|k||
-      <cr>||||@(config-if-atm-vc)# generic.cfm
+      <cr>||||@(config-if-atm-vc)# atm_vc.cfm
       !
     !
   !
@@ -2337,6 +2369,66 @@ bgp-policy|bgp-policy|k||
     ip-qos-map|ip-qos-map|k||
       <cr>||||
       !
+    !
+  !
+!
+network-clock|network clock configuration|k||
+  wait-to-restore|wait-to-restore|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  hold-off|hold-off|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  source|source|k||
+    quality-level|quality-level|k||
+      word|word|||
+        tx|tx|k||
+          <cr>||||
+          !
+        !
+        rx|rx|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  synchronization|synchronization|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+synchronous|synchronous mode|k||
+  mode|mode|k/sn||
+    <cr>||||
+    !
+  !
+!
+bundle-enable|bundle atm vcs|k/sn||
+  <cr>||||
+  !
+!
+physical-layer|physical layer mode|k||
+  async|async|k/o||
+    <cr>||||
+    !
+  !
+  sync|sync|k/o||
+    <cr>||||
+    !
+  !
+!
+routing|routing on the interface|k||
+  dynamic|dynamic|k/sn||
+    <cr>||||
     !
   !
 !

@@ -143,6 +143,22 @@ name-server|name-server|k||
         a.b.c.d|a.b.c.d|k||
           <cr>||||
           !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+              a.b.c.d|a.b.c.d|k||
+                <cr>||||
+                !
+                a.b.c.d|a.b.c.d|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
         !
       !
     !
@@ -155,6 +171,18 @@ name-server|name-server|k||
       !
       a.b.c.d|a.b.c.d|k||
         <cr>||||
+        !
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+            !
+          !
         !
       !
     !

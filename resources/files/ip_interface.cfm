@@ -1,5 +1,5 @@
 address|set the ip address of an interface|k/n||
-  a.b.c.d|ip address|o/k||
+  a.b.c.d|ip address|o||
     a.b.c.d|ip subnet mask|||
       <cr>||||
       !

@@ -139,7 +139,7 @@ ioam|ioam|k||
 dhcp|dhcp|k||
   pool|pool|k||
     word|word|k||
-      <cr>||||@(config-dhcpv6)# generic.cfm
+      <cr>||||@(config-dhcpv6)# ipv6_dhcp_pool.cfm
       !
     !
   !

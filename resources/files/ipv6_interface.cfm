@@ -418,3 +418,43 @@ router|router|k||
     !
   !
 !
+nhrp|ipv6 next hop resolution|k||
+  map|map|k||
+    multicast|multicast|k||
+      dynamic|dynamic|k||
+        <cr>||||
+        !
+      !
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  network-id|network-id|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  holdtime|holdtime|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  nhs|nhs|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -3,6 +3,24 @@ bgp|bgp specific commands|k||
     <cr>||||
     !
   !
+  rpki|resource public key infrastructure|k||
+    server|server|k||
+      tcp|tcp|k||
+        a.b.c.d|a.b.c.d|k||
+          port|port|k||
+            id|id|||
+              refresh|refresh|k||
+                id|id|||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
   router-id|router-id|k||
     a.b.c.d|a.b.c.d|o||
       <cr>||||
@@ -2227,6 +2245,10 @@ bgp|bgp|k||
     line|line|lb/le/wa||
       <cr>||||
       !
+    !
+  !
+  dmzlink-bw|use dmz link bandwidth|k||
+    <cr>||||
     !
   !
   redistribute-internal|redistribute-internal|k||

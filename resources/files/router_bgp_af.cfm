@@ -863,6 +863,10 @@ bgp|bgp|k||
       !
     !
   !
+  dmzlink-bw|use dmz link bandwidth|k||
+    <cr>||||
+    !
+  !
   redistribute-internal|redistribute-internal|k||
     <cr>||||
     !

@@ -48,9 +48,16 @@ name-server
     word :k
       a.b.c.d :k $
         a.b.c.d :k $
+          a.b.c.d :k $
+            a.b.c.d :k $
+              a.b.c.d :k $
+                a.b.c.d :k $
   a.b.c.d :k $
     a.b.c.d :k $
       a.b.c.d :k $
+        a.b.c.d :k $
+          a.b.c.d :k $
+            a.b.c.d :k $
   word :k $
 host
   word :k
@@ -629,7 +636,7 @@ ioam
   timestamp $
 dhcp
   pool
-    word :k @(config-dhcpv6)#=generic.cfm
+    word :k @(config-dhcpv6)#=ipv6_dhcp_pool.cfm
   line *
 general-prefix
   line *

@@ -1,6 +1,6 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
-  a.b.c.d :o "ip address" :k
+  a.b.c.d :o "ip address"
     a.b.c.d "ip subnet mask" $
       secondary :k $
         vrf
@@ -458,4 +458,18 @@ source-route $
 flow
   line *
 router
+  line *
+
+nhrp "ipv6 next hop resolution"
+  map
+    multicast
+      dynamic $
+      word $
+    line *
+  network-id
+    id :o $
+  holdtime
+    id :o $
+  nhs
+    line *
   line *

@@ -342,6 +342,13 @@ type
   line *
 frequency
   id :o $
+secondary-frequency "frequency after a failure"
+  timeout
+    id :o $
+  connection-loss
+    id :o $
+  both
+    id :o $
 timeout
   id :o $
 threshold
@@ -379,16 +386,7 @@ range
     a.b.c.d :k $
 group-object
   word :k $
-&protocolfile.cfm :k $
-  line *
-tcp
-  line *
-udp
-  line *
-tcp-udp
-  line *
-icmp $
-  line *
+a.b.c.d/<1-32> :k $
 
 file server.cfm
 address

@@ -165,6 +165,7 @@ def AFBODY
       line *
     additional-paths
       line *
+    dmzlink-bw "use dmz link bandwidth" $
     redistribute-internal $
     nexthop
       line *
@@ -191,6 +192,14 @@ def AFBODY
 file router_bgp.cfm
 bgp "bgp specific commands"
   log-neighbor-changes $ :sn
+  rpki "resource public key infrastructure"
+    server
+      tcp
+        a.b.c.d :k
+          port
+            id
+              refresh
+                id $
   router-id
     a.b.c.d :o $
     vrf

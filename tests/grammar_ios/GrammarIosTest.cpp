@@ -122,6 +122,47 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"banner motd ^C\nAuthorised access only\nhostname R2\n", {0, 0, 0}},
       {"no ip domain lookup\nno service pad\n", {0, 0}},
       {"spanning-tree vlan 1 priority 0\n", {0}},
+      // Option tails of access-list entries, in the combinations the device writes.
+      {"access-list 101 permit tcp any any log\naccess-list 101 permit tcp any any eq www established\n"
+       "access-list 101 permit tcp any eq www any established log\naccess-list 101 permit ip any any precedence 5 log\n"
+       "access-list 101 permit udp any any eq 53 dscp ef log-input\naccess-list 101 permit tcp any any eq 80 time-range T1 log\n"
+       "access-list 101 permit icmp any any echo-reply log\naccess-list 102 remark\n",
+       {0, 0, 0, 0, 0, 0, 0, 0}},
+      {"ip access-list extended INSPECT\n permit object-group SVC object-group SRC object-group DST\n", {0, 1}},
+      // Upper-case keywords, the closing banner line and snmp access levels
+      // are found through the lower-case pass.
+      {"banner motd ^C\nno entry\n^C\nsnmp-server community public RO 10\nsnmp-server community s3cret RW 99\n",
+       {0, 0, 0, 0, 0}},
+      // Interface names in their short form, and interface commands that
+      // once sent the following lines to the top level.
+      {"interface Fa0/1\n speed auto\n duplex auto\ninterface Gi0/2\n no shutdown\n", {0, 1, 1, 0, 1}},
+      {"interface GigabitEthernet0/0/0\n network-clock wait-to-restore 300\n no synchronous mode\n"
+       " ethernet oam max-rate 10\n hold-queue 375 in\n no bgp-policy accounting input source\n cdp log mismatch duplex\n",
+       {0, 1, 1, 1, 1, 1, 1}},
+      {"interface ATM0/0.32 point-to-point\n pvc 0/32\n  vbr-nrt 704 704\n  dialer pool-member 1\n  protocol ppp dialer\n",
+       {0, 1, 2, 2, 2}},
+      {"platform console auto\nno platform punt-keepalive disable-kernel-core\nmemory statistics history table 12\n", {0, 0, 0}},
+      {"ipv6 dhcp pool POOL6\n address prefix fd01:ab00::/64 lifetime infinite\n dns-server 2001::1\n domain-name UK.COM\n",
+       {0, 1, 1, 1}},
+      {"crypto gdoi group G1\n identity number 18090212\n server local\n  rekey transport unicast\n  sa ipsec 10\n"
+       "   profile P1\n   replay time window-size 20\n  redundancy\n   local priority 100\n"
+       "   peer address ipv4 10.0.0.2\n",
+       {0, 1, 1, 2, 2, 3, 3, 2, 3, 3}},
+      {"call-home\n contact-email-addr a@b.c\n profile \"CiscoTAC-1\"\n  active\n  destination transport-method http\n",
+       {0, 1, 1, 2, 2}},
+      {"router bgp 65000\n bgp rpki server tcp 10.0.0.9 port 8282 refresh 10\n address-family ipv4\n  bgp dmzlink-bw\n",
+       {0, 1, 1, 2}},
+      {"ip sla 1\n icmp-echo 10.0.0.1\n secondary-frequency timeout 0\n secondary-frequency connection-loss 0\n",
+       {0, 1, 1, 1}},
+      // A line that follows a sub-mode and is a top-level command leaves the
+      // mode: no sub-mode may swallow it with a catch-all.
+      {"bba-group pppoe global\n virtual-template 1\ninterface Loopback0\n ip address 10.0.0.1 255.255.255.255\n",
+       {0, 1, 0, 1}},
+      {"object-group service SVC\n tcp eq 80\nip access-list extended A\n permit ip host 1.1.1.1 any\n", {0, 1, 0, 1}},
+      {"event manager applet A\n event none\n action 1.0 cli command enable\nevent manager applet B\n event none\n",
+       {0, 1, 1, 0, 1}},
+      {"gatekeeper\n shutdown\nzone security Z0\nservice timestamps log datetime msec\nhostname R9\n", {0, 1, 0, 0, 0}},
+      {"line vty 0 4\n login\nline con 0\n exec-timeout 0 0\n", {0, 1, 0, 1}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -145,6 +186,8 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
       "ip address 10.0.0.1\n",         // no interface mode open
       "router ospf\n",                 // process id missing
       "access-list 10 permit tcp any any\n",  // a standard list takes no protocol
+      "interface Ge0/0\n",             // not a prefix of any interface type
+      "ip access-list extended X\n permit esp host any any\n",  // "host" needs an address
   };
   for (const char* line : lines) {
     std::vector<std::string> refused;
@@ -163,10 +206,12 @@ TEST_F(GrammarIos, ModeChangingAndFlaggedCommandsKeepTheirMeaning) {
   QxParserUtil::deleteCommands(records);
 }
 
-std::string helpAt(const std::vector<std::string>& opening) {
+// The help listing at the root of a mode: `steps` of the way from view mode
+// (0 view, 1 exec after "enable", 2 configuration), then the opening lines.
+std::string helpAt(int steps, const std::vector<std::string>& opening) {
   VTY vty("hostName", false);
-  vty.parse("enable\n", true, nullptr);
-  vty.parse("configure terminal \n", true, nullptr);
+  if (steps >= 1) vty.parse("enable\n", true, nullptr);
+  if (steps >= 2) vty.parse("configure terminal \n", true, nullptr);
   for (const std::string& line : opening) vty.parse(line + " \n", true, nullptr);
   std::string discard;
   vty.getOutputString(discard);
@@ -176,32 +221,59 @@ std::string helpAt(const std::vector<std::string>& opening) {
   return out;
 }
 
+struct GoldenCase {
+  const char* file;
+  int steps;
+  std::vector<std::string> opening;
+};
+
 // The help of each mode's root is kept as a golden listing: a change to the
-// definition files that alters it must update the listing on purpose.
+// definition files that alters it must update the listing on purpose
+// (VTYCONF_UPDATE_GOLDEN=1 rewrites the files).
 TEST_F(GrammarIos, HelpListingsOfModeRootsMatchTheGoldenFiles) {
-  const std::pair<const char*, std::vector<std::string>> modes[] = {
-      {"config_root.txt", {}},
-      {"interface_root.txt", {"interface GigabitEthernet0/0"}},
-      {"router_bgp_root.txt", {"router bgp 65000"}},
-      {"line_root.txt", {"line vty 0 4"}},
+  const GoldenCase modes[] = {
+      {"view_root.txt", 0, {}},
+      {"exec_root.txt", 1, {}},
+      {"config_root.txt", 2, {}},
+      {"interface_root.txt", 2, {"interface GigabitEthernet0/0"}},
+      {"router_ospf_root.txt", 2, {"router ospf 1"}},
+      {"router_bgp_root.txt", 2, {"router bgp 65000"}},
+      {"router_bgp_af_root.txt", 2, {"router bgp 65000", "address-family ipv4"}},
+      {"line_root.txt", 2, {"line vty 0 4"}},
+      {"route_map_root.txt", 2, {"route-map RM permit 10"}},
+      {"acl_extended_root.txt", 2, {"ip access-list extended WEB"}},
+      {"acl_standard_root.txt", 2, {"ip access-list standard MGMT"}},
   };
   const std::string folder = std::string(VTYCONF_TEST_DATA_DIR) + "/grammar_ios/";
-  for (const auto& mode : modes) {
-    const std::string listing = helpAt(mode.second);
-    EXPECT_FALSE(listing.empty()) << mode.first;
-    std::ifstream in(folder + mode.first, std::ios::binary);
+  const bool update = std::getenv("VTYCONF_UPDATE_GOLDEN") != nullptr;
+  for (const GoldenCase& mode : modes) {
+    const std::string listing = helpAt(mode.steps, mode.opening);
+    EXPECT_FALSE(listing.empty()) << mode.file;
+    if (update) {
+      std::ofstream(folder + mode.file, std::ios::binary) << listing;
+      continue;
+    }
+    std::ifstream in(folder + mode.file, std::ios::binary);
     if (!in) {
-      if (std::getenv("VTYCONF_UPDATE_GOLDEN") != nullptr) {
-        std::ofstream(folder + mode.first, std::ios::binary) << listing;
-        continue;
-      }
-      ADD_FAILURE() << "golden listing missing: " << mode.first << " (run with VTYCONF_UPDATE_GOLDEN=1)";
+      ADD_FAILURE() << "golden listing missing: " << mode.file << " (run with VTYCONF_UPDATE_GOLDEN=1)";
       continue;
     }
     std::stringstream golden;
     golden << in.rdbuf();
-    EXPECT_EQ(listing, golden.str()) << mode.first;
+    EXPECT_EQ(listing, golden.str()) << mode.file;
   }
+}
+
+// Listings of different modes must differ: a mode whose opening line failed
+// would show its parent's listing and still match a golden file written then.
+TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
+  const std::string config = helpAt(2, {});
+  EXPECT_NE(helpAt(2, {"interface GigabitEthernet0/0"}), config);
+  EXPECT_NE(helpAt(2, {"router ospf 1"}), config);
+  EXPECT_NE(helpAt(2, {"route-map RM permit 10"}), config);
+  EXPECT_NE(helpAt(2, {"ip access-list extended WEB"}), config);
+  EXPECT_NE(helpAt(1, {}), helpAt(0, {}));
+  EXPECT_NE(helpAt(1, {}), config);
 }
 
 TEST_F(GrammarIos, CorpusRefusedShareStaysAtOrBelowTheRecordedFigure) {
