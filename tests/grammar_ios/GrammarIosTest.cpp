@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <random>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -20,7 +23,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 1.00;
+constexpr double kRecordedRefusedShare = 0.48;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -276,11 +279,53 @@ TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
   EXPECT_NE(helpAt(1, {}), config);
 }
 
-TEST_F(GrammarIos, CorpusRefusedShareStaysAtOrBelowTheRecordedFigure) {
+// Refused corpus lines that are left uncovered on purpose, each with its
+// reason (the same list stands in docs/definition-files.md). `file` limits an
+// entry to the files whose name begins with it.
+struct Exclusion {
+  const char* file;
+  const char* pattern;
+  const char* reason;
+};
+
+const Exclusion kExclusions[] = {
+    {"", R"(([0-9A-Fa-f]{1,8} )*[0-9A-Fa-f]{1,8})", "certificate data (free data until quit)"},
+    {"", "quit", "end of certificate data"},
+    {"", R"([A-Za-z0-9+/]{20,}=*)", "public-key data under key-string"},
+    {"", R"(\S+\^C)", "banner closing line with text before the delimiter"},
+    {"", R"((Building configuration|Current configuration|show run).*)", "terminal capture"},
+    {"", "(\xEF\xBB\xBF)?[A-Za-z0-9_.-]+#.*", "terminal capture: a prompt with the command typed"},
+    {"cisco-labs__SW", ".*", "a typed script: exec commands and abbreviations (config, int rang g0/0 -3)"},
+    {"config2spec__", R"(interface Ge0/0|ip address .*|description .*|speed auto|duplex auto|ip ospf cost .*)",
+     "Ge is no abbreviation of an interface type: the device refuses the interface and so its lines"},
+    {"", R"(add ipv4 unicast auto \d+|af-interface gig\d+|summary \S+|topology base|red bgp .*)",
+     "named EIGRP typed with abbreviations"},
+    {"", "passsive-interface .*", "misspelled command"},
+    {"", "somesay!", "stray text"},
+    {"", "permit esp host any any", "host without an address"},
+    {"", R"(ip address \S+)", "address without a mask"},
+    {"ciscoconfparse__sample_08", "(default-router|lease) .*", "no commands of a DHCPv6 pool"},
+    {"ciscoconfparse__sample_08", "default-information metric .*", "keywords in an order the device refuses"},
+    {"ciscoconfparse__sample_09", R"(ipv6 address \S+This publication.*)", "document text pasted into the line"},
+};
+
+const char* exclusionReason(const std::string& file, const std::string& line) {
+  std::string text = line;
+  while (!text.empty() && (text.back() == '\n' || text.back() == ' ' || text.back() == '\r')) text.pop_back();
+  for (const Exclusion& e : kExclusions) {
+    if (file.compare(0, std::strlen(e.file), e.file) != 0) continue;
+    if (std::regex_match(text, std::regex(e.pattern))) return e.reason;
+  }
+  return nullptr;
+}
+
+// Every refused line of the corpus is one of the documented exclusions, and
+// their share stays at or below the recorded figure.
+TEST_F(GrammarIos, CorpusRefusesOnlyTheDocumentedLines) {
   const std::filesystem::path folder = std::filesystem::path(VTYCONF_SHARED_CORPUS_DIR) / "public";
   if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
   size_t lines = 0, refusedLines = 0;
-  std::string worst;
+  std::string unexplained;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.path().extension() != ".cfg") continue;
     std::ifstream in(entry.path(), std::ios::binary);
@@ -290,13 +335,130 @@ TEST_F(GrammarIos, CorpusRefusedShareStaysAtOrBelowTheRecordedFigure) {
     std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
     lines += records.size();
     refusedLines += refused.size();
-    if (!refused.empty() && worst.empty()) worst = entry.path().filename().string() + ": " + firstLine(refused.front());
+    const std::string name = entry.path().filename().string();
+    for (const std::string& line : refused) {
+      if (exclusionReason(name, line) == nullptr) unexplained += name + ": " + firstLine(line) + "\n";
+    }
     QxParserUtil::deleteCommands(records);
   }
   ASSERT_GT(lines, 0u);
+  EXPECT_EQ(unexplained, "") << "refused lines that no documented exclusion explains";
   const double share = 100.0 * static_cast<double>(refusedLines) / static_cast<double>(lines);
-  // Banner text and capture lines count as refused here; the CLI leaves them out.
-  EXPECT_LE(share, kRecordedRefusedShare) << refusedLines << " of " << lines << " lines refused, e.g. " << worst;
+  // Capture lines ("Building configuration...") count as refused here; the CLI leaves them out.
+  EXPECT_LE(share, kRecordedRefusedShare) << refusedLines << " of " << lines << " lines refused";
+}
+
+TEST_F(GrammarIos, ExclusionsDoNotExplainOrdinaryCommands) {
+  const char* const lines[] = {"hostname R1", "interface GigabitEthernet0/0", "ip address 10.0.0.1 255.255.255.0",
+                               "access-list 10 permit any", "crypto pki certificate chain TP", "description uplink"};
+  for (const char* line : lines) EXPECT_EQ(exclusionReason("any.cfg", line), nullptr) << line;
+  EXPECT_NE(exclusionReason("any.cfg", "3082032E 30820216 A0030201"), nullptr);
+  EXPECT_NE(exclusionReason("any.cfg", "*****^C"), nullptr);
+  EXPECT_EQ(exclusionReason("any.cfg", "^C"), nullptr);
+  EXPECT_NE(exclusionReason("any.cfg", "R1#show run"), nullptr);
+}
+
+// What a merge and a rollback make of small real-world changes: the flags,
+// order templates and overwrite marks of the shipped grammar decide this.
+struct MeaningCase {
+  const char* name;
+  const char* config;
+  const char* changes;
+  const char* merged;    // mergeConfigCmds(changes, config)
+  const char* rollback;  // fallbackConfigCmds(changes, config, 0): undoes the changes
+};
+
+TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
+  const MeaningCase cases[] = {
+      {"a new ip address replaces the old one in place",
+       "interface GigabitEthernet0/0\n description uplink\n ip address 10.0.0.1 255.255.255.0\n shutdown\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.9 255.255.255.0\n",
+       "interface gigabitethernet 0/0 \n description uplink \n ip address 10.0.0.9 255.255.255.0 \n shutdown \n!\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n"},
+      {"a secondary address stands beside the primary one",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.1.1 255.255.255.0 secondary\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n"
+       " ip address 10.0.1.1 255.255.255.0 secondary \n!\n",
+       "interface gigabitethernet 0/0 \n no ip address 10.0.1.1 255.255.255.0 secondary \n!\n"},
+      {"no shutdown removes shutdown",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n shutdown\n",
+       "interface GigabitEthernet0/0\n no shutdown\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n",
+       "interface gigabitethernet 0/0 \n shutdown \n!\n"},
+      {"no access-list removes the whole list and only it",
+       "hostname R1\naccess-list 10 permit 10.0.0.0 0.0.0.255\naccess-list 10 deny any\naccess-list 20 permit any\n",
+       "no access-list 10\n",
+       "hostname R1 \naccess-list 20 permit any \n",
+       "access-list 10 permit 10.0.0.0 0.0.0.255 \naccess-list 10 deny any \n"},
+      {"a new entry lands behind the others of its list",
+       "access-list 10 deny host 10.0.0.1\naccess-list 10 permit any\naccess-list 20 permit any\n",
+       "access-list 10 permit host 10.0.0.2\n",
+       "access-list 10 deny host 10.0.0.1 \naccess-list 10 permit any \naccess-list 10 permit host 10.0.0.2 \n"
+       "access-list 20 permit any \n",
+       "no access-list 10 permit host 10.0.0.2 \n"},
+      {"a new entry of a named list goes to its end",
+       "ip access-list extended WEB\n permit tcp any any eq 443\n deny ip any any log\n",
+       "ip access-list extended WEB\n permit tcp any any eq www established\n",
+       "ip access-list extended WEB \n permit tcp any any eq 443 \n deny ip any any log \n"
+       " permit tcp any any eq www established \n!\n",
+       "ip access-list extended WEB \n no permit tcp any any eq www established \n!\n"},
+      {"ip redirects cancels the stored no form",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n no ip redirects\n",
+       "interface GigabitEthernet0/0\n ip redirects\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n",
+       "interface gigabitethernet 0/0 \n no ip redirects \n!\n"},
+      {"a new neighbor lands behind the others of its router",
+       "router ospf 1\n network 10.0.0.0 0.0.0.255 area 0\n!\nrouter bgp 65000\n neighbor 10.0.0.2 remote-as 65001\n"
+       " neighbor 10.0.0.3 remote-as 65002\n",
+       "router bgp 65000\n neighbor 10.0.0.4 remote-as 65003\n",
+       "router ospf 1 \n network 10.0.0.0 0.0.0.255 area 0 \n!\nrouter bgp 65000 \n neighbor 10.0.0.2 remote-as 65001 \n"
+       " neighbor 10.0.0.3 remote-as 65002 \n neighbor 10.0.0.4 remote-as 65003 \n!\n",
+       "router bgp 65000 \n no neighbor 10.0.0.4 remote-as 65003 \n!\n"},
+      {"a new host name overwrites the old one",
+       "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
+       "hostname R2\n",
+       "hostname R2 \ninterface loopback 0 \n ip address 10.9.9.9 255.255.255.255 \n!\n",
+       "hostname R1 \n"},
+  };
+  for (const MeaningCase& c : cases) {
+    EXPECT_EQ(QxParserUtil::mergeConfigCmds(c.changes, c.config), c.merged) << c.name;
+    EXPECT_EQ(QxParserUtil::fallbackConfigCmds(c.changes, c.config, 0), c.rollback) << c.name;
+  }
+}
+
+// The definition files are generated: the committed files must be what the
+// generator writes from the committed sources, and no generated file may be
+// left over from a source that is gone.
+TEST_F(GrammarIos, DefinitionFilesEqualTheGeneratorsOutput) {
+  namespace fs = std::filesystem;
+  if (std::system("python3 -c pass > /dev/null 2>&1") != 0) GTEST_SKIP() << "python3 is not available";
+  const fs::path source(VTYCONF_SOURCE_DIR);
+  const fs::path out = fs::temp_directory_path() / ("vtyconf-grammar-" + std::to_string(std::random_device{}()));
+  fs::remove_all(out);
+  fs::create_directories(out);
+  const std::string command =
+      "python3 \"" + (source / "scripts" / "grammar" / "gen.py").string() + "\" \"" + out.string() + "\"";
+  ASSERT_EQ(std::system(command.c_str()), 0) << command;
+  auto readAll = [](const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    return buffer.str();
+  };
+  size_t generated = 0;
+  for (const auto& entry : fs::directory_iterator(out)) {
+    ++generated;
+    const fs::path committed = source / "resources" / "files" / entry.path().filename();
+    ASSERT_TRUE(fs::exists(committed)) << committed << " is generated but not committed";
+    EXPECT_EQ(readAll(entry.path()), readAll(committed)) << committed << " differs from the generator's output";
+  }
+  EXPECT_GT(generated, 3u);
+  for (const auto& entry : fs::directory_iterator(source / "resources" / "files")) {
+    if (entry.path().extension() != ".cfm") continue;
+    EXPECT_TRUE(fs::exists(out / entry.path().filename())) << entry.path() << " has no source";
+  }
+  fs::remove_all(out);
 }
 
 }  // namespace
