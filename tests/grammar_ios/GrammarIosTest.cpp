@@ -136,6 +136,7 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       // are found through the lower-case pass.
       {"banner motd ^C\nno entry\n^C\nsnmp-server community public RO 10\nsnmp-server community s3cret RW 99\n",
        {0, 0, 0, 0, 0}},
+      {"HOSTNAME R1\nLine vty 0 4\n LOGIN\n", {0, 0, 1}},
       // Interface names in their short form, and interface commands that
       // once sent the following lines to the top level.
       {"interface Fa0/1\n speed auto\n duplex auto\ninterface Gi0/2\n no shutdown\n", {0, 1, 1, 0, 1}},
