@@ -1943,7 +1943,9 @@ mka|mka|k||
     <cr>||||
     !
   !
-  pre-shared-key|pre-shared-key|k||
+  pre-shared-key|pre-shared-key|k/sn||
+    <cr>||||
+    !
     line|line|lb/le/wa||
       <cr>||||
       !

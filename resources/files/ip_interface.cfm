@@ -64,7 +64,9 @@ cef|cef|k||
     !
   !
 !
-flowspec|flowspec|k||
+flowspec|flow specification|k/sn||
+  <cr>||||
+  !
   disable|disable|k||
     <cr>||||
     !

@@ -370,7 +370,9 @@ verify|verify|k||
     !
   !
 !
-flowspec|flowspec|k||
+flowspec|flow specification|k/sn||
+  <cr>||||
+  !
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -617,7 +617,7 @@ mka
   policy
     word $
   default-policy $
-  pre-shared-key
+  pre-shared-key $ :sn
     line *
 authentication
   port-control

@@ -19,7 +19,7 @@ unnumbered
 cef
   accounting
     line *
-flowspec
+flowspec "flow specification" $ :sn
   disable $
 vrf
   forwarding
@@ -445,7 +445,7 @@ tcp
     id $
 verify
   line *
-flowspec
+flowspec "flow specification" $ :sn
   line *
 virtual-reassembly $
   line *

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <random>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -357,6 +358,55 @@ TEST_F(GrammarIos, ExclusionsDoNotExplainOrdinaryCommands) {
   EXPECT_NE(exclusionReason("any.cfg", "*****^C"), nullptr);
   EXPECT_EQ(exclusionReason("any.cfg", "^C"), nullptr);
   EXPECT_NE(exclusionReason("any.cfg", "R1#show run"), nullptr);
+}
+
+std::string trimmed(const std::string& text) {
+  std::string out;
+  for (char c : text) {
+    if (c != '\0' && c != '\r') out += c;  // merged text indents deeper levels with NUL bytes
+  }
+  const size_t start = out.find_first_not_of(" \n");
+  if (start == std::string::npos) return std::string();
+  const size_t end = out.find_last_not_of(" \n");
+  return out.substr(start, end - start + 1);
+}
+
+// A merge of a one-line change into a real configuration keeps every other
+// command of it: a command that the grammar reads but the merge drops (a
+// "no" form that is not marked as shown, a mode that swallowed its
+// neighbours) is a fault of the definition files.
+TEST_F(GrammarIos, MergingOneLineIntoTheCorpusLosesNoCommand) {
+  const std::filesystem::path folder = std::filesystem::path(VTYCONF_SHARED_CORPUS_DIR) / "public";
+  if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
+  std::string lost;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() != ".cfg") continue;
+    std::ifstream in(entry.path(), std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    std::vector<std::string> refused;
+    std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
+    std::multiset<std::string> expected;
+    for (const CiscoCommandLine* record : records) {
+      if (record->getFlag() == qxparser::CMD_TEXT || isRefused(*record)) continue;
+      const std::string text = trimmed(record->getOriginalCmd());
+      if (!text.empty() && text.compare(0, 9, "hostname ") != 0) expected.insert(text);
+    }
+    QxParserUtil::deleteCommands(records);
+    std::multiset<std::string> merged;
+    std::istringstream out(QxParserUtil::mergeConfigCmds("hostname CHANGED\n", buffer.str()));
+    std::string line;
+    while (std::getline(out, line)) merged.insert(trimmed(line));
+    for (const std::string& text : expected) {
+      auto found = merged.find(text);
+      if (found == merged.end()) {
+        lost += entry.path().filename().string() + ": " + text + "\n";
+      } else {
+        merged.erase(found);
+      }
+    }
+  }
+  EXPECT_EQ(lost, "") << "commands that a merge of one line dropped";
 }
 
 // What a merge and a rollback make of small real-world changes: the flags,
