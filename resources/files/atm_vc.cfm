@@ -1,4 +1,4 @@
-description|vc description|k||
+description|vc description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

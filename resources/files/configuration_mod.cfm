@@ -2543,8 +2543,8 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  console|console|k/sn||
-    <cr>||||
+  console|console|k||
+    <cr>||sn||
     !
     line|line|lb/le/wa/o||
       <cr>||||
@@ -2557,8 +2557,8 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  monitor|monitor|k/sn||
-    <cr>||||
+  monitor|monitor|k||
+    <cr>||sn||
     !
     line|line|lb/le/wa/o||
       <cr>||||

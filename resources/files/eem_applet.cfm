@@ -148,7 +148,7 @@ trigger|multiple event correlation|k||
     !
   !
 !
-description|applet description|k||
+description|applet description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -1,4 +1,4 @@
-description|interface specific description|k/n||
+description|interface specific description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
@@ -182,8 +182,8 @@ cdp|cdp interface subcommands|k||
     !
   !
 !
-switchport|set switching mode characteristics|k/sn||
-  <cr>||||
+switchport|set switching mode characteristics|k||
+  <cr>||sn||
   !
   mode|mode|k||
     access|access|k/o||
@@ -808,8 +808,8 @@ media-type|media type|k||
     !
   !
 !
-keepalive|enable keepalive|k/sn||
-  <cr>||||
+keepalive|enable keepalive|k||
+  <cr>||sn||
   !
   id|id|o||
     <cr>||||
@@ -1832,8 +1832,8 @@ x25|x25|k||
     !
   !
 !
-fair-queue|fair-queue|k/sn||
-  <cr>||||
+fair-queue|fair-queue|k||
+  <cr>||sn||
   !
   id|id|||
     <cr>||||
@@ -1943,8 +1943,8 @@ mka|mka|k||
     <cr>||||
     !
   !
-  pre-shared-key|pre-shared-key|k/sn||
-    <cr>||||
+  pre-shared-key|pre-shared-key|k||
+    <cr>||sn||
     !
     line|line|lb/le/wa||
       <cr>||||

@@ -1,5 +1,5 @@
-cef|cisco express forwarding|k/sn||
-  <cr>||||
+cef|cisco express forwarding|k||
+  <cr>||sn||
   !
   distributed|distributed|k||
     <cr>||||
@@ -24,8 +24,8 @@ cef|cisco express forwarding|k/sn||
     !
   !
 !
-routing|ip routing|k/sn||
-  <cr>||||
+routing|ip routing|k||
+  <cr>||sn||
   !
   protocol|protocol|k||
     purge|purge|k||
@@ -62,8 +62,8 @@ bootp|bootp|k||
     !
   !
 !
-domain-lookup|domain-lookup|k/sn||
-  <cr>||||
+domain-lookup|domain-lookup|k||
+  <cr>||sn||
   !
   source-interface|source-interface|k||
     &interfacefile.cfm|interface type|k||
@@ -75,8 +75,8 @@ domain-lookup|domain-lookup|k/sn||
   !
 !
 domain|domain name system|k||
-  lookup|lookup|k/sn||
-    <cr>||||
+  lookup|lookup|k||
+    <cr>||sn||
     !
     source-interface|source-interface|k||
       &interfacefile.cfm|interface type|k||
@@ -842,7 +842,7 @@ prefix-list|build a prefix list|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !

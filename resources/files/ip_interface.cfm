@@ -64,8 +64,8 @@ cef|cef|k||
     !
   !
 !
-flowspec|flow specification|k/sn||
-  <cr>||||
+flowspec|flow specification|k||
+  <cr>||sn||
   !
   disable|disable|k||
     <cr>||||
@@ -146,8 +146,8 @@ local-proxy-arp|local-proxy-arp|k||
   <cr>||||
   !
 !
-directed-broadcast|directed-broadcast|k/sn||
-  <cr>||||
+directed-broadcast|directed-broadcast|k||
+  <cr>||sn||
   !
   id|id|||
     <cr>||||
@@ -158,8 +158,8 @@ mask-reply|mask-reply|k||
   <cr>||||
   !
 !
-route-cache|route-cache|k/sn||
-  <cr>||||
+route-cache|route-cache|k||
+  <cr>||sn||
   !
   cef|cef|k/sn||
     <cr>||||
@@ -186,8 +186,8 @@ mroute-cache|mroute-cache|k/sn||
   <cr>||||
   !
 !
-split-horizon|split-horizon|k/sn||
-  <cr>||||
+split-horizon|split-horizon|k||
+  <cr>||sn||
   !
   eigrp|eigrp|k||
     id|id|||

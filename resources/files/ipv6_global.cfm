@@ -2,8 +2,8 @@ unicast-routing|unicast-routing|k||
   <cr>||||
   !
 !
-cef|cef|k/sn||
-  <cr>||||
+cef|cef|k||
+  <cr>||sn||
   !
   distributed|distributed|k||
     <cr>||||

@@ -370,8 +370,8 @@ verify|verify|k||
     !
   !
 !
-flowspec|flow specification|k/sn||
-  <cr>||||
+flowspec|flow specification|k||
+  <cr>||sn||
   !
   line|line|lb/le/wa||
     <cr>||||

@@ -34,8 +34,8 @@ privilege|privilege|k||
     !
   !
 !
-login|login|k/sn||
-  <cr>||||
+login|login|k||
+  <cr>||sn||
   !
   local|local|k||
     <cr>||||
@@ -140,8 +140,8 @@ password|password|k||
     !
   !
 !
-exec|exec|k/sn||
-  <cr>||||
+exec|exec|k||
+  <cr>||sn||
   !
   prompt|prompt|k||
     timestamp|timestamp|k||

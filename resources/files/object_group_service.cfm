@@ -1,4 +1,4 @@
-description|service group description|k||
+description|service group description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

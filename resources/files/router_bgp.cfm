@@ -248,7 +248,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -580,7 +580,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -916,7 +916,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -1414,7 +1414,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -1746,7 +1746,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !

@@ -30,7 +30,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -362,7 +362,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !

@@ -20,8 +20,8 @@ network|enable routing on an ip network|k||
     !
   !
 !
-log-adjacency-changes|log-adjacency-changes|k/sn||
-  <cr>||||
+log-adjacency-changes|log-adjacency-changes|k||
+  <cr>||sn||
   !
   detail|detail|k||
     <cr>||||

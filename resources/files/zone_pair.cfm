@@ -8,7 +8,7 @@ service-policy|attach a policy map|k||
     !
   !
 !
-description|zone pair description|k||
+description|zone pair description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

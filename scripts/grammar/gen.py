@@ -15,6 +15,9 @@ Source format, one node per line, two blanks of indentation per level:
   "help"   help text (default: the token)
   *        shorthand for :lb/le/wa $ (free text that takes the rest of the line)
 
+  A node with $, children and the flag sn writes sn on its <cr> line: only the
+  command that ends there is the default shown in its "no" form.
+
   :-k      this keyword does not name the command: no automatic k
 
   file NAME.cfm [-k|-allk]
@@ -153,9 +156,16 @@ def emit(node, depth, out):
     pad = "  " * depth
     links = " ".join(x for x in (node.include,) if x)
     help_text = node.help or node.token.strip("<>")
-    out.append("%s%s|%s|%s|%s|%s" % (pad, node.token, help_text, node.flags, node.text, links))
+    flags, end_flags = node.flags, ""
+    if node.end and node.children and "sn" in flags.split("/"):
+        # A default shown in its "no" form is the command that ends here; the
+        # longer commands below it (keepalive 10, switchport mode access) are
+        # shown as typed, so sn goes on the <cr> alone.
+        flags = "/".join(f for f in flags.split("/") if f != "sn")
+        end_flags = "sn"
+    out.append("%s%s|%s|%s|%s|%s" % (pad, node.token, help_text, flags, node.text, links))
     if node.end:
-        out.append("%s  <cr>||||%s" % (pad, node.link))
+        out.append("%s  <cr>||%s||%s" % (pad, end_flags, node.link))
         out.append("%s  !" % pad)
     for c in node.children:
         emit(c, depth + 1, out)

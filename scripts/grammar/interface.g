@@ -1,7 +1,7 @@
 # Interface configuration mode.
 
 file interface.cfm
-description "interface specific description" :n
+description "interface specific description" :n/o
   %TEXT
 shutdown "shutdown the selected interface" $
 ip "interface internet protocol config commands" &ip_interface.cfm

@@ -270,7 +270,7 @@ prefix-list "build a prefix list"
               id $
         le
           id $
-    description
+    description :n/o
       %TEXT
   sequence-number $
 community-list "add a community list entry"

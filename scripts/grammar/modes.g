@@ -299,7 +299,7 @@ set "set values in destination routing protocol"
   traffic-index
     id $
   global $
-description
+description :n/o
   %TEXT
 continue $
   id $

@@ -1,5 +1,5 @@
 file generic.cfm
-description
+description :n/o
   %TEXT
 shutdown $
 ras
@@ -199,7 +199,7 @@ route-target
     aa:nn :k $
   both
     aa:nn :k $
-description
+description :n/o
   %TEXT
 import
   map
@@ -375,7 +375,7 @@ source-ipaddr
 exit $
 
 file object_group.cfm
-description
+description :n/o
   %TEXT
 host
   a.b.c.d :k $

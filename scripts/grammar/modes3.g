@@ -2,7 +2,7 @@
 # interpretation, call home, event manager applets, zone pairs.
 
 file atm_vc.cfm
-description "vc description"
+description "vc description" :n/o
   %TEXT
 vbr-nrt "variable bit rate, non real time"
   id :o "peak cell rate"
@@ -306,7 +306,7 @@ action "applet action"
     line *
 trigger "multiple event correlation" $
   line *
-description "applet description"
+description "applet description" :n/o
   %TEXT
 exit $
 
@@ -315,7 +315,7 @@ service-policy "attach a policy map"
   type
     inspect
       word :o $
-description "zone pair description"
+description "zone pair description" :n/o
   %TEXT
 exit $
 
@@ -335,7 +335,7 @@ def SVCPORTS
       &portfile.cfm :k "highest port" $
 
 file object_group_service.cfm
-description "service group description"
+description "service group description" :n/o
   %TEXT
 group-object "nested service group"
   word :k $

@@ -7,7 +7,7 @@ def BGPNEIGHBOR
     word :o $
   update-source
     %IF
-  description
+  description :n/o
     %TEXT
   send-community $
     both $

@@ -466,6 +466,17 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "router ospf 1 \n network 10.0.0.0 0.0.0.255 area 0 \n!\nrouter bgp 65000 \n neighbor 10.0.0.2 remote-as 65001 \n"
        " neighbor 10.0.0.3 remote-as 65002 \n neighbor 10.0.0.4 remote-as 65003 \n!\n",
        "router bgp 65000 \n no neighbor 10.0.0.4 remote-as 65003 \n!\n"},
+      {"a description and an access vlan are one value each",
+       "interface GigabitEthernet0/1\n description old text\n switchport access vlan 10\n switchport mode access\n",
+       "interface GigabitEthernet0/1\n description new text here\n switchport access vlan 20\n",
+       "interface gigabitethernet 0/1 \n description new text here \n switchport access vlan 20 \n"
+       " switchport mode access \n!\n",
+       "interface gigabitethernet 0/1 \n description old text \n switchport access vlan 10 \n!\n"},
+      {"a keepalive interval is shown, the bare default is not",
+       "interface Serial0/0\n keepalive 30\n",
+       "interface Serial0/0\n keepalive 10\n",
+       "interface serial 0/0 \n keepalive 10 \n!\n",
+       "interface serial 0/0 \n keepalive 30 \n!\n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
