@@ -233,7 +233,7 @@ service|modify use of network based services|k||
       !
     !
   !
-  password-encryption|password-encryption|k/sn||
+  password-encryption|password-encryption|k/sb/o||
     <cr>||||
     !
   !
@@ -2055,7 +2055,7 @@ ipv6|ipv6 configuration|k||&ipv6_global.cfm
 ip|global ip configuration|k||&ip_global.cfm
 !
 aaa|authentication, authorization and accounting|k||
-  new-model|new-model|k/sn||
+  new-model|new-model|k/sb/o||
     <cr>||||
     !
   !

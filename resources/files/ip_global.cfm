@@ -1,5 +1,5 @@
-cef|cisco express forwarding|k||
-  <cr>||sn||
+cef|cisco express forwarding|k/sb/o||
+  <cr>||||
   !
   distributed|distributed|k||
     <cr>||||
@@ -211,7 +211,7 @@ host|host|k||
   !
 !
 forward-protocol|forward-protocol|k||
-  nd|nd|k/sn||
+  nd|nd|k/sb/o||
     <cr>||||
     !
   !
@@ -223,11 +223,11 @@ forward-protocol|forward-protocol|k||
   !
 !
 http|http|k||
-  server|server|k/sn||
+  server|server|k/sb/o||
     <cr>||||
     !
   !
-  secure-server|secure-server|k/sn||
+  secure-server|secure-server|k/sb/o||
     <cr>||||
     !
   !

@@ -2,8 +2,8 @@ unicast-routing|unicast-routing|k||
   <cr>||||
   !
 !
-cef|cef|k||
-  <cr>||sn||
+cef|cef|k/sb/o||
+  <cr>||||
   !
   distributed|distributed|k||
     <cr>||||

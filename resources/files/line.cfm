@@ -34,8 +34,8 @@ privilege|privilege|k||
     !
   !
 !
-login|login|k||
-  <cr>||sn||
+login|login|k/sb/o||
+  <cr>||||
   !
   local|local|k||
     <cr>||||

@@ -1,5 +1,5 @@
 bgp|bgp specific commands|k||
-  log-neighbor-changes|log-neighbor-changes|k/sn||
+  log-neighbor-changes|log-neighbor-changes|k/sb/o||
     <cr>||||
     !
   !
@@ -2218,11 +2218,11 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k||
+synchronization|synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k||
+auto-summary|auto-summary|k/sn||
   <cr>||||
   !
 !

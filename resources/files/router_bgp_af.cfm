@@ -834,11 +834,11 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k||
+synchronization|synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k||
+auto-summary|auto-summary|k/sn||
   <cr>||||
   !
 !

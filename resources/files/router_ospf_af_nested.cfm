@@ -20,8 +20,8 @@ network|enable routing on an ip network|k||
     !
   !
 !
-log-adjacency-changes|log-adjacency-changes|k||
-  <cr>||sn||
+log-adjacency-changes|log-adjacency-changes|k/sb/o||
+  <cr>||||
   !
   detail|detail|k||
     <cr>||||

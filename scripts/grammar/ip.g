@@ -1,7 +1,7 @@
 # Global "ip ..." and "ipv6 ..." commands.
 
 file ip_global.cfm
-cef "cisco express forwarding" $ :sn
+cef "cisco express forwarding" $ :sb/o
   distributed $
   accounting
     line *
@@ -66,12 +66,12 @@ host
     id
       a.b.c.d $
 forward-protocol
-  nd $ :sn
+  nd $ :sb/o
   udp
     &portfile.cfm :k $
 http
-  server $ :sn
-  secure-server $ :sn
+  server $ :sb/o
+  secure-server $ :sb/o
   authentication
     local $
     aaa $
@@ -593,7 +593,7 @@ gdoi
 
 file ipv6_global.cfm
 unicast-routing $
-cef $ :sn
+cef $ :sb/o
   distributed $
 multicast-routing $
   line *

@@ -11,7 +11,7 @@ stopbits
 privilege
   level
     id :o $
-login $ :sn
+login $ :sb/o
   local $
   authentication
     word :o $

@@ -156,8 +156,8 @@ def AFBODY
       id $
     eibgp
       id $
-  synchronization $
-  auto-summary $
+  synchronization $ :sn
+  auto-summary $ :sn
   default-information
     originate $
   bgp
@@ -191,7 +191,7 @@ def AFBODY
 
 file router_bgp.cfm
 bgp "bgp specific commands"
-  log-neighbor-changes $ :sn
+  log-neighbor-changes $ :sb/o
   rpki "resource public key infrastructure"
     server
       tcp
@@ -330,7 +330,7 @@ def OSPFBODY
         area
           id :k $
           a.b.c.d :k $
-  log-adjacency-changes $ :sn
+  log-adjacency-changes $ :sb/o
     detail $
   passive-interface "suppress routing updates on an interface"
     default $

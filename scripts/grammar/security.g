@@ -1,6 +1,6 @@
 def SECTOP
 aaa "authentication, authorization and accounting"
-  new-model $ :sn
+  new-model $ :sb/o
   authentication
     login
       word :k

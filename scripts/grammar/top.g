@@ -89,7 +89,7 @@ service "modify use of network based services"
           year $
         year $
       uptime $
-  password-encryption $ :sn
+  password-encryption $ :sb/o
   pad $ :sn
   config $ :sn
   tcp-keepalives-in $
