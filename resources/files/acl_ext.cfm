@@ -1,31 +1,33 @@
-permit|forward packets|k||&acl_ext_entry.cfm
+permit|forward packets|||&acl_ext_entry.cfm
 !
-deny|drop packets|k||&acl_ext_entry.cfm
+deny|drop packets|||&acl_ext_entry.cfm
 !
-remark|access list entry comment|k||
+remark|access list entry comment|||
+  <cr>||||
+  !
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-evaluate|evaluate a reflexive list|k||
+evaluate|evaluate a reflexive list|||
   word|word|k||
     <cr>||||
     !
   !
 !
-dynamic|dynamic entry|k||
+dynamic|dynamic entry|||
   word|word|k||
-    permit|permit|k||&acl_ext_entry.cfm
+    permit|permit|||&acl_ext_entry.cfm
     !
   !
 !
 id|sequence number|k||
-  permit|forward packets|k||&acl_ext_entry.cfm
+  permit|forward packets|||&acl_ext_entry.cfm
   !
-  deny|drop packets|k||&acl_ext_entry.cfm
+  deny|drop packets|||&acl_ext_entry.cfm
   !
-  remark|access list entry comment|k||
+  remark|access list entry comment|||
     line|text|lb/le/wa||
       <cr>||||
       !

@@ -1,18 +1,18 @@
-permit|forward packets|k||&acl_ext_entry.cfm
+permit|forward packets|||&acl_ext_entry.cfm
 !
-deny|drop packets|k||&acl_ext_entry.cfm
+deny|drop packets|||&acl_ext_entry.cfm
 !
-remark|access list entry comment|k||
+remark|access list entry comment|||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-sequence|sequence number|k||
+sequence|sequence number|||
   id|id|k||
-    permit|forward packets|k||&acl_ext_entry.cfm
+    permit|forward packets|||&acl_ext_entry.cfm
     !
-    deny|drop packets|k||&acl_ext_entry.cfm
+    deny|drop packets|||&acl_ext_entry.cfm
     !
   !
 !

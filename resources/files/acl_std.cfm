@@ -1,19 +1,19 @@
-permit|forward packets|k||&acl_std_entry.cfm
+permit|forward packets|||&acl_std_entry.cfm
 !
-deny|drop packets|k||&acl_std_entry.cfm
+deny|drop packets|||&acl_std_entry.cfm
 !
-remark|access list entry comment|k||
+remark|access list entry comment|||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
 id|sequence number|k||
-  permit|forward packets|k||&acl_std_entry.cfm
+  permit|forward packets|||&acl_std_entry.cfm
   !
-  deny|drop packets|k||&acl_std_entry.cfm
+  deny|drop packets|||&acl_std_entry.cfm
   !
-  remark|access list entry comment|k||
+  remark|access list entry comment|||
     line|text|lb/le/wa||
       <cr>||||
       !

@@ -1,28 +1,28 @@
-any|any address|k||
+any|any address|||
   <cr>||||
   !
-  log|log matches|k||
+  log|log matches|||
     <cr>||||
     !
   !
 !
-host|a single host|k||
-  a.b.c.d|host address|k||
+host|a single host|||
+  a.b.c.d|host address|||
     <cr>||||
     !
-    log|log matches|k||
+    log|log matches|||
       <cr>||||
       !
     !
   !
 !
-a.b.c.d|address|k||
+a.b.c.d|address|||
   <cr>||||
   !
-  a.b.c.d|wildcard bits|k||
+  a.b.c.d|wildcard bits|||
     <cr>||||
     !
-    log|log matches|k||
+    log|log matches|||
       <cr>||||
       !
     !

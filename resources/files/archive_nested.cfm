@@ -1,5 +1,5 @@
 path|path|k||
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !

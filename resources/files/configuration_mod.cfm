@@ -233,7 +233,7 @@ service|modify use of network based services|k||
       !
     !
   !
-  password-encryption|password-encryption|k/sn||
+  password-encryption|password-encryption|k/sb/o||
     <cr>||||
     !
   !
@@ -358,24 +358,24 @@ username|establish user name authentication|k||
       id|id|o||
         password|password|k||
           id|id|||
-            line|line|o||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
         !
         secret|secret|k||
           id|id|||
-            line|line|o||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -394,24 +394,24 @@ username|establish user name authentication|k||
     !
     password|password|k||
       id|id|||
-        line|line|o||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
       !
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
     secret|secret|k||
       id|id|||
-        line|line|o||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
       !
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
@@ -451,7 +451,7 @@ enable|modify enable password parameters|k||
     level|level|k||
       id|id|||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -459,12 +459,12 @@ enable|modify enable password parameters|k||
       !
     !
     id|id|||
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -473,7 +473,7 @@ enable|modify enable password parameters|k||
     level|level|k||
       id|id|||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -481,12 +481,12 @@ enable|modify enable password parameters|k||
       !
     !
     id|id|||
-      line|line|o||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -495,7 +495,7 @@ enable|modify enable password parameters|k||
     word|word|||
       secret|secret|k||
         id|id|||
-          line|line|o||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -542,7 +542,7 @@ banner|define a login banner|k||
     !
   !
 !
-line|configure a terminal line|||
+&linefile.cfm|configure a terminal line|k||
   con|primary terminal line|k||
     id|id|k||
       <cr>||||@(config-line)# line.cfm
@@ -644,11 +644,13 @@ router|enable a routing process|k||
 !
 access-list|add an access list entry|k||
   <1-99>|ip standard access list|k||
-    permit|permit|k||&acl_std_entry.cfm
+    permit|permit|||&acl_std_entry.cfm
     !
-    deny|deny|k||&acl_std_entry.cfm
+    deny|deny|||&acl_std_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -656,11 +658,13 @@ access-list|add an access list entry|k||
     !
   !
   <1300-1999>|ip standard access list (expanded range)|k||
-    permit|permit|k||&acl_std_entry.cfm
+    permit|permit|||&acl_std_entry.cfm
     !
-    deny|deny|k||&acl_std_entry.cfm
+    deny|deny|||&acl_std_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -668,17 +672,19 @@ access-list|add an access list entry|k||
     !
   !
   <100-199>|ip extended access list|k||
-    permit|permit|k||&acl_ext_entry.cfm
+    permit|permit|||&acl_ext_entry.cfm
     !
-    deny|deny|k||&acl_ext_entry.cfm
+    deny|deny|||&acl_ext_entry.cfm
     !
-    dynamic|dynamic|k||
+    dynamic|dynamic|||
       word|word|k||
-        permit|permit|k||&acl_ext_entry.cfm
+        permit|permit|||&acl_ext_entry.cfm
         !
       !
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -686,11 +692,13 @@ access-list|add an access list entry|k||
     !
   !
   <2000-2699>|ip extended access list (expanded range)|k||
-    permit|permit|k||&acl_ext_entry.cfm
+    permit|permit|||&acl_ext_entry.cfm
     !
-    deny|deny|k||&acl_ext_entry.cfm
+    deny|deny|||&acl_ext_entry.cfm
     !
-    remark|remark|k||
+    remark|access list entry comment|||
+      <cr>||||
+      !
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -955,7 +963,7 @@ control-plane-policing|control-plane-policing|k||
   !
 !
 platform|platform configuration|k||
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !
@@ -1137,6 +1145,10 @@ memory|memory configuration|k||
     history|history|k||
       table|table|k||
         <cr>||||
+        !
+        id|number of entries|o||
+          <cr>||||
+          !
         !
       !
     !
@@ -1687,7 +1699,7 @@ object-group|object group|k||
   !
   service|service|k||
     word|word|k||
-      <cr>||||@(config-service-group)# object_group.cfm
+      <cr>||||@(config-service-group)# object_group_service.cfm
       !
     !
   !
@@ -1707,7 +1719,7 @@ zone-pair|zone pair|k||
         word|word|k||
           destination|destination|k||
             word|word|k||
-              <cr>||||@(config-sec-zone-pair)# generic.cfm
+              <cr>||||@(config-sec-zone-pair)# zone_pair.cfm
               !
             !
           !
@@ -1734,7 +1746,7 @@ tacacs-server|tacacs server configuration|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -1780,7 +1792,7 @@ radius-server|radius server configuration|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -1837,7 +1849,7 @@ app-hosting|application hosting|k||
   !
 !
 call-home|call home|k||
-  <cr>||||@(cfg-call-home)# generic.cfm
+  <cr>||||@(cfg-call-home)# call_home.cfm
   !
 !
 aqm-register-fnf|aqm-register-fnf|k||
@@ -1848,10 +1860,10 @@ event|event manager|k||
   manager|manager|k||
     applet|applet|k||
       word|word|k||
-        <cr>||||@(config-applet)# generic.cfm
+        <cr>||||@(config-applet)# eem_applet.cfm
         !
         line|line|lb/le/wa||
-          <cr>||||@(config-applet)# generic.cfm
+          <cr>||||@(config-applet)# eem_applet.cfm
           !
         !
       !
@@ -2043,7 +2055,7 @@ ipv6|ipv6 configuration|k||&ipv6_global.cfm
 ip|global ip configuration|k||&ip_global.cfm
 !
 aaa|authentication, authorization and accounting|k||
-  new-model|new-model|k/sn||
+  new-model|new-model|k/sb/o||
     <cr>||||
     !
   !
@@ -2526,15 +2538,15 @@ logging|modify message logging facilities|k||
         !
       !
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  console|console|k/sn||
-    <cr>||||
+  console|console|k||
+    <cr>||sn||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2545,10 +2557,10 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  monitor|monitor|k/sn||
-    <cr>||||
+  monitor|monitor|k||
+    <cr>||sn||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2556,7 +2568,7 @@ logging|modify message logging facilities|k||
   trap|trap|k||
     <cr>||||
     !
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2734,10 +2746,6 @@ snmp-server|modify snmp engine parameters|k||
         !
       !
       id|id|||
-        <cr>||||
-        !
-      !
-      word|word|||
         <cr>||||
         !
       !
@@ -3378,7 +3386,7 @@ crypto|encryption module|k||
   gdoi|gdoi|k||
     group|group|k||
       word|word|k||
-        <cr>||||@(config-gkm-group)# generic.cfm
+        <cr>||||@(config-gkm-group)# gdoi_group.cfm
         !
       !
     !

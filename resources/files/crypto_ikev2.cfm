@@ -82,7 +82,7 @@ dpd|dpd|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -75,7 +75,7 @@ lifetime|lifetime|k||
   !
 !
 key|key|k||
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !

@@ -134,7 +134,7 @@ ca|ca|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -50,7 +50,7 @@ local-address|local-address|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -154,7 +154,7 @@ reverse-route|reverse-route|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -1,4 +1,4 @@
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
@@ -6,12 +6,6 @@ description|description|k||
 !
 shutdown|shutdown|k||
   <cr>||||
-  !
-!
-zone|zone|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
   !
 !
 ras|ras|k||
@@ -110,12 +104,6 @@ cli|cli|k||
     !
   !
 !
-event|event|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
 action|action|k||
   line|line|lb/le/wa||
     <cr>||||
@@ -209,12 +197,6 @@ destination|destination|k||
   !
 !
 contact-email-addr|contact-email-addr|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-service|service|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -424,12 +406,6 @@ reverse-route|reverse-route|k||
     !
   !
 !
-interface|interface|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
 interworking|interworking|k||
   line|line|lb/le/wa||
     <cr>||||
@@ -470,12 +446,6 @@ exclude-address|exclude-address|k||
     !
   !
 !
-hostname|hostname|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
 hidekeys|hidekeys|k||
   <cr>||||
   !
@@ -502,19 +472,7 @@ frequency|frequency|k||
     !
   !
 !
-security|security|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
 recovery|recovery|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-version|version|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -539,12 +497,6 @@ profile|profile|k||
   !
 !
 credential|credential|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-clock|clock|k||
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -1,4 +1,4 @@
-description|interface specific description|k/n||
+description|interface specific description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
@@ -167,6 +167,14 @@ cdp|cdp interface subcommands|k||
     <cr>||||
     !
   !
+  log|log|k||
+    mismatch|mismatch|k||
+      duplex|duplex|k/sn||
+        <cr>||||
+        !
+      !
+    !
+  !
   tlv|tlv|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -174,8 +182,8 @@ cdp|cdp interface subcommands|k||
     !
   !
 !
-switchport|set switching mode characteristics|k/sn||
-  <cr>||||
+switchport|set switching mode characteristics|k||
+  <cr>||sn||
   !
   mode|mode|k||
     access|access|k/o||
@@ -800,8 +808,8 @@ media-type|media type|k||
     !
   !
 !
-keepalive|enable keepalive|k/sn||
-  <cr>||||
+keepalive|enable keepalive|k||
+  <cr>||sn||
   !
   id|id|o||
     <cr>||||
@@ -1156,7 +1164,7 @@ clock|configure serial interface clock|k||
     !
   !
   source|source|k||
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -1343,6 +1351,30 @@ ethernet|ethernet|k||
       !
     !
     remote-loopback|remote-loopback|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    max-rate|max-rate|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    min-rate|min-rate|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    timeout|timeout|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    link-monitor|link-monitor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
@@ -1704,12 +1736,12 @@ peer|peer|k||
 !
 pvc|configure an atm pvc|k||
   <vpi/vci>|vpi/vci|k||
-    <cr>||||@(config-if-atm-vc)# generic.cfm
+    <cr>||||@(config-if-atm-vc)# atm_vc.cfm
     !
   !
   word|word|k||
     <vpi/vci>|vpi/vci|k||
-      <cr>||||@(config-if-atm-vc)# generic.cfm
+      <cr>||||@(config-if-atm-vc)# atm_vc.cfm
       !
     !
   !
@@ -1800,8 +1832,8 @@ x25|x25|k||
     !
   !
 !
-fair-queue|fair-queue|k/sn||
-  <cr>||||
+fair-queue|fair-queue|k||
+  <cr>||sn||
   !
   id|id|||
     <cr>||||
@@ -1912,6 +1944,8 @@ mka|mka|k||
     !
   !
   pre-shared-key|pre-shared-key|k||
+    <cr>||sn||
+    !
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -2337,6 +2371,66 @@ bgp-policy|bgp-policy|k||
     ip-qos-map|ip-qos-map|k||
       <cr>||||
       !
+    !
+  !
+!
+network-clock|network clock configuration|k||
+  wait-to-restore|wait-to-restore|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  hold-off|hold-off|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  source|source|k||
+    quality-level|quality-level|k||
+      word|word|||
+        tx|tx|k||
+          <cr>||||
+          !
+        !
+        rx|rx|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  synchronization|synchronization|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+synchronous|synchronous mode|k||
+  mode|mode|k/sn||
+    <cr>||||
+    !
+  !
+!
+bundle-enable|bundle atm vcs|k/sn||
+  <cr>||||
+  !
+!
+physical-layer|physical layer mode|k||
+  async|async|k/o||
+    <cr>||||
+    !
+  !
+  sync|sync|k/o||
+    <cr>||||
+    !
+  !
+!
+routing|routing on the interface|k||
+  dynamic|dynamic|k/sn||
+    <cr>||||
     !
   !
 !

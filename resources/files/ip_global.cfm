@@ -1,4 +1,4 @@
-cef|cisco express forwarding|k/sn||
+cef|cisco express forwarding|k/sb/o||
   <cr>||||
   !
   distributed|distributed|k||
@@ -24,8 +24,8 @@ cef|cisco express forwarding|k/sn||
     !
   !
 !
-routing|ip routing|k/sn||
-  <cr>||||
+routing|ip routing|k||
+  <cr>||sn||
   !
   protocol|protocol|k||
     purge|purge|k||
@@ -62,8 +62,8 @@ bootp|bootp|k||
     !
   !
 !
-domain-lookup|domain-lookup|k/sn||
-  <cr>||||
+domain-lookup|domain-lookup|k||
+  <cr>||sn||
   !
   source-interface|source-interface|k||
     &interfacefile.cfm|interface type|k||
@@ -75,8 +75,8 @@ domain-lookup|domain-lookup|k/sn||
   !
 !
 domain|domain name system|k||
-  lookup|lookup|k/sn||
-    <cr>||||
+  lookup|lookup|k||
+    <cr>||sn||
     !
     source-interface|source-interface|k||
       &interfacefile.cfm|interface type|k||
@@ -143,6 +143,22 @@ name-server|name-server|k||
         a.b.c.d|a.b.c.d|k||
           <cr>||||
           !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+              a.b.c.d|a.b.c.d|k||
+                <cr>||||
+                !
+                a.b.c.d|a.b.c.d|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
         !
       !
     !
@@ -155,6 +171,18 @@ name-server|name-server|k||
       !
       a.b.c.d|a.b.c.d|k||
         <cr>||||
+        !
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+            !
+          !
         !
       !
     !
@@ -183,7 +211,7 @@ host|host|k||
   !
 !
 forward-protocol|forward-protocol|k||
-  nd|nd|k/sn||
+  nd|nd|k/sb/o||
     <cr>||||
     !
   !
@@ -195,11 +223,11 @@ forward-protocol|forward-protocol|k||
   !
 !
 http|http|k||
-  server|server|k/sn||
+  server|server|k/sb/o||
     <cr>||||
     !
   !
-  secure-server|secure-server|k/sn||
+  secure-server|secure-server|k/sb/o||
     <cr>||||
     !
   !
@@ -814,7 +842,7 @@ prefix-list|build a prefix list|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !

@@ -1,5 +1,5 @@
 address|set the ip address of an interface|k/n||
-  a.b.c.d|ip address|k||
+  a.b.c.d|ip address|o||
     a.b.c.d|ip subnet mask|||
       <cr>||||
       !
@@ -64,7 +64,9 @@ cef|cef|k||
     !
   !
 !
-flowspec|flowspec|k||
+flowspec|flow specification|k||
+  <cr>||sn||
+  !
   disable|disable|k||
     <cr>||||
     !
@@ -144,8 +146,8 @@ local-proxy-arp|local-proxy-arp|k||
   <cr>||||
   !
 !
-directed-broadcast|directed-broadcast|k/sn||
-  <cr>||||
+directed-broadcast|directed-broadcast|k||
+  <cr>||sn||
   !
   id|id|||
     <cr>||||
@@ -156,8 +158,8 @@ mask-reply|mask-reply|k||
   <cr>||||
   !
 !
-route-cache|route-cache|k/sn||
-  <cr>||||
+route-cache|route-cache|k||
+  <cr>||sn||
   !
   cef|cef|k/sn||
     <cr>||||
@@ -184,8 +186,8 @@ mroute-cache|mroute-cache|k/sn||
   <cr>||||
   !
 !
-split-horizon|split-horizon|k/sn||
-  <cr>||||
+split-horizon|split-horizon|k||
+  <cr>||sn||
   !
   eigrp|eigrp|k||
     id|id|||

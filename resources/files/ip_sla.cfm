@@ -92,6 +92,26 @@ frequency|frequency|k||
     !
   !
 !
+secondary-frequency|frequency after a failure|k||
+  timeout|timeout|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  connection-loss|connection-loss|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  both|both|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
 timeout|timeout|k||
   id|id|o||
     <cr>||||

@@ -2,7 +2,7 @@ unicast-routing|unicast-routing|k||
   <cr>||||
   !
 !
-cef|cef|k/sn||
+cef|cef|k/sb/o||
   <cr>||||
   !
   distributed|distributed|k||
@@ -139,7 +139,7 @@ ioam|ioam|k||
 dhcp|dhcp|k||
   pool|pool|k||
     word|word|k||
-      <cr>||||@(config-dhcpv6)# generic.cfm
+      <cr>||||@(config-dhcpv6)# ipv6_dhcp_pool.cfm
       !
     !
   !

@@ -370,7 +370,9 @@ verify|verify|k||
     !
   !
 !
-flowspec|flowspec|k||
+flowspec|flow specification|k||
+  <cr>||sn||
+  !
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -413,6 +415,46 @@ flow|flow|k||
   !
 !
 router|router|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+nhrp|ipv6 next hop resolution|k||
+  map|map|k||
+    multicast|multicast|k||
+      dynamic|dynamic|k||
+        <cr>||||
+        !
+      !
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  network-id|network-id|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  holdtime|holdtime|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  nhs|nhs|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -1,11 +1,11 @@
 key-string|key-string|k||
   id|id|||
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !

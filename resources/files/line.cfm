@@ -34,7 +34,7 @@ privilege|privilege|k||
     !
   !
 !
-login|login|k/sn||
+login|login|k/sb/o||
   <cr>||||
   !
   local|local|k||
@@ -130,18 +130,18 @@ transport|transport|k||
 !
 password|password|k||
   id|id|||
-    line|line|o||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !
 !
-exec|exec|k/sn||
-  <cr>||||
+exec|exec|k||
+  <cr>||sn||
   !
   prompt|prompt|k||
     timestamp|timestamp|k||

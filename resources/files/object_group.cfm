@@ -1,4 +1,4 @@
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
@@ -30,37 +30,7 @@ group-object|group-object|k||
     !
   !
 !
-&protocolfile.cfm|&protocolfile.cfm|k||
+a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
   <cr>||||
-  !
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-tcp|tcp|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-udp|udp|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-tcp-udp|tcp-udp|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-icmp|icmp|k||
-  <cr>||||
-  !
-  line|line|lb/le/wa||
-    <cr>||||
-    !
   !
 !

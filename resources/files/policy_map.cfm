@@ -18,7 +18,7 @@ class|policy criteria|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

@@ -362,7 +362,7 @@ set|set values in destination routing protocol|k||
     !
   !
 !
-description|description|k||
+description|description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

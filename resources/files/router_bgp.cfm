@@ -1,6 +1,24 @@
 bgp|bgp specific commands|k||
-  log-neighbor-changes|log-neighbor-changes|k/sn||
+  log-neighbor-changes|log-neighbor-changes|k/sb/o||
     <cr>||||
+    !
+  !
+  rpki|resource public key infrastructure|k||
+    server|server|k||
+      tcp|tcp|k||
+        a.b.c.d|a.b.c.d|k||
+          port|port|k||
+            id|id|||
+              refresh|refresh|k||
+                id|id|||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
     !
   !
   router-id|router-id|k||
@@ -230,7 +248,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -562,7 +580,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -898,7 +916,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -1396,7 +1414,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -1728,7 +1746,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -2200,11 +2218,11 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k||
+synchronization|synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k||
+auto-summary|auto-summary|k/sn||
   <cr>||||
   !
 !
@@ -2227,6 +2245,10 @@ bgp|bgp|k||
     line|line|lb/le/wa||
       <cr>||||
       !
+    !
+  !
+  dmzlink-bw|use dmz link bandwidth|k||
+    <cr>||||
     !
   !
   redistribute-internal|redistribute-internal|k||

@@ -30,7 +30,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -362,7 +362,7 @@ neighbor|neighbor|k||
         !
       !
     !
-    description|description|k||
+    description|description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
@@ -834,11 +834,11 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k||
+synchronization|synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k||
+auto-summary|auto-summary|k/sn||
   <cr>||||
   !
 !
@@ -861,6 +861,10 @@ bgp|bgp|k||
     line|line|lb/le/wa||
       <cr>||||
       !
+    !
+  !
+  dmzlink-bw|use dmz link bandwidth|k||
+    <cr>||||
     !
   !
   redistribute-internal|redistribute-internal|k||

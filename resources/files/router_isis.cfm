@@ -5,7 +5,7 @@ net|net|k||
   !
 !
 is-type|is-type|k||
-  line|line|o||
+  line|line|lb/le/wa/o||
     <cr>||||
     !
   !

@@ -20,7 +20,7 @@ network|enable routing on an ip network|k||
     !
   !
 !
-log-adjacency-changes|log-adjacency-changes|k/sn||
+log-adjacency-changes|log-adjacency-changes|k/sb/o||
   <cr>||||
   !
   detail|detail|k||

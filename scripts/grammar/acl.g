@@ -1,26 +1,80 @@
-# Access-list entries (shared through includes).
+# Access-list entries (shared through includes). All entries of one list
+# are one kind of setting: only the list (and a sequence number) names an
+# entry, so a new entry lands behind the others of its list in a merge.
 
-file acl_ext_entry.cfm
-&protocolfile.cfm "protocol"
-  %ADDR
-    %PORT
-      %ADDR
-        %PORT
-          %ACLOPTS
-        %ACLOPTS
-    %ADDR
-      %PORT
-        %ACLOPTS
-      %ACLOPTS
+# An extended entry: protocol, source, source ports, destination,
+# destination ports, options. Each part is a file of its own that the leaves
+# of the part before include, so the tree is shared instead of copied.
+file acl_ext_entry.cfm -allk
+&protocolfile.cfm "protocol" &acl_src.cfm
+object-group "service object group"
+  word "service object group name" &acl_src.cfm
 
-file acl_std_entry.cfm
+def SRCPORT
+  eq "port equal to"
+    &portfile.cfm "port" &acl_dst.cfm
+  neq "port not equal to"
+    &portfile.cfm "port" &acl_dst.cfm
+  gt "port greater than"
+    &portfile.cfm "port" &acl_dst.cfm
+  lt "port less than"
+    &portfile.cfm "port" &acl_dst.cfm
+  range "port range"
+    &portfile.cfm "first port"
+      &portfile.cfm "last port" &acl_dst.cfm
+
+file acl_src.cfm -allk
+any "any source" &acl_dst.cfm
+  %SRCPORT
+host "a single source host"
+  a.b.c.d "source address" &acl_dst.cfm
+    %SRCPORT
+a.b.c.d "source address"
+  a.b.c.d "source wildcard bits" &acl_dst.cfm
+    %SRCPORT
+object-group "source network object group"
+  word "object group name" &acl_dst.cfm
+    %SRCPORT
+
+# Several ports after "eq" are not taken: a looping node would lose its loop
+# to the include of the options.
+def DSTPORT
+  eq "port equal to"
+    &portfile.cfm "port" $ &acl_opts.cfm
+  neq "port not equal to"
+    &portfile.cfm "port" $ &acl_opts.cfm
+  gt "port greater than"
+    &portfile.cfm "port" $ &acl_opts.cfm
+  lt "port less than"
+    &portfile.cfm "port" $ &acl_opts.cfm
+  range "port range"
+    &portfile.cfm "first port"
+      &portfile.cfm "last port" $ &acl_opts.cfm
+
+file acl_dst.cfm -allk
+any "any destination" $ &acl_opts.cfm
+  %DSTPORT
+host "a single destination host"
+  a.b.c.d "destination address" $ &acl_opts.cfm
+    %DSTPORT
+a.b.c.d "destination address"
+  a.b.c.d "destination wildcard bits" $ &acl_opts.cfm
+    %DSTPORT
+object-group "destination network object group"
+  word "object group name" $ &acl_opts.cfm
+    %DSTPORT
+
+file acl_opts.cfm -allk
+%ACLOPTS
+
+file acl_std_entry.cfm -allk
 %SADDR
   log "log matches" $
 
-file acl_ext.cfm
+file acl_ext.cfm -k
 permit "forward packets" &acl_ext_entry.cfm
 deny "drop packets" &acl_ext_entry.cfm
-remark "access list entry comment"
+remark "access list entry comment" $
   %TEXT
 evaluate "evaluate a reflexive list"
   word :k $
@@ -33,7 +87,7 @@ id :k "sequence number"
   remark "access list entry comment"
     %TEXT
 
-file acl_std.cfm
+file acl_std.cfm -k
 permit "forward packets" &acl_std_entry.cfm
 deny "drop packets" &acl_std_entry.cfm
 remark "access list entry comment"
@@ -44,7 +98,7 @@ id :k "sequence number"
   remark "access list entry comment"
     %TEXT
 
-file acl_ipv6.cfm
+file acl_ipv6.cfm -k
 permit "forward packets" &acl_ext_entry.cfm
 deny "drop packets" &acl_ext_entry.cfm
 remark "access list entry comment"

@@ -36,82 +36,114 @@ def PORT
     &portfile.cfm :k "first port"
       &portfile.cfm :k "last port" $
 
-def ACLOPTS
-  log  "log matches" $
-  log-input  "log matches with the input interface" $
-  established  "established connections" $
-    log $
-    log-input $
-  fragments  "non-initial fragments" $
-    log $
-    log-input $
-  echo  "echo" $
-    log $
-    log-input $
-  echo-reply  "echo reply" $
-    log $
-    log-input $
-  unreachable  "unreachable" $
-    log $
-    log-input $
-  time-exceeded  "time exceeded" $
-    log $
-    log-input $
-  packet-too-big  "packet too big" $
-    log $
-    log-input $
-  port-unreachable  "port unreachable" $
-    log $
-    log-input $
-  administratively-prohibited  "administratively prohibited" $
-    log $
-    log-input $
-  traceroute  "traceroute" $
-    log $
-    log-input $
-  nd-na  "neighbor advertisement" $
-    log $
-    log-input $
-  nd-ns  "neighbor solicitation" $
-    log $
-    log-input $
-  router-advertisement  "router advertisement" $
-    log $
-    log-input $
-  router-solicitation  "router solicitation" $
-    log $
-    log-input $
-  syn  "syn flag" $
-    log $
-    log-input $
-  ack  "ack flag" $
-    log $
-    log-input $
-  rst  "rst flag" $
-    log $
-    log-input $
-  fin  "fin flag" $
-    log $
-    log-input $
-  dscp "dscp value"
-    <value> "dscp" $
-  precedence "precedence value"
-    <value> "precedence" $
-  tos "type of service"
-    <value> "tos" $
+def ACLTAIL
+  log "log matches" $
+    word "log tag" $
+  log-input "log matches with the input interface" $
+    word "log tag" $
   time-range "time range"
     word "time range name" $
+      log "log matches" $
+      log-input "log matches with the input interface" $
+
+def ACLOPTS
+  %ACLTAIL
+  established "established connections" $
+    %ACLTAIL
+  fragments "non-initial fragments" $
+    %ACLTAIL
+  echo "echo" $
+    %ACLTAIL
+  echo-reply "echo reply" $
+    %ACLTAIL
+  unreachable "unreachable" $
+    %ACLTAIL
+  time-exceeded "time exceeded" $
+    %ACLTAIL
+  packet-too-big "packet too big" $
+    %ACLTAIL
+  port-unreachable "port unreachable" $
+    %ACLTAIL
+  administratively-prohibited "administratively prohibited" $
+    %ACLTAIL
+  traceroute "traceroute" $
+    %ACLTAIL
+  nd-na "neighbor advertisement" $
+    %ACLTAIL
+  nd-ns "neighbor solicitation" $
+    %ACLTAIL
+  router-advertisement "router advertisement" $
+    %ACLTAIL
+  router-solicitation "router solicitation" $
+    %ACLTAIL
+  syn "syn flag" $
+    %ACLTAIL
+  ack "ack flag" $
+    %ACLTAIL
+  rst "rst flag" $
+    %ACLTAIL
+  fin "fin flag" $
+    %ACLTAIL
+  psh "psh" $
+    %ACLTAIL
+  urg "urg" $
+    %ACLTAIL
+  host-unreachable "host unreachable" $
+    %ACLTAIL
+  net-unreachable "net unreachable" $
+    %ACLTAIL
+  protocol-unreachable "protocol unreachable" $
+    %ACLTAIL
+  redirect "redirect" $
+    %ACLTAIL
+  parameter-problem "parameter problem" $
+    %ACLTAIL
+  source-quench "source quench" $
+    %ACLTAIL
+  timestamp-request "timestamp request" $
+    %ACLTAIL
+  timestamp-reply "timestamp reply" $
+    %ACLTAIL
+  mask-request "mask request" $
+    %ACLTAIL
+  mask-reply "mask reply" $
+    %ACLTAIL
+  information-request "information request" $
+    %ACLTAIL
+  information-reply "information reply" $
+    %ACLTAIL
+  dscp "dscp value"
+    <value> "dscp" $
+      %ACLTAIL
+  precedence "precedence value"
+    <value> "precedence" $
+      %ACLTAIL
+  tos "type of service"
+    <value> "tos" $
+      %ACLTAIL
+  option "ip option"
+    word "option" $
+      %ACLTAIL
+  sequence "sequence number"
+    id "sequence number" $
+      %ACLTAIL
   ttl "time to live"
     eq
       id $
+        %ACLTAIL
     gt
       id $
+        %ACLTAIL
     lt
       id $
-  option "ip option"
-    word $
-  sequence "sequence number"
-    id $
+        %ACLTAIL
+    neq
+      id $
+        %ACLTAIL
+    range
+      id
+        id $
+          %ACLTAIL
 
 def COMMUNITY
   <aa:nn> :wa/lb/le "community value" $

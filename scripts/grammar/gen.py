@@ -15,7 +15,15 @@ Source format, one node per line, two blanks of indentation per level:
   "help"   help text (default: the token)
   *        shorthand for :lb/le/wa $ (free text that takes the rest of the line)
 
-  file NAME.cfm        starts an output file (column 0)
+  A node with $, children and the flag sn writes sn on its <cr> line: only the
+  command that ends there is the default shown in its "no" form.
+
+  :-k      this keyword does not name the command: no automatic k
+
+  file NAME.cfm [-k|-allk]
+                       starts an output file (column 0); -k leaves out the
+                       automatic k on every keyword of the file, -allk every k
+                       (entries of a list that are all one kind of setting)
   def NAME             starts a fragment (column 0); %NAME in a tree expands
                        it there. Lines written below %NAME are attached to
                        every leaf of the fragment.
@@ -38,6 +46,7 @@ class Node:
         self.help = ""
         self.children = []
         self.macro = None
+        self.autok = False
 
 
 def parse_line(text):
@@ -46,8 +55,11 @@ def parse_line(text):
     if node.token.startswith("%"):
         node.macro = node.token[1:]
     for p in parts[1:]:
-        if p.startswith(":"):
-            node.flags = p[1:]
+        if p == ":-k":
+            node.nokey = True
+        elif p.startswith(":"):
+            # Flags add up, whatever their order with "*" on the line.
+            node.flags = "/".join(x for x in (node.flags, p[1:]) if x)
         elif p == "$":
             node.end = True
         elif p == "*":
@@ -63,8 +75,9 @@ def parse_line(text):
             node.text = p[1:].replace("_", " ")
         else:
             node.help = p
-    if is_keyword(node.token) and "k" not in node.flags.split("/"):
+    if is_keyword(node.token) and "k" not in node.flags.split("/") and not getattr(node, "nokey", False):
         node.flags = "k" + ("/" + node.flags if node.flags else "")
+        node.autok = True
     return node
 
 
@@ -92,10 +105,11 @@ def read_sources(paths):
                 indent = len(line) - len(line.lstrip(" "))
                 body = line.strip()
                 if indent == 0 and (body.startswith("file ") or body.startswith("def ")):
-                    kind, name = body.split(None, 1)
+                    kind, name, *options = body.split()
                     root = Node(name)
                     (files if kind == "file" else defs).setdefault(name, root)
                     current = (files if kind == "file" else defs)[name]
+                    current.options = set(options) | getattr(current, "options", set())
                     stack = [(-2, current)]
                     continue
                 node = parse_line(body)
@@ -121,8 +135,8 @@ def expand(children, defs):
 
 def copy_with_leaves(node, extra, defs):
     n = Node(node.token)
-    n.flags, n.end, n.link, n.include, n.text, n.help = (node.flags, node.end, node.link, node.include, node.text,
-                                                         node.help)
+    n.flags, n.end, n.link, n.include, n.text, n.help, n.autok = (node.flags, node.end, node.link, node.include,
+                                                                  node.text, node.help, node.autok)
     if node.children:
         n.children = [copy_with_leaves(c, extra, defs) for c in node.children]
     elif extra:
@@ -132,8 +146,8 @@ def copy_with_leaves(node, extra, defs):
 
 def clone(node):
     n = Node(node.token)
-    n.flags, n.end, n.link, n.include, n.text, n.help, n.macro = (node.flags, node.end, node.link, node.include,
-                                                                  node.text, node.help, node.macro)
+    n.flags, n.end, n.link, n.include, n.text, n.help, n.macro, n.autok = (
+        node.flags, node.end, node.link, node.include, node.text, node.help, node.macro, node.autok)
     n.children = [clone(c) for c in node.children]
     return n
 
@@ -142,9 +156,16 @@ def emit(node, depth, out):
     pad = "  " * depth
     links = " ".join(x for x in (node.include,) if x)
     help_text = node.help or node.token.strip("<>")
-    out.append("%s%s|%s|%s|%s|%s" % (pad, node.token, help_text, node.flags, node.text, links))
+    flags, end_flags = node.flags, ""
+    if node.end and node.children and "sn" in flags.split("/"):
+        # A default shown in its "no" form is the command that ends here; the
+        # longer commands below it (keepalive 10, switchport mode access) are
+        # shown as typed, so sn goes on the <cr> alone.
+        flags = "/".join(f for f in flags.split("/") if f != "sn")
+        end_flags = "sn"
+    out.append("%s%s|%s|%s|%s|%s" % (pad, node.token, help_text, flags, node.text, links))
     if node.end:
-        out.append("%s  <cr>||||%s" % (pad, node.link))
+        out.append("%s  <cr>||%s||%s" % (pad, end_flags, node.link))
         out.append("%s  !" % pad)
     for c in node.children:
         emit(c, depth + 1, out)
@@ -159,6 +180,9 @@ def main():
     outputs = {}
     for name, root in files.items():
         children = expand(root.children, defs)
+        options = getattr(root, "options", set())
+        if options & {"-k", "-allk"}:
+            strip_keys(children, "-allk" in options)
         # A file may not open its own mode: a nested level of the same
         # grammar gets a copy whose mode links are plain ends.
         if relink(children, name, name.replace(".cfm", "_nested.cfm")):
@@ -172,6 +196,13 @@ def main():
             emit(c, 0, out)
         with open(os.path.join(target, name), "w") as f:
             f.write("\n".join(out) + "\n")
+
+
+def strip_keys(children, all_keys):
+    for c in children:
+        if c.autok or all_keys:
+            c.flags = "/".join(f for f in c.flags.split("/") if f and f != "k")
+        strip_keys(c.children, all_keys)
 
 
 def relink(children, name, nested):

@@ -1,7 +1,7 @@
 # Interface configuration mode.
 
 file interface.cfm
-description "interface specific description" :n
+description "interface specific description" :n/o
   %TEXT
 shutdown "shutdown the selected interface" $
 ip "interface internet protocol config commands" &ip_interface.cfm
@@ -51,6 +51,9 @@ encapsulation "set encapsulation type for an interface"
   qinq $
 cdp "cdp interface subcommands"
   enable $ :sn
+  log
+    mismatch
+      duplex $ :sn
   tlv
     line *
 switchport "set switching mode characteristics" $ :sn
@@ -422,6 +425,14 @@ ethernet
       line *
     remote-loopback
       line *
+    max-rate
+      id :o $
+    min-rate
+      id :o $
+    timeout
+      id :o $
+    link-monitor
+      line *
   cfm
     mip
       line *
@@ -540,9 +551,9 @@ peer
         line *
   line *
 pvc "configure an atm pvc"
-  <vpi/vci> :k @(config-if-atm-vc)#=generic.cfm
+  <vpi/vci> :k @(config-if-atm-vc)#=atm_vc.cfm
   word :k
-    <vpi/vci> :k @(config-if-atm-vc)#=generic.cfm
+    <vpi/vci> :k @(config-if-atm-vc)#=atm_vc.cfm
 atm
   line *
 dsl
@@ -606,7 +617,7 @@ mka
   policy
     word $
   default-policy $
-  pre-shared-key
+  pre-shared-key $ :sn
     line *
 authentication
   port-control
@@ -745,6 +756,26 @@ bgp-policy
   destination
     ip-prec-map $
     ip-qos-map $
+network-clock "network clock configuration"
+  wait-to-restore
+    id :o $
+  hold-off
+    id :o $
+  source
+    quality-level
+      word
+        tx $
+        rx $
+  synchronization
+    line *
+synchronous "synchronous mode"
+  mode $ :sn
+bundle-enable "bundle atm vcs" $ :sn
+physical-layer "physical layer mode"
+  async :o $
+  sync :o $
+routing "routing on the interface"
+  dynamic $ :sn
 medium
   p2p $
   broadcast $

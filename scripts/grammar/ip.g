@@ -1,7 +1,7 @@
 # Global "ip ..." and "ipv6 ..." commands.
 
 file ip_global.cfm
-cef "cisco express forwarding" $ :sn
+cef "cisco express forwarding" $ :sb/o
   distributed $
   accounting
     line *
@@ -48,9 +48,16 @@ name-server
     word :k
       a.b.c.d :k $
         a.b.c.d :k $
+          a.b.c.d :k $
+            a.b.c.d :k $
+              a.b.c.d :k $
+                a.b.c.d :k $
   a.b.c.d :k $
     a.b.c.d :k $
       a.b.c.d :k $
+        a.b.c.d :k $
+          a.b.c.d :k $
+            a.b.c.d :k $
   word :k $
 host
   word :k
@@ -59,12 +66,12 @@ host
     id
       a.b.c.d $
 forward-protocol
-  nd $ :sn
+  nd $ :sb/o
   udp
     &portfile.cfm :k $
 http
-  server $ :sn
-  secure-server $ :sn
+  server $ :sb/o
+  secure-server $ :sb/o
   authentication
     local $
     aaa $
@@ -263,7 +270,7 @@ prefix-list "build a prefix list"
               id $
         le
           id $
-    description
+    description :n/o
       %TEXT
   sequence-number $
 community-list "add a community list entry"
@@ -586,7 +593,7 @@ gdoi
 
 file ipv6_global.cfm
 unicast-routing $
-cef $ :sn
+cef $ :sb/o
   distributed $
 multicast-routing $
   line *
@@ -629,7 +636,7 @@ ioam
   timestamp $
 dhcp
   pool
-    word :k @(config-dhcpv6)#=generic.cfm
+    word :k @(config-dhcpv6)#=ipv6_dhcp_pool.cfm
   line *
 general-prefix
   line *

@@ -1,6 +1,6 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
-  a.b.c.d :o "ip address" :k
+  a.b.c.d :o "ip address"
     a.b.c.d "ip subnet mask" $
       secondary :k $
         vrf
@@ -19,7 +19,7 @@ unnumbered
 cef
   accounting
     line *
-flowspec
+flowspec "flow specification" $ :sn
   disable $
 vrf
   forwarding
@@ -445,7 +445,7 @@ tcp
     id $
 verify
   line *
-flowspec
+flowspec "flow specification" $ :sn
   line *
 virtual-reassembly $
   line *
@@ -458,4 +458,18 @@ source-route $
 flow
   line *
 router
+  line *
+
+nhrp "ipv6 next hop resolution"
+  map
+    multicast
+      dynamic $
+      word $
+    line *
+  network-id
+    id :o $
+  holdtime
+    id :o $
+  nhs
+    line *
   line *

@@ -11,7 +11,7 @@ stopbits
 privilege
   level
     id :o $
-login $ :sn
+login $ :sb/o
   local $
   authentication
     word :o $
@@ -299,7 +299,7 @@ set "set values in destination routing protocol"
   traffic-index
     id $
   global $
-description
+description :n/o
   %TEXT
 continue $
   id $

@@ -1,9 +1,7 @@
 file generic.cfm
-description
+description :n/o
   %TEXT
 shutdown $
-zone
-  line *
 ras
   line *
 gw-type-prefix
@@ -36,8 +34,6 @@ virtual-ip
   line *
 cli
   line *
-event
-  line *
 action
   line *
 cron
@@ -69,8 +65,6 @@ start $
 destination
   line *
 contact-email-addr
-  line *
-service
   line *
 http-proxy
   line *
@@ -138,8 +132,6 @@ timer
   line *
 reverse-route $
   line *
-interface
-  line *
 interworking
   line *
 control-word $
@@ -153,8 +145,6 @@ index
   line *
 exclude-address
   line *
-hostname
-  line *
 hidekeys $
 enable $
 monitor
@@ -163,11 +153,7 @@ path
   line *
 frequency
   line *
-security
-  line *
 recovery
-  line *
-version
   line *
 transport
   line *
@@ -176,8 +162,6 @@ subscribe-to-alert-group
 profile
   line *
 credential
-  line *
-clock
   line *
 mtu
   line *
@@ -215,7 +199,7 @@ route-target
     aa:nn :k $
   both
     aa:nn :k $
-description
+description :n/o
   %TEXT
 import
   map
@@ -358,6 +342,13 @@ type
   line *
 frequency
   id :o $
+secondary-frequency "frequency after a failure"
+  timeout
+    id :o $
+  connection-loss
+    id :o $
+  both
+    id :o $
 timeout
   id :o $
 threshold
@@ -384,7 +375,7 @@ source-ipaddr
 exit $
 
 file object_group.cfm
-description
+description :n/o
   %TEXT
 host
   a.b.c.d :k $
@@ -395,16 +386,7 @@ range
     a.b.c.d :k $
 group-object
   word :k $
-&protocolfile.cfm :k $
-  line *
-tcp
-  line *
-udp
-  line *
-tcp-udp
-  line *
-icmp $
-  line *
+a.b.c.d/<1-32> :k $
 
 file server.cfm
 address

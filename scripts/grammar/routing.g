@@ -7,7 +7,7 @@ def BGPNEIGHBOR
     word :o $
   update-source
     %IF
-  description
+  description :n/o
     %TEXT
   send-community $
     both $
@@ -156,8 +156,8 @@ def AFBODY
       id $
     eibgp
       id $
-  synchronization $
-  auto-summary $
+  synchronization $ :sn
+  auto-summary $ :sn
   default-information
     originate $
   bgp
@@ -165,6 +165,7 @@ def AFBODY
       line *
     additional-paths
       line *
+    dmzlink-bw "use dmz link bandwidth" $
     redistribute-internal $
     nexthop
       line *
@@ -190,7 +191,15 @@ def AFBODY
 
 file router_bgp.cfm
 bgp "bgp specific commands"
-  log-neighbor-changes $ :sn
+  log-neighbor-changes $ :sb/o
+  rpki "resource public key infrastructure"
+    server
+      tcp
+        a.b.c.d :k
+          port
+            id
+              refresh
+                id $
   router-id
     a.b.c.d :o $
     vrf
@@ -321,7 +330,7 @@ def OSPFBODY
         area
           id :k $
           a.b.c.d :k $
-  log-adjacency-changes $ :sn
+  log-adjacency-changes $ :sb/o
     detail $
   passive-interface "suppress routing updates on an interface"
     default $

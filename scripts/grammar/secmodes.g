@@ -97,7 +97,7 @@ match "classification criteria"
     line *
   security-group
     line *
-description
+description :n/o
   %TEXT
 
 file policy_map.cfm
@@ -108,7 +108,7 @@ class "policy criteria"
   type
     inspect
       word :k @(config-pmap-c)#=policy_map_class.cfm
-description
+description :n/o
   %TEXT
 
 file policy_map_class.cfm
@@ -319,7 +319,7 @@ virtual-template
 ca
   trust-point
     word $
-description
+description :n/o
   %TEXT
 qos-group
   id $
@@ -347,7 +347,7 @@ local-address
   %IF
   a.b.c.d $
     line *
-description
+description :n/o
   %TEXT
 rsa-pubkey
   line *
@@ -408,7 +408,7 @@ reverse-route $
   remote-peer
     line *
   line *
-description
+description :n/o
   %TEXT
 qos
   pre-classify $
@@ -509,5 +509,5 @@ lifetime
   line *
 dpd
   line *
-description
+description :n/o
   %TEXT

@@ -1,6 +1,6 @@
 def SECTOP
 aaa "authentication, authorization and accounting"
-  new-model $ :sn
+  new-model $ :sb/o
   authentication
     login
       word :k
@@ -226,7 +226,6 @@ snmp-server "modify snmp engine parameters"
       rw $
         line *
       id $
-      word $
   location
     %TEXT
   contact
@@ -439,7 +438,7 @@ crypto "encryption module"
       line *
   gdoi
     group
-      word :k @(config-gkm-group)#=generic.cfm
+      word :k @(config-gkm-group)#=gdoi_group.cfm
   ikev2
     proposal
       word :k @(config-ikev2-proposal)#=crypto_ikev2.cfm

@@ -89,7 +89,7 @@ service "modify use of network based services"
           year $
         year $
       uptime $
-  password-encryption $ :sn
+  password-encryption $ :sb/o
   pad $ :sn
   config $ :sn
   tcp-keepalives-in $
@@ -189,7 +189,7 @@ banner "define a login banner"
     line *
   prompt-timeout :k
     line *
-line "configure a terminal line"
+&linefile.cfm "configure a terminal line"
   con :k "primary terminal line"
     id :k @(config-line)#=line.cfm
   vty :k "virtual terminal"
@@ -222,27 +222,27 @@ router "enable a routing process"
   lisp @(config-router-lisp)#=router_rip.cfm
 access-list "add an access list entry"
   <1-99> :k "ip standard access list"
-    permit &acl_std_entry.cfm
-    deny &acl_std_entry.cfm
-    remark
+    permit :-k &acl_std_entry.cfm
+    deny :-k &acl_std_entry.cfm
+    remark :-k "access list entry comment" $
       %TEXT
   <1300-1999> :k "ip standard access list (expanded range)"
-    permit &acl_std_entry.cfm
-    deny &acl_std_entry.cfm
-    remark
+    permit :-k &acl_std_entry.cfm
+    deny :-k &acl_std_entry.cfm
+    remark :-k "access list entry comment" $
       %TEXT
   <100-199> :k "ip extended access list"
-    permit &acl_ext_entry.cfm
-    deny &acl_ext_entry.cfm
-    dynamic
+    permit :-k &acl_ext_entry.cfm
+    deny :-k &acl_ext_entry.cfm
+    dynamic :-k
       word :k
-        permit &acl_ext_entry.cfm
-    remark
+        permit :-k &acl_ext_entry.cfm
+    remark :-k "access list entry comment" $
       %TEXT
   <2000-2699> :k "ip extended access list (expanded range)"
-    permit &acl_ext_entry.cfm
-    deny &acl_ext_entry.cfm
-    remark
+    permit :-k &acl_ext_entry.cfm
+    deny :-k &acl_ext_entry.cfm
+    remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
   <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
@@ -393,6 +393,7 @@ memory "memory configuration"
   statistics
     history
       table $
+        id :o "number of entries" $
   free
     low-watermark
       processor
@@ -576,7 +577,7 @@ object-group "object group"
   network
     word :k @(config-network-group)#=object_group.cfm
   service
-    word :k @(config-service-group)#=object_group.cfm
+    word :k @(config-service-group)#=object_group_service.cfm
 zone "firewall zone"
   security
     word :k @(config-sec-zone)#=generic.cfm
@@ -586,7 +587,7 @@ zone-pair "zone pair"
       source
         word :k
           destination
-            word :k @(config-sec-zone-pair)#=generic.cfm
+            word :k @(config-sec-zone-pair)#=zone_pair.cfm
 tacacs-server "tacacs server configuration"
   host
     a.b.c.d :k $
@@ -627,13 +628,13 @@ iox "application hosting" $
 app-hosting "application hosting"
   appid
     word :k @(config-app-hosting)#=generic.cfm
-call-home "call home" @(cfg-call-home)#=generic.cfm
+call-home "call home" @(cfg-call-home)#=call_home.cfm
 aqm-register-fnf $
 event "event manager"
   manager
     applet
-      word :k @(config-applet)#=generic.cfm
-        line * @(config-applet)#=generic.cfm
+      word :k @(config-applet)#=eem_applet.cfm
+        line * @(config-applet)#=eem_applet.cfm
     environment
       word :k
         line *

@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <random>
+#include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -20,7 +24,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 1.00;
+constexpr double kRecordedRefusedShare = 0.48;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -122,6 +126,48 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"banner motd ^C\nAuthorised access only\nhostname R2\n", {0, 0, 0}},
       {"no ip domain lookup\nno service pad\n", {0, 0}},
       {"spanning-tree vlan 1 priority 0\n", {0}},
+      // Option tails of access-list entries, in the combinations the device writes.
+      {"access-list 101 permit tcp any any log\naccess-list 101 permit tcp any any eq www established\n"
+       "access-list 101 permit tcp any eq www any established log\naccess-list 101 permit ip any any precedence 5 log\n"
+       "access-list 101 permit udp any any eq 53 dscp ef log-input\naccess-list 101 permit tcp any any eq 80 time-range T1 log\n"
+       "access-list 101 permit icmp any any echo-reply log\naccess-list 102 remark\n",
+       {0, 0, 0, 0, 0, 0, 0, 0}},
+      {"ip access-list extended INSPECT\n permit object-group SVC object-group SRC object-group DST\n", {0, 1}},
+      // Upper-case keywords, the closing banner line and snmp access levels
+      // are found through the lower-case pass.
+      {"banner motd ^C\nno entry\n^C\nsnmp-server community public RO 10\nsnmp-server community s3cret RW 99\n",
+       {0, 0, 0, 0, 0}},
+      {"HOSTNAME R1\nLine vty 0 4\n LOGIN\n", {0, 0, 1}},
+      // Interface names in their short form, and interface commands that
+      // once sent the following lines to the top level.
+      {"interface Fa0/1\n speed auto\n duplex auto\ninterface Gi0/2\n no shutdown\n", {0, 1, 1, 0, 1}},
+      {"interface GigabitEthernet0/0/0\n network-clock wait-to-restore 300\n no synchronous mode\n"
+       " ethernet oam max-rate 10\n hold-queue 375 in\n no bgp-policy accounting input source\n cdp log mismatch duplex\n",
+       {0, 1, 1, 1, 1, 1, 1}},
+      {"interface ATM0/0.32 point-to-point\n pvc 0/32\n  vbr-nrt 704 704\n  dialer pool-member 1\n  protocol ppp dialer\n",
+       {0, 1, 2, 2, 2}},
+      {"platform console auto\nno platform punt-keepalive disable-kernel-core\nmemory statistics history table 12\n", {0, 0, 0}},
+      {"ipv6 dhcp pool POOL6\n address prefix fd01:ab00::/64 lifetime infinite\n dns-server 2001::1\n domain-name UK.COM\n",
+       {0, 1, 1, 1}},
+      {"crypto gdoi group G1\n identity number 18090212\n server local\n  rekey transport unicast\n  sa ipsec 10\n"
+       "   profile P1\n   replay time window-size 20\n  redundancy\n   local priority 100\n"
+       "   peer address ipv4 10.0.0.2\n",
+       {0, 1, 1, 2, 2, 3, 3, 2, 3, 3}},
+      {"call-home\n contact-email-addr a@b.c\n profile \"CiscoTAC-1\"\n  active\n  destination transport-method http\n",
+       {0, 1, 1, 2, 2}},
+      {"router bgp 65000\n bgp rpki server tcp 10.0.0.9 port 8282 refresh 10\n address-family ipv4\n  bgp dmzlink-bw\n",
+       {0, 1, 1, 2}},
+      {"ip sla 1\n icmp-echo 10.0.0.1\n secondary-frequency timeout 0\n secondary-frequency connection-loss 0\n",
+       {0, 1, 1, 1}},
+      // A line that follows a sub-mode and is a top-level command leaves the
+      // mode: no sub-mode may swallow it with a catch-all.
+      {"bba-group pppoe global\n virtual-template 1\ninterface Loopback0\n ip address 10.0.0.1 255.255.255.255\n",
+       {0, 1, 0, 1}},
+      {"object-group service SVC\n tcp eq 80\nip access-list extended A\n permit ip host 1.1.1.1 any\n", {0, 1, 0, 1}},
+      {"event manager applet A\n event none\n action 1.0 cli command enable\nevent manager applet B\n event none\n",
+       {0, 1, 1, 0, 1}},
+      {"gatekeeper\n shutdown\nzone security Z0\nservice timestamps log datetime msec\nhostname R9\n", {0, 1, 0, 0, 0}},
+      {"line vty 0 4\n login\nline con 0\n exec-timeout 0 0\n", {0, 1, 0, 1}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -145,6 +191,8 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
       "ip address 10.0.0.1\n",         // no interface mode open
       "router ospf\n",                 // process id missing
       "access-list 10 permit tcp any any\n",  // a standard list takes no protocol
+      "interface Ge0/0\n",             // not a prefix of any interface type
+      "ip access-list extended X\n permit esp host any any\n",  // "host" needs an address
   };
   for (const char* line : lines) {
     std::vector<std::string> refused;
@@ -163,10 +211,12 @@ TEST_F(GrammarIos, ModeChangingAndFlaggedCommandsKeepTheirMeaning) {
   QxParserUtil::deleteCommands(records);
 }
 
-std::string helpAt(const std::vector<std::string>& opening) {
+// The help listing at the root of a mode: `steps` of the way from view mode
+// (0 view, 1 exec after "enable", 2 configuration), then the opening lines.
+std::string helpAt(int steps, const std::vector<std::string>& opening) {
   VTY vty("hostName", false);
-  vty.parse("enable\n", true, nullptr);
-  vty.parse("configure terminal \n", true, nullptr);
+  if (steps >= 1) vty.parse("enable\n", true, nullptr);
+  if (steps >= 2) vty.parse("configure terminal \n", true, nullptr);
   for (const std::string& line : opening) vty.parse(line + " \n", true, nullptr);
   std::string discard;
   vty.getOutputString(discard);
@@ -176,39 +226,108 @@ std::string helpAt(const std::vector<std::string>& opening) {
   return out;
 }
 
+struct GoldenCase {
+  const char* file;
+  int steps;
+  std::vector<std::string> opening;
+};
+
 // The help of each mode's root is kept as a golden listing: a change to the
-// definition files that alters it must update the listing on purpose.
+// definition files that alters it must update the listing on purpose
+// (VTYCONF_UPDATE_GOLDEN=1 rewrites the files).
 TEST_F(GrammarIos, HelpListingsOfModeRootsMatchTheGoldenFiles) {
-  const std::pair<const char*, std::vector<std::string>> modes[] = {
-      {"config_root.txt", {}},
-      {"interface_root.txt", {"interface GigabitEthernet0/0"}},
-      {"router_bgp_root.txt", {"router bgp 65000"}},
-      {"line_root.txt", {"line vty 0 4"}},
+  const GoldenCase modes[] = {
+      {"view_root.txt", 0, {}},
+      {"exec_root.txt", 1, {}},
+      {"config_root.txt", 2, {}},
+      {"interface_root.txt", 2, {"interface GigabitEthernet0/0"}},
+      {"router_ospf_root.txt", 2, {"router ospf 1"}},
+      {"router_bgp_root.txt", 2, {"router bgp 65000"}},
+      {"router_bgp_af_root.txt", 2, {"router bgp 65000", "address-family ipv4"}},
+      {"line_root.txt", 2, {"line vty 0 4"}},
+      {"route_map_root.txt", 2, {"route-map RM permit 10"}},
+      {"acl_extended_root.txt", 2, {"ip access-list extended WEB"}},
+      {"acl_standard_root.txt", 2, {"ip access-list standard MGMT"}},
   };
   const std::string folder = std::string(VTYCONF_TEST_DATA_DIR) + "/grammar_ios/";
-  for (const auto& mode : modes) {
-    const std::string listing = helpAt(mode.second);
-    EXPECT_FALSE(listing.empty()) << mode.first;
-    std::ifstream in(folder + mode.first, std::ios::binary);
+  const bool update = std::getenv("VTYCONF_UPDATE_GOLDEN") != nullptr;
+  for (const GoldenCase& mode : modes) {
+    const std::string listing = helpAt(mode.steps, mode.opening);
+    EXPECT_FALSE(listing.empty()) << mode.file;
+    if (update) {
+      std::ofstream(folder + mode.file, std::ios::binary) << listing;
+      continue;
+    }
+    std::ifstream in(folder + mode.file, std::ios::binary);
     if (!in) {
-      if (std::getenv("VTYCONF_UPDATE_GOLDEN") != nullptr) {
-        std::ofstream(folder + mode.first, std::ios::binary) << listing;
-        continue;
-      }
-      ADD_FAILURE() << "golden listing missing: " << mode.first << " (run with VTYCONF_UPDATE_GOLDEN=1)";
+      ADD_FAILURE() << "golden listing missing: " << mode.file << " (run with VTYCONF_UPDATE_GOLDEN=1)";
       continue;
     }
     std::stringstream golden;
     golden << in.rdbuf();
-    EXPECT_EQ(listing, golden.str()) << mode.first;
+    EXPECT_EQ(listing, golden.str()) << mode.file;
   }
 }
 
-TEST_F(GrammarIos, CorpusRefusedShareStaysAtOrBelowTheRecordedFigure) {
+// Listings of different modes must differ: a mode whose opening line failed
+// would show its parent's listing and still match a golden file written then.
+TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
+  const std::string config = helpAt(2, {});
+  EXPECT_NE(helpAt(2, {"interface GigabitEthernet0/0"}), config);
+  EXPECT_NE(helpAt(2, {"router ospf 1"}), config);
+  EXPECT_NE(helpAt(2, {"route-map RM permit 10"}), config);
+  EXPECT_NE(helpAt(2, {"ip access-list extended WEB"}), config);
+  EXPECT_NE(helpAt(1, {}), helpAt(0, {}));
+  EXPECT_NE(helpAt(1, {}), config);
+}
+
+// Refused corpus lines that are left uncovered on purpose, each with its
+// reason (the same list stands in docs/definition-files.md). `file` limits an
+// entry to the files whose name begins with it.
+struct Exclusion {
+  const char* file;
+  const char* pattern;
+  const char* reason;
+};
+
+const Exclusion kExclusions[] = {
+    {"", R"(([0-9A-Fa-f]{1,8} )*[0-9A-Fa-f]{1,8})", "certificate data (free data until quit)"},
+    {"", "quit", "end of certificate data"},
+    {"", R"([A-Za-z0-9+/]{20,}=*)", "public-key data under key-string"},
+    {"", R"(\S+\^C)", "banner closing line with text before the delimiter"},
+    {"", R"((Building configuration|Current configuration|show run).*)", "terminal capture"},
+    {"", "(\xEF\xBB\xBF)?[A-Za-z0-9_.-]+#.*", "terminal capture: a prompt with the command typed"},
+    {"cisco-labs__SW", ".*", "a typed script: exec commands and abbreviations (config, int rang g0/0 -3)"},
+    {"config2spec__", R"(interface Ge0/0|ip address .*|description .*|speed auto|duplex auto|ip ospf cost .*)",
+     "Ge is no abbreviation of an interface type: the device refuses the interface and so its lines"},
+    {"", R"(add ipv4 unicast auto \d+|af-interface gig\d+|summary \S+|topology base|red bgp .*)",
+     "named EIGRP typed with abbreviations"},
+    {"", "passsive-interface .*", "misspelled command"},
+    {"", "somesay!", "stray text"},
+    {"", "permit esp host any any", "host without an address"},
+    {"", R"(ip address \S+)", "address without a mask"},
+    {"ciscoconfparse__sample_08", "(default-router|lease) .*", "no commands of a DHCPv6 pool"},
+    {"ciscoconfparse__sample_08", "default-information metric .*", "keywords in an order the device refuses"},
+    {"ciscoconfparse__sample_09", R"(ipv6 address \S+This publication.*)", "document text pasted into the line"},
+};
+
+const char* exclusionReason(const std::string& file, const std::string& line) {
+  std::string text = line;
+  while (!text.empty() && (text.back() == '\n' || text.back() == ' ' || text.back() == '\r')) text.pop_back();
+  for (const Exclusion& e : kExclusions) {
+    if (file.compare(0, std::strlen(e.file), e.file) != 0) continue;
+    if (std::regex_match(text, std::regex(e.pattern))) return e.reason;
+  }
+  return nullptr;
+}
+
+// Every refused line of the corpus is one of the documented exclusions, and
+// their share stays at or below the recorded figure.
+TEST_F(GrammarIos, CorpusRefusesOnlyTheDocumentedLines) {
   const std::filesystem::path folder = std::filesystem::path(VTYCONF_SHARED_CORPUS_DIR) / "public";
   if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
   size_t lines = 0, refusedLines = 0;
-  std::string worst;
+  std::string unexplained;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.path().extension() != ".cfg") continue;
     std::ifstream in(entry.path(), std::ios::binary);
@@ -218,13 +337,195 @@ TEST_F(GrammarIos, CorpusRefusedShareStaysAtOrBelowTheRecordedFigure) {
     std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
     lines += records.size();
     refusedLines += refused.size();
-    if (!refused.empty() && worst.empty()) worst = entry.path().filename().string() + ": " + firstLine(refused.front());
+    const std::string name = entry.path().filename().string();
+    for (const std::string& line : refused) {
+      if (exclusionReason(name, line) == nullptr) unexplained += name + ": " + firstLine(line) + "\n";
+    }
     QxParserUtil::deleteCommands(records);
   }
   ASSERT_GT(lines, 0u);
+  EXPECT_EQ(unexplained, "") << "refused lines that no documented exclusion explains";
   const double share = 100.0 * static_cast<double>(refusedLines) / static_cast<double>(lines);
-  // Banner text and capture lines count as refused here; the CLI leaves them out.
-  EXPECT_LE(share, kRecordedRefusedShare) << refusedLines << " of " << lines << " lines refused, e.g. " << worst;
+  // Capture lines ("Building configuration...") count as refused here; the CLI leaves them out.
+  EXPECT_LE(share, kRecordedRefusedShare) << refusedLines << " of " << lines << " lines refused";
+}
+
+TEST_F(GrammarIos, ExclusionsDoNotExplainOrdinaryCommands) {
+  const char* const lines[] = {"hostname R1", "interface GigabitEthernet0/0", "ip address 10.0.0.1 255.255.255.0",
+                               "access-list 10 permit any", "crypto pki certificate chain TP", "description uplink"};
+  for (const char* line : lines) EXPECT_EQ(exclusionReason("any.cfg", line), nullptr) << line;
+  EXPECT_NE(exclusionReason("any.cfg", "3082032E 30820216 A0030201"), nullptr);
+  EXPECT_NE(exclusionReason("any.cfg", "*****^C"), nullptr);
+  EXPECT_EQ(exclusionReason("any.cfg", "^C"), nullptr);
+  EXPECT_NE(exclusionReason("any.cfg", "R1#show run"), nullptr);
+}
+
+std::string trimmed(const std::string& text) {
+  std::string out;
+  for (char c : text) {
+    if (c != '\0' && c != '\r') out += c;  // merged text indents deeper levels with NUL bytes
+  }
+  const size_t start = out.find_first_not_of(" \n");
+  if (start == std::string::npos) return std::string();
+  const size_t end = out.find_last_not_of(" \n");
+  return out.substr(start, end - start + 1);
+}
+
+// A merge of a one-line change into a real configuration keeps every other
+// command of it: a command that the grammar reads but the merge drops (a
+// "no" form that is not marked as shown, a mode that swallowed its
+// neighbours) is a fault of the definition files.
+TEST_F(GrammarIos, MergingOneLineIntoTheCorpusLosesNoCommand) {
+  const std::filesystem::path folder = std::filesystem::path(VTYCONF_SHARED_CORPUS_DIR) / "public";
+  if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
+  std::string lost;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() != ".cfg") continue;
+    std::ifstream in(entry.path(), std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    std::vector<std::string> refused;
+    std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
+    std::multiset<std::string> expected;
+    for (const CiscoCommandLine* record : records) {
+      if (record->getFlag() == qxparser::CMD_TEXT || isRefused(*record)) continue;
+      const std::string text = trimmed(record->getOriginalCmd());
+      if (!text.empty() && text.compare(0, 9, "hostname ") != 0) expected.insert(text);
+    }
+    QxParserUtil::deleteCommands(records);
+    std::multiset<std::string> merged;
+    std::istringstream out(QxParserUtil::mergeConfigCmds("hostname CHANGED\n", buffer.str()));
+    std::string line;
+    while (std::getline(out, line)) merged.insert(trimmed(line));
+    for (const std::string& text : expected) {
+      auto found = merged.find(text);
+      if (found == merged.end()) {
+        lost += entry.path().filename().string() + ": " + text + "\n";
+      } else {
+        merged.erase(found);
+      }
+    }
+  }
+  EXPECT_EQ(lost, "") << "commands that a merge of one line dropped";
+}
+
+// What a merge and a rollback make of small real-world changes: the flags,
+// order templates and overwrite marks of the shipped grammar decide this.
+struct MeaningCase {
+  const char* name;
+  const char* config;
+  const char* changes;
+  const char* merged;    // mergeConfigCmds(changes, config)
+  const char* rollback;  // fallbackConfigCmds(changes, config, 0): undoes the changes
+};
+
+TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
+  const MeaningCase cases[] = {
+      {"a new ip address replaces the old one in place",
+       "interface GigabitEthernet0/0\n description uplink\n ip address 10.0.0.1 255.255.255.0\n shutdown\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.9 255.255.255.0\n",
+       "interface gigabitethernet 0/0 \n description uplink \n ip address 10.0.0.9 255.255.255.0 \n shutdown \n!\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n"},
+      {"a secondary address stands beside the primary one",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.1.1 255.255.255.0 secondary\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n"
+       " ip address 10.0.1.1 255.255.255.0 secondary \n!\n",
+       "interface gigabitethernet 0/0 \n no ip address 10.0.1.1 255.255.255.0 secondary \n!\n"},
+      {"no shutdown removes shutdown",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n shutdown\n",
+       "interface GigabitEthernet0/0\n no shutdown\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n",
+       "interface gigabitethernet 0/0 \n shutdown \n!\n"},
+      {"no access-list removes the whole list and only it",
+       "hostname R1\naccess-list 10 permit 10.0.0.0 0.0.0.255\naccess-list 10 deny any\naccess-list 20 permit any\n",
+       "no access-list 10\n",
+       "hostname R1 \naccess-list 20 permit any \n",
+       "access-list 10 permit 10.0.0.0 0.0.0.255 \naccess-list 10 deny any \n"},
+      {"a new entry lands behind the others of its list",
+       "access-list 10 deny host 10.0.0.1\naccess-list 10 permit any\naccess-list 20 permit any\n",
+       "access-list 10 permit host 10.0.0.2\n",
+       "access-list 10 deny host 10.0.0.1 \naccess-list 10 permit any \naccess-list 10 permit host 10.0.0.2 \n"
+       "access-list 20 permit any \n",
+       "no access-list 10 permit host 10.0.0.2 \n"},
+      {"a new entry of a named list goes to its end",
+       "ip access-list extended WEB\n permit tcp any any eq 443\n deny ip any any log\n",
+       "ip access-list extended WEB\n permit tcp any any eq www established\n",
+       "ip access-list extended WEB \n permit tcp any any eq 443 \n deny ip any any log \n"
+       " permit tcp any any eq www established \n!\n",
+       "ip access-list extended WEB \n no permit tcp any any eq www established \n!\n"},
+      {"ip redirects cancels the stored no form",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n no ip redirects\n",
+       "interface GigabitEthernet0/0\n ip redirects\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n",
+       "interface gigabitethernet 0/0 \n no ip redirects \n!\n"},
+      {"a new neighbor lands behind the others of its router",
+       "router ospf 1\n network 10.0.0.0 0.0.0.255 area 0\n!\nrouter bgp 65000\n neighbor 10.0.0.2 remote-as 65001\n"
+       " neighbor 10.0.0.3 remote-as 65002\n",
+       "router bgp 65000\n neighbor 10.0.0.4 remote-as 65003\n",
+       "router ospf 1 \n network 10.0.0.0 0.0.0.255 area 0 \n!\nrouter bgp 65000 \n neighbor 10.0.0.2 remote-as 65001 \n"
+       " neighbor 10.0.0.3 remote-as 65002 \n neighbor 10.0.0.4 remote-as 65003 \n!\n",
+       "router bgp 65000 \n no neighbor 10.0.0.4 remote-as 65003 \n!\n"},
+      {"a description and an access vlan are one value each",
+       "interface GigabitEthernet0/1\n description old text\n switchport access vlan 10\n switchport mode access\n",
+       "interface GigabitEthernet0/1\n description new text here\n switchport access vlan 20\n",
+       "interface gigabitethernet 0/1 \n description new text here \n switchport access vlan 20 \n"
+       " switchport mode access \n!\n",
+       "interface gigabitethernet 0/1 \n description old text \n switchport access vlan 10 \n!\n"},
+      {"a keepalive interval is shown, the bare default is not",
+       "interface Serial0/0\n keepalive 30\n",
+       "interface Serial0/0\n keepalive 10\n",
+       "interface serial 0/0 \n keepalive 10 \n!\n",
+       "interface serial 0/0 \n keepalive 30 \n!\n"},
+      {"a setting shown in both forms replaces its other form",
+       "hostname R1\nno service password-encryption\nno ip http server\n",
+       "service password-encryption\nip http server\n",
+       "hostname R1 \nservice password-encryption \nip http server \n",
+       "no service password-encryption \nno ip http server \n"},
+      {"a new host name overwrites the old one",
+       "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
+       "hostname R2\n",
+       "hostname R2 \ninterface loopback 0 \n ip address 10.9.9.9 255.255.255.255 \n!\n",
+       "hostname R1 \n"},
+  };
+  for (const MeaningCase& c : cases) {
+    EXPECT_EQ(QxParserUtil::mergeConfigCmds(c.changes, c.config), c.merged) << c.name;
+    EXPECT_EQ(QxParserUtil::fallbackConfigCmds(c.changes, c.config, 0), c.rollback) << c.name;
+  }
+}
+
+// The definition files are generated: the committed files must be what the
+// generator writes from the committed sources, and no generated file may be
+// left over from a source that is gone.
+TEST_F(GrammarIos, DefinitionFilesEqualTheGeneratorsOutput) {
+  namespace fs = std::filesystem;
+  if (std::system("python3 -c pass > /dev/null 2>&1") != 0) GTEST_SKIP() << "python3 is not available";
+  const fs::path source(VTYCONF_SOURCE_DIR);
+  const fs::path out = fs::temp_directory_path() / ("vtyconf-grammar-" + std::to_string(std::random_device{}()));
+  fs::remove_all(out);
+  fs::create_directories(out);
+  const std::string command =
+      "python3 \"" + (source / "scripts" / "grammar" / "gen.py").string() + "\" \"" + out.string() + "\"";
+  ASSERT_EQ(std::system(command.c_str()), 0) << command;
+  auto readAll = [](const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    return buffer.str();
+  };
+  size_t generated = 0;
+  for (const auto& entry : fs::directory_iterator(out)) {
+    ++generated;
+    const fs::path committed = source / "resources" / "files" / entry.path().filename();
+    ASSERT_TRUE(fs::exists(committed)) << committed << " is generated but not committed";
+    EXPECT_EQ(readAll(entry.path()), readAll(committed)) << committed << " differs from the generator's output";
+  }
+  EXPECT_GT(generated, 3u);
+  for (const auto& entry : fs::directory_iterator(source / "resources" / "files")) {
+    if (entry.path().extension() != ".cfm") continue;
+    EXPECT_TRUE(fs::exists(out / entry.path().filename())) << entry.path() << " has no source";
+  }
+  fs::remove_all(out);
 }
 
 }  // namespace

@@ -1,0 +1,62 @@
+active|activate the profile|k/sn||
+  <cr>||||
+  !
+!
+destination|destination|k||
+  transport-method|transport-method|k||
+    http|http|k/o||
+      <cr>||||
+      !
+    !
+    email|email|k/o||
+      <cr>||||
+      !
+    !
+  !
+  address|address|k||
+    http|http|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    email|email|k||
+      word|word|m||
+        <cr>||||
+        !
+      !
+    !
+  !
+  message-size-limit|message-size-limit|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  preferred-msg-format|preferred-msg-format|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+reporting|reporting|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+subscribe-to-alert-group|alert group subscription|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+anonymous-reporting-only|anonymous-reporting-only|k||
+  <cr>||||
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

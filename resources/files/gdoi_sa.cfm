@@ -1,0 +1,44 @@
+profile|ipsec profile|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+match|traffic selection|k||
+  address|address|k||
+    ipv4|ipv4|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+replay|anti-replay|k||
+  time|time|k||
+    window-size|window-size|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  counter|counter|k||
+    window-size|window-size|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+tag|security group tag|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

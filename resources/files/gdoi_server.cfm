@@ -1,0 +1,88 @@
+rekey|rekey parameters|k||
+  algorithm|algorithm|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  retransmit|retransmit|k||
+    id|id|||
+      number|number|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      periodic|periodic|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  authentication|authentication|k||
+    mypubkey|mypubkey|k||
+      rsa|rsa|k||
+        word|word|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  transport|transport|k||
+    unicast|unicast|k||
+      <cr>||||
+      !
+    !
+  !
+  lifetime|lifetime|k||
+    seconds|seconds|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  address|address|k||
+    ipv4|ipv4|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+sa|security association|k||
+  ipsec|ipsec|k||
+    id|id|k||
+      <cr>||||@(gkm-sa-ipsec)# gdoi_sa.cfm
+      !
+    !
+  !
+  receive-only|receive-only|k||
+    <cr>||||
+    !
+  !
+!
+address|server address|k||
+  ipv4|ipv4|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+  !
+!
+redundancy|key server redundancy|k||
+  <cr>||||@(gdoi-coop-ks-config)# gdoi_redundancy.cfm
+  !
+!
+authorization|group member authorization|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!

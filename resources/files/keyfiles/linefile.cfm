@@ -1,0 +1,1 @@
+line|configure a terminal line
