@@ -643,7 +643,7 @@ router|enable a routing process|k||
   !
 !
 access-list|add an access list entry|k||
-  <1-99>|ip standard access list|k||
+  <1-99>|ip standard access list|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -657,7 +657,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <1300-1999>|ip standard access list (expanded range)|k||
+  <1300-1999>|ip standard access list (expanded range)|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -671,7 +671,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <100-199>|ip extended access list|k||
+  <100-199>|ip extended access list|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm
@@ -691,7 +691,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <2000-2699>|ip extended access list (expanded range)|k||
+  <2000-2699>|ip extended access list (expanded range)|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm

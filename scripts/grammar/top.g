@@ -221,17 +221,17 @@ router "enable a routing process"
     word :k @(config-router)#=router_isis.cfm
   lisp @(config-router-lisp)#=router_rip.cfm
 access-list "add an access list entry"
-  <1-99> :k "ip standard access list"
+  <1-99> :k/n "ip standard access list"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <1300-1999> :k "ip standard access list (expanded range)"
+  <1300-1999> :k/n "ip standard access list (expanded range)"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <100-199> :k "ip extended access list"
+  <100-199> :k/n "ip extended access list"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     dynamic :-k
@@ -239,7 +239,7 @@ access-list "add an access list entry"
         permit :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <2000-2699> :k "ip extended access list (expanded range)"
+  <2000-2699> :k/n "ip extended access list (expanded range)"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $

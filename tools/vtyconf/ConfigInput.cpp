@@ -189,11 +189,12 @@ bool readInput(const std::string& path, std::string& text, bool keepCapture) {
 bool isRefusedRecord(const qxparser::CiscoCommandLine& record) {
   if (record.getFlag() == qxparser::CMD_TEXT) return false;
   if (record.getTreeNodeSize() == 0) return true;
-  if (record.hasFlags(qxparser::CMDBIT_NO)) return false;
   for (const auto& entry : record.getTreeNodes()) {
     if (entry.words.count("\n") != 0) return false;
   }
-  return true;
+  // A "no" line may stop early where the grammar allows it; where it does
+  // not, the device answered "% Incomplete command.".
+  return !record.hasFlags(qxparser::CMDBIT_NO) || record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
 }
 
 bool loadResources() {

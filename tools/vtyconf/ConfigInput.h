@@ -50,7 +50,8 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 bool readInput(const std::string& path, std::string& text, bool keepCapture = false);
 
 // A refused line: its walk found no path, or a path that never reached the
-// end of a command (a "no" line may stop early on purpose). Comment records
+// end of a command (a "no" line may stop early where the grammar allows it,
+// and is refused where the grammar does not). Comment records
 // are never refused; banner text is the caller's to leave out.
 bool isRefusedRecord(const qxparser::CiscoCommandLine& record);
 

@@ -37,10 +37,10 @@ std::vector<DiffLine> align(const std::vector<std::string>& a, const std::vector
       out.push_back({' ', a[i]});
       ++i;
       ++j;
-    } else if (j < m && (i == n || common[i][j + 1] >= common[i + 1][j])) {
-      out.push_back({'+', b[j++]});
-    } else {
+    } else if (i < n && (j == m || common[i + 1][j] >= common[i][j + 1])) {
       out.push_back({'-', a[i++]});
+    } else {
+      out.push_back({'+', b[j++]});
     }
   }
   return out;

@@ -44,24 +44,10 @@ std::string groupKey(const std::string& line) {
   return key;
 }
 
-struct FileResult {
-  size_t lines = 0;
-  size_t refused = 0;
-};
-
-// A refused line keeps no path, or (an incomplete one) a path that never
-// reached the end of a command; a "no" line may stop early on purpose.
-bool reachedEnd(const CiscoCommandLine& record) {
-  for (const auto& entry : record.getTreeNodes()) {
-    if (entry.words.count("\n") != 0) return true;
-  }
-  return false;
-}
 
 bool isRefused(const CiscoCommandLine& record, const ConfigInput& input) {
-  if (record.getFlag() == qxparser::CMD_TEXT || input.isBannerText(record.getLineNo())) return false;
-  if (record.getTreeNodeSize() == 0) return true;
-  return !reachedEnd(record) && !record.hasFlags(qxparser::CMDBIT_NO);
+  if (input.isBannerText(record.getLineNo())) return false;
+  return isRefusedRecord(record);
 }
 
 // The file line at which the reading of `input` raises an exception: the
