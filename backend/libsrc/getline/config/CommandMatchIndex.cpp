@@ -32,10 +32,16 @@ CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) :
   for (size_t i = 0; i < mCommands.size(); ++i) enter(mCommands[i], static_cast<double>(i));
 }
 
+void CommandMatchIndex::place(Bucket& bucket, const Ranked& entry) {
+  auto at = std::upper_bound(bucket.begin(), bucket.end(), entry.rank,
+                             [](double rank, const Ranked& other) { return rank < other.rank; });
+  bucket.insert(at, entry);
+}
+
 void CommandMatchIndex::enter(CiscoCommandLine* record, double rank) {
   mRank[record] = rank;
   std::string key = signature(record);
-  mBuckets[key].push_back(record);
+  place(mBuckets[key], Ranked{rank, record});
   mSignature[record] = std::move(key);
 }
 
@@ -48,16 +54,12 @@ size_t CommandMatchIndex::positionOf(double rank) const {
 size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
   auto bucket = mBuckets.find(signature(probe));
   if (bucket == mBuckets.end()) return npos;
-  const CiscoCommandLine* best = nullptr;
-  double bestRank = 0;
-  for (const CiscoCommandLine* candidate : bucket->second) {
-    const double rank = mRank.at(candidate);
-    if (best && rank >= bestRank) continue;
-    if (!candidate->isComparable(probe)) continue;
-    best = candidate;
-    bestRank = rank;
+  // The bucket stands in the level's order: the first that is comparable
+  // (not removed, with a path) is the answer.
+  for (const Ranked& candidate : bucket->second) {
+    if (candidate.record->isComparable(probe)) return positionOf(candidate.rank);
   }
-  return best ? positionOf(bestRank) : npos;
+  return npos;
 }
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
@@ -78,6 +80,10 @@ void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
 
 void CommandMatchIndex::renumber() {
   for (size_t i = 0; i < mCommands.size(); ++i) mRank[mCommands[i]] = static_cast<double>(i);
+  // Renumbering keeps the order, so the buckets only take the new ranks.
+  for (auto& bucket : mBuckets) {
+    for (Ranked& entry : bucket.second) entry.rank = mRank.at(entry.record);
+  }
 }
 
 void CommandMatchIndex::refresh(size_t position) {
@@ -86,8 +92,9 @@ void CommandMatchIndex::refresh(size_t position) {
   std::string& old = mSignature[record];
   if (key == old) return;
   auto& bucket = mBuckets[old];
-  bucket.erase(std::remove(bucket.begin(), bucket.end(), record), bucket.end());
-  mBuckets[key].push_back(record);
+  bucket.erase(std::remove_if(bucket.begin(), bucket.end(), [record](const Ranked& e) { return e.record == record; }),
+               bucket.end());
+  place(mBuckets[key], Ranked{mRank.at(record), record});
   old = std::move(key);
 }
 

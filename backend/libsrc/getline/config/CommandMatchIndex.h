@@ -4,8 +4,9 @@
 // Two commands are comparable exactly when their key signatures agree: the
 // positions, nodes and words of the path elements whose node has the key
 // attribute. The index keeps the level's commands in buckets by signature,
-// so the first comparable command is found without a scan, and answers
-// exactly what a scan from the front with isComparable would. The first
+// each bucket in the order of the level, so the first comparable command is
+// found without a scan, and answers exactly what a scan from the front with
+// isComparable would. The first
 // noable command is still found by a scan.
 //
 // The index works on a vector that it does not own. All insertions into the
@@ -42,7 +43,14 @@ class CommandMatchIndex {
   static std::string signature(const CiscoCommandLine* command);
 
  private:
+  struct Ranked {
+    double rank;
+    CiscoCommandLine* record;
+  };
+  using Bucket = std::vector<Ranked>;
+
   void enter(CiscoCommandLine* record, double rank);
+  static void place(Bucket& bucket, const Ranked& entry);
   void renumber();
   size_t positionOf(double rank) const;
 
@@ -51,7 +59,7 @@ class CommandMatchIndex {
   // of its neighbours' ranks.
   std::unordered_map<const CiscoCommandLine*, double> mRank;
   std::unordered_map<const CiscoCommandLine*, std::string> mSignature;
-  std::unordered_map<std::string, std::vector<CiscoCommandLine*>> mBuckets;
+  std::unordered_map<std::string, Bucket> mBuckets;
 };
 
 }  // namespace qxparser

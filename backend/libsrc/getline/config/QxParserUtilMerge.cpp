@@ -3,6 +3,7 @@
 #include <set>
 
 #include "config/CommandMatchIndex.h"
+#include "config/DeviceOrderSort.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
@@ -169,21 +170,9 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
 
 void QxParserUtil::SortCiscoCommands(std::vector<CiscoCommandLine*>& commands) {
   // A selection sort on purpose: the comparison is not a strict order, and
-  // the result depends on this very procedure.
-  const size_t count = commands.size();
-  for (size_t i = 0; i < count; ++i) {
-    size_t candidate = i;
-    for (size_t j = i + 1; j < count; ++j) {
-      const CiscoCommandLine* held = commands[candidate];
-      const CiscoCommandLine* other = commands[j];
-      if (held->getLineNo() >= 1 && other->getLineNo() >= 1) {
-        if (held->getLineNo() > other->getLineNo()) candidate = j;
-      } else if (held->getOrderNo() >= 1 && other->getOrderNo() >= 1) {
-        if (held->getOrderNo() > other->getOrderNo()) candidate = j;
-      }
-    }
-    if (candidate != i) std::swap(commands[i], commands[candidate]);
-  }
+  // the result depends on this very procedure. sortByDeviceOrder gives the
+  // procedure's result without its quadratic scan.
+  sortByDeviceOrder(commands);
 }
 
 std::string QxParserUtil::expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth) {
