@@ -7,19 +7,10 @@
 
 #include "config/CommandMatchIndex.h"
 #include "config/QxParserUtil.h"
+#include "config/RecordCopy.h"
 #include "platform/StlHelper.h"
 
 namespace qxparser {
-
-namespace {
-
-CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
-  auto* copy = new CiscoCommandLine(*source);
-  copy->setParentCommand(parent, false);
-  return copy;
-}
-
-}  // namespace
 
 CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
   auto negated = std::make_unique<CiscoCommandLine>();

@@ -5,18 +5,9 @@
 #include "config/CommandMatchIndex.h"
 #include "config/DeviceOrderSort.h"
 #include "config/QxParserUtil.h"
+#include "config/RecordCopy.h"
 
 namespace qxparser {
-
-namespace {
-
-CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
-  auto* copy = new CiscoCommandLine(*source);
-  copy->setParentCommand(parent, false);
-  return copy;
-}
-
-}  // namespace
 
 void QxParserUtil::deleteTopLevel(std::vector<CiscoCommandLine*>& commands) {
   for (CiscoCommandLine* record : commands) {
