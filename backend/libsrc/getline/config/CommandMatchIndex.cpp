@@ -1,4 +1,4 @@
-// First-match lookups over one nesting level of commands.
+// First-match lookups and comparable runs over one nesting level of commands.
 #include "config/CommandMatchIndex.h"
 
 #include <algorithm>
@@ -6,6 +6,13 @@
 #include "grammar/ParserTreeNode.h"
 
 namespace qxparser {
+
+namespace {
+
+constexpr uint64_t kSpacing = uint64_t{1} << 24;
+constexpr uint64_t kMinimumGap = uint64_t{1} << 8;
+
+}  // namespace
 
 std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
   std::string key;
@@ -29,35 +36,130 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
 }
 
 CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
-  for (size_t i = 0; i < mCommands.size(); ++i) enter(mCommands[i], static_cast<double>(i));
+  mSlots.reserve(mCommands.size());
+  for (size_t i = 0; i < mCommands.size(); ++i) {
+    auto data = std::make_unique<Slot>();
+    data->record = mCommands[i];
+    data->rank = (i + 1) * kSpacing;
+    describe(*data);
+    if (data->live) enterLive(*data, true);
+    mSlots[mCommands[i]] = std::move(data);
+  }
+  for (size_t i = 0; i < mCommands.size(); ++i) updateRun(i);
 }
 
-void CommandMatchIndex::place(Bucket& bucket, const Ranked& entry) {
-  auto at = std::upper_bound(bucket.begin(), bucket.end(), entry.rank,
-                             [](double rank, const Ranked& other) { return rank < other.rank; });
-  bucket.insert(at, entry);
+CommandMatchIndex::~CommandMatchIndex() = default;
+
+CommandMatchIndex::Slot& CommandMatchIndex::slot(const CiscoCommandLine* record) const {
+  return *mSlots.at(record);
 }
 
-void CommandMatchIndex::enter(CiscoCommandLine* record, double rank) {
-  mRank[record] = rank;
-  std::string key = signature(record);
-  place(mBuckets[key], Ranked{rank, record});
-  mSignature[record] = std::move(key);
+void CommandMatchIndex::describe(Slot& data) {
+  const CiscoCommandLine* record = data.record;
+  data.live = !record->hasFlags(CMDBIT_REMOVED) && !record->getTreeNodes().empty();
+  data.bucket = nullptr;
+  if (!record->getTreeNodes().empty()) {
+    std::unique_ptr<Bucket>& bucket = mBuckets[signature(record)];
+    if (!bucket) bucket = std::make_unique<Bucket>();
+    data.bucket = bucket.get();
+  }
+  data.text = record->getCurrentCommand();
+  data.negated = record->hasFlags(CMDBIT_NO);
 }
 
-size_t CommandMatchIndex::positionOf(double rank) const {
+void CommandMatchIndex::enterLive(Slot& data, bool atEnd) {
+  Bucket& bucket = *data.bucket;
+  RankSet& sign = data.negated ? bucket.negated : bucket.positive;
+  RankSet& sameText = bucket.byText[data.text];
+  if (atEnd) {
+    // Records come in level order while the index is built.
+    bucket.live.insert(bucket.live.end(), &data);
+    sameText.insert(sameText.end(), &data);
+    sign.insert(sign.end(), &data);
+  } else {
+    bucket.live.insert(&data);
+    sameText.insert(&data);
+    sign.insert(&data);
+  }
+}
+
+void CommandMatchIndex::leaveLive(Slot& data) {
+  Bucket& bucket = *data.bucket;
+  bucket.live.erase(&data);
+  bucket.stops.erase(&data);
+  (data.negated ? bucket.negated : bucket.positive).erase(&data);
+  auto sameText = bucket.byText.find(data.text);
+  if (sameText != bucket.byText.end()) {
+    sameText->second.erase(&data);
+    if (sameText->second.empty()) bucket.byText.erase(sameText);
+  }
+}
+
+void CommandMatchIndex::updateRun(size_t position) {
+  Slot& data = slot(mCommands[position]);
+  if (!data.live) return;
+  bool continues = false;
+  if (position + 1 < mCommands.size()) {
+    const Slot& next = slot(mCommands[position + 1]);
+    continues = next.live && next.bucket == data.bucket;
+  }
+  if (continues) {
+    data.bucket->stops.erase(&data);
+  } else {
+    data.bucket->stops.insert(&data);
+  }
+}
+
+size_t CommandMatchIndex::positionOf(uint64_t rank) const {
   auto found = std::lower_bound(mCommands.begin(), mCommands.end(), rank,
-                                [this](const CiscoCommandLine* c, double r) { return mRank.at(c) < r; });
+                                [this](const CiscoCommandLine* c, uint64_t r) { return slot(c).rank < r; });
   return static_cast<size_t>(found - mCommands.begin());
+}
+
+void CommandMatchIndex::spread(size_t position) {
+  // Widen a window of positions around the gap in front of `position` until
+  // the ranks that bound it leave room for every member and one more, then
+  // space the members evenly between those bounds. Ranks outside keep their
+  // values, so every order stays as it was. At the end of the level the
+  // bound is free.
+  const size_t count = mCommands.size();
+  for (size_t half = 1;; half *= 2) {
+    const size_t low = position > half ? position - half : 0;
+    const size_t high = std::min(count - 1, position + half - 1);
+    const uint64_t members = high - low + 1;
+    const uint64_t leftBound = low > 0 ? slot(mCommands[low - 1]).rank : 0;
+    const uint64_t rightBound =
+        high + 1 < count ? slot(mCommands[high + 1]).rank : slot(mCommands[high]).rank + kSpacing * (members + 1);
+    const uint64_t step = (rightBound - leftBound) / (members + 1);
+    if (step < kMinimumGap) continue;
+    for (uint64_t j = 0; j < members; ++j) slot(mCommands[low + j]).rank = leftBound + step * (j + 1);
+    return;
+  }
+}
+
+uint64_t CommandMatchIndex::rankFor(size_t position) {
+  if (position >= mCommands.size()) return (position > 0 ? slot(mCommands[position - 1]).rank : 0) + kSpacing;
+  auto bounds = [&](uint64_t& before, uint64_t& after) {
+    before = position > 0 ? slot(mCommands[position - 1]).rank : 0;
+    after = slot(mCommands[position]).rank;
+  };
+  uint64_t before = 0;
+  uint64_t after = 0;
+  bounds(before, after);
+  if (after - before < 2) {
+    spread(position);
+    bounds(before, after);
+  }
+  return before + (after - before) / 2;
 }
 
 size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
   auto bucket = mBuckets.find(signature(probe));
   if (bucket == mBuckets.end()) return npos;
-  // The bucket stands in the level's order: the first that is comparable
-  // (not removed, with a path) is the answer.
-  for (const Ranked& candidate : bucket->second) {
-    if (candidate.record->isComparable(probe)) return positionOf(candidate.rank);
+  // The live commands stand in the level's order: the first that is
+  // comparable is the answer.
+  for (const Slot* candidate : bucket->second->live) {
+    if (candidate->record->isComparable(probe)) return positionOf(candidate->rank);
   }
   return npos;
 }
@@ -69,33 +171,65 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
   return npos;
 }
 
-void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
-  const double before = position == 0 ? -1.0 : mRank.at(mCommands[position - 1]);
-  const double after = position >= mCommands.size() ? before + 2.0 : mRank.at(mCommands[position]);
-  mCommands.insert(mCommands.begin() + static_cast<std::ptrdiff_t>(position), record);
-  const double rank = before + (after - before) / 2;
-  enter(record, rank);
-  if (!(rank > before && rank < after)) renumber();
+CommandMatchIndex::Run CommandMatchIndex::walkRun(size_t at, const CiscoCommandLine* probe) const {
+  Run run;
+  const Slot& start = slot(mCommands[at]);
+  const Bucket& bucket = *start.bucket;
+  auto stop = bucket.stops.lower_bound(start.rank);
+  // Every run ends at a stop: the last live command of a level has no
+  // successor to continue it.
+  const uint64_t lastRank = stop == bucket.stops.end() ? start.rank : (*stop)->rank;
+  uint64_t limit = lastRank;
+  bool beforeEqual = false;
+  auto sameText = bucket.byText.find(probe->getCurrentCommand());
+  if (sameText != bucket.byText.end()) {
+    auto equal = sameText->second.lower_bound(start.rank);
+    if (equal != sameText->second.end() && (*equal)->rank <= lastRank) {
+      run.equal = positionOf((*equal)->rank);
+      limit = (*equal)->rank;
+      beforeEqual = true;
+    }
+  }
+  const RankSet& other = probe->hasFlags(CMDBIT_NO) ? bucket.positive : bucket.negated;
+  for (auto it = other.lower_bound(start.rank); it != other.end(); ++it) {
+    const uint64_t rank = (*it)->rank;
+    if (rank > limit || (beforeEqual && rank == limit)) break;
+    run.otherSign.push_back(positionOf(rank));
+  }
+  run.end = positionOf(lastRank) + 1;
+  return run;
 }
 
-void CommandMatchIndex::renumber() {
-  for (size_t i = 0; i < mCommands.size(); ++i) mRank[mCommands[i]] = static_cast<double>(i);
-  // Renumbering keeps the order, so the buckets only take the new ranks.
-  for (auto& bucket : mBuckets) {
-    for (Ranked& entry : bucket.second) entry.rank = mRank.at(entry.record);
-  }
+void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
+  const uint64_t rank = rankFor(position);
+  mCommands.insert(mCommands.begin() + static_cast<std::ptrdiff_t>(position), record);
+  auto data = std::make_unique<Slot>();
+  data->record = record;
+  data->rank = rank;
+  describe(*data);
+  Slot& entered = *data;
+  mSlots[record] = std::move(data);
+  if (entered.live) enterLive(entered, false);
+  updateRun(position);
+  if (position > 0) updateRun(position - 1);
 }
 
 void CommandMatchIndex::refresh(size_t position) {
-  CiscoCommandLine* record = mCommands[position];
-  std::string key = signature(record);
-  std::string& old = mSignature[record];
-  if (key == old) return;
-  auto& bucket = mBuckets[old];
-  bucket.erase(std::remove_if(bucket.begin(), bucket.end(), [record](const Ranked& e) { return e.record == record; }),
-               bucket.end());
-  place(mBuckets[key], Ranked{mRank.at(record), record});
-  old = std::move(key);
+  Slot& data = slot(mCommands[position]);
+  if (data.live) leaveLive(data);
+  describe(data);
+  if (data.live) enterLive(data, false);
+  updateRun(position);
+  if (position > 0) updateRun(position - 1);
+}
+
+void CommandMatchIndex::removed(CiscoCommandLine* record) {
+  Slot& data = slot(record);
+  if (!data.live) return;
+  leaveLive(data);
+  data.live = false;
+  const size_t position = positionOf(data.rank);
+  if (position > 0) updateRun(position - 1);
 }
 
 }  // namespace qxparser

@@ -42,14 +42,15 @@ std::string QxParserUtil::mergeConfigCmds(const std::string& changes, const std:
 
 void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
                                       CiscoCommandLine* parent) {
-  std::set<CiscoCommandLine*> removed;
-  auto remove = [&removed](CiscoCommandLine* record) {
-    record->setFlags(CMDBIT_REMOVED, false);
-    removed.insert(record);
-  };
   // The first comparable or noable command is looked up through an index of
   // the level; the index answers exactly what a scan from the front would.
   CommandMatchIndex index(config);
+  std::set<CiscoCommandLine*> removed;
+  auto remove = [&removed, &index](CiscoCommandLine* record) {
+    record->setFlags(CMDBIT_REMOVED, false);
+    removed.insert(record);
+    index.removed(record);
+  };
 
   for (CiscoCommandLine* change : changes) {
     const bool stored = change->hasFlags(CMDBIT_STORED);
@@ -111,21 +112,19 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
     if (kind == CMD_ADDITIVE && !opensMode) {
       // Additive commands of one setting stand together; a new one goes at
       // the end of their run.
+      // The walk over the run stops at a command with the same text; the
+      // "no" forms in front of it that negate the change go.
       bool replaced = false;
-      bool inPlace = false;
-      size_t i = at;
-      for (; i < config.size() && config[i]->isComparable(change); ++i) {
-        CiscoCommandLine* current = config[i];
-        if (current->getCurrentCommand() == change->getCurrentCommand()) {
-          inPlace = true;
-          break;
-        }
-        if (current->hasFlags(CMDBIT_NO) && current->isNoable(change)) {
+      const CommandMatchIndex::Run run = index.walkRun(at, change);
+      for (size_t position : run.otherSign) {
+        CiscoCommandLine* current = config[position];
+        if (current->isNoable(change)) {
           remove(current);
           if (current->hasFlags(CMDBIT_STORED)) replaced = true;
         }
       }
-      if (!inPlace && !replaced) index.insert(i, copyUnder(change, parent));
+      const bool inPlace = run.equal != CommandMatchIndex::npos;
+      if (!inPlace && !replaced) index.insert(run.end, copyUnder(change, parent));
     } else if (kind == CMD_ADDITIVE) {
       mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
     } else if (kind == CMD_OVERWRITE) {
