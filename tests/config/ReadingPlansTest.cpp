@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "ShippedGrammar.h"
+#include "config/CmdOrderTable.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/ParserTree.h"
 
@@ -76,6 +77,43 @@ TEST_F(ReadingPlansTest, MixedCaseAndOddLinesReadTheSame) {
       "nonsense words here\n"
       "interface Loopback00\n";
   EXPECT_EQ(readWith(true, text), readWith(false, text));
+}
+
+// The order number of the first template of the file that fits, by a scan.
+int plainOrderNo(const std::vector<CiscoCommandLine*>& templates, const CiscoCommandLine& command, int none) {
+  for (const CiscoCommandLine* templ : templates) {
+    if (templ && templateFits(*templ, command)) return templ->getOrderNo();
+  }
+  return none;
+}
+
+TEST_F(ReadingPlansTest, OrderNumbersAreThoseOfTheFirstFittingTemplate) {
+  const std::vector<CorpusFile> files = corpusFiles();
+  if (files.empty()) GTEST_SKIP() << "no corpus at " << corpusFolder();
+  ASSERT_FALSE(gCmdOrderTable().empty());
+  size_t compared = 0;
+  for (const CorpusFile& file : files) {
+    std::vector<CiscoCommandLine*> records;
+    std::string errorText;
+    int errorLine = 0;
+    QxParserUtil::getCmdInfo(file.text, records, errorText, errorLine);
+    for (const auto& table : gCmdOrderTable()) {
+      ParserTreeNode mode;
+      mode.mFileName = table.first;
+      for (const CiscoCommandLine* record : records) {
+        if (record->getTreeNodes().empty()) continue;
+        CiscoCommandLine copy(*record);
+        copy.delOnlyChildCmds();  // the copy's children are its own
+        copy.setOrderNo(-7);
+        copy.setOrderNo(&mode);
+        ASSERT_EQ(copy.getOrderNo(), plainOrderNo(table.second, *record, -7))
+            << file.name << ": " << record->getOriginalCmd() << " in " << table.first;
+        ++compared;
+      }
+    }
+    QxParserUtil::deleteCommands(records);
+  }
+  EXPECT_GT(compared, 10000u);
 }
 
 // The answer of lookupToken, or the error it throws.

@@ -14,21 +14,29 @@ constexpr uint64_t kMinimumGap = uint64_t{1} << 8;
 
 }  // namespace
 
+namespace {
+
+template <typename T>
+void appendRaw(std::string& key, T value) {
+  key.append(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+}  // namespace
+
 std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
+  // Fixed-size fields and length-prefixed words: equal keys mean equal
+  // positions, nodes and word sets of the key elements.
   std::string key;
-  size_t position = 0;
+  uint32_t position = 0;
   for (const CmdPathEntry& entry : command->getTreeNodes()) {
     if (entry.node && entry.node->hasFlag(NODE_FLAG_K)) {
-      key += std::to_string(position);
-      key += ':';
-      key += std::to_string(reinterpret_cast<uintptr_t>(entry.node));
+      appendRaw(key, position);
+      appendRaw(key, entry.node);
+      appendRaw(key, static_cast<uint32_t>(entry.words.size()));
       for (const std::string& word : entry.words) {
-        key += '\x01';
-        key += std::to_string(word.size());
-        key += '=';
+        appendRaw(key, static_cast<uint32_t>(word.size()));
         key += word;
       }
-      key += '\x02';
     }
     ++position;
   }
