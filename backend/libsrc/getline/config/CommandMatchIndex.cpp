@@ -44,7 +44,9 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
 }
 
 CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
-  mSlots.reserve(mCommands.size());
+  // Reserved up front: rehashing large tables is what building costs most.
+  mSlots.reserve(mCommands.size() + mCommands.size() / 8);
+  mBuckets.reserve(mCommands.size() + mCommands.size() / 8);
   for (size_t i = 0; i < mCommands.size(); ++i) {
     auto data = std::make_unique<Slot>();
     data->record = mCommands[i];
