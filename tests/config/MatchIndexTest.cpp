@@ -42,6 +42,13 @@ TEST_F(MatchIndexTest, FirstComparableEqualsTheScanThroughInsertsAndMarks) {
   commands.erase(commands.begin() + 1, commands.begin() + 4);
 }
 
+size_t scanNoable(const std::vector<CiscoCommandLine*>& commands, const CiscoCommandLine* probe) {
+  for (size_t i = 0; i < commands.size(); ++i) {
+    if (commands[i]->isNoable(probe)) return i;
+  }
+  return CommandMatchIndex::npos;
+}
+
 // The walk as merge and fallback wrote it before the index answered it.
 CommandMatchIndex::Run scanRun(const std::vector<CiscoCommandLine*>& commands, size_t at,
                                const CiscoCommandLine* probe) {
@@ -85,6 +92,7 @@ TEST_F(MatchIndexTest, RunsEqualThePlainWalkThroughGeneratedChanges) {
     CommandMatchIndex index(commands);
     for (int step = 0; step < 150; ++step) {
       for (CiscoCommandLine* probe : kinds) {
+        ASSERT_EQ(index.firstNoable(probe), scanNoable(commands, probe)) << probe->getOriginalCmd() << " step " << step;
         const size_t at = index.firstComparable(probe);
         ASSERT_EQ(at, scanComparable(commands, probe)) << "level " << level << " step " << step;
         if (at == CommandMatchIndex::npos) continue;

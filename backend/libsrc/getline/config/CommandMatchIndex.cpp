@@ -75,18 +75,23 @@ void CommandMatchIndex::describe(Slot& data) {
   }
   data.text = record->getCurrentCommand();
   data.negated = record->hasFlags(CMDBIT_NO);
+  data.firstNode = record->getTreeNodes().empty() ? nullptr : record->getTreeNodes().front().node;
+  data.endsAtOnce = !record->getTreeNodes().empty() && record->getTreeNodes().front().words.count("\n") > 0;
 }
 
 void CommandMatchIndex::enterLive(Slot& data, bool atEnd) {
   Bucket& bucket = *data.bucket;
   RankSet& sign = data.negated ? bucket.negated : bucket.positive;
   RankSet& sameText = bucket.byText[data.text];
+  RankSet& start = data.endsAtOnce ? mEndsAtOnce : mByFirstNode[data.firstNode];
   if (atEnd) {
     // Records come in level order while the index is built.
+    start.insert(start.end(), &data);
     bucket.live.insert(bucket.live.end(), &data);
     sameText.insert(sameText.end(), &data);
     sign.insert(sign.end(), &data);
   } else {
+    start.insert(&data);
     bucket.live.insert(&data);
     sameText.insert(&data);
     sign.insert(&data);
@@ -94,6 +99,12 @@ void CommandMatchIndex::enterLive(Slot& data, bool atEnd) {
 }
 
 void CommandMatchIndex::leaveLive(Slot& data) {
+  if (data.endsAtOnce) {
+    mEndsAtOnce.erase(&data);
+  } else {
+    auto start = mByFirstNode.find(data.firstNode);
+    if (start != mByFirstNode.end()) start->second.erase(&data);
+  }
   Bucket& bucket = *data.bucket;
   bucket.live.erase(&data);
   bucket.stops.erase(&data);
@@ -175,8 +186,25 @@ size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
 }
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
-  for (size_t i = 0; i < mCommands.size(); ++i) {
-    if (mCommands[i]->isNoable(probe)) return i;
+  const auto& path = probe->getTreeNodes();
+  if (path.empty() || path.front().words.count("\n") > 0) {
+    // Such a probe may negate commands of any start: scan.
+    for (size_t i = 0; i < mCommands.size(); ++i) {
+      if (mCommands[i]->isNoable(probe)) return i;
+    }
+    return npos;
+  }
+  // The candidates, in level order: commands starting at the probe's first
+  // node, and those whose first element ends a line.
+  static const RankSet kNone;
+  auto same = mByFirstNode.find(path.front().node);
+  const RankSet& first = same == mByFirstNode.end() ? kNone : same->second;
+  auto a = first.begin();
+  auto b = mEndsAtOnce.begin();
+  while (a != first.end() || b != mEndsAtOnce.end()) {
+    const bool takeA = b == mEndsAtOnce.end() || (a != first.end() && (*a)->rank < (*b)->rank);
+    const Slot* candidate = takeA ? *a++ : *b++;
+    if (candidate->record->isNoable(probe)) return positionOf(candidate->rank);
   }
   return npos;
 }

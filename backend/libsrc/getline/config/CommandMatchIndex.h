@@ -11,8 +11,9 @@
 // not removed). So the first comparable command, the end of its run, the
 // first command of the run with a given text and the commands of the run of
 // the other sign are found without a scan, and are exactly what a scan from
-// the front with isComparable finds. The first noable command is still found
-// by a scan.
+// the front with isComparable finds. A command can only negate another whose
+// path starts at the same node (or one whose path starts with the end of a
+// line), so the first noable command is looked for among those alone.
 //
 // The index works on a vector that it does not own. All insertions into the
 // vector while the index lives must go through append and insert; a record
@@ -32,6 +33,8 @@
 #include "config/CiscoCommandLine.h"
 
 namespace qxparser {
+
+class ParserTreeNode;
 
 class CommandMatchIndex {
  public:
@@ -79,6 +82,8 @@ class CommandMatchIndex {
     std::string text;          // currentCommand when entered
     bool negated = false;      // CMDBIT_NO when entered
     bool live = false;         // in its bucket: has a path, not removed
+    const ParserTreeNode* firstNode = nullptr;
+    bool endsAtOnce = false;   // the first element of the path ends a line
   };
   struct ByRank {
     using is_transparent = void;
@@ -108,6 +113,10 @@ class CommandMatchIndex {
   std::vector<CiscoCommandLine*>& mCommands;
   std::unordered_map<const CiscoCommandLine*, std::unique_ptr<Slot>> mSlots;
   std::unordered_map<std::string, std::unique_ptr<Bucket>> mBuckets;
+  // Live commands by the first node of their path; those whose first element
+  // ends a line apart.
+  std::unordered_map<const ParserTreeNode*, RankSet> mByFirstNode;
+  RankSet mEndsAtOnce;
 };
 
 }  // namespace qxparser
