@@ -146,6 +146,9 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
     EXPECT_EQ(result.status, 0) << row.args << "\n" << result.err;
     EXPECT_EQ(result.out, row.expected) << row.args;
   }
+  const Outcome fromStdin = run("fallback --delta - '" + config + "'", kChanges);
+  EXPECT_EQ(fromStdin.status, 0) << fromStdin.err;
+  EXPECT_EQ(fromStdin.out, rows[0].expected);
   // Undoing the changes restores the old host name; going from the old
   // configuration to the new one sets the new name.
   EXPECT_NE(run(rows[0].args).out.find("hostname r1 \n"), std::string::npos);
