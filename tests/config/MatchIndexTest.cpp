@@ -35,6 +35,7 @@ TEST_F(MatchIndexTest, FirstComparableEqualsTheScanThroughInsertsAndMarks) {
     // Copies go in front of their twins, and the first twin is marked.
     added.push_back(std::make_unique<CiscoCommandLine>(*probes[static_cast<size_t>(round)]));
     index.insert(1, added.back().get());
+    index.commit();
     commands[2 + static_cast<size_t>(round)]->setFlags(CMDBIT_REMOVED, false);
     index.removed(commands[2 + static_cast<size_t>(round)]);
   }
@@ -108,6 +109,12 @@ TEST_F(MatchIndexTest, RunsEqualThePlainWalkThroughGeneratedChanges) {
         const size_t position = action == 0 ? std::min<size_t>(commands.size(), 30) : random() % (commands.size() + 1);
         owned.push_back(std::make_unique<CiscoCommandLine>(*kinds[pick(random)]));
         index.insert(position, owned.back().get());
+        // The vector sees insertions once they are committed.
+        EXPECT_EQ(commands.size() + 1, index.size());
+        index.commit();
+        ASSERT_EQ(commands.size(), index.size());
+        ASSERT_EQ(commands[position], owned.back().get());
+        for (size_t i = 0; i < commands.size(); ++i) ASSERT_EQ(index.at(i), commands[i]) << i;
       } else if (action == 2) {
         CiscoCommandLine* victim = commands[random() % commands.size()];
         victim->setFlags(CMDBIT_REMOVED, false);

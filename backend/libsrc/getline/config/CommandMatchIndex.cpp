@@ -46,6 +46,7 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
 CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
   // Reserved up front: rehashing large tables is what building costs most.
   mSlots.reserve(mCommands.size() + mCommands.size() / 8);
+  mLevel.reserve(mCommands.size());
   mBuckets.reserve(mCommands.size() + mCommands.size() / 8);
   for (size_t i = 0; i < mCommands.size(); ++i) {
     auto data = std::make_unique<Slot>();
@@ -53,12 +54,55 @@ CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) :
     data->rank = (i + 1) * kSpacing;
     describe(*data);
     if (data->live) enterLive(*data, true);
+    mLevel.push_back(data.get());
     mSlots[mCommands[i]] = std::move(data);
   }
   for (size_t i = 0; i < mCommands.size(); ++i) updateRun(i);
 }
 
-CommandMatchIndex::~CommandMatchIndex() = default;
+CommandMatchIndex::~CommandMatchIndex() {
+  // The vector must hold every inserted record, whose owner it is.
+  try {
+    commit();
+  } catch (...) {
+  }
+}
+
+void CommandMatchIndex::commit() {
+  if (mCommitted) return;
+  std::vector<CiscoCommandLine*> level;
+  level.reserve(mLevel.size());
+  for (size_t i = 0; i < mLevel.size(); ++i) level.push_back(mLevel[i]->record);
+  mCommands.swap(level);
+  mCommitted = true;
+}
+
+void CommandMatchIndex::Level::insert(size_t position, Slot* data) {
+  if (mGapBegin == mGapEnd) {
+    // No room: lay the level out again with a gap at the insertion.
+    const size_t count = size();
+    const size_t gap = count / 4 + 16;
+    std::vector<Slot*> wider(count + gap, nullptr);
+    for (size_t i = 0; i < count; ++i) wider[i < position ? i : i + gap] = (*this)[i];
+    mData.swap(wider);
+    mGapBegin = position;
+    mGapEnd = position + gap;
+  } else if (position < mGapBegin) {
+    std::move_backward(mData.begin() + static_cast<std::ptrdiff_t>(position),
+                       mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin),
+                       mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd));
+    mGapEnd -= mGapBegin - position;
+    mGapBegin = position;
+  } else if (position > mGapBegin) {
+    const size_t shift = position - mGapBegin;
+    std::move(mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd),
+              mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd + shift),
+              mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin));
+    mGapBegin += shift;
+    mGapEnd += shift;
+  }
+  mData[mGapBegin++] = data;
+}
 
 CommandMatchIndex::Slot& CommandMatchIndex::slot(const CiscoCommandLine* record) const {
   return *mSlots.at(record);
@@ -117,11 +161,11 @@ void CommandMatchIndex::leaveLive(Slot& data) {
 }
 
 void CommandMatchIndex::updateRun(size_t position) {
-  Slot& data = slot(mCommands[position]);
+  Slot& data = *mLevel[position];
   if (!data.live) return;
   bool continues = false;
-  if (position + 1 < mCommands.size()) {
-    const Slot& next = slot(mCommands[position + 1]);
+  if (position + 1 < mLevel.size()) {
+    const Slot& next = *mLevel[position + 1];
     continues = next.live && next.bucket == data.bucket;
   }
   if (continues) {
@@ -132,9 +176,17 @@ void CommandMatchIndex::updateRun(size_t position) {
 }
 
 size_t CommandMatchIndex::positionOf(uint64_t rank) const {
-  auto found = std::lower_bound(mCommands.begin(), mCommands.end(), rank,
-                                [this](const CiscoCommandLine* c, uint64_t r) { return slot(c).rank < r; });
-  return static_cast<size_t>(found - mCommands.begin());
+  size_t low = 0;
+  size_t high = mLevel.size();
+  while (low < high) {
+    const size_t middle = low + (high - low) / 2;
+    if (mLevel[middle]->rank < rank) {
+      low = middle + 1;
+    } else {
+      high = middle;
+    }
+  }
+  return low;
 }
 
 void CommandMatchIndex::spread(size_t position) {
@@ -143,26 +195,26 @@ void CommandMatchIndex::spread(size_t position) {
   // space the members evenly between those bounds. Ranks outside keep their
   // values, so every order stays as it was. At the end of the level the
   // bound is free.
-  const size_t count = mCommands.size();
+  const size_t count = mLevel.size();
   for (size_t half = 1;; half *= 2) {
     const size_t low = position > half ? position - half : 0;
     const size_t high = std::min(count - 1, position + half - 1);
     const uint64_t members = high - low + 1;
-    const uint64_t leftBound = low > 0 ? slot(mCommands[low - 1]).rank : 0;
+    const uint64_t leftBound = low > 0 ? mLevel[low - 1]->rank : 0;
     const uint64_t rightBound =
-        high + 1 < count ? slot(mCommands[high + 1]).rank : slot(mCommands[high]).rank + kSpacing * (members + 1);
+        high + 1 < count ? mLevel[high + 1]->rank : mLevel[high]->rank + kSpacing * (members + 1);
     const uint64_t step = (rightBound - leftBound) / (members + 1);
     if (step < kMinimumGap) continue;
-    for (uint64_t j = 0; j < members; ++j) slot(mCommands[low + j]).rank = leftBound + step * (j + 1);
+    for (uint64_t j = 0; j < members; ++j) mLevel[low + j]->rank = leftBound + step * (j + 1);
     return;
   }
 }
 
 uint64_t CommandMatchIndex::rankFor(size_t position) {
-  if (position >= mCommands.size()) return (position > 0 ? slot(mCommands[position - 1]).rank : 0) + kSpacing;
+  if (position >= mLevel.size()) return (position > 0 ? mLevel[position - 1]->rank : 0) + kSpacing;
   auto bounds = [&](uint64_t& before, uint64_t& after) {
-    before = position > 0 ? slot(mCommands[position - 1]).rank : 0;
-    after = slot(mCommands[position]).rank;
+    before = position > 0 ? mLevel[position - 1]->rank : 0;
+    after = mLevel[position]->rank;
   };
   uint64_t before = 0;
   uint64_t after = 0;
@@ -189,8 +241,8 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
   const auto& path = probe->getTreeNodes();
   if (path.empty() || path.front().words.count("\n") > 0) {
     // Such a probe may negate commands of any start: scan.
-    for (size_t i = 0; i < mCommands.size(); ++i) {
-      if (mCommands[i]->isNoable(probe)) return i;
+    for (size_t i = 0; i < mLevel.size(); ++i) {
+      if (mLevel[i]->record->isNoable(probe)) return i;
     }
     return npos;
   }
@@ -211,7 +263,7 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
 
 CommandMatchIndex::Run CommandMatchIndex::walkRun(size_t at, const CiscoCommandLine* probe) const {
   Run run;
-  const Slot& start = slot(mCommands[at]);
+  const Slot& start = *mLevel[at];
   const Bucket& bucket = *start.bucket;
   auto stop = bucket.stops.lower_bound(start.rank);
   // Every run ends at a stop: the last live command of a level has no
@@ -240,12 +292,13 @@ CommandMatchIndex::Run CommandMatchIndex::walkRun(size_t at, const CiscoCommandL
 
 void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
   const uint64_t rank = rankFor(position);
-  mCommands.insert(mCommands.begin() + static_cast<std::ptrdiff_t>(position), record);
+  mCommitted = false;
   auto data = std::make_unique<Slot>();
   data->record = record;
   data->rank = rank;
   describe(*data);
   Slot& entered = *data;
+  mLevel.insert(position, data.get());
   mSlots[record] = std::move(data);
   if (entered.live) enterLive(entered, false);
   updateRun(position);
@@ -253,7 +306,7 @@ void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
 }
 
 void CommandMatchIndex::refresh(size_t position) {
-  Slot& data = slot(mCommands[position]);
+  Slot& data = *mLevel[position];
   if (data.live) leaveLive(data);
   describe(data);
   if (data.live) enterLive(data, false);

@@ -15,11 +15,12 @@
 // path starts at the same node (or one whose path starts with the end of a
 // line), so the first noable command is looked for among those alone.
 //
-// The index works on a vector that it does not own. All insertions into the
-// vector while the index lives must go through append and insert; a record
-// whose path, text or flags changed in place (assignment, mergeCommand) is
-// announced with refresh, and a record marked CMDBIT_REMOVED with removed.
-// Not thread-safe.
+// The index works on a vector that it does not own. While the index lives,
+// insertions go through append and insert, and the level is read through
+// size and at: the vector sees the insertions when commit is called (or the
+// index goes). A record whose path, text or flags changed in place
+// (assignment, mergeCommand) is announced with refresh, and a record marked
+// CMDBIT_REMOVED with removed. Not thread-safe.
 #pragma once
 
 #include <cstddef>
@@ -62,7 +63,12 @@ class CommandMatchIndex {
   };
   Run walkRun(size_t at, const CiscoCommandLine* probe) const;
 
-  void append(CiscoCommandLine* record) { insert(mCommands.size(), record); }
+  size_t size() const { return mLevel.size(); }
+  CiscoCommandLine* at(size_t position) const { return mLevel[position]->record; }
+  // Writes the level, insertions included, back into the vector.
+  void commit();
+
+  void append(CiscoCommandLine* record) { insert(size(), record); }
   void insert(size_t position, CiscoCommandLine* record);
   void refresh(size_t position);
   void removed(CiscoCommandLine* record);
@@ -92,6 +98,23 @@ class CommandMatchIndex {
     bool operator()(uint64_t rank, const Slot* b) const { return rank < b->rank; }
   };
   using RankSet = std::set<Slot*, ByRank>;
+  // The level's slots in order, with a gap at the place of the last
+  // insertion: insertions that follow one another nearby move little.
+  class Level {
+   public:
+    size_t size() const { return mData.size() - (mGapEnd - mGapBegin); }
+    Slot* operator[](size_t position) const {
+      return mData[position < mGapBegin ? position : position + (mGapEnd - mGapBegin)];
+    }
+    void push_back(Slot* data) { insert(size(), data); }
+    void reserve(size_t count) { mData.reserve(count); }
+    void insert(size_t position, Slot* data);
+
+   private:
+    std::vector<Slot*> mData;
+    size_t mGapBegin = 0;
+    size_t mGapEnd = 0;
+  };
   struct Bucket {
     RankSet live;
     // Live commands whose successor in the level does not continue their run.
@@ -112,6 +135,8 @@ class CommandMatchIndex {
 
   std::vector<CiscoCommandLine*>& mCommands;
   std::unordered_map<const CiscoCommandLine*, std::unique_ptr<Slot>> mSlots;
+  Level mLevel;
+  bool mCommitted = true;
   std::unordered_map<std::string, std::unique_ptr<Bucket>> mBuckets;
   // Live commands by the first node of their path; those whose first element
   // ends a line apart.

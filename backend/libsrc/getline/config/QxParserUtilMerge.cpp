@@ -44,6 +44,7 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
                                       CiscoCommandLine* parent) {
   // The first comparable or noable command is looked up through an index of
   // the level; the index answers exactly what a scan from the front would.
+  // While the pass runs, the level is read and extended through the index.
   CommandMatchIndex index(config);
   std::set<CiscoCommandLine*> removed;
   auto remove = [&removed, &index](CiscoCommandLine* record) {
@@ -63,12 +64,12 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
         if (stored) index.append(copyUnder(change, parent));
         continue;
       }
-      CiscoCommandLine* base = config[at];
+      CiscoCommandLine* base = index.at(at);
       if (!stored) {
         if (kind == CMD_ADDITIVE) {
           // A "no" takes away the whole run of additive commands it negates.
-          for (size_t i = at; i < config.size(); ++i) {
-            CiscoCommandLine* current = config[i];
+          for (size_t i = at; i < index.size(); ++i) {
+            CiscoCommandLine* current = index.at(i);
             if (current->getFlag() == CMD_TEXT) continue;
             if (current->hasFlags(CMDBIT_NO) || !current->isNoable(change)) break;
             remove(current);
@@ -103,7 +104,7 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
       index.append(copy);
       continue;
     }
-    CiscoCommandLine* base = config[at];
+    CiscoCommandLine* base = index.at(at);
     if (!stored) {
       if (base->hasFlags(CMDBIT_NO) || base->getFlag() == CMD_OVERWRITE) remove(base);
       continue;
@@ -117,7 +118,7 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
       bool replaced = false;
       const CommandMatchIndex::Run run = index.walkRun(at, change);
       for (size_t position : run.otherSign) {
-        CiscoCommandLine* current = config[position];
+        CiscoCommandLine* current = index.at(position);
         if (current->isNoable(change)) {
           remove(current);
           if (current->hasFlags(CMDBIT_STORED)) replaced = true;
@@ -141,6 +142,9 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
       mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
     }
   }
+
+  // From here on the vector holds the level with its new commands.
+  index.commit();
 
   if (!removed.empty()) {
     std::vector<CiscoCommandLine*> kept;
