@@ -26,8 +26,7 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
-      treeNodes(other.treeNodes),
-      visitedNodes(other.visitedNodes) {
+      treeNodes(other.treeNodes) {
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
@@ -50,7 +49,6 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
-  visitedNodes = other.visitedNodes;
   for (auto& entry : other.subCommands) {
     if (subCommands.count(entry.first)) continue;  // an existing entry stays
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
@@ -106,7 +104,6 @@ void CiscoCommandLine::clearVisitedOption() {
   flags = 0;
   parentCommand = nullptr;
   treeNodes.clear();
-  visitedNodes.clear();
   // Nested commands of a dropped walk would otherwise receive the words of
   // the next attempt at another level.
   for (auto& entry : subCommands) delete entry.second;
@@ -133,22 +130,18 @@ void CiscoCommandLine::takeFlagFrom(const ParserTreeNode* node) {
 }
 
 void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) {
-  if (visitedNodes.count(node)) {
-    for (auto& entry : treeNodes) {
-      if (entry.node != node) continue;
-      if (node->hasFlag(NODE_FLAG_WA) && !entry.words.empty()) {
-        // Prose keeps its typed order: the words join the first one.
-        std::string joined = *entry.words.begin() + " " + word;
-        entry.words.erase(entry.words.begin());
-        entry.words.insert(joined);
-      } else {
-        entry.words.insert(word);
-      }
-      break;
+  for (auto& entry : treeNodes) {
+    if (entry.node != node) continue;
+    if (node->hasFlag(NODE_FLAG_WA) && !entry.words.empty()) {
+      // Prose keeps its typed order: the words join the first one.
+      std::string joined = *entry.words.begin() + " " + word;
+      entry.words.erase(entry.words.begin());
+      entry.words.insert(joined);
+    } else {
+      entry.words.insert(word);
     }
     return;
   }
-  visitedNodes.insert(node);
   CmdPathEntry entry;
   entry.node = node;
   entry.words.insert(word);

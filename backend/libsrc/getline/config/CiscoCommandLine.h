@@ -79,7 +79,7 @@ class VTYCONF_API CiscoCommandLine {
   CiscoCommandLine* getParentCommand() const { return parentCommand; }
   const std::list<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
   const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const { return subCommands; }
-  int getTreeNodeSize() const { return static_cast<int>(visitedNodes.size()); }
+  int getTreeNodeSize() const { return static_cast<int>(treeNodes.size()); }
 
   void setFlags(unsigned int bits, bool recursive);
   // Clears bits (vtyconf's own counterpart of setFlags, used by merges).
@@ -120,8 +120,9 @@ class VTYCONF_API CiscoCommandLine {
   unsigned int flags = 0;
   CiscoCommandLine* parentCommand = nullptr;
   std::vector<CiscoCommandLine*> childCommands;
+  // Each node appears once in the path; a repeated node adds words to its
+  // element.
   std::list<CmdPathEntry> treeNodes;
-  std::set<ParserTreeNode*> visitedNodes;
   std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
 };

@@ -1,8 +1,50 @@
 #include "config/CmdOrderTable.h"
 
+#include <unordered_map>
+
 #include "grammar/ParserTreeNode.h"
 
 namespace qxparser {
+
+namespace {
+
+// The templates of one grammar file grouped by the first node of their path.
+// A template fits a command only if their first nodes agree, unless its path
+// is empty or its first element ends a line (then it fits any command whose
+// path parts from it at once): those stand in a list of their own. Built on
+// first use and again whenever the table's vector is another one.
+struct OrderIndex {
+  const CiscoCommandLine* const* data = nullptr;
+  size_t size = 0;
+  std::unordered_map<const ParserTreeNode*, std::vector<size_t>> byFirstNode;
+  std::vector<size_t> anyFirstNode;
+};
+
+std::unordered_map<std::string, OrderIndex>& orderIndexes() {
+  static auto* indexes = new std::unordered_map<std::string, OrderIndex>();
+  return *indexes;
+}
+
+const OrderIndex& orderIndexOf(const std::string& key, const std::vector<CiscoCommandLine*>& templates) {
+  OrderIndex& index = orderIndexes()[key];
+  if (index.data == templates.data() && index.size == templates.size()) return index;
+  index = OrderIndex();
+  index.data = templates.data();
+  index.size = templates.size();
+  for (size_t i = 0; i < templates.size(); ++i) {
+    const CiscoCommandLine* templ = templates[i];
+    if (!templ) continue;
+    const auto& path = templ->getTreeNodes();
+    if (path.empty() || path.front().words.count("\n") > 0) {
+      index.anyFirstNode.push_back(i);
+    } else {
+      index.byFirstNode[path.front().node].push_back(i);
+    }
+  }
+  return index;
+}
+
+}  // namespace
 
 CmdOrderTable& gCmdOrderTable() {
   static auto* table = new CmdOrderTable();
@@ -17,6 +59,7 @@ void clearCmdOrderTable() {
     }
   }
   gCmdOrderTable().clear();
+  orderIndexes().clear();
 }
 
 bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command) {
@@ -35,9 +78,20 @@ void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
   const std::string key = modeNode->mFileName.empty() ? "configuration_mod.cfm" : modeNode->mFileName;
   auto found = gCmdOrderTable().find(key);
   if (found == gCmdOrderTable().end()) return;
-  for (const CiscoCommandLine* templ : found->second) {
-    if (templ && templateFits(*templ, *this)) {
-      orderNo = templ->getOrderNo();
+  // The first template in file order that fits, among those that can.
+  const std::vector<CiscoCommandLine*>& templates = found->second;
+  const OrderIndex& index = orderIndexOf(key, templates);
+  static const std::vector<size_t> kNone;
+  auto same = index.byFirstNode.find(treeNodes.front().node);
+  const std::vector<size_t>& first = same == index.byFirstNode.end() ? kNone : same->second;
+  const std::vector<size_t>& any = index.anyFirstNode;
+  auto a = first.begin();
+  auto b = any.begin();
+  while (a != first.end() || b != any.end()) {
+    const bool takeA = b == any.end() || (a != first.end() && *a < *b);
+    const size_t at = takeA ? *a++ : *b++;
+    if (templateFits(*templates[at], *this)) {
+      orderNo = templates[at]->getOrderNo();
       return;
     }
   }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <set>
 #include <sstream>
+#include <unordered_set>
 
 #include "config/CmdOrderTable.h"
 #include "grammar/DefinitionLoader.h"
@@ -148,15 +149,18 @@ bool QxParserUtil::isTheSameCmd(const std::string& a, const std::string& b, bool
 void QxParserUtil::deleteCommands(std::vector<CiscoCommandLine*>& commands) {
   // Records of all levels may stand in the vector, and children are owned by
   // their parents: free each record once, children included.
-  std::set<CiscoCommandLine*> all(commands.begin(), commands.end());
-  std::set<CiscoCommandLine*> reachable;
+  std::unordered_set<CiscoCommandLine*> reachable;
+  reachable.reserve(commands.size());
+  std::vector<CiscoCommandLine*> below;
   for (CiscoCommandLine* record : commands) {
-    std::vector<CiscoCommandLine*> below;
+    below.clear();
     record->getAllChildCommands(below);
     reachable.insert(below.begin(), below.end());
   }
-  for (CiscoCommandLine* record : all) {
-    if (reachable.count(record)) continue;
+  std::unordered_set<CiscoCommandLine*> freed;
+  freed.reserve(commands.size());
+  for (CiscoCommandLine* record : commands) {
+    if (reachable.count(record) || !freed.insert(record).second) continue;
     record->delOnlyChildCmds();
     delete record;
   }

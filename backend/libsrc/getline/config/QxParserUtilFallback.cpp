@@ -7,19 +7,10 @@
 
 #include "config/CommandMatchIndex.h"
 #include "config/QxParserUtil.h"
+#include "config/RecordCopy.h"
 #include "platform/StlHelper.h"
 
 namespace qxparser {
-
-namespace {
-
-CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
-  auto* copy = new CiscoCommandLine(*source);
-  copy->setParentCommand(parent, false);
-  return copy;
-}
-
-}  // namespace
 
 CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
   auto negated = std::make_unique<CiscoCommandLine>();
@@ -79,9 +70,11 @@ void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes
     for (CiscoCommandLine* record : restore) out.push_back(copyUnder(record, parent));
     restore.clear();
   };
-  auto mark = [&restore](CiscoCommandLine* record) {
+  CommandMatchIndex index(config);
+  auto mark = [&restore, &index](CiscoCommandLine* record) {
     record->setFlags(CMDBIT_REMOVED, false);
     restore.push_back(record);
+    index.removed(record);
   };
   auto negate = [&](CiscoCommandLine* record) {
     CiscoCommandLine* negated = createNoCommand(record);
@@ -96,7 +89,6 @@ void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes
     fallbackCiscoCommands(change->getChildCommands(), found->getChildCommands(), head->getChildCommands(), head.get());
     if (!head->getChildCommands().empty()) out.push_back(head.release());
   };
-  CommandMatchIndex index(config);
 
   for (CiscoCommandLine* change : changes) {
     const CiscoCommandLineFlag kind = change->getFlag();
@@ -115,16 +107,14 @@ void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes
         continue;
       }
       if (kind == CMD_ADDITIVE && !opensMode) {
-        bool noEffect = false;
-        for (size_t i = at; i < config.size() && config[i]->isComparable(change); ++i) {
-          CiscoCommandLine* current = config[i];
-          if (current->getCurrentCommand() == change->getCurrentCommand()) {
-            restore.clear();
-            noEffect = true;
-            break;
-          }
-          if (current->hasFlags(CMDBIT_NO) && current->isNoable(change)) mark(current);
+        // The "no" forms of the run in front of a command with the same
+        // text are marked; that command means the change had no effect.
+        const CommandMatchIndex::Run run = index.walkRun(at, change);
+        for (size_t position : run.otherSign) {
+          if (config[position]->isNoable(change)) mark(config[position]);
         }
+        const bool noEffect = run.equal != CommandMatchIndex::npos;
+        if (noEffect) restore.clear();
         if (!noEffect) {
           negate(change);
           flush();
@@ -219,18 +209,13 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
     CiscoCommandLine* found = to[at];
     if (kind == CMD_ADDITIVE) {
       if (opensMode) descend(command, found, found);
-      bool done = false;
-      for (size_t i = at; i < to.size() && to[i]->isComparable(command); ++i) {
-        CiscoCommandLine* current = to[i];
-        if (current->getCurrentCommand() == command->getCurrentCommand()) {
-          done = true;
-          break;
-        }
-        if (current->hasFlags(CMDBIT_NO) != command->hasFlags(CMDBIT_NO) && current->isNoable(command)) {
-          negate(command);
-        }
+      // Each command of the other sign in the run in front of one with the
+      // same text that negates this one writes its negation.
+      const CommandMatchIndex::Run run = toIndex.walkRun(at, command);
+      for (size_t position : run.otherSign) {
+        if (to[position]->isNoable(command)) negate(command);
       }
-      if (!done) negate(command);
+      if (run.equal == CommandMatchIndex::npos) negate(command);
     } else if (kind == CMD_OVERWRITE) {
       if (!found->isExactlyMatch(command)) {
         out.push_back(copyUnder(found, parent));

@@ -3,19 +3,11 @@
 #include <set>
 
 #include "config/CommandMatchIndex.h"
+#include "config/DeviceOrderSort.h"
 #include "config/QxParserUtil.h"
+#include "config/RecordCopy.h"
 
 namespace qxparser {
-
-namespace {
-
-CiscoCommandLine* copyUnder(const CiscoCommandLine* source, CiscoCommandLine* parent) {
-  auto* copy = new CiscoCommandLine(*source);
-  copy->setParentCommand(parent, false);
-  return copy;
-}
-
-}  // namespace
 
 void QxParserUtil::deleteTopLevel(std::vector<CiscoCommandLine*>& commands) {
   for (CiscoCommandLine* record : commands) {
@@ -50,14 +42,16 @@ std::string QxParserUtil::mergeConfigCmds(const std::string& changes, const std:
 
 void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
                                       CiscoCommandLine* parent) {
-  std::set<CiscoCommandLine*> removed;
-  auto remove = [&removed](CiscoCommandLine* record) {
-    record->setFlags(CMDBIT_REMOVED, false);
-    removed.insert(record);
-  };
   // The first comparable or noable command is looked up through an index of
   // the level; the index answers exactly what a scan from the front would.
+  // While the pass runs, the level is read and extended through the index.
   CommandMatchIndex index(config);
+  std::set<CiscoCommandLine*> removed;
+  auto remove = [&removed, &index](CiscoCommandLine* record) {
+    record->setFlags(CMDBIT_REMOVED, false);
+    removed.insert(record);
+    index.removed(record);
+  };
 
   for (CiscoCommandLine* change : changes) {
     const bool stored = change->hasFlags(CMDBIT_STORED);
@@ -70,12 +64,12 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
         if (stored) index.append(copyUnder(change, parent));
         continue;
       }
-      CiscoCommandLine* base = config[at];
+      CiscoCommandLine* base = index.at(at);
       if (!stored) {
         if (kind == CMD_ADDITIVE) {
           // A "no" takes away the whole run of additive commands it negates.
-          for (size_t i = at; i < config.size(); ++i) {
-            CiscoCommandLine* current = config[i];
+          for (size_t i = at; i < index.size(); ++i) {
+            CiscoCommandLine* current = index.at(i);
             if (current->getFlag() == CMD_TEXT) continue;
             if (current->hasFlags(CMDBIT_NO) || !current->isNoable(change)) break;
             remove(current);
@@ -110,7 +104,7 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
       index.append(copy);
       continue;
     }
-    CiscoCommandLine* base = config[at];
+    CiscoCommandLine* base = index.at(at);
     if (!stored) {
       if (base->hasFlags(CMDBIT_NO) || base->getFlag() == CMD_OVERWRITE) remove(base);
       continue;
@@ -119,21 +113,19 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
     if (kind == CMD_ADDITIVE && !opensMode) {
       // Additive commands of one setting stand together; a new one goes at
       // the end of their run.
+      // The walk over the run stops at a command with the same text; the
+      // "no" forms in front of it that negate the change go.
       bool replaced = false;
-      bool inPlace = false;
-      size_t i = at;
-      for (; i < config.size() && config[i]->isComparable(change); ++i) {
-        CiscoCommandLine* current = config[i];
-        if (current->getCurrentCommand() == change->getCurrentCommand()) {
-          inPlace = true;
-          break;
-        }
-        if (current->hasFlags(CMDBIT_NO) && current->isNoable(change)) {
+      const CommandMatchIndex::Run run = index.walkRun(at, change);
+      for (size_t position : run.otherSign) {
+        CiscoCommandLine* current = index.at(position);
+        if (current->isNoable(change)) {
           remove(current);
           if (current->hasFlags(CMDBIT_STORED)) replaced = true;
         }
       }
-      if (!inPlace && !replaced) index.insert(i, copyUnder(change, parent));
+      const bool inPlace = run.equal != CommandMatchIndex::npos;
+      if (!inPlace && !replaced) index.insert(run.end, copyUnder(change, parent));
     } else if (kind == CMD_ADDITIVE) {
       mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
     } else if (kind == CMD_OVERWRITE) {
@@ -150,6 +142,9 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
       mergeCiscoCommands(change->getChildCommands(), base->getChildCommands(), base);
     }
   }
+
+  // From here on the vector holds the level with its new commands.
+  index.commit();
 
   if (!removed.empty()) {
     std::vector<CiscoCommandLine*> kept;
@@ -169,21 +164,9 @@ void QxParserUtil::mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, s
 
 void QxParserUtil::SortCiscoCommands(std::vector<CiscoCommandLine*>& commands) {
   // A selection sort on purpose: the comparison is not a strict order, and
-  // the result depends on this very procedure.
-  const size_t count = commands.size();
-  for (size_t i = 0; i < count; ++i) {
-    size_t candidate = i;
-    for (size_t j = i + 1; j < count; ++j) {
-      const CiscoCommandLine* held = commands[candidate];
-      const CiscoCommandLine* other = commands[j];
-      if (held->getLineNo() >= 1 && other->getLineNo() >= 1) {
-        if (held->getLineNo() > other->getLineNo()) candidate = j;
-      } else if (held->getOrderNo() >= 1 && other->getOrderNo() >= 1) {
-        if (held->getOrderNo() > other->getOrderNo()) candidate = j;
-      }
-    }
-    if (candidate != i) std::swap(commands[i], commands[candidate]);
-  }
+  // the result depends on this very procedure. sortByDeviceOrder gives the
+  // procedure's result without its quadratic scan.
+  sortByDeviceOrder(commands);
 }
 
 std::string QxParserUtil::expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <set>
 
+#include "grammar/NodeLookup.h"
 #include "grammar/NodePool.h"
 #include "grammar/ParserException.h"
 #include "platform/Pathname.h"
@@ -43,6 +44,7 @@ void clearLoaderTables() {
   gSharedGrammars().clear();
   gPromptSuffixes().clear();
   gModeFileNames().clear();
+  resetLookupPlans();
 }
 
 namespace {
@@ -143,6 +145,7 @@ void loadKeyFiles() {
     loadKeyFile(table, path);
     gKeyTables()["&" + name] = table;
   }
+  resetLookupPlans();
 }
 
 void loadKeyFile(KeyTable& table, const std::string& path) {

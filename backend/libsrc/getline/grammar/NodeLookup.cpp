@@ -1,8 +1,13 @@
 #include "grammar/NodeLookup.h"
 
 #include <map>
+#include <set>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "grammar/DefinitionLoader.h"
+#include "grammar/NodePool.h"
 #include "toolkit/ParserToolCase.h"
 
 namespace qxparser {
@@ -45,10 +50,184 @@ void markVisited(ParserTreeNode* at, const std::string& token, const ParserTreeN
   }
 }
 
+// Which words can only match a token by being equal to it: the pattern
+// tests answer true for other tokens only for these.
+bool matchesOtherTokens(const std::string& word) {
+  static const std::set<std::string> kPatterns = {"a.b.c.d", "a.b.c.d/<1-32>", "oui:vpn-index", "id",
+                                                  "+/-<metric>", "+/-<delay>", "h.h.h"};
+  return kPatterns.count(word) > 0 || word.find(':') != std::string::npos;
+}
+
+bool isCatchAll(const std::string& word) { return word == "hostname or a.b.c.d" || word == "word" || word == "line"; }
+
+// What the searches of findChild, lookupPass and hasInterfaceWords need of one
+// node, worked out once: the candidates of each step in the order the plain
+// scans visit them, with the words that cannot match a step left out.
+struct LookupPlan {
+  std::vector<ParserTreeNode*> complexChildren;
+  std::vector<ParserTreeNode*> complexOptions;
+  std::vector<std::pair<const std::string*, ParserTreeNode*>> childTables;
+  std::vector<const std::string*> optionTables;
+  std::vector<std::pair<const std::string*, ParserTreeNode*>> angleWords;
+  // The pattern step: a word that only matches itself, by the position of
+  // its first appearance; the other words in order, with their positions.
+  std::unordered_map<std::string, std::pair<size_t, ParserTreeNode*>> literalWords;
+  std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
+  ParserTreeNode* catchAll = nullptr;
+  int interfaceWords = -1;  // unknown until asked
+};
+
+// Same as KeyTable lookups in matchesKeyTable: the words that can match a
+// token other than themselves, in table order.
+struct TablePlan {
+  const KeyTable* table = nullptr;
+  std::vector<std::pair<const std::string*, bool>> words;  // word, bracketed form
+};
+
+struct PlanCache {
+  bool enabled = true;
+  size_t poolUsed = static_cast<size_t>(-1);
+  size_t generation = 0;
+  size_t builtGeneration = static_cast<size_t>(-1);
+  std::unordered_map<const ParserTreeNode*, LookupPlan> nodes;
+  std::unordered_map<std::string, TablePlan> tables;
+};
+
+PlanCache& planCache() {
+  static auto* cache = new PlanCache();
+  return *cache;
+}
+
+// Plans stay valid while no node is made (every load makes nodes; the nodes
+// never change afterwards) and no KeyFile is read.
+PlanCache& currentPlans() {
+  PlanCache& cache = planCache();
+  const size_t used = NodePool::used();
+  if (cache.poolUsed != used || cache.builtGeneration != cache.generation) {
+    cache.nodes.clear();
+    cache.tables.clear();
+    cache.poolUsed = used;
+    cache.builtGeneration = cache.generation;
+  }
+  return cache;
+}
+
+LookupPlan& planOf(ParserTreeNode* node) {
+  PlanCache& cache = currentPlans();
+  auto found = cache.nodes.find(node);
+  if (found != cache.nodes.end()) return found->second;
+  LookupPlan& plan = cache.nodes[node];
+  for (auto& entry : node->mChildren) {
+    if (entry.second->mIsComplex) plan.complexChildren.push_back(entry.second);
+    for (auto& word : entry.second->mKeywords) {
+      if (startsWithAmpersand(word.first)) plan.childTables.emplace_back(&word.first, entry.second);
+    }
+  }
+  for (auto& entry : node->mOptions) {
+    if (entry.second->mIsComplex) plan.complexOptions.push_back(entry.second);
+    for (auto& word : entry.second->mKeywords) {
+      if (startsWithAmpersand(word.first)) plan.optionTables.push_back(&word.first);
+    }
+  }
+  size_t position = 0;
+  for (auto* map : {&node->mChildren, &node->mOptions}) {
+    for (auto& entry : *map) {
+      for (auto& word : entry.second->mKeywords) {
+        if (ParserToolCase::isPvFormStr(word.first)) plan.angleWords.emplace_back(&word.first, entry.second);
+        if (matchesOtherTokens(word.first)) {
+          plan.patternWords.push_back({position, {&word.first, entry.second}});
+        } else {
+          plan.literalWords.emplace(word.first, std::make_pair(position, entry.second));
+        }
+        if (!plan.catchAll && isCatchAll(word.first)) plan.catchAll = entry.second;
+        ++position;
+      }
+    }
+  }
+  return plan;
+}
+
+const TablePlan* tablePlanOf(const std::string& tableName) {
+  PlanCache& cache = currentPlans();
+  auto found = cache.tables.find(tableName);
+  if (found != cache.tables.end()) return found->second.table ? &found->second : nullptr;
+  TablePlan& plan = cache.tables[tableName];
+  auto table = gKeyTables().find(tableName);
+  if (table == gKeyTables().end()) return nullptr;
+  plan.table = &table->second;
+  for (auto& entry : table->second) {
+    const bool bracketed = ParserToolCase::isPvFormStr(entry.first);
+    if (bracketed || matchesOtherTokens(entry.first)) plan.words.emplace_back(&entry.first, bracketed);
+  }
+  return &plan;
+}
+
+// findChild's pattern step: the first word, children before options, for
+// which isNewValidInput holds.
+ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& token) {
+  if (token == "\n") return nullptr;
+  size_t bestPosition = static_cast<size_t>(-1);
+  ParserTreeNode* best = nullptr;
+  auto literal = plan.literalWords.find(token);
+  if (literal != plan.literalWords.end()) {
+    bestPosition = literal->second.first;
+    best = literal->second.second;
+  }
+  for (const auto& entry : plan.patternWords) {
+    if (entry.first > bestPosition) break;
+    if (ParserToolCase::isNewValidInput(*entry.second.first, token)) return entry.second.second;
+  }
+  return best;
+}
+
+ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
+  bool exactOption = false;
+  auto exact = node->mChildren.find(token);
+  if (exact != node->mChildren.end()) return exact->second;
+  auto option = node->mOptions.find(token);
+  if (option != node->mOptions.end()) {
+    if (ParserTreeNode* entered = enterOption(node, token, option->second)) return entered;
+    exactOption = true;
+  }
+  const LookupPlan& plan = planOf(node);
+  if (!exactOption) {
+    for (ParserTreeNode* child : plan.complexChildren) {
+      if (child->mKeywords.count(token)) return child;
+    }
+    for (ParserTreeNode* child : plan.complexOptions) {
+      if (child->mKeywords.count(token)) {
+        if (ParserTreeNode* entered = enterOption(node, token, child)) return entered;
+      }
+    }
+  }
+  if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
+  for (const auto& entry : plan.childTables) {
+    if (matchesKeyTable(token, *entry.first)) return entry.second;
+  }
+  for (const std::string* word : plan.optionTables) {
+    if (!matchesKeyTable(token, *word)) continue;
+    auto byWord = node->mOptions.find(*word);
+    if (byWord == node->mOptions.end()) continue;
+    if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
+  }
+  for (const auto& entry : plan.angleWords) {
+    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
+  }
+  return firstPatternMatch(plan, token);
+}
+
+bool hasUpperCase(const std::string& text) {
+  for (char c : text) {
+    if (c >= 'A' && c <= 'Z') return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
   if (!node) return nullptr;
+  if (planCache().enabled) return findChildPlanned(node, token);
   bool exactOption = false;
   auto exact = node->mChildren.find(token);
   if (exact != node->mChildren.end()) return exact->second;
@@ -102,8 +281,14 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
   if (abbreviate) {
     if (ParserTreeNode* found = findAbbreviation(node, token, keyOut)) return found;
   }
-  if (ParserTreeNode* any = firstChildWithWord(
-          node, [&](const std::string& word) { return ParserToolCase::isAnyValidInput(word, token); })) {
+  ParserTreeNode* any = nullptr;
+  if (planCache().enabled) {
+    if (token != "\n") any = planOf(node).catchAll;
+  } else {
+    any = firstChildWithWord(node,
+                             [&](const std::string& word) { return ParserToolCase::isAnyValidInput(word, token); });
+  }
+  if (any) {
     keyOut = token;
     return any;
   }
@@ -118,6 +303,9 @@ ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& fla
   if (!node) return nullptr;
   if (ParserTreeNode* found = lookupPass(node, token, keyOut, abbreviate)) return found;
   if (!keyOut.empty()) return nullptr;
+  // A failed pass changes nothing, so a token that is lower-case already
+  // would fail again.
+  if (planCache().enabled && !hasUpperCase(token)) return nullptr;
   const std::string lower = ParserToolCase::string2Lower(token);
   if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate)) {
     keyOut = lower;
@@ -132,6 +320,9 @@ ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool
   ParserTreeNode* result = lookup(node, token, flagOut, keyOut, abbreviate);
   if (!result && keyOut.empty()) {
     if (retriedOut) *retriedOut = true;
+    // A lookup that finds nothing and no key has changed no state: the
+    // second try gives the same answer.
+    if (planCache().enabled) return nullptr;
     return lookup(node, token, flagOut, keyOut, abbreviate);
   }
   if (node) clearExcluded(node);
@@ -193,6 +384,17 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
   auto table = gKeyTables().find(tableName);
   if (table == gKeyTables().end()) return false;
   if (table->second.count(token)) return true;
+  if (planCache().enabled) {
+    // Only bracketed and pattern words can match a token other than
+    // themselves; the rest were answered by the lookup above.
+    const TablePlan* plan = tablePlanOf(tableName);
+    for (const auto& entry : plan->words) {
+      const std::string& word = *entry.first;
+      if (entry.second && ParserToolCase::isValidInput(word, token)) return true;
+      if (ParserToolCase::isNewValidInput(word, token)) return true;
+    }
+    return false;
+  }
   for (auto& entry : table->second) {
     const std::string& word = entry.first;
     if (ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token)) return true;
@@ -204,6 +406,27 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
 bool hasInterfaceWords(const ParserTreeNode* node) {
   if (!node) return false;
   static const std::string kInterfaceTable = "&interfacefile.cfm";
+  if (planCache().enabled) {
+    LookupPlan& plan = planOf(const_cast<ParserTreeNode*>(node));
+    if (plan.interfaceWords < 0) {
+      // Worked out in full before it is kept, so that a word that throws
+      // keeps throwing.
+      bool found = false;
+      for (auto* map : {&node->mChildren, &node->mOptions}) {
+        for (auto it = map->begin(); it != map->end() && !found; ++it) {
+          for (auto& word : it->second->mKeywords) {
+            if (word.first == kInterfaceTable || matchesKeyTable(word.first, kInterfaceTable)) {
+              found = true;
+              break;
+            }
+          }
+        }
+        if (found) break;
+      }
+      plan.interfaceWords = found ? 1 : 0;
+    }
+    return plan.interfaceWords == 1;
+  }
   for (auto* map : {&node->mChildren, &node->mOptions}) {
     for (auto& entry : *map) {
       for (auto& word : entry.second->mKeywords) {
@@ -215,6 +438,13 @@ bool hasInterfaceWords(const ParserTreeNode* node) {
 }
 
 int nodeStatus(const ParserTreeNode* node) { return node && node->mIsEnd ? 0 : 1; }
+
+void resetLookupPlans() { ++planCache().generation; }
+
+void setLookupPlansEnabled(bool enabled) {
+  planCache().enabled = enabled;
+  resetLookupPlans();
+}
 
 void clearExcluded(ParserTreeNode* node) {
   if (node) node->mExcluded.clear();

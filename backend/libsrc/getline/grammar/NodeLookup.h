@@ -9,7 +9,8 @@
 // "hostname or a.b.c.d"; then everything again with the token lower-cased.
 //
 // Lookups change the option state of nodes (mVisitedOptions) and clear
-// mExcluded; they are for one thread at a time. A token of only zeros typed
+// mExcluded, and keep plans of the nodes they searched (below); they are for
+// one thread at a time. A token of only zeros typed
 // into a numeric range throws std::out_of_range, which nothing here catches.
 #pragma once
 
@@ -35,5 +36,13 @@ VTYCONF_API bool hasInterfaceWords(const ParserTreeNode* node);
 // 0 when a command may end at the node, 1 otherwise.
 VTYCONF_API int nodeStatus(const ParserTreeNode* node);
 VTYCONF_API void clearExcluded(ParserTreeNode* node);
+
+// The searches keep, per node and per KeyFile table, the candidates of each
+// step worked out once; they answer exactly what the plain scans answer. The
+// loader calls resetLookupPlans when it reads KeyFiles; a plan is also
+// dropped whenever a node has been made since it was built. Turning the
+// plans off runs the plain scans (used to compare the two).
+VTYCONF_API void resetLookupPlans();
+VTYCONF_API void setLookupPlansEnabled(bool enabled);
 
 }  // namespace qxparser

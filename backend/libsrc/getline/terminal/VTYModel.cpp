@@ -278,17 +278,26 @@ void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNod
       word = &node->mText;
     }
   }
+  // Appended piece by piece: this runs for every word of every line.
   if (token == kEndToken) {
-    mInfoLine += prefix + "\n";
-    mCompleteLine += prefix + "\n";
+    mInfoLine += prefix;
+    mInfoLine += '\n';
+    mCompleteLine += prefix;
+    mCompleteLine += '\n';
     return;
   }
+  mInfoLine += prefix;
   if (isValue) {
-    mInfoLine += prefix + "<" + *word + "> ";
+    mInfoLine += '<';
+    mInfoLine += *word;
+    mInfoLine += "> ";
   } else {
-    mInfoLine += prefix + *word + " ";
+    mInfoLine += *word;
+    mInfoLine += ' ';
   }
-  mCompleteLine += prefix + *word + " ";
+  mCompleteLine += prefix;
+  mCompleteLine += *word;
+  mCompleteLine += ' ';
 }
 
 ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo) {

@@ -1,0 +1,179 @@
+// The searches with their per-node plans against the plain scans: the same
+// records for every corpus file, and the same answer for every token at
+// every node of the shipped grammar.
+#include <map>
+#include <set>
+#include <stdexcept>
+
+#include "ShippedGrammar.h"
+#include "config/CmdOrderTable.h"
+#include "grammar/NodeLookup.h"
+#include "grammar/ParserTree.h"
+
+namespace qxparser {
+
+std::map<VTYModeType, ParserTree*>& gResourceTrees();
+
+namespace {
+
+// Everything a reading leaves in the records, with grammar nodes by address.
+std::string describe(const std::vector<CiscoCommandLine*>& records) {
+  std::map<const CiscoCommandLine*, size_t> index;
+  for (size_t i = 0; i < records.size(); ++i) index[records[i]] = i;
+  std::ostringstream out;
+  for (const CiscoCommandLine* record : records) {
+    auto parent = index.find(record->getParentCommand());
+    std::string major;
+    record->getMajorCmdStr(major);
+    out << (parent == index.end() ? -1 : static_cast<long>(parent->second)) << '|' << record->getLevel() << '|'
+        << record->getLineNo() << '|' << record->getOrderNo() << '|' << record->getFlags() << '|'
+        << record->getFlag() << '|' << record->getCurrentCommand() << '|' << record->getOriginalCmd() << '|'
+        << record->getOriginalStr() << '|' << major << '|';
+    for (const CmdPathEntry& entry : record->getTreeNodes()) {
+      out << entry.node << '{';
+      for (const std::string& word : entry.words) out << word << ',';
+      out << '}';
+    }
+    out << "|subs " << record->getSubCommands().size() << '\n';
+  }
+  return out.str();
+}
+
+std::string readWith(bool plans, const std::string& text) {
+  setLookupPlansEnabled(plans);
+  std::vector<CiscoCommandLine*> records;
+  std::string errorText;
+  int errorLine = 0;
+  const bool ok = QxParserUtil::getCmdInfo(text, records, errorText, errorLine);
+  std::string description = describe(records);
+  QxParserUtil::deleteCommands(records);
+  setLookupPlansEnabled(true);
+  return std::to_string(ok) + errorText + std::to_string(errorLine) + "\n" + description;
+}
+
+class ReadingPlansTest : public ShippedGrammarTest {};
+
+TEST_F(ReadingPlansTest, CorpusFilesReadTheSameWithAndWithoutPlans) {
+  const std::vector<CorpusFile> files = corpusFiles();
+  if (files.empty()) GTEST_SKIP() << "no corpus at " << corpusFolder();
+  for (const CorpusFile& file : files) {
+    EXPECT_EQ(readWith(true, file.text), readWith(false, file.text)) << file.name;
+  }
+}
+
+TEST_F(ReadingPlansTest, MixedCaseAndOddLinesReadTheSame) {
+  const std::string text =
+      "HOSTNAME R1\n"
+      "Interface GigabitEthernet0/1\n"
+      " IP ADDRESS 10.0.0.1 255.255.255.0\n"
+      " no shut\n"
+      "router bgp 65000\n"
+      " neighbor 192.0.2.1 remote-as 65001\n"
+      " address-family ipv4\n"
+      "  neighbor 192.0.2.1 activate\n"
+      "access-list 10 permit 0 0.0.0.255\n"
+      "ip route 0.0.0.0 0.0.0.0 Null0 250\n"
+      "snmp-server community s3cr3t RO 10\n"
+      "nonsense words here\n"
+      "interface Loopback00\n";
+  EXPECT_EQ(readWith(true, text), readWith(false, text));
+}
+
+// The order number of the first template of the file that fits, by a scan.
+int plainOrderNo(const std::vector<CiscoCommandLine*>& templates, const CiscoCommandLine& command, int none) {
+  for (const CiscoCommandLine* templ : templates) {
+    if (templ && templateFits(*templ, command)) return templ->getOrderNo();
+  }
+  return none;
+}
+
+TEST_F(ReadingPlansTest, OrderNumbersAreThoseOfTheFirstFittingTemplate) {
+  const std::vector<CorpusFile> files = corpusFiles();
+  if (files.empty()) GTEST_SKIP() << "no corpus at " << corpusFolder();
+  ASSERT_FALSE(gCmdOrderTable().empty());
+  size_t compared = 0;
+  for (const CorpusFile& file : files) {
+    std::vector<CiscoCommandLine*> records;
+    std::string errorText;
+    int errorLine = 0;
+    QxParserUtil::getCmdInfo(file.text, records, errorText, errorLine);
+    for (const auto& table : gCmdOrderTable()) {
+      ParserTreeNode mode;
+      mode.mFileName = table.first;
+      for (const CiscoCommandLine* record : records) {
+        if (record->getTreeNodes().empty()) continue;
+        CiscoCommandLine copy(*record);
+        copy.delOnlyChildCmds();  // the copy's children are its own
+        copy.setOrderNo(-7);
+        copy.setOrderNo(&mode);
+        ASSERT_EQ(copy.getOrderNo(), plainOrderNo(table.second, *record, -7))
+            << file.name << ": " << record->getOriginalCmd() << " in " << table.first;
+        ++compared;
+      }
+    }
+    QxParserUtil::deleteCommands(records);
+  }
+  EXPECT_GT(compared, 10000u);
+}
+
+// The answer of lookupToken, or the error it throws.
+std::string answer(ParserTreeNode* node, const std::string& token) {
+  // Options taken by an earlier question would change this one's answer.
+  node->mVisitedOptions.clear();
+  for (auto& entry : node->mOptions) {
+    if (entry.second->mParent) entry.second->mParent->mVisitedOptions.clear();
+  }
+  bool flag = false;
+  bool retried = false;
+  std::string key;
+  try {
+    ParserTreeNode* found = lookupToken(node, token, flag, key, false, &retried);
+    std::ostringstream out;
+    out << found << ' ' << key << ' ' << retried << ' ' << hasInterfaceWords(node);
+    return out.str();
+  } catch (const std::out_of_range& error) {
+    return std::string("throws ") + error.what();
+  }
+}
+
+TEST_F(ReadingPlansTest, EveryNodeAnswersEveryTokenAsThePlainScan) {
+  const std::vector<std::string> tokens = {
+      "\n",          "interface",  "Interface", "ip",          "no",          "10",       "0",
+      "00",          "65000",      "4294967296", "10.0.0.1",   "10.0.0.0/8",  "1:2",      "65000:100",
+      "+5",          "-",          "0011.2233.4455", "GigabitEthernet0/1", "gigabitethernet", "0/1",
+      "Loopback0",   "vlan",       "word",      "description", "permit",      "any",      "host",
+      "12:30",       "ethernet",   "x"};
+  std::vector<ParserTreeNode*> queue;
+  std::set<ParserTreeNode*> seen;
+  for (auto& entry : gResourceTrees()) {
+    if (entry.second && entry.second->mRoot && seen.insert(entry.second->mRoot).second) {
+      queue.push_back(entry.second->mRoot);
+    }
+  }
+  ASSERT_FALSE(queue.empty());
+  // Breadth first, a bounded number of nodes: the busy top levels and the
+  // commands below them.
+  for (size_t i = 0; i < queue.size() && queue.size() < 1500; ++i) {
+    for (auto* map : {&queue[i]->mChildren, &queue[i]->mOptions}) {
+      for (auto& entry : *map) {
+        if (seen.insert(entry.second).second) queue.push_back(entry.second);
+      }
+    }
+  }
+  size_t compared = 0;
+  for (ParserTreeNode* node : queue) {
+    for (const std::string& token : tokens) {
+      setLookupPlansEnabled(false);
+      const std::string plain = answer(node, token);
+      setLookupPlansEnabled(true);
+      const std::string planned = answer(node, token);
+      ASSERT_EQ(planned, plain) << "token '" << token << "' at a node with first word " << node->firstKeyword();
+      ++compared;
+    }
+    node->mVisitedOptions.clear();
+  }
+  EXPECT_GT(compared, 1000u);
+}
+
+}  // namespace
+}  // namespace qxparser

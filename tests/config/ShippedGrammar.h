@@ -1,0 +1,73 @@
+// Shared set-up of the tests that read real configurations: the shipped
+// definition files loaded as the parser resources, the public corpus, and
+// helpers to compare texts line by line.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <dirent.h>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "config/QxParserUtil.h"
+#include "grammar/DefinitionLoader.h"
+#include "platform/QXFileSystem.h"
+
+namespace qxparser {
+
+struct CorpusFile {
+  std::string name;
+  std::string text;
+};
+
+inline std::string corpusFolder() { return std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/"; }
+
+inline std::string readWholeFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream buffer;
+  buffer << in.rdbuf();
+  return buffer.str();
+}
+
+// The *.cfg files of the public corpus, by name; empty when it is absent.
+inline std::vector<CorpusFile> corpusFiles() {
+  std::vector<CorpusFile> files;
+  DIR* dir = opendir(corpusFolder().c_str());
+  if (!dir) return files;
+  while (dirent* entry = readdir(dir)) {
+    const std::string name = entry->d_name;
+    if (name.size() > 4 && name.compare(name.size() - 4, 4, ".cfg") == 0) files.push_back({name, ""});
+  }
+  closedir(dir);
+  std::sort(files.begin(), files.end(), [](const CorpusFile& a, const CorpusFile& b) { return a.name < b.name; });
+  for (CorpusFile& file : files) file.text = readWholeFile(corpusFolder() + file.name);
+  return files;
+}
+
+// The lines of a text (split at newline), sorted: texts compared up to order.
+inline std::vector<std::string> sortedLines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::string line;
+  std::istringstream in(text);
+  while (std::getline(in, line)) lines.push_back(line);
+  std::sort(lines.begin(), lines.end());
+  return lines;
+}
+
+class ShippedGrammarTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    QXFileSystem::SetSystemResourceFolder(std::string(VTYCONF_SOURCE_DIR) + "/resources/");
+    clearLoaderTables();
+    QxParserUtil::createNewParserResource();
+  }
+  static void TearDownTestSuite() {
+    QxParserUtil::destroyParserResource();
+    clearLoaderTables();
+  }
+};
+
+}  // namespace qxparser
