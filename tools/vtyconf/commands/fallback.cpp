@@ -3,6 +3,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "OutputText.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
@@ -32,7 +33,7 @@ CommandRegistration registration{CommandSpec{
         if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
         if (!loadResources()) return 2;
         const unsigned int mode = options->delta ? 0u : 1u;
-        const std::string text = qxparser::QxParserUtil::fallbackConfigCmds(first, second, mode);
+        const std::string text = printable(qxparser::QxParserUtil::fallbackConfigCmds(first, second, mode));
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
         return 0;
       };

@@ -4,6 +4,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "OutputText.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
@@ -29,7 +30,7 @@ CommandRegistration registration{CommandSpec{
         std::string config;
         if (!readInput(options->changes, changes) || !readInput(options->config, config)) return 2;
         if (!loadResources()) return 2;
-        const std::string merged = qxparser::QxParserUtil::mergeConfigCmds(changes, config);
+        const std::string merged = printable(qxparser::QxParserUtil::mergeConfigCmds(changes, config));
         if (options->output.empty()) {
           std::cout.write(merged.data(), static_cast<std::streamsize>(merged.size()));
           return 0;
