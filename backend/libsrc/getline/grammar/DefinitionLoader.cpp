@@ -171,10 +171,14 @@ ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
   std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + fileName;
   std::ifstream in(StlHelper::AToW(path));
   if (!in) throw ParserException("error: can't open file: " + path);
+  const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
   {
     LoadGuard guard(tree, fileName);
     readGrammarStream(tree, in);
   }
+  // Levels that the file left open without their "!" end with the file: they
+  // must not become parents of the lines of the file that linked this one.
+  while (tree.mNodeStack.size() > base + 1) tree.mNodeStack.pop_back();
   if (!tree.mNodeStack.empty()) tree.mNodeStack.pop_back();
   return root;
 }
