@@ -1,11 +1,13 @@
-// Definition files that end with levels still open: the levels end with the
-// file, so the lines of a file that links such a file stay where they belong.
+// Definition files the loader must survive: levels still open at the end of a
+// file end with it, so the lines of a file that links such a file stay where
+// they belong; a link that names a path instead of a file is refused.
 #include <gtest/gtest.h>
 
 #include <memory>
 
 #include "grammar/DefinitionLoader.h"
 #include "grammar/NodePool.h"
+#include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
 #include "support/TestResources.h"
 
@@ -42,6 +44,24 @@ TEST(LoaderOpenLevelsTest, TopFileWithOpenLevelsLeavesNoOpenNode) {
     auto tree = loadMain({{"main.cfm", text}});
     EXPECT_TRUE(tree->mNodeStack.empty()) << text;
     EXPECT_EQ(tree->mRoot->mChildren.count("a"), 1u) << text;
+  }
+}
+
+TEST(LoaderOpenLevelsTest, LinksNamingAPathAreRefused) {
+  const std::string table[] = {
+      "a|h|k||@x ../../../../../../../../dev/zero\n!\n",
+      "a|h|k||@x /dev/zero\n!\n",
+      "a|h|k||&../files/main.cfm\n!\n",
+      "a|h|k||&sub\\main.cfm\n!\n",
+  };
+  for (const std::string& text : table) {
+    try {
+      loadMain({{"main.cfm", text}});
+      ADD_FAILURE() << "loaded: " << text;
+    } catch (const ParserException& e) {
+      EXPECT_NE(e.text().find("is not a file name of the definition folder"), std::string::npos) << e.text();
+      EXPECT_EQ(e.text().rfind("main.cfm:1: ", 0), 0u) << e.text();
+    }
   }
 }
 

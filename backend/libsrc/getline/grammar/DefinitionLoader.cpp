@@ -165,6 +165,12 @@ ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
   if (filesInProgress().count(fileName)) {
     malformed(tree, "\"" + fileName + "\" links itself; a definition file may not include or open its own mode");
   }
+  // Links name files of the definition folder itself. A path would let a
+  // definition file read anything the process can open, a device or a pipe
+  // included, which may never end.
+  if (fileName.find_first_of("/\\") != std::string::npos) {
+    malformed(tree, "\"" + fileName + "\" is not a file name of the definition folder");
+  }
   ParserTreeNode* root = NodePool::newNode();
   root->mEntersMode = true;
   tree.mNodeStack.push_back(root);
