@@ -65,6 +65,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (std::strlen(editor->getLine()) > static_cast<size_t>(GetLineData::kMaxInput) + 1) {
       fuzzsupport::fail("the line passed the buffer");
     }
+    // The screen only ever gets text, prompts and control keys: a NUL means
+    // that the redraw read behind the end of the line.
+    if (editor->outputString().find('\0') != std::string::npos) fuzzsupport::fail("the redraw drew a NUL");
     editor->clearOutput();
   }
   GetLineData::getline_init(nullptr, nullptr);
