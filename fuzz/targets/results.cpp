@@ -31,7 +31,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     size_t end = text.find('\n', start);
     if (end == std::string::npos) end = text.size();
     ++fileLines;
-    if (end > start) ++nonEmptyLines;
+    // CR LF arrives as LF: a line of one CR before its LF is empty.
+    const bool crOnly = end == start + 1 && text[start] == '\r' && end < text.size();
+    if (end > start && !crOnly) ++nonEmptyLines;
     start = end + 1;
   }
   const size_t treeLines = countLines(&tree);
