@@ -1,8 +1,8 @@
 // Redraw of GetLineData: the smallest change that brings the screen line in
 // step with the buffer, with horizontal scrolling.
 //
-// The screen shows the prompt, then `mWidth` columns for text, of which at most
-// mWidth - 1 are used. When the text does not fit, the visible part starts at
+// The screen shows the prompt, then `mWidth` columns for text (never fewer than
+// the scroll step and two), of which at most mWidth - 1 are used. When the text does not fit, the visible part starts at
 // gShift (a multiple of the scroll step) and a "$" stands in the first column
 // when text is hidden to the left, and in the last used column when text is
 // hidden to the right. mCursor is where the terminal cursor stands, as an index
@@ -33,6 +33,19 @@ void GetLineData::gl_redraw() {
   gl_fixup(mPrompt.c_str(), -2, mCursor);
 }
 
+namespace {
+
+// Columns left for text beside a prompt. A prompt that takes all but a few
+// columns of the screen still leaves the scroll step and two columns: with
+// fewer, the shift computed from the cursor would pass the end of the line and
+// the redraw would read behind the buffer.
+int textWidth(int termWidth, int promptLength, int scroll) {
+  int width = termWidth - promptLength;
+  return width < scroll + 2 ? scroll + 2 : width;
+}
+
+}  // namespace
+
 void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
   if (prompt == nullptr) prompt = "";
   int promptLength = static_cast<int>(std::strlen(prompt));
@@ -45,7 +58,7 @@ void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
     gl_puts(prompt);
     mNoechoNow = mNoecho;
     mPrevText.assign(prompt, storedLength);
-    mWidth = mTermWidth - promptLength;
+    mWidth = textWidth(mTermWidth, promptLength, mScroll);
     change = 0;
   } else if (mPrevText.compare(0, std::string::npos, prompt, storedLength) != 0) {
     int oldLength = static_cast<int>(mPrevText.size());
@@ -57,7 +70,7 @@ void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
     gl_puts(prompt);
     mNoechoNow = mNoecho;
     mCursor = gShift;
-    mWidth = mTermWidth - promptLength;
+    mWidth = textWidth(mTermWidth, promptLength, mScroll);
     change = 0;
   }
 

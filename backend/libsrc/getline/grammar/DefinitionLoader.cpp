@@ -168,16 +168,26 @@ ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
   if (filesInProgress().count(fileName)) {
     malformed(tree, "\"" + fileName + "\" links itself; a definition file may not include or open its own mode");
   }
+  // Links name files of the definition folder itself. A path would let a
+  // definition file read anything the process can open, a device or a pipe
+  // included, which may never end.
+  if (fileName.find_first_of("/\\") != std::string::npos) {
+    malformed(tree, "\"" + fileName + "\" is not a file name of the definition folder");
+  }
   ParserTreeNode* root = NodePool::newNode();
   root->mEntersMode = true;
   tree.mNodeStack.push_back(root);
   std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + fileName;
   std::ifstream in(StlHelper::AToW(path));
   if (!in) throw ParserException("error: can't open file: " + path);
+  const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
   {
     LoadGuard guard(tree, fileName);
     readGrammarStream(tree, in);
   }
+  // Levels that the file left open without their "!" end with the file: they
+  // must not become parents of the lines of the file that linked this one.
+  while (tree.mNodeStack.size() > base + 1) tree.mNodeStack.pop_back();
   if (!tree.mNodeStack.empty()) tree.mNodeStack.pop_back();
   return root;
 }

@@ -1,0 +1,148 @@
+name|ascii name of the vlan|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+state|state|k||
+  active|active|k||
+    <cr>||||
+    !
+  !
+  suspend|suspend|k||
+    <cr>||||
+    !
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!
+remote-span|remote-span|k||
+  <cr>||||
+  !
+!
+private-vlan|private-vlan|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+media|media|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mtu|mtu|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+are|are|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+ste|ste|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+backupcrf|backupcrf|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+bridge|bridge|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+parent|parent|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+ring|ring|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+said|said|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+tb-vlan1|tb-vlan1|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+tb-vlan2|tb-vlan2|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+action|action|k||
+  forward|forward|k||
+    <cr>||||
+    !
+  !
+  drop|drop|k||
+    <cr>||||
+    !
+    log|log|k||
+      <cr>||||
+      !
+    !
+  !
+!
+match|match|k||
+  ip|ip|k||
+    address|address|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  mac|mac|k||
+    address|address|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+instance|instance|k||
+  id|id|k||
+    vlan|vlan|k||
+      <vlan>|vlan|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+revision|revision|k||
+  id|id|||
+    <cr>||||
+    !
+  !
+!
+exit|exit|k||
+  <cr>||||
+  !
+!
