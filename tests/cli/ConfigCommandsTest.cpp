@@ -74,7 +74,7 @@ class ConfigCommandsTest : public ::testing::Test {
   static std::string resources() { return std::string(VTYCONF_SOURCE_DIR) + "/resources/"; }
 
   std::string file(const std::string& name, const std::string& text) {
-    const std::string path = ::testing::TempDir() + "vtyconf_cli_" + name;
+    const std::string path = QXFileSystem::GetTempFolder() + "vtyconf_cli_" + name;
     std::ofstream(path, std::ios::binary) << text;
     return path;
   }
@@ -82,8 +82,8 @@ class ConfigCommandsTest : public ::testing::Test {
   // Runs vtyconf with `args`, standard input from `input`.
   Outcome run(const std::string& args, const std::string& input = "") {
     const std::string in = file("stdin", input);
-    const std::string out = ::testing::TempDir() + "vtyconf_cli_stdout";
-    const std::string err = ::testing::TempDir() + "vtyconf_cli_stderr";
+    const std::string out = QXFileSystem::GetTempFolder() + "vtyconf_cli_stdout";
+    const std::string err = QXFileSystem::GetTempFolder() + "vtyconf_cli_stderr";
     const std::string command = std::string("'") + VTYCONF_CLI_PATH + "' --resources '" + resources() + "' " + args +
                                 " < '" + in + "' > '" + out + "' 2> '" + err + "'";
     Outcome result;
@@ -117,7 +117,7 @@ TEST_F(ConfigCommandsTest, MergeWritesTheLibraryResultFromFilesStdinAndToAFile) 
     EXPECT_EQ(result.out, expected) << row.args;
   }
 
-  const std::string target = ::testing::TempDir() + "vtyconf_cli_merged.cfg";
+  const std::string target = QXFileSystem::GetTempFolder() + "vtyconf_cli_merged.cfg";
   std::remove(target.c_str());
   const Outcome written = run("merge '" + changes + "' '" + config + "' -o '" + target + "'");
   EXPECT_EQ(written.status, 0);
@@ -198,7 +198,7 @@ TEST_F(ConfigCommandsTest, QueryAsTextAndJson) {
 
 TEST_F(ConfigCommandsTest, AMissingFileIsReportedWithExitTwo) {
   const std::string config = file("config.cfg", kConfig);
-  const std::string missing = ::testing::TempDir() + "vtyconf_cli_no_such_file.cfg";
+  const std::string missing = QXFileSystem::GetTempFolder() + "vtyconf_cli_no_such_file.cfg";
   const std::vector<std::string> rows = {
       "merge '" + missing + "' '" + config + "'",
       "merge '" + config + "' '" + missing + "'",

@@ -62,7 +62,7 @@ class ConfigFixture : public ::testing::Test {
 
   // Writes a configuration file for a search and returns its path.
   std::string writeConfig(const std::string& name, const std::string& text) {
-    const std::string path = ::testing::TempDir() + "configops_" + name;
+    const std::string path = QXFileSystem::GetTempFolder() + "configops_" + name;
     std::ofstream out(path, std::ios::binary);
     out << text;
     return path;

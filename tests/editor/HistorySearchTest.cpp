@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/QXFileSystem.h"
 #include "EditorFixture.h"
 
 namespace editortest {
@@ -29,7 +30,7 @@ class HistoryTest : public EditorTest {
  protected:
   void SetUp() override {
     EditorTest::SetUp();
-    dir_ = fs::path(::testing::TempDir()) /
+    dir_ = fs::path(QXFileSystem::GetTempFolder()) /
            ("editor-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     fs::remove_all(dir_);
     fs::create_directories(dir_);
