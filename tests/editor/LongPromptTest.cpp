@@ -37,4 +37,15 @@ TEST_F(LongPromptTest, LongLineBehindAPromptWiderThanTheScreenDrawsOnlyItsText) 
   }
 }
 
+TEST_F(LongPromptTest, WiderScreenSetBeforeAnyFullDrawKeepsTheDrawInsideTheLine) {
+  // Keys in mode 1 from the first one on: no full draw has measured the text
+  // width for the new screen, so the width of the default screen meets the
+  // scroll step of the wide one.
+  ed->Gl_setwidth(255);
+  const std::string text(168, 'x');
+  const std::string drawn = feed(text + "\x1b\x19\x19", 1);
+  EXPECT_EQ(line(), text + text);
+  EXPECT_EQ(drawn.find('\0'), std::string::npos);
+}
+
 }  // namespace

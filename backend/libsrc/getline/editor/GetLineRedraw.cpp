@@ -2,12 +2,13 @@
 // step with the buffer, with horizontal scrolling.
 //
 // The screen shows the prompt, then `mWidth` columns for text (never fewer than
-// the scroll step and two), of which at most mWidth - 1 are used. When the text does not fit, the visible part starts at
-// gShift (a multiple of the scroll step) and a "$" stands in the first column
-// when text is hidden to the left, and in the last used column when text is
-// hidden to the right. mCursor is where the terminal cursor stands, as an index
-// into the line; all motion on the screen is done with backspaces and by
-// printing characters again, never with terminal control sequences.
+// the scroll step and two), of which at most mWidth - 1 are used. When the text
+// does not fit, the visible part starts at gShift (a multiple of the scroll
+// step) and a "$" stands in the first column when text is hidden to the left,
+// and in the last used column when text is hidden to the right. mCursor is
+// where the terminal cursor stands, as an index into the line; all motion on
+// the screen is done with backspaces and by printing characters again, never
+// with terminal control sequences.
 #include <cctype>
 #include <cstring>
 
@@ -33,19 +34,6 @@ void GetLineData::gl_redraw() {
   gl_fixup(mPrompt.c_str(), -2, mCursor);
 }
 
-namespace {
-
-// Columns left for text beside a prompt. A prompt that takes all but a few
-// columns of the screen still leaves the scroll step and two columns: with
-// fewer, the shift computed from the cursor would pass the end of the line and
-// the redraw would read behind the buffer.
-int textWidth(int termWidth, int promptLength, int scroll) {
-  int width = termWidth - promptLength;
-  return width < scroll + 2 ? scroll + 2 : width;
-}
-
-}  // namespace
-
 void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
   if (prompt == nullptr) prompt = "";
   int promptLength = static_cast<int>(std::strlen(prompt));
@@ -58,7 +46,7 @@ void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
     gl_puts(prompt);
     mNoechoNow = mNoecho;
     mPrevText.assign(prompt, storedLength);
-    mWidth = textWidth(mTermWidth, promptLength, mScroll);
+    mWidth = mTermWidth - promptLength;
     change = 0;
   } else if (mPrevText.compare(0, std::string::npos, prompt, storedLength) != 0) {
     int oldLength = static_cast<int>(mPrevText.size());
@@ -70,9 +58,15 @@ void GetLineData::gl_fixup(const char* prompt, int change, int cursor) {
     gl_puts(prompt);
     mNoechoNow = mNoecho;
     mCursor = gShift;
-    mWidth = textWidth(mTermWidth, promptLength, mScroll);
+    mWidth = mTermWidth - promptLength;
     change = 0;
   }
+
+  // The text keeps at least the scroll step and two columns, also beside a
+  // prompt that takes (almost) the whole screen or after a wider screen was
+  // set since the last full draw: with fewer, the shift computed from the
+  // cursor would pass the end of the line and the draw would read behind it.
+  if (mWidth < mScroll + 2) mWidth = mScroll + 2;
 
   int pad = gOffRight ? mWidth - 1 : mLength - gShift;
   int backup = mCursor - gShift;  // columns from the start of the text to the terminal cursor
