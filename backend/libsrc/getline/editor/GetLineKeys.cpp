@@ -412,6 +412,10 @@ void GetLineData::gl_newline() {
   }
   mLine[len] = '\n';
   mLine[len + 1] = '\0';
+  // The newline counts in the length: an edit made on the finished line (a key
+  // in mode 1 before the next line starts) moves the text up to the length and
+  // its end marker, and must not leave the old end behind.
+  mLength = len + 1;
   mMark = -1;
   mNewLine = 1;
 }

@@ -3,8 +3,9 @@
 // A fixed array of 10000 constructed nodes, built once before the first
 // definition file is read, is handed out in order; past its end nodes are
 // allocated one by one and kept on a list. Nothing is returned before the
-// process ends, so node pointers stay valid across destroyParserResource and
-// a later createNewParserResource. Not thread-safe.
+// process ends (unless a host that reloads grammars calls releaseAll), so node
+// pointers stay valid across destroyParserResource and a later
+// createNewParserResource. Not thread-safe.
 #pragma once
 
 #include <cstddef>
