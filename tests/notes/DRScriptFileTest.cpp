@@ -27,6 +27,8 @@ TEST(DRScriptFileTest, WriteThenReadKeepsEveryField) {
       {"first\nsecond\n\nfourth", "print \"x\";\n", true},
       {"ends with a line end\n", "", false},
       {"!!! looks like a marker", "! only a comment\n#a = #b;", true},
+      // A CR before a line end in memory (a file read with CR CR LF).
+      {"cr at the end\r\nnext", "print \"x\";\r\n#a = #b;\r\r\n", true},
   };
   int i = 0;
   for (const Row& row : rows) {

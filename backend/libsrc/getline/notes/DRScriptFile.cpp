@@ -41,6 +41,19 @@ bool readTextFile(const std::string& path, std::string& text) {
   return true;
 }
 
+// The bytes a text in memory is written as. LF stays LF, except behind a CR:
+// there it is written as CR LF, which the reader turns back into the LF, so
+// a CR at the end of a line in memory survives a write and a read.
+std::string onDisk(const std::string& text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' && i > 0 && text[i - 1] == '\r') bytes.push_back('\r');
+    bytes.push_back(text[i]);
+  }
+  return bytes;
+}
+
 // The text behind a marker up to the next LF or the end of the buffer.
 std::string valueBehind(const std::string& buffer, std::size_t markerPos, std::size_t markerLength) {
   std::size_t start = markerPos + markerLength;
@@ -124,7 +137,7 @@ bool DRScriptFile::saveScriptFile(const std::string& path) const {
     if (!contains(path, ".py")) return true;
     std::ofstream out(StlHelper::AToW(path), std::ios::binary | std::ios::trunc);
     if (!out.is_open()) return false;
-    out << mContext;
+    out << onDisk(mContext);
     return true;
   }
 
@@ -136,9 +149,9 @@ bool DRScriptFile::saveScriptFile(const std::string& path) const {
     out << kVersionMark << kWrittenVersion << '\n'
         << kFavouriteMark << (mFavourite ? 1 : 0) << '\n'
         << kDescriptionMark << '\n'
-        << "!!!" << description << '\n'
+        << "!!!" << onDisk(description) << '\n'
         << kContextMark << '\n'
-        << mContext;
+        << onDisk(mContext);
   }
 
   std::size_t dot = path.rfind('.');

@@ -10,7 +10,8 @@
 // always formed by DesignNoteParser::getBaceNameFromScriptFilePath.
 //
 // Files are text streams: a CR LF on disk reads as LF in memory; the writer
-// writes LF. Nothing reports an error in words and nothing throws: a file that
+// writes LF (CR LF behind a CR, so that a CR before a line end survives a
+// write and a read). Nothing reports an error in words and nothing throws: a file that
 // cannot be read gives an object with an empty context. An object is a plain
 // value that holds no file open between calls; one object may not be used from
 // two threads at once.
