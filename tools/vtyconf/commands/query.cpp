@@ -218,8 +218,9 @@ CommandRegistration registration{CommandSpec{
     "query", "fixed queries over configuration files",
     [](CLI::App& sub, const GlobalOptions& global) -> std::function<int()> {
       auto options = std::make_shared<QueryOptions>();
-      sub.add_option("CONFIG...WHAT", options->arguments,
-                     "configuration files or folders ('-' for standard input), then the query: vrfs | vrf NAME | "
+      sub.add_option("ARGS", options->arguments,
+                     "CONFIG... WHAT [KEY...]: configuration files or folders ('-' for standard input), then the "
+                     "query: vrfs | vrf NAME | "
                      "protocols | protocol NAME... | interface NAME | interfaces NAME... | acls | acl KEY | nat KEY | "
                      "route-map KEY | section KEY | lines KEY")
           ->required();
