@@ -1,0 +1,8 @@
+configure|enter configuration mode|k||
+  <cr>||||
+  !
+  terminal|configure from the terminal|k||
+    <cr>||||
+    !
+  !
+!

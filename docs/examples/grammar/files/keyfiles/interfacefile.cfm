@@ -1,0 +1,2 @@
+ethernet|ieee 802.3
+loopback|loopback interface

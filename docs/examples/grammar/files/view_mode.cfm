@@ -1,0 +1,4 @@
+enable|turn on privileged commands|k||
+  <cr>||||
+  !
+!
