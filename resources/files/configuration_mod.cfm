@@ -963,7 +963,43 @@ control-plane-policing|control-plane-policing|k||
   !
 !
 platform|platform configuration|k||
-  line|line|lb/le/wa/o||
+  console|console selection|k||
+    auto|automatic console selection|o||
+      <cr>||||
+      !
+    !
+    serial|serial console|o||
+      <cr>||||
+      !
+    !
+    virtual|virtual console|o||
+      <cr>||||
+      !
+    !
+  !
+  punt-keepalive|punt keepalive settings|k||
+    disable-kernel-core|do not write a kernel core on a keepalive failure|k/o/sb||
+      <cr>||||
+      !
+    !
+    ignore-fault|ignore keepalive faults|k/o/sb||
+      <cr>||||
+      !
+    !
+  !
+  qfp|quantum flow processor|k||
+    utilization|utilization settings|k||
+      monitor|monitor utilization|k||
+        load|load threshold|k||
+          id|load in percent|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  line|other platform setting|lb/le/wa/k||
     <cr>||||
     !
   !
@@ -3284,13 +3320,13 @@ crypto|encryption module|k||
         !
       !
       client|client|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
       isakmp|isakmp|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !
@@ -3302,7 +3338,7 @@ crypto|encryption module|k||
         !
       !
       redundancy|redundancy|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !

@@ -45,15 +45,15 @@ file class_map.cfm
 match "classification criteria"
   ip
     dscp
-      <value> :m * 
+      <value> :k * 
     precedence
-      <value> :m *
+      <value> :k *
     rtp
       line *
   dscp
-    <value> :m *
+    <value> :k *
   precedence
-    <value> :m *
+    <value> :k *
   access-group
     id :k $
     name
@@ -62,12 +62,12 @@ match "classification criteria"
   class-map
     word $
   cos
-    <value> :m *
+    <value> :k *
   mpls
     experimental
       topmost
-        <value> :m *
-      <value> :m *
+        <value> :k *
+      <value> :k *
   qos-group
     id :k $
   protocol

@@ -403,13 +403,13 @@ crypto "encryption module"
       local-address
         %IF
       client
-        line *
+        line :k *
       isakmp
-        line *
+        line :k *
       isakmp-profile
         word $
       redundancy
-        line *
+        line :k *
   dynamic-map
     word :k
       id :k @(config-crypto-map)#=crypto_map.cfm

@@ -329,7 +329,19 @@ route-map "create route-map or enter route-map command mode"
     id :k @(config-route-map)#=route_map.cfm
 control-plane-policing $
 platform "platform configuration"
-  line * :o
+  console "console selection"
+    auto :-k :o "automatic console selection" $
+    serial :-k :o "serial console" $
+    virtual :-k :o "virtual console" $
+  punt-keepalive "punt keepalive settings"
+    disable-kernel-core :o/sb "do not write a kernel core on a keepalive failure" $
+    ignore-fault :o/sb "ignore keepalive faults" $
+  qfp "quantum flow processor"
+    utilization "utilization settings"
+      monitor "monitor utilization"
+        load "load threshold"
+          id :o "load in percent" $
+  line :k * "other platform setting"
 license "license configuration"
   line *
 upgrade "upgrade commands"
