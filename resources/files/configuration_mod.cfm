@@ -1853,13 +1853,13 @@ mmi|modem management|k||
       !
     !
   !
-  auto-configure|auto-configure|k||
-    id|id|||
+  auto-configure|automatic configuration of the modem pvc|k/n/o/sb||
+    id|retry interval in seconds|||
       <cr>||||
       !
     !
   !
-  pvc|pvc|k||
+  pvc|pvc used by the modem|k/n/o/sb||
     line|line|lb/le/wa||
       <cr>||||
       !

@@ -1309,8 +1309,8 @@ sla|ip service level agreement|k||
       !
     !
   !
-  schedule|schedule|k||
-    id|id|k||
+  schedule|schedule an operation|k||
+    id|operation number|k/n||
       line|line|lb/le/wa||
         <cr>||||
         !

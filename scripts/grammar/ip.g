@@ -427,8 +427,8 @@ sla "ip service level agreement"
     id :k @(config-sla-monitor)#=ip_sla.cfm
     schedule
       line *
-  schedule
-    id :k
+  schedule "schedule an operation"
+    id :k/n "operation number"
       line * $
   responder $
   logging

@@ -630,9 +630,9 @@ radius "radius server"
 mmi "modem management"
   polling-interval
     id $
-  auto-configure
-    id $
-  pvc
+  auto-configure :n/o/sb "automatic configuration of the modem pvc"
+    id "retry interval in seconds" $
+  pvc :n/o/sb "pvc used by the modem"
     line * $
   snmp-timeout
     id $

@@ -24,7 +24,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 0.48;
+constexpr double kRecordedRefusedShare = 0.476;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -33,14 +33,15 @@ std::string resourceFolder() {
 }
 
 // No path, or (an incomplete line) a path that never reached the end of a
-// command; a "no" line may stop early on purpose.
+// command; a "no" line may stop early where the grammar lets it, and
+// elsewhere the device answered "% Incomplete command.".
 bool isRefused(const CiscoCommandLine& record) {
   if (record.getFlag() == qxparser::CMD_TEXT) return false;
   if (record.getTreeNodeSize() == 0) return true;
   for (const auto& entry : record.getTreeNodes()) {
     if (entry.words.count("\n") != 0) return false;
   }
-  return !record.hasFlags(qxparser::CMDBIT_NO);
+  return !record.hasFlags(qxparser::CMDBIT_NO) || record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
 }
 
 class GrammarIos : public ::testing::Test {
@@ -147,6 +148,9 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"interface ATM0/0.32 point-to-point\n pvc 0/32\n  vbr-nrt 704 704\n  dialer pool-member 1\n  protocol ppp dialer\n",
        {0, 1, 2, 2, 2}},
       {"platform console auto\nno platform punt-keepalive disable-kernel-core\nmemory statistics history table 12\n", {0, 0, 0}},
+      // "no" forms that stop where the running configuration stops them.
+      {"no mmi auto-configure\nno mmi pvc\nmmi snmp-timeout 180\nno ip sla schedule 16\nno ip sla 17\n",
+       {0, 0, 0, 0, 0}},
       {"ipv6 dhcp pool POOL6\n address prefix fd01:ab00::/64 lifetime infinite\n dns-server 2001::1\n domain-name UK.COM\n",
        {0, 1, 1, 1}},
       {"crypto gdoi group G1\n identity number 18090212\n server local\n  rekey transport unicast\n  sa ipsec 10\n"
@@ -510,6 +514,11 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "platform console serial\n",
        "platform console serial \nno platform punt-keepalive disable-kernel-core \n",
        "platform console auto \n"},
+      {"a modem setting shown in its no form is replaced by a value",
+       "mmi polling-interval 60\nno mmi auto-configure\nno mmi pvc\n",
+       "mmi auto-configure 30\n",
+       "mmi polling-interval 60 \nmmi auto-configure 30 \nno mmi pvc \n",
+       "no mmi auto-configure \n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
