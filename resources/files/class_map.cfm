@@ -166,7 +166,7 @@ match|classification criteria|k||
     !
   !
 !
-description|description|k/n/o||
+description|class-map description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

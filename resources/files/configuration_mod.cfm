@@ -42,7 +42,7 @@ interface|select an interface to configure|k||
     !
   !
 !
-version|version|k||
+version|version of the configuration|k||
   <value>|value|o||
     <cr>||||
     !
@@ -958,7 +958,7 @@ route-map|create route-map or enter route-map command mode|k||
     !
   !
 !
-control-plane-policing|control-plane-policing|k||
+control-plane-policing|control plane policing settings|k||
   <cr>||||
   !
 !
@@ -1218,7 +1218,7 @@ memory|memory configuration|k||
     !
   !
 !
-memory-size|memory-size|k||
+memory-size|adjust memory size by percentage|k||
   iomem|iomem|k||
     id|id|||
       <cr>||||
@@ -1234,11 +1234,11 @@ netconf-yang|netconf yang|k||
     !
   !
 !
-restconf|restconf|k||
+restconf|enable restconf|k||
   <cr>||||
   !
 !
-netconf|netconf|k||
+netconf|configure netconf|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -1516,7 +1516,7 @@ dialer-list|dialer list|k||
     !
   !
 !
-dialer|dialer|k||
+dialer|dialer watch and pool configuration|k||
   watch-list|watch-list|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1554,7 +1554,7 @@ vpdn|virtual private dialup network|k||
     !
   !
 !
-vpdn-group|vpdn-group|k||
+vpdn-group|vpdn group configuration|k||
   word|word|k||
     <cr>||||@(config-vpdn)# generic.cfm
     !
@@ -1888,7 +1888,7 @@ call-home|call home|k||
   <cr>||||@(cfg-call-home)# call_home.cfm
   !
 !
-aqm-register-fnf|aqm-register-fnf|k||
+aqm-register-fnf|aqm register with flexible netflow|k||
   <cr>||||
   !
 !
@@ -1966,7 +1966,7 @@ pseudowire-class|pseudowire class|k||
     !
   !
 !
-l2tp-class|l2tp-class|k||
+l2tp-class|configure an l2tp class|k||
   word|word|k||
     <cr>||||@(config-l2tp-class)# generic.cfm
     !
@@ -2006,7 +2006,7 @@ voice|voice configuration|k||
     !
   !
 !
-voice-card|voice-card|k||
+voice-card|configure a voice card|k||
   id|id|k||
     <cr>||||@(config-voicecard)# generic.cfm
     !
@@ -2020,7 +2020,7 @@ sccp|skinny client control protocol|k||
     !
   !
 !
-stcapp|stcapp|k||
+stcapp|skinny telephony control application|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -2050,19 +2050,19 @@ network-clock-participate|network clock|k||
     !
   !
 !
-network-clock|network-clock|k||
+network-clock|configure network clock|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-network-clock-select|network-clock-select|k||
+network-clock-select|select a network clock source|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-scheduler|scheduler|k||
+scheduler|scheduler parameters|k||
   allocate|allocate|k||
     <cr>||||
     !
@@ -2964,7 +2964,7 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
 !
-snmp|snmp|k||
+snmp|modify snmp engine parameters|k||
   ifmib|ifmib|k||
     line|line|lb/le/wa||
       <cr>||||

@@ -283,7 +283,7 @@ snmp-server "modify snmp engine parameters"
     line *
   ip
     line *
-snmp
+snmp "modify snmp engine parameters"
   ifmib
     line *
   mib

@@ -36,7 +36,7 @@ interface "select an interface to configure"
     <number> :k "interface number" @(config-if)#=interface.cfm
   range "interface range"
     line * @(config-if-range)#=interface.cfm
-version "version"
+version "version of the configuration"
   <value> :o $
 boot-start-marker "boot marker" $
 boot-end-marker "boot marker" $
@@ -327,7 +327,7 @@ route-map "create route-map or enter route-map command mode"
     deny "route map denies set operations" @(config-route-map)#=route_map.cfm
       id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
     id :k @(config-route-map)#=route_map.cfm
-control-plane-policing $
+control-plane-policing $ "control plane policing settings"
 platform "platform configuration"
   console "console selection"
     auto :-k :o "automatic console selection" $
@@ -416,13 +416,13 @@ memory "memory configuration"
     critical
       id $
   lite $
-memory-size
+memory-size "adjust memory size by percentage"
   iomem
     id $
 netconf-yang "netconf yang" $
   line *
-restconf "restconf" $
-netconf
+restconf $ "enable restconf"
+netconf "configure netconf"
   line *
 gatekeeper "gatekeeper configuration" @(config-gk)#=generic.cfm
 track "object tracking"
@@ -516,7 +516,7 @@ dialer-list "dialer list"
         deny $
         list
           id $
-dialer
+dialer "dialer watch and pool configuration"
   watch-list
     line *
 domain "domain configuration"
@@ -528,7 +528,7 @@ vpdn "virtual private dialup network"
   group
     word :k @(config-vpdn)#=generic.cfm
   line *
-vpdn-group
+vpdn-group "vpdn group configuration"
   word :k @(config-vpdn)#=generic.cfm
 bba-group "bba group"
   pppoe
@@ -641,7 +641,7 @@ app-hosting "application hosting"
   appid
     word :k @(config-app-hosting)#=generic.cfm
 call-home "call home" @(cfg-call-home)#=call_home.cfm
-aqm-register-fnf $
+aqm-register-fnf $ "aqm register with flexible netflow"
 event "event manager"
   manager
     applet
@@ -667,7 +667,7 @@ mgcp "media gateway control protocol" $
   line *
 pseudowire-class "pseudowire class"
   word :k @(config-pw-class)#=generic.cfm
-l2tp-class
+l2tp-class "configure an l2tp class"
   word :k @(config-l2tp-class)#=generic.cfm
 voice "voice configuration"
   service
@@ -681,11 +681,11 @@ voice "voice configuration"
     word :k @(config-translate)#=generic.cfm
   rtp
     send-recv $
-voice-card
+voice-card "configure a voice card"
   id :k @(config-voicecard)#=generic.cfm
 sccp "skinny client control protocol" $
   line *
-stcapp $
+stcapp $ "skinny telephony control application"
   line *
 card "card type"
   type
@@ -695,11 +695,11 @@ controller "controller configuration"
     <number> :k @(config-controller)#=generic.cfm
 network-clock-participate "network clock"
   line *
-network-clock
+network-clock "configure network clock"
   line *
-network-clock-select
+network-clock-select "select a network clock source"
   line *
-scheduler "scheduler"
+scheduler "scheduler parameters"
   allocate $
     id
       id $

@@ -285,6 +285,53 @@ TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
   EXPECT_NE(helpAt(1, {}), config);
 }
 
+// Commands whose help text only repeats the keyword, in the listings of the
+// roots of the main modes. The figure may only fall.
+constexpr size_t kRecordedKeywordOnlyHelps = 0;
+
+TEST_F(GrammarIos, MainModesExplainTheirCommands) {
+  const std::vector<std::vector<std::string>> modes = {
+      {},
+      {"interface GigabitEthernet0/0"},
+      {"interface GigabitEthernet0/0.10"},
+      {"router ospf 1"},
+      {"router bgp 65000"},
+      {"router bgp 65000", "address-family ipv4"},
+      {"router eigrp 10"},
+      {"line vty 0 4"},
+      {"route-map RM permit 10"},
+      {"ip access-list extended WEB"},
+      {"class-map match-any C"},
+      {"policy-map P"},
+      {"policy-map P", "class C"},
+      {"vlan 10"},
+      {"ip dhcp pool P"},
+      {"crypto isakmp policy 10"},
+      {"crypto map M 10 ipsec-isakmp"},
+      {"key chain K"},
+      {"ip vrf V"},
+      {"vrf definition V"},
+  };
+  size_t keywordOnly = 0;
+  std::string listed;
+  for (const std::vector<std::string>& opening : modes) {
+    std::istringstream listing(helpAt(2, opening));
+    std::string line;
+    while (std::getline(listing, line)) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      const size_t tab = line.find('\t');
+      if (tab == 0 || tab == std::string::npos) continue;  // a wrapped help line
+      const std::string key = line.substr(0, tab);
+      const size_t help = line.find_first_not_of('\t', tab);
+      if (help != std::string::npos && line.compare(help, std::string::npos, key) == 0) {
+        ++keywordOnly;
+        listed += (opening.empty() ? std::string("config") : opening.back()) + ": " + key + "\n";
+      }
+    }
+  }
+  EXPECT_LE(keywordOnly, kRecordedKeywordOnlyHelps) << listed;
+}
+
 // Refused corpus lines that are left uncovered on purpose, each with its
 // reason (the same list stands in docs/definition-files.md). `file` limits an
 // entry to the files whose name begins with it.
