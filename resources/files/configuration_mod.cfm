@@ -1245,7 +1245,7 @@ netconf|configure netconf|k||
   !
 !
 gatekeeper|gatekeeper configuration|k||
-  <cr>||||@(config-gk)# generic.cfm
+  <cr>||||@(config-gk)# gatekeeper.cfm
   !
 !
 track|object tracking|k||
@@ -1253,14 +1253,14 @@ track|object tracking|k||
     ip|ip|k||
       sla|sla|k||
         id|id|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
           reachability|reachability|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           state|state|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
         !
@@ -1268,12 +1268,12 @@ track|object tracking|k||
       route|route|k||
         a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
           reachability|reachability|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           metric|metric|k||
             threshold|threshold|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
           !
@@ -1281,12 +1281,12 @@ track|object tracking|k||
         a.b.c.d|a.b.c.d|k||
           a.b.c.d|a.b.c.d|k||
             reachability|reachability|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
             metric|metric|k||
               threshold|threshold|k||
-                <cr>||||@(config-track)# generic.cfm
+                <cr>||||@(config-track)# track.cfm
                 !
               !
             !
@@ -1300,12 +1300,12 @@ track|object tracking|k||
           <cr>||||
           !
           line-protocol|line-protocol|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           ip|ip|k||
             routing|routing|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
           !
@@ -1315,41 +1315,41 @@ track|object tracking|k||
     list|list|k||
       boolean|boolean|k||
         and|and|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         or|or|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
       threshold|threshold|k||
         weight|weight|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         percentage|percentage|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
     !
     rtr|rtr|k||
       id|id|k||
-        <cr>||||@(config-track)# generic.cfm
+        <cr>||||@(config-track)# track.cfm
         !
         reachability|reachability|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         state|state|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
     !
     stub-object|stub-object|k||
-      <cr>||||@(config-track)# generic.cfm
+      <cr>||||@(config-track)# track.cfm
       !
     !
   !

@@ -424,41 +424,41 @@ netconf-yang "netconf yang" $
 restconf $ "enable restconf"
 netconf "configure netconf"
   line *
-gatekeeper "gatekeeper configuration" @(config-gk)#=generic.cfm
+gatekeeper "gatekeeper configuration" @(config-gk)#=gatekeeper.cfm
 track "object tracking"
   id :k
     ip
       sla
-        id :k @(config-track)#=generic.cfm
-          reachability @(config-track)#=generic.cfm
-          state @(config-track)#=generic.cfm
+        id :k @(config-track)#=track.cfm
+          reachability @(config-track)#=track.cfm
+          state @(config-track)#=track.cfm
       route
         a.b.c.d/<1-32> :k
-          reachability @(config-track)#=generic.cfm
+          reachability @(config-track)#=track.cfm
           metric
-            threshold @(config-track)#=generic.cfm
+            threshold @(config-track)#=track.cfm
         a.b.c.d :k
           a.b.c.d :k
-            reachability @(config-track)#=generic.cfm
+            reachability @(config-track)#=track.cfm
             metric
-              threshold @(config-track)#=generic.cfm
+              threshold @(config-track)#=track.cfm
     interface
       %IF
-        line-protocol @(config-track)#=generic.cfm
+        line-protocol @(config-track)#=track.cfm
         ip
-          routing @(config-track)#=generic.cfm
+          routing @(config-track)#=track.cfm
     list
       boolean
-        and @(config-track)#=generic.cfm
-        or @(config-track)#=generic.cfm
+        and @(config-track)#=track.cfm
+        or @(config-track)#=track.cfm
       threshold
-        weight @(config-track)#=generic.cfm
-        percentage @(config-track)#=generic.cfm
+        weight @(config-track)#=track.cfm
+        percentage @(config-track)#=track.cfm
     rtr
-      id :k @(config-track)#=generic.cfm
-        reachability @(config-track)#=generic.cfm
-        state @(config-track)#=generic.cfm
-    stub-object @(config-track)#=generic.cfm
+      id :k @(config-track)#=track.cfm
+        reachability @(config-track)#=track.cfm
+        state @(config-track)#=track.cfm
+    stub-object @(config-track)#=track.cfm
 clock "configure time-of-day clock"
   timezone
     word :o

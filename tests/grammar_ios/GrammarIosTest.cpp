@@ -172,6 +172,14 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
        {0, 1, 1, 0, 1}},
       {"gatekeeper\n shutdown\nzone security Z0\nservice timestamps log datetime msec\nhostname R9\n", {0, 1, 0, 0, 0}},
       {"line vty 0 4\n login\nline con 0\n exec-timeout 0 0\n", {0, 1, 0, 1}},
+      // Tracked objects and the gatekeeper have modes of their own; a top-level
+      // line after them leaves the mode.
+      {"track 1 ip sla 1 reachability\n delay down 5 up 5\n default-state up\ntrack 10 list boolean and\n"
+       " object 1 not\n object 2\ninterface Loopback0\n",
+       {0, 1, 1, 0, 1, 1, 0}},
+      {"gatekeeper\n zone local GK1 example.com 10.0.0.1\n zone prefix GK1 408*\n gw-type-prefix 1#* default-technology\n"
+       " no shutdown\nzone security INSIDE\nhostname R1\n",
+       {0, 1, 1, 1, 1, 0, 0}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -566,6 +574,16 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "mmi auto-configure 30\n",
        "mmi polling-interval 60 \nmmi auto-configure 30 \nno mmi pvc \n",
        "no mmi auto-configure \n"},
+      {"a gatekeeper brought up is shown with no shutdown; its rollback waits for a flush too (intended)",
+       "gatekeeper\n zone local GK1 example.com\n shutdown\n",
+       "gatekeeper\n no shutdown\n",
+       "gatekeeper \n zone local GK1 example.com \n no shutdown \n!\n",
+       ""},
+      {"a tracking delay is one setting",
+       "track 1 ip sla 1 reachability\n delay down 5 up 5\n",
+       "track 1 ip sla 1 reachability\n delay up 10\n",
+       "track 1 ip sla 1 reachability \n delay up 10 \n!\n",
+       "track 1 ip sla 1 reachability \n delay down 5 up 5 \n!\n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
