@@ -1,13 +1,13 @@
 match|classification criteria|k||
   ip|ip|k||
     dscp|dscp|k||
-      <value>|value|lb/le/wa/m||
+      <value>|value|lb/le/wa/k||
         <cr>||||
         !
       !
     !
     precedence|precedence|k||
-      <value>|value|lb/le/wa/m||
+      <value>|value|lb/le/wa/k||
         <cr>||||
         !
       !
@@ -20,13 +20,13 @@ match|classification criteria|k||
     !
   !
   dscp|dscp|k||
-    <value>|value|lb/le/wa/m||
+    <value>|value|lb/le/wa/k||
       <cr>||||
       !
     !
   !
   precedence|precedence|k||
-    <value>|value|lb/le/wa/m||
+    <value>|value|lb/le/wa/k||
       <cr>||||
       !
     !
@@ -54,7 +54,7 @@ match|classification criteria|k||
     !
   !
   cos|cos|k||
-    <value>|value|lb/le/wa/m||
+    <value>|value|lb/le/wa/k||
       <cr>||||
       !
     !
@@ -62,12 +62,12 @@ match|classification criteria|k||
   mpls|mpls|k||
     experimental|experimental|k||
       topmost|topmost|k||
-        <value>|value|lb/le/wa/m||
+        <value>|value|lb/le/wa/k||
           <cr>||||
           !
         !
       !
-      <value>|value|lb/le/wa/m||
+      <value>|value|lb/le/wa/k||
         <cr>||||
         !
       !
@@ -166,7 +166,7 @@ match|classification criteria|k||
     !
   !
 !
-description|description|k/n/o||
+description|class-map description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

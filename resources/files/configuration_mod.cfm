@@ -42,7 +42,7 @@ interface|select an interface to configure|k||
     !
   !
 !
-version|version|k||
+version|version of the configuration|k||
   <value>|value|o||
     <cr>||||
     !
@@ -958,12 +958,48 @@ route-map|create route-map or enter route-map command mode|k||
     !
   !
 !
-control-plane-policing|control-plane-policing|k||
+control-plane-policing|control plane policing settings|k||
   <cr>||||
   !
 !
 platform|platform configuration|k||
-  line|line|lb/le/wa/o||
+  console|console selection|k||
+    auto|automatic console selection|o||
+      <cr>||||
+      !
+    !
+    serial|serial console|o||
+      <cr>||||
+      !
+    !
+    virtual|virtual console|o||
+      <cr>||||
+      !
+    !
+  !
+  punt-keepalive|punt keepalive settings|k||
+    disable-kernel-core|do not write a kernel core on a keepalive failure|k/o/sb||
+      <cr>||||
+      !
+    !
+    ignore-fault|ignore keepalive faults|k/o/sb||
+      <cr>||||
+      !
+    !
+  !
+  qfp|quantum flow processor|k||
+    utilization|utilization settings|k||
+      monitor|monitor utilization|k||
+        load|load threshold|k||
+          id|load in percent|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  line|other platform setting|lb/le/wa/k||
     <cr>||||
     !
   !
@@ -1182,7 +1218,7 @@ memory|memory configuration|k||
     !
   !
 !
-memory-size|memory-size|k||
+memory-size|adjust memory size by percentage|k||
   iomem|iomem|k||
     id|id|||
       <cr>||||
@@ -1198,18 +1234,18 @@ netconf-yang|netconf yang|k||
     !
   !
 !
-restconf|restconf|k||
+restconf|enable restconf|k||
   <cr>||||
   !
 !
-netconf|netconf|k||
+netconf|configure netconf|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
 gatekeeper|gatekeeper configuration|k||
-  <cr>||||@(config-gk)# generic.cfm
+  <cr>||||@(config-gk)# gatekeeper.cfm
   !
 !
 track|object tracking|k||
@@ -1217,14 +1253,14 @@ track|object tracking|k||
     ip|ip|k||
       sla|sla|k||
         id|id|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
           reachability|reachability|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           state|state|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
         !
@@ -1232,12 +1268,12 @@ track|object tracking|k||
       route|route|k||
         a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
           reachability|reachability|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           metric|metric|k||
             threshold|threshold|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
           !
@@ -1245,12 +1281,12 @@ track|object tracking|k||
         a.b.c.d|a.b.c.d|k||
           a.b.c.d|a.b.c.d|k||
             reachability|reachability|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
             metric|metric|k||
               threshold|threshold|k||
-                <cr>||||@(config-track)# generic.cfm
+                <cr>||||@(config-track)# track.cfm
                 !
               !
             !
@@ -1264,12 +1300,12 @@ track|object tracking|k||
           <cr>||||
           !
           line-protocol|line-protocol|k||
-            <cr>||||@(config-track)# generic.cfm
+            <cr>||||@(config-track)# track.cfm
             !
           !
           ip|ip|k||
             routing|routing|k||
-              <cr>||||@(config-track)# generic.cfm
+              <cr>||||@(config-track)# track.cfm
               !
             !
           !
@@ -1279,41 +1315,41 @@ track|object tracking|k||
     list|list|k||
       boolean|boolean|k||
         and|and|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         or|or|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
       threshold|threshold|k||
         weight|weight|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         percentage|percentage|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
     !
     rtr|rtr|k||
       id|id|k||
-        <cr>||||@(config-track)# generic.cfm
+        <cr>||||@(config-track)# track.cfm
         !
         reachability|reachability|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
         state|state|k||
-          <cr>||||@(config-track)# generic.cfm
+          <cr>||||@(config-track)# track.cfm
           !
         !
       !
     !
     stub-object|stub-object|k||
-      <cr>||||@(config-track)# generic.cfm
+      <cr>||||@(config-track)# track.cfm
       !
     !
   !
@@ -1480,7 +1516,7 @@ dialer-list|dialer list|k||
     !
   !
 !
-dialer|dialer|k||
+dialer|dialer watch and pool configuration|k||
   watch-list|watch-list|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1518,7 +1554,7 @@ vpdn|virtual private dialup network|k||
     !
   !
 !
-vpdn-group|vpdn-group|k||
+vpdn-group|vpdn group configuration|k||
   word|word|k||
     <cr>||||@(config-vpdn)# generic.cfm
     !
@@ -1817,13 +1853,13 @@ mmi|modem management|k||
       !
     !
   !
-  auto-configure|auto-configure|k||
-    id|id|||
+  auto-configure|automatic configuration of the modem pvc|k/n/o/sb||
+    id|retry interval in seconds|||
       <cr>||||
       !
     !
   !
-  pvc|pvc|k||
+  pvc|pvc used by the modem|k/n/o/sb||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -1852,7 +1888,7 @@ call-home|call home|k||
   <cr>||||@(cfg-call-home)# call_home.cfm
   !
 !
-aqm-register-fnf|aqm-register-fnf|k||
+aqm-register-fnf|aqm register with flexible netflow|k||
   <cr>||||
   !
 !
@@ -1930,7 +1966,7 @@ pseudowire-class|pseudowire class|k||
     !
   !
 !
-l2tp-class|l2tp-class|k||
+l2tp-class|configure an l2tp class|k||
   word|word|k||
     <cr>||||@(config-l2tp-class)# generic.cfm
     !
@@ -1970,7 +2006,7 @@ voice|voice configuration|k||
     !
   !
 !
-voice-card|voice-card|k||
+voice-card|configure a voice card|k||
   id|id|k||
     <cr>||||@(config-voicecard)# generic.cfm
     !
@@ -1984,7 +2020,7 @@ sccp|skinny client control protocol|k||
     !
   !
 !
-stcapp|stcapp|k||
+stcapp|skinny telephony control application|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -2014,19 +2050,19 @@ network-clock-participate|network clock|k||
     !
   !
 !
-network-clock|network-clock|k||
+network-clock|configure network clock|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-network-clock-select|network-clock-select|k||
+network-clock-select|select a network clock source|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-scheduler|scheduler|k||
+scheduler|scheduler parameters|k||
   allocate|allocate|k||
     <cr>||||
     !
@@ -2928,7 +2964,7 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
 !
-snmp|snmp|k||
+snmp|modify snmp engine parameters|k||
   ifmib|ifmib|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -3284,13 +3320,13 @@ crypto|encryption module|k||
         !
       !
       client|client|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
       isakmp|isakmp|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !
@@ -3302,7 +3338,7 @@ crypto|encryption module|k||
         !
       !
       redundancy|redundancy|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/k||
           <cr>||||
           !
         !

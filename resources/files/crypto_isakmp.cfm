@@ -16,13 +16,13 @@ encr|encryption|k||
     !
   !
 !
-encryption|encryption|k||
+encryption|set encryption algorithm for protection suite|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-hash|hash|k||
+hash|set hash algorithm for protection suite|k||
   md5|md5|k/o||
     <cr>||||
     !
@@ -44,7 +44,7 @@ hash|hash|k||
     !
   !
 !
-authentication|authentication|k||
+authentication|set authentication method for protection suite|k||
   pre-share|pre-share|k/o||
     <cr>||||
     !
@@ -62,31 +62,31 @@ authentication|authentication|k||
     !
   !
 !
-group|group|k||
+group|set the diffie-hellman group|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-lifetime|lifetime|k||
+lifetime|set lifetime for isakmp security association|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-key|key|k||
+key|pre-shared key for remote peer|k||
   line|line|lb/le/wa/o||
     <cr>||||
     !
   !
 !
-pool|pool|k||
+pool|set name of address pool|k||
   word|word|o||
     <cr>||||
     !
   !
 !
-dns|dns|k||
+dns|specify dns addresses|k||
   a.b.c.d|a.b.c.d|||
     <cr>||||
     !
@@ -96,85 +96,85 @@ dns|dns|k||
     !
   !
 !
-domain|domain|k||
+domain|set default domain name to send to client|k||
   word|word|||
     <cr>||||
     !
   !
 !
-acl|acl|k||
+acl|specify split tunneling inclusion access-list number|k||
   word|word|o||
     <cr>||||
     !
   !
 !
-save-password|save-password|k||
+save-password|allows remote client to save xauth password|k||
   <cr>||||
   !
 !
-include-local-lan|include-local-lan|k||
+include-local-lan|enable local lan access with no split tunnel|k||
   <cr>||||
   !
 !
-split-dns|split-dns|k||
+split-dns|dns name to append for resolution|k||
   word|word|||
     <cr>||||
     !
   !
 !
-netmask|netmask|k||
+netmask|netmask used by the client for local connectivity|k||
   a.b.c.d|a.b.c.d|||
     <cr>||||
     !
   !
 !
-max-users|max-users|k||
+max-users|set maximum number of users for this group|k||
   id|id|||
     <cr>||||
     !
   !
 !
-max-logins|max-logins|k||
+max-logins|set maximum simultaneous logins for users|k||
   id|id|||
     <cr>||||
     !
   !
 !
-banner|banner|k||
+banner|specify mode config banner|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-firewall|firewall|k||
+firewall|enforce group firewall policy|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-backup-gateway|backup-gateway|k||
+backup-gateway|specify backup gateway|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-pfs|pfs|k||
+pfs|the client should propose pfs|k||
   <cr>||||
   !
 !
-dhcp|dhcp|k||
+dhcp|configure dhcp parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-wins|wins|k||
+wins|specify wins addresses|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-crypto|crypto|k||
+crypto|client crypto settings|k||
   aaa|aaa|k||
     line|line|lb/le/wa||
       <cr>||||

@@ -1,4 +1,4 @@
-set|set|k||
+set|set values for encryption/decryption|k||
   peer|peer|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
@@ -128,7 +128,7 @@ set|set|k||
     !
   !
 !
-match|match|k||
+match|match values|k||
   address|address|k||
     word|word|o||
       <cr>||||
@@ -136,7 +136,7 @@ match|match|k||
     !
   !
 !
-reverse-route|reverse-route|k||
+reverse-route|reverse route injection|k||
   <cr>||||
   !
   static|static|k||
@@ -154,19 +154,19 @@ reverse-route|reverse-route|k||
     !
   !
 !
-description|description|k/n/o||
+description|description of the crypto map statement policy|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-qos|qos|k||
+qos|quality of service related commands|k||
   pre-classify|pre-classify|k||
     <cr>||||
     !
   !
 !
-dialer|dialer|k||
+dialer|dialer related commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !

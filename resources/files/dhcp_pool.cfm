@@ -1,4 +1,4 @@
-network|network|k||
+network|network number and mask|k||
   a.b.c.d|a.b.c.d|o||
     <cr>||||
     !
@@ -12,7 +12,7 @@ network|network|k||
     !
   !
 !
-default-router|default-router|k||
+default-router|default routers|k||
   a.b.c.d|a.b.c.d|m||
     <cr>||||
     !
@@ -26,7 +26,7 @@ default-router|default-router|k||
     !
   !
 !
-dns-server|dns-server|k||
+dns-server|dns servers|k||
   a.b.c.d|a.b.c.d|m||
     <cr>||||
     !
@@ -44,13 +44,13 @@ dns-server|dns-server|k||
     !
   !
 !
-domain-name|domain-name|k||
+domain-name|domain name|k||
   word|word|o||
     <cr>||||
     !
   !
 !
-lease|lease|k||
+lease|address lease time|k||
   id|id|o||
     <cr>||||
     !
@@ -68,7 +68,7 @@ lease|lease|k||
     !
   !
 !
-option|option|k||
+option|raw dhcp options|k||
   id|id|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -76,7 +76,7 @@ option|option|k||
     !
   !
 !
-host|host|k||
+host|client ip address and mask|k||
   a.b.c.d|a.b.c.d|o||
     <cr>||||
     !
@@ -90,13 +90,13 @@ host|host|k||
     !
   !
 !
-client-identifier|client-identifier|k||
+client-identifier|client identifier|k||
   word|word|o||
     <cr>||||
     !
   !
 !
-hardware-address|hardware-address|k||
+hardware-address|client hardware address|k||
   word|word|o||
     <cr>||||
     !
@@ -106,13 +106,13 @@ hardware-address|hardware-address|k||
     !
   !
 !
-client-name|client-name|k||
+client-name|client name|k||
   word|word|||
     <cr>||||
     !
   !
 !
-netbios-name-server|netbios-name-server|k||
+netbios-name-server|netbios (wins) name servers|k||
   a.b.c.d|a.b.c.d|m||
     <cr>||||
     !
@@ -122,91 +122,91 @@ netbios-name-server|netbios-name-server|k||
     !
   !
 !
-netbios-node-type|netbios-node-type|k||
+netbios-node-type|netbios node type|k||
   word|word|||
     <cr>||||
     !
   !
 !
-next-server|next-server|k||
+next-server|next server in boot process|k||
   a.b.c.d|a.b.c.d|||
     <cr>||||
     !
   !
 !
-bootfile|bootfile|k||
+bootfile|boot file name|k||
   word|word|||
     <cr>||||
     !
   !
 !
-import|import|k||
+import|programmatically importing dhcp option parameters|k||
   all|all|k||
     <cr>||||
     !
   !
 !
-update|update|k||
+update|dynamic updates|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-vrf|vrf|k||
+vrf|associate this pool with a vrf|k||
   word|word|||
     <cr>||||
     !
   !
 !
-relay|relay|k||
+relay|function as a dhcp relay|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-class|class|k||
+class|configure a dhcp class|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-utilization|utilization|k||
+utilization|configure various utilization parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-origin|origin|k||
+origin|configure the origin of the pool|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-subnet|subnet|k||
+subnet|subnet allocation commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-address|address|k||
+address|configure a reserved address|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-dns|dns|k||
+dns|dns settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-prefix-delegation|prefix-delegation|k||
+prefix-delegation|ipv6 prefix delegation|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-domain-search|domain-search|k||
+domain-search|domain search list|k||
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -70,7 +70,7 @@ bandwidth|set bandwidth informational parameter|k||
     !
   !
 !
-delay|delay|k||
+delay|specify interface throughput delay|k||
   id|id|o||
     <cr>||||
     !
@@ -1120,7 +1120,7 @@ channel-group|etherchannel/port bundling configuration|k||
     !
   !
 !
-channel-protocol|channel-protocol|k||
+channel-protocol|select the channel protocol (lacp, pagp)|k||
   lacp|lacp|k/o||
     <cr>||||
     !
@@ -1282,7 +1282,7 @@ mpls|configure mpls interface parameters|k||
     !
   !
 !
-carrier-delay|carrier-delay|k||
+carrier-delay|specify delay for interface transitions|k||
   id|id|o||
     <cr>||||
     !
@@ -1294,7 +1294,7 @@ carrier-delay|carrier-delay|k||
     !
   !
 !
-flowcontrol|flowcontrol|k||
+flowcontrol|configure flow operation|k||
   receive|receive|k||
     on|on|k||
       <cr>||||
@@ -1328,19 +1328,19 @@ flowcontrol|flowcontrol|k||
     !
   !
 !
-full-duplex|full-duplex|k||
+full-duplex|configure full-duplex operational mode|k||
   <cr>||||
   !
 !
-half-duplex|half-duplex|k||
+half-duplex|configure half-duplex and related commands|k||
   <cr>||||
   !
 !
-no-autonegotiation|no-autonegotiation|k||
+no-autonegotiation|turn off autonegotiation|k||
   <cr>||||
   !
 !
-ethernet|ethernet|k||
+ethernet|ethernet interface settings|k||
   oam|oam|k||
     <cr>||||
     !
@@ -1408,7 +1408,7 @@ ethernet|ethernet|k||
     !
   !
 !
-snmp|snmp|k||
+snmp|modify snmp interface parameters|k||
   trap|trap|k||
     link-status|link-status|k/sn||
       <cr>||||
@@ -1436,7 +1436,7 @@ snmp|snmp|k||
     !
   !
 !
-logging|logging|k||
+logging|configure logging for interface|k||
   event|event|k||
     link-status|link-status|k||
       <cr>||||
@@ -1448,19 +1448,19 @@ logging|logging|k||
     !
   !
 !
-storm-control|storm-control|k||
+storm-control|storm configuration|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-priority-queue|priority-queue|k||
+priority-queue|priority queue settings|k||
   out|out|k||
     <cr>||||
     !
   !
 !
-mls|mls|k||
+mls|multi-layer switching settings|k||
   qos|qos|k||
     trust|trust|k||
       line|line|lb/le/wa||
@@ -1474,7 +1474,7 @@ mls|mls|k||
     !
   !
 !
-auto|auto|k||
+auto|configure automation|k||
   qos|qos|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1486,7 +1486,7 @@ auto|auto|k||
     !
   !
 !
-power|power|k||
+power|power configuration|k||
   inline|inline|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1500,7 +1500,7 @@ power|power|k||
     !
   !
 !
-arp|arp|k||
+arp|set arp type (arpa, probe, snap) or timeout|k||
   timeout|timeout|k||
     id|id|o||
       <cr>||||
@@ -1578,7 +1578,7 @@ ppp|point-to-point protocol|k||
     !
   !
 !
-dialer|dialer|k||
+dialer|dial-on-demand routing (ddr) commands|k||
   pool|pool|k||
     id|id|||
       <cr>||||
@@ -1700,25 +1700,25 @@ dialer|dialer|k||
     !
   !
 !
-dialer-group|dialer-group|k||
+dialer-group|assign interface to dialer-list|k||
   id|id|||
     <cr>||||
     !
   !
 !
-pppoe|pppoe|k||
+pppoe|enable pppoe|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-pppoe-client|pppoe-client|k||
+pppoe-client|pppoe client|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-peer|peer|k||
+peer|peer parameters for point to point interfaces|k||
   default|default|k||
     ip|ip|k||
       address|address|k||
@@ -1746,19 +1746,19 @@ pvc|configure an atm pvc|k||
     !
   !
 !
-atm|atm|k||
+atm|modify atm parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-dsl|dsl|k||
+dsl|dsl line settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-frame-relay|frame-relay|k||
+frame-relay|set frame relay parameters|k||
   interface-dlci|interface-dlci|k||
     id|id|k||
       <cr>||||
@@ -1818,7 +1818,7 @@ frame-relay|frame-relay|k||
     !
   !
 !
-x25|x25|k||
+x25|x.25 level 3|k||
   address|address|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1832,7 +1832,7 @@ x25|x25|k||
     !
   !
 !
-fair-queue|fair-queue|k||
+fair-queue|enable fair queuing on an interface|k||
   <cr>||sn||
   !
   id|id|||
@@ -1844,7 +1844,7 @@ fair-queue|fair-queue|k||
     !
   !
 !
-random-detect|random-detect|k||
+random-detect|enable random early detection (red) on an interface|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -1852,47 +1852,47 @@ random-detect|random-detect|k||
     !
   !
 !
-max-reserved-bandwidth|max-reserved-bandwidth|k||
+max-reserved-bandwidth|maximum reservable bandwidth on an interface|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-rate-limit|rate-limit|k||
+rate-limit|rate limit access|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-traffic-shape|traffic-shape|k||
+traffic-shape|enable traffic shaping on an interface or sub-interface|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-custom-queue-list|custom-queue-list|k||
+custom-queue-list|assign a custom queue list to an interface|k||
   id|id|||
     <cr>||||
     !
   !
 !
-priority-group|priority-group|k||
+priority-group|assign a priority group to an interface|k||
   id|id|||
     <cr>||||
     !
   !
 !
-qos|qos|k||
+qos|quality of service related commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-no-shutdown|no-shutdown|k||
+no-shutdown|bring the interface up|k||
   <cr>||||
   !
 !
-zone-member|zone-member|k||
+zone-member|apply zone name|k||
   security|security|k||
     word|word|o||
       <cr>||||
@@ -1900,31 +1900,31 @@ zone-member|zone-member|k||
     !
   !
 !
-virtual-template|virtual-template|k||
+virtual-template|virtual template of the interface|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-source|source|k||
+source|get config from another source|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-member|member|k||
+member|member interface settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-wlan|wlan|k||
+wlan|wireless lan settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-macsec|macsec|k||
+macsec|enable macsec on the interface|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -1932,7 +1932,7 @@ macsec|macsec|k||
     !
   !
 !
-mka|mka|k||
+mka|mka configuration for the interface|k||
   policy|policy|k||
     word|word|||
       <cr>||||
@@ -1952,7 +1952,7 @@ mka|mka|k||
     !
   !
 !
-authentication|authentication|k||
+authentication|authentication manager settings|k||
   port-control|port-control|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2010,7 +2010,7 @@ authentication|authentication|k||
     !
   !
 !
-dot1x|dot1x|k||
+dot1x|interface config commands for ieee 802.1x|k||
   pae|pae|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2042,7 +2042,7 @@ dot1x|dot1x|k||
     !
   !
 !
-mab|mab|k||
+mab|mac authentication bypass interface config commands|k||
   <cr>||||
   !
   eap|eap|k||
@@ -2050,7 +2050,7 @@ mab|mab|k||
     !
   !
 !
-access-session|access-session|k||
+access-session|access session specific interface configuration|k||
   port-control|port-control|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2074,7 +2074,7 @@ access-session|access-session|k||
     !
   !
 !
-device-tracking|device-tracking|k||
+device-tracking|configure device-tracking on the interface|k||
   <cr>||||
   !
   attach-policy|attach-policy|k||
@@ -2084,13 +2084,13 @@ device-tracking|device-tracking|k||
     !
   !
 !
-small-frame|small-frame|k||
+small-frame|set rate limit parameters for small frames|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-udld|udld|k||
+udld|configure udld enabled or disabled and ignore global udld setting|k||
   port|port|k||
     <cr>||||
     !
@@ -2100,7 +2100,7 @@ udld|udld|k||
     !
   !
 !
-ntp|ntp|k||
+ntp|configure ntp|k||
   disable|disable|k||
     <cr>||||
     !
@@ -2120,7 +2120,7 @@ ntp|ntp|k||
     !
   !
 !
-rmon|rmon|k||
+rmon|configure remote monitoring on an interface|k||
   collection|collection|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2128,49 +2128,49 @@ rmon|rmon|k||
     !
   !
 !
-transmit-interface|transmit-interface|k||
+transmit-interface|assign a transmit interface to a receive-only interface|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-backup|backup|k||
+backup|modify backup parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-pos|pos|k||
+pos|modify sonet parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-crc|crc|k||
+crc|set the crc word size|k||
   id|id|||
     <cr>||||
     !
   !
 !
-framing|framing|k||
+framing|specify the framing type|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-cable|cable|k||
+cable|cable interface settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-ignore|ignore|k||
+ignore|ignore a packet type or setting|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-loopback|loopback|k||
+loopback|configure internal loopback on an interface|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -2178,47 +2178,47 @@ loopback|loopback|k||
     !
   !
 !
-no-keepalive|no-keepalive|k||
+no-keepalive|turn off keepalives|k||
   <cr>||||
   !
 !
-l2protocol-tunnel|l2protocol-tunnel|k||
+l2protocol-tunnel|tunnel layer 2 protocols|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-location|location|k||
+location|interface location information|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-switch|switch|k||
+switch|switch interface settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-vlan-range|vlan-range|k||
+vlan-range|range of vlans|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-stackwise-virtual|stackwise-virtual|k||
+stackwise-virtual|stackwise virtual interface settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-isis|isis|k||
+isis|is-is commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-clns|clns|k||
+clns|clns interface subcommands|k||
   route-cache|route-cache|k/sn||
     <cr>||||
     !
@@ -2228,7 +2228,7 @@ clns|clns|k||
     !
   !
 !
-dampening|dampening|k||
+dampening|enable event dampening|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -2236,7 +2236,7 @@ dampening|dampening|k||
     !
   !
 !
-bfd|bfd|k||
+bfd|bfd interface configuration commands|k||
   interval|interval|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2248,25 +2248,25 @@ bfd|bfd|k||
     !
   !
 !
-ospfv3|ospfv3|k||
+ospfv3|ospfv3 interface commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-xconnect|xconnect|k||
+xconnect|xconnect commands|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-l2tp|l2tp|k||
+l2tp|l2tp interface settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-lacp|lacp|k||
+lacp|lacp interface subcommands|k||
   port-priority|port-priority|k||
     id|id|||
       <cr>||||
@@ -2280,7 +2280,7 @@ lacp|lacp|k||
     !
   !
 !
-pagp|pagp|k||
+pagp|pagp interface subcommands|k||
   port-priority|port-priority|k||
     id|id|||
       <cr>||||
@@ -2294,19 +2294,19 @@ pagp|pagp|k||
     !
   !
 !
-queue-set|queue-set|k||
+queue-set|choose a queue-set for this queue|k||
   id|id|||
     <cr>||||
     !
   !
 !
-trust|trust|k||
+trust|trust settings of the interface|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-h323-gateway|h323-gateway|k||
+h323-gateway|configure h323 gateway voip interface|k||
   voip|voip|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2314,13 +2314,13 @@ h323-gateway|h323-gateway|k||
     !
   !
 !
-peer-default|peer-default|k||
+peer-default|default peer address for point to point interfaces|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-service|service|k||
+service|interface specific service settings|k||
   instance|instance|k||
     id|id|k||
       ethernet|ethernet|k||
@@ -2334,7 +2334,7 @@ service|service|k||
     !
   !
 !
-bgp-policy|bgp-policy|k||
+bgp-policy|apply policy propagated by bgp community string|k||
   accounting|accounting|k||
     input|input|k||
       <cr>||||
@@ -2434,7 +2434,7 @@ routing|routing on the interface|k||
     !
   !
 !
-medium|medium|k||
+medium|interface medium|k||
   p2p|p2p|k||
     <cr>||||
     !

@@ -599,7 +599,7 @@ route|establish static routes|k||
         <number>|interface number|k||
           <cr>||||
           !
-          a.b.c.d|forwarding router's address|||
+          a.b.c.d|forwarding router's address|k||
             <cr>||||
             !
             id|distance metric|||
@@ -625,7 +625,7 @@ route|establish static routes|k||
           !
         !
       !
-      a.b.c.d|forwarding router's address|||
+      a.b.c.d|forwarding router's address|k||
         <cr>||||
         !
         id|distance metric|||
@@ -659,7 +659,7 @@ route|establish static routes|k||
             <number>|interface number|k||
               <cr>||||
               !
-              a.b.c.d|a.b.c.d|||
+              a.b.c.d|a.b.c.d|k||
                 <cr>||||
                 !
                 line|line|lb/le/wa||
@@ -677,7 +677,7 @@ route|establish static routes|k||
               !
             !
           !
-          a.b.c.d|a.b.c.d|||
+          a.b.c.d|a.b.c.d|k||
             <cr>||||
             !
             line|line|lb/le/wa||
@@ -1309,8 +1309,8 @@ sla|ip service level agreement|k||
       !
     !
   !
-  schedule|schedule|k||
-    id|id|k||
+  schedule|schedule an operation|k||
+    id|operation number|k/n||
       line|line|lb/le/wa||
         <cr>||||
         !

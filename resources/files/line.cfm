@@ -10,7 +10,7 @@ exec-timeout|set the exec timeout|k||
     !
   !
 !
-logging|logging|k||
+logging|modify message logging facilities|k||
   synchronous|synchronous|k||
     <cr>||||
     !
@@ -20,13 +20,13 @@ logging|logging|k||
     !
   !
 !
-stopbits|stopbits|k||
+stopbits|set async line stop bits|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-privilege|privilege|k||
+privilege|change privilege level for line|k||
   level|level|k||
     id|id|o||
       <cr>||||
@@ -34,7 +34,7 @@ privilege|privilege|k||
     !
   !
 !
-login|login|k/sb/o||
+login|enable password checking|k/sb/o||
   <cr>||||
   !
   local|local|k||
@@ -48,7 +48,7 @@ login|login|k/sb/o||
     !
   !
 !
-transport|transport|k||
+transport|define transport protocols for line|k||
   input|input|k/o||
     all|all|k||
       <cr>||||
@@ -128,7 +128,7 @@ transport|transport|k||
     !
   !
 !
-password|password|k||
+password|set a password|k||
   id|id|||
     line|line|lb/le/wa/o||
       <cr>||||
@@ -140,7 +140,7 @@ password|password|k||
     !
   !
 !
-exec|exec|k||
+exec|start an exec|k||
   <cr>||sn||
   !
   prompt|prompt|k||
@@ -150,13 +150,13 @@ exec|exec|k||
     !
   !
 !
-exec-character-bits|exec-character-bits|k||
+exec-character-bits|size of characters to the command exec|k||
   id|id|||
     <cr>||||
     !
   !
 !
-history|history|k||
+history|enable and control the command history function|k||
   <cr>||||
   !
   size|size|k||
@@ -166,7 +166,7 @@ history|history|k||
     !
   !
 !
-access-class|access-class|k||
+access-class|filter connections based on an ip access list|k||
   word|word|k||
     in|in|k||
       <cr>||||
@@ -182,7 +182,7 @@ access-class|access-class|k||
     !
   !
 !
-ipv6|ipv6|k||
+ipv6|ipv6 options|k||
   access-class|access-class|k||
     word|word|k||
       in|in|k||
@@ -196,7 +196,7 @@ ipv6|ipv6|k||
     !
   !
 !
-session-timeout|session-timeout|k||
+session-timeout|close a connection without input traffic|k||
   id|id|||
     <cr>||||
     !
@@ -206,61 +206,61 @@ session-timeout|session-timeout|k||
     !
   !
 !
-absolute-timeout|absolute-timeout|k||
+absolute-timeout|set absolute timeout for line disconnection|k||
   id|id|||
     <cr>||||
     !
   !
 !
-autocommand|autocommand|k||
+autocommand|automatically execute an exec command|k||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-speed|speed|k||
+speed|set the transmit and receive speeds|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-flowcontrol|flowcontrol|k||
+flowcontrol|set the flow control|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-modem|modem|k||
+modem|configure the line for modem operation|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-length|length|k||
+length|set number of lines on a screen|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-width|width|k||
+width|set width of the display terminal|k||
   id|id|o||
     <cr>||||
     !
   !
 !
-terminal-type|terminal-type|k||
+terminal-type|set the terminal type|k||
   word|word|||
     <cr>||||
     !
   !
 !
-accounting|accounting|k||
+accounting|accounting parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-authorization|authorization|k||
+authorization|authorization parameters|k||
   exec|exec|k||
     word|word|||
       <cr>||||
@@ -276,87 +276,87 @@ authorization|authorization|k||
     !
   !
 !
-escape-character|escape-character|k||
+escape-character|change the current line's escape character|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-no-escape|no-escape|k||
+no-escape|turn off the escape character|k||
   <cr>||||
   !
 !
-motd-banner|motd-banner|k||
+motd-banner|enable the display of the motd banner|k||
   <cr>||||
   !
 !
-exec-banner|exec-banner|k||
+exec-banner|enable the display of the exec and motd banners|k||
   <cr>||||
   !
 !
-logout-warning|logout-warning|k||
+logout-warning|warning countdown before absolute timeout|k||
   id|id|||
     <cr>||||
     !
   !
 !
-activation-character|activation-character|k||
+activation-character|define the activation character|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-stopbits-character|stopbits-character|k||
+stopbits-character|stop bits of a character|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-databits|databits|k||
+databits|set number of data bits per character|k||
   id|id|||
     <cr>||||
     !
   !
 !
-parity|parity|k||
+parity|set terminal parity|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-rotary|rotary|k||
+rotary|add line to a rotary group|k||
   id|id|||
     <cr>||||
     !
   !
 !
-autoselect|autoselect|k||
+autoselect|set line to autoselect|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-notify|notify|k||
+notify|inform users of output from concurrent sessions|k||
   <cr>||||
   !
 !
-monitor|monitor|k||
+monitor|copy debug output to the current terminal line|k||
   <cr>||||
   !
 !
-refuse-message|refuse-message|k||
+refuse-message|define a refuse banner|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-vacant-message|vacant-message|k||
+vacant-message|define a vacant banner|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-timeout|timeout|k||
+timeout|timeouts for the line|k||
   login|login|k||
     response|response|k||
       id|id|||
@@ -366,47 +366,47 @@ timeout|timeout|k||
     !
   !
 !
-data-character-bits|data-character-bits|k||
+data-character-bits|size of characters being handled|k||
   id|id|||
     <cr>||||
     !
   !
 !
-international|international|k||
+international|enable international 8-bit character support|k||
   <cr>||||
   !
 !
-lockable|lockable|k||
+lockable|allow users to lock a line|k||
   <cr>||||
   !
 !
-padding|padding|k||
+padding|set padding for a specified output character|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-editing|editing|k||
+editing|enable command line editing|k||
   <cr>||||
   !
 !
-full-help|full-help|k||
+full-help|provide help to unprivileged user|k||
   <cr>||||
   !
 !
-location|location|k||
+location|enter terminal location description|k||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-session-disconnect-warning|session-disconnect-warning|k||
+session-disconnect-warning|set warning countdown for session-timeout|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-exit|exit|k||
+exit|exit from line configuration mode|k||
   <cr>||||
   !
 !

@@ -18,7 +18,7 @@ class|policy criteria|k||
     !
   !
 !
-description|description|k/n/o||
+description|policy-map description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !

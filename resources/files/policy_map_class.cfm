@@ -1,4 +1,4 @@
-bandwidth|bandwidth|k||
+bandwidth|bandwidth guaranteed to this class|k||
   id|id|o||
     <cr>||||
     !
@@ -24,7 +24,7 @@ bandwidth|bandwidth|k||
     !
   !
 !
-priority|priority|k||
+priority|strict scheduling priority for this class|k||
   id|id|o||
     <cr>||||
     !
@@ -50,7 +50,7 @@ priority|priority|k||
     !
   !
 !
-police|police|k||
+police|police the traffic of this class|k||
   cir|cir|k||
     percent|percent|k||
       id|id|o||
@@ -86,7 +86,7 @@ police|police|k||
     !
   !
 !
-shape|shape|k||
+shape|traffic shaping|k||
   average|average|k||
     id|id|o||
       <cr>||||
@@ -126,7 +126,7 @@ shape|shape|k||
     !
   !
 !
-set|set|k||
+set|set qos values|k||
   dscp|dscp|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -180,7 +180,7 @@ set|set|k||
     !
   !
 !
-queue-limit|queue-limit|k||
+queue-limit|queue max threshold for tail drop|k||
   id|id|o||
     <cr>||||
     !
@@ -190,7 +190,7 @@ queue-limit|queue-limit|k||
     !
   !
 !
-random-detect|random-detect|k||
+random-detect|enable random early detection as drop policy|k||
   <cr>||||
   !
   dscp-based|dscp-based|k||
@@ -234,7 +234,7 @@ random-detect|random-detect|k||
     !
   !
 !
-fair-queue|fair-queue|k||
+fair-queue|enable flow-based fair queuing|k||
   <cr>||||
   !
   id|id|||
@@ -242,13 +242,13 @@ fair-queue|fair-queue|k||
     !
   !
 !
-service-policy|service-policy|k||
+service-policy|configure flow next|k||
   word|word|o||
     <cr>||||
     !
   !
 !
-inspect|inspect|k||
+inspect|context-based access control engine|k||
   <cr>||||
   !
   word|word|||
@@ -256,7 +256,7 @@ inspect|inspect|k||
     !
   !
 !
-drop|drop|k||
+drop|drop all packets|k||
   <cr>||||
   !
   log|log|k||
@@ -264,7 +264,7 @@ drop|drop|k||
     !
   !
 !
-pass|pass|k||
+pass|pass packets|k||
   <cr>||||
   !
   log|log|k||
@@ -272,53 +272,53 @@ pass|pass|k||
     !
   !
 !
-conform-action|conform-action|k||
+conform-action|action when rate is within conform burst|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-exceed-action|exceed-action|k||
+exceed-action|action when rate is within conform and conform + exceed burst|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-violate-action|violate-action|k||
+violate-action|action when rate is greater than conform + exceed burst|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-compression|compression|k||
+compression|activate compression|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-estimate|estimate|k||
+estimate|estimate resources required for this class|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-admit|admit|k||
+admit|admission control|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-account|account|k||
+account|overhead accounting|k||
   <cr>||||
   !
 !
-trust|trust|k||
+trust|set trust value for the class|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-log|log|k||
+log|log ipv4 and arp packets|k||
   <cr>||||
   !
 !

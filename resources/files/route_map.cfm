@@ -362,13 +362,13 @@ set|set values in destination routing protocol|k||
     !
   !
 !
-description|description|k/n/o||
+description|route-map comment|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-continue|continue|k||
+continue|continue on a different entry within the route-map|k||
   <cr>||||
   !
   id|id|||

@@ -1354,7 +1354,7 @@ address-family|enter address family command mode|k||
     !
   !
 !
-template|template|k||
+template|enter template command mode|k||
   peer-session|peer-session|k||
     word|word|k||
       <cr>||||@(config-router-stmp)# router_bgp_af.cfm
@@ -1368,7 +1368,7 @@ template|template|k||
     !
   !
 !
-timers|timers|k||
+timers|adjust routing timers|k||
   bgp|bgp|k||
     id|id|||
       id|id|||
@@ -1382,7 +1382,7 @@ timers|timers|k||
     !
   !
 !
-neighbor|neighbor|k||
+neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
       <as>|as|o||
@@ -2194,13 +2194,13 @@ redistribute|redistribute information from another routing protocol|k||
     !
   !
 !
-aggregate-address|aggregate-address|k||
+aggregate-address|configure bgp aggregate entries|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-maximum-paths|maximum-paths|k||
+maximum-paths|forward packets over multiple paths|k||
   id|id|||
     <cr>||||
     !
@@ -2218,21 +2218,21 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k/sn||
+synchronization|perform igp synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k/sn||
+auto-summary|enable automatic network number summarization|k/sn||
   <cr>||||
   !
 !
-default-information|default-information|k||
+default-information|control distribution of default information|k||
   originate|originate|k||
     <cr>||||
     !
   !
 !
-bgp|bgp|k||
+bgp|bgp specific commands|k||
   dampening|dampening|k||
     <cr>||||
     !
@@ -2268,53 +2268,53 @@ bgp|bgp|k||
     !
   !
 !
-distance|distance|k||
+distance|define an administrative distance|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-table-map|table-map|k||
+table-map|map external entry attributes into routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-default-metric|default-metric|k||
+default-metric|set metric of redistributed routes|k||
   id|id|||
     <cr>||||
     !
   !
 !
-import|import|k||
+import|import routes from another routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-export|export|k||
+export|export routes to another routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-exit-address-family|exit-address-family|k||
+exit-address-family|exit from address family configuration mode|k||
   <cr>||||
   !
 !
-segment-routing|segment-routing|k||
+segment-routing|segment routing settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-label|label|k||
+label|label settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-allocate-label|allocate-label|k||
+allocate-label|allocate mpls labels for prefixes|k||
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -1,4 +1,4 @@
-neighbor|neighbor|k||
+neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
       <as>|as|o||
@@ -810,13 +810,13 @@ redistribute|redistribute information from another routing protocol|k||
     !
   !
 !
-aggregate-address|aggregate-address|k||
+aggregate-address|configure bgp aggregate entries|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-maximum-paths|maximum-paths|k||
+maximum-paths|forward packets over multiple paths|k||
   id|id|||
     <cr>||||
     !
@@ -834,21 +834,21 @@ maximum-paths|maximum-paths|k||
     !
   !
 !
-synchronization|synchronization|k/sn||
+synchronization|perform igp synchronization|k/sn||
   <cr>||||
   !
 !
-auto-summary|auto-summary|k/sn||
+auto-summary|enable automatic network number summarization|k/sn||
   <cr>||||
   !
 !
-default-information|default-information|k||
+default-information|control distribution of default information|k||
   originate|originate|k||
     <cr>||||
     !
   !
 !
-bgp|bgp|k||
+bgp|bgp specific commands|k||
   dampening|dampening|k||
     <cr>||||
     !
@@ -884,53 +884,53 @@ bgp|bgp|k||
     !
   !
 !
-distance|distance|k||
+distance|define an administrative distance|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-table-map|table-map|k||
+table-map|map external entry attributes into routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-default-metric|default-metric|k||
+default-metric|set metric of redistributed routes|k||
   id|id|||
     <cr>||||
     !
   !
 !
-import|import|k||
+import|import routes from another routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-export|export|k||
+export|export routes to another routing table|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-exit-address-family|exit-address-family|k||
+exit-address-family|exit from address family configuration mode|k||
   <cr>||||
   !
 !
-segment-routing|segment-routing|k||
+segment-routing|segment routing settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-label|label|k||
+label|label settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-allocate-label|allocate-label|k||
+allocate-label|allocate mpls labels for prefixes|k||
   line|line|lb/le/wa||
     <cr>||||
     !

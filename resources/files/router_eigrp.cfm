@@ -1,4 +1,4 @@
-network|network|k||
+network|enable routing on an ip network|k||
   a.b.c.d|a.b.c.d|k||
     <cr>||||
     !
@@ -8,7 +8,7 @@ network|network|k||
     !
   !
 !
-eigrp|eigrp|k||
+eigrp|eigrp specific commands|k||
   router-id|router-id|k||
     a.b.c.d|a.b.c.d|o||
       <cr>||||
@@ -36,7 +36,7 @@ eigrp|eigrp|k||
     !
   !
 !
-passive-interface|passive-interface|k||
+passive-interface|suppress routing updates on an interface|k||
   default|default|k||
     <cr>||||
     !
@@ -48,7 +48,7 @@ passive-interface|passive-interface|k||
     !
   !
 !
-redistribute|redistribute|k||
+redistribute|redistribute information from another routing protocol|k||
   connected|connected|k||
     <cr>||||
     !
@@ -104,71 +104,71 @@ redistribute|redistribute|k||
     !
   !
 !
-auto-summary|auto-summary|k/sn||
+auto-summary|enable automatic network number summarization|k/sn||
   <cr>||||
   !
 !
-metric|metric|k||
+metric|modify eigrp routing metrics and parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-variance|variance|k||
+variance|control load balancing variance|k||
   id|id|||
     <cr>||||
     !
   !
 !
-maximum-paths|maximum-paths|k||
+maximum-paths|forward packets over multiple paths|k||
   id|id|||
     <cr>||||
     !
   !
 !
-distance|distance|k||
+distance|define an administrative distance|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-distribute-list|distribute-list|k||
+distribute-list|filter entries in eigrp updates|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-default-metric|default-metric|k||
+default-metric|set metric of redistributed routes|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-offset-list|offset-list|k||
+offset-list|add or subtract offset from eigrp metrics|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-timers|timers|k||
+timers|adjust routing timers|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-traffic-share|traffic-share|k||
+traffic-share|how to compute traffic share over alternate paths|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-summary-metric|summary-metric|k||
+summary-metric|specify summary to apply metric/filtering|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-address-family|address-family|k||
+address-family|enter address family command mode|k||
   ipv4|ipv4|k||
     <cr>||||@(config-router-af)# router_eigrp_af.cfm
     !
@@ -234,15 +234,15 @@ address-family|address-family|k||
     !
   !
 !
-no-shutdown|no-shutdown|k||
+no-shutdown|bring the routing process up|k||
   <cr>||||
   !
 !
-shutdown|shutdown|k||
+shutdown|shutdown the eigrp process|k||
   <cr>||||
   !
 !
-nsf|nsf|k||
+nsf|non-stop forwarding|k||
   <cr>||||
   !
 !

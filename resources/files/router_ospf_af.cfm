@@ -20,7 +20,7 @@ network|enable routing on an ip network|k||
     !
   !
 !
-log-adjacency-changes|log-adjacency-changes|k/sb/o||
+log-adjacency-changes|log changes in adjacency state|k/sb/o||
   <cr>||||
   !
   detail|detail|k||
@@ -54,7 +54,7 @@ area|ospf area parameters|k||
     !
   !
 !
-redistribute|redistribute|k||
+redistribute|redistribute information from another routing protocol|k||
   connected|connected|k||
     <cr>||||
     !
@@ -118,7 +118,7 @@ redistribute|redistribute|k||
     !
   !
 !
-default-information|default-information|k||
+default-information|control distribution of default information|k||
   originate|originate|k||
     <cr>||||
     !
@@ -128,7 +128,7 @@ default-information|default-information|k||
     !
   !
 !
-auto-cost|auto-cost|k||
+auto-cost|calculate ospf interface cost according to bandwidth|k||
   reference-bandwidth|reference-bandwidth|k||
     id|id|o||
       <cr>||||
@@ -136,7 +136,7 @@ auto-cost|auto-cost|k||
     !
   !
 !
-timers|timers|k||
+timers|adjust routing timers|k||
   throttle|throttle|k||
     spf|spf|k||
       id|id|||
@@ -170,49 +170,49 @@ timers|timers|k||
     !
   !
 !
-summary-address|summary-address|k||
+summary-address|configure ip address summaries|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-summary-prefix|summary-prefix|k||
+summary-prefix|configure ip address summaries|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-distance|distance|k||
+distance|define an administrative distance|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-distribute-list|distribute-list|k||
+distribute-list|filter networks in routing updates|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-maximum-paths|maximum-paths|k||
+maximum-paths|forward packets over multiple paths|k||
   id|id|||
     <cr>||||
     !
   !
 !
-default-metric|default-metric|k||
+default-metric|set metric of redistributed routes|k||
   id|id|||
     <cr>||||
     !
   !
 !
-bfd|bfd|k||
+bfd|bfd configuration commands|k||
   all-interfaces|all-interfaces|k||
     <cr>||||
     !
   !
 !
-nsf|nsf|k||
+nsf|non-stop forwarding|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -220,49 +220,49 @@ nsf|nsf|k||
     !
   !
 !
-mpls|mpls|k||
+mpls|configure mpls routing protocol parameters|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-capability|capability|k||
+capability|enable a specific feature|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-max-metric|max-metric|k||
+max-metric|set maximum metric|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-ispf|ispf|k||
+ispf|enable incremental spf computation|k||
   <cr>||||
   !
 !
-prefix-suppression|prefix-suppression|k||
+prefix-suppression|enable prefix suppression|k||
   <cr>||||
   !
 !
-shutdown|shutdown|k||
+shutdown|shutdown the ospf protocol under the current instance|k||
   <cr>||||
   !
 !
-compatible|compatible|k||
+compatible|compatibility list|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-ignore|ignore|k||
+ignore|do not complain about a specific event|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-graceful-restart|graceful-restart|k||
+graceful-restart|graceful restart options|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -270,25 +270,25 @@ graceful-restart|graceful-restart|k||
     !
   !
 !
-fast-reroute|fast-reroute|k||
+fast-reroute|specify ip fast reroute|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-segment-routing|segment-routing|k||
+segment-routing|segment routing settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-microloop|microloop|k||
+microloop|microloop avoidance|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-address-family|address-family|k||
+address-family|enter address family command mode|k||
   ipv4|ipv4|k||
     <cr>||||@(config-router-af)# router_ospf_af_nested.cfm
     !
@@ -306,35 +306,35 @@ address-family|address-family|k||
     !
   !
 !
-discard-route|discard-route|k||
+discard-route|enable or disable discard-route installation|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-domain-id|domain-id|k||
+domain-id|ospf domain-id|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-domain-tag|domain-tag|k||
+domain-tag|ospf domain-tag|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-local-rib-criteria|local-rib-criteria|k||
+local-rib-criteria|enable or disable usage of local rib as route criteria|k||
   <cr>||||
   !
 !
-queue-depth|queue-depth|k||
+queue-depth|ospf hello/router process queue depth|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-event-log|event-log|k||
+event-log|event logging|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -342,13 +342,13 @@ event-log|event-log|k||
     !
   !
 !
-interface-id|interface-id|k||
+interface-id|source of the interface id|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-exit-address-family|exit-address-family|k||
+exit-address-family|exit from address family configuration mode|k||
   <cr>||||
   !
 !

@@ -4,7 +4,7 @@ name|ascii name of the vlan|k||
     !
   !
 !
-state|state|k||
+state|operational state of the vlan|k||
   active|active|k||
     <cr>||||
     !
@@ -14,87 +14,87 @@ state|state|k||
     !
   !
 !
-shutdown|shutdown|k||
+shutdown|shutdown vlan switching|k||
   <cr>||||
   !
 !
-remote-span|remote-span|k||
+remote-span|configure as remote span vlan|k||
   <cr>||||
   !
 !
-private-vlan|private-vlan|k||
+private-vlan|configure a private vlan|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-media|media|k||
+media|media type of the vlan|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-mtu|mtu|k||
+mtu|vlan maximum transmission unit|k||
   id|id|||
     <cr>||||
     !
   !
 !
-are|are|k||
+are|maximum number of all route explorer hops for this vlan|k||
   id|id|||
     <cr>||||
     !
   !
 !
-ste|ste|k||
+ste|maximum number of spanning tree explorer hops for this vlan|k||
   id|id|||
     <cr>||||
     !
   !
 !
-backupcrf|backupcrf|k||
+backupcrf|backup crf mode of the vlan|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-bridge|bridge|k||
+bridge|bridging characteristics of the vlan|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-parent|parent|k||
+parent|id number of the parent vlan of fddi or token ring type vlans|k||
   id|id|||
     <cr>||||
     !
   !
 !
-ring|ring|k||
+ring|ring number of fddi or token ring type vlans|k||
   id|id|||
     <cr>||||
     !
   !
 !
-said|said|k||
+said|ieee 802.10 said|k||
   id|id|||
     <cr>||||
     !
   !
 !
-tb-vlan1|tb-vlan1|k||
+tb-vlan1|id number of the first translational vlan for this vlan|k||
   id|id|||
     <cr>||||
     !
   !
 !
-tb-vlan2|tb-vlan2|k||
+tb-vlan2|id number of the second translational vlan for this vlan|k||
   id|id|||
     <cr>||||
     !
   !
 !
-action|action|k||
+action|action of a vlan access map|k||
   forward|forward|k||
     <cr>||||
     !
@@ -108,7 +108,7 @@ action|action|k||
     !
   !
 !
-match|match|k||
+match|match criteria of a vlan access map|k||
   ip|ip|k||
     address|address|k||
       word|word|||
@@ -126,7 +126,7 @@ match|match|k||
     !
   !
 !
-instance|instance|k||
+instance|map vlans to an mst instance|k||
   id|id|k||
     vlan|vlan|k||
       <vlan>|vlan|||
@@ -136,13 +136,13 @@ instance|instance|k||
     !
   !
 !
-revision|revision|k||
+revision|set the configuration revision number|k||
   id|id|||
     <cr>||||
     !
   !
 !
-exit|exit|k||
+exit|apply changes, bump revision number, and exit mode|k||
   <cr>||||
   !
 !

@@ -4,7 +4,7 @@ rd|specify route distinguisher|k||
     !
   !
 !
-route-target|route-target|k||
+route-target|specify target vpn extended communities|k||
   export|export|k||
     aa:nn|aa:nn|k||
       <cr>||||
@@ -24,13 +24,13 @@ route-target|route-target|k||
     !
   !
 !
-description|description|k/n/o||
+description|vrf specific description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
     !
   !
 !
-import|import|k||
+import|vrf import|k||
   map|map|k||
     word|word|||
       <cr>||||
@@ -44,7 +44,7 @@ import|import|k||
     !
   !
 !
-export|export|k||
+export|vrf export|k||
   map|map|k||
     word|word|||
       <cr>||||
@@ -58,7 +58,7 @@ export|export|k||
     !
   !
 !
-vpn|vpn|k||
+vpn|configure vpn id as specified in rfc 2685|k||
   id|id|||
     line|line|lb/le/wa||
       <cr>||||
@@ -66,7 +66,7 @@ vpn|vpn|k||
     !
   !
 !
-mdt|mdt|k||
+mdt|backbone multicast distribution tree|k||
   default|default|k||
     a.b.c.d|a.b.c.d|||
       <cr>||||
@@ -84,7 +84,7 @@ mdt|mdt|k||
     !
   !
 !
-address-family|address-family|k||
+address-family|enter address family configuration mode|k||
   ipv4|ipv4|k||
     <cr>||||@(config-vrf-af)# vrf_nested.cfm
     !
@@ -110,11 +110,11 @@ address-family|address-family|k||
     !
   !
 !
-exit-address-family|exit-address-family|k||
+exit-address-family|exit from address family configuration mode|k||
   <cr>||||
   !
 !
-maximum|maximum|k||
+maximum|set a limit|k||
   routes|routes|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -122,7 +122,7 @@ maximum|maximum|k||
     !
   !
 !
-vnet|vnet|k||
+vnet|virtual networking configuration|k||
   tag|tag|k||
     id|id|||
       <cr>||||
@@ -130,7 +130,7 @@ vnet|vnet|k||
     !
   !
 !
-auto-classify|auto-classify|k||
+auto-classify|enable auto-classification|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -138,17 +138,17 @@ auto-classify|auto-classify|k||
     !
   !
 !
-rd-auto|rd-auto|k||
+rd-auto|automatically assign a route distinguisher|k||
   <cr>||||
   !
 !
-context|context|k||
+context|associate snmp context with this vrf|k||
   word|word|||
     <cr>||||
     !
   !
 !
-protection|protection|k||
+protection|configure local repair|k||
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -23,7 +23,7 @@ bandwidth "set bandwidth informational parameter"
     id $
   receive
     id $
-delay
+delay "specify interface throughput delay"
   id :o $
 mtu "set the interface maximum transmission unit"
   id :o $
@@ -350,7 +350,7 @@ channel-group "etherchannel/port bundling configuration"
       desirable $
         non-silent $
   auto $
-channel-protocol
+channel-protocol "select the channel protocol (lacp, pagp)"
   lacp :o $
   pagp :o $
 mop "dec mop server commands"
@@ -402,11 +402,11 @@ mpls "configure mpls interface parameters"
     forwarding $
   mldp $
     disable $
-carrier-delay
+carrier-delay "specify delay for interface transitions"
   id :o $
   msec
     id :o $
-flowcontrol
+flowcontrol "configure flow operation"
   receive
     on $
     off $
@@ -416,10 +416,10 @@ flowcontrol
     off $
     desired $
   hardware $
-full-duplex $
-half-duplex $
-no-autonegotiation $
-ethernet
+full-duplex $ "configure full-duplex operational mode"
+half-duplex $ "configure half-duplex and related commands"
+no-autonegotiation $ "turn off autonegotiation"
+ethernet "ethernet interface settings"
   oam $
     mode
       line *
@@ -442,7 +442,7 @@ ethernet
     interface $
     ce-vlan
       line *
-snmp
+snmp "modify snmp interface parameters"
   trap
     link-status $ :sn
     ip
@@ -452,29 +452,29 @@ snmp
       line *
   ifindex
     persist $
-logging
+logging "configure logging for interface"
   event
     link-status $
     line *
-storm-control
+storm-control "storm configuration"
   line *
-priority-queue
+priority-queue "priority queue settings"
   out $
-mls
+mls "multi-layer switching settings"
   qos
     trust
       line *
     vlan-based $
-auto
+auto "configure automation"
   qos
     line *
   line *
-power
+power "power configuration"
   inline
     line *
   efficient-ethernet
     line *
-arp
+arp "set arp type (arpa, probe, snap) or timeout"
   timeout
     id :o $
   arpa $ :sn
@@ -499,7 +499,7 @@ ppp "point-to-point protocol"
   ipcp
     line *
   line *
-dialer
+dialer "dial-on-demand routing (ddr) commands"
   pool
     id $
   pool-member
@@ -538,13 +538,13 @@ dialer
   vpdn $
   rotary-group
     id $
-dialer-group
+dialer-group "assign interface to dialer-list"
   id $
-pppoe
+pppoe "enable pppoe"
   line *
-pppoe-client
+pppoe-client "pppoe client"
   line *
-peer
+peer "peer parameters for point to point interfaces"
   default
     ip
       address
@@ -554,11 +554,11 @@ pvc "configure an atm pvc"
   <vpi/vci> :k @(config-if-atm-vc)#=atm_vc.cfm
   word :k
     <vpi/vci> :k @(config-if-atm-vc)#=atm_vc.cfm
-atm
+atm "modify atm parameters"
   line *
-dsl
+dsl "dsl line settings"
   line *
-frame-relay
+frame-relay "set frame relay parameters"
   interface-dlci
     id :k $
       line *
@@ -577,49 +577,49 @@ frame-relay
     line *
   payload-compression
     line *
-x25
+x25 "x.25 level 3"
   address
     line *
   map
     line *
-fair-queue $ :sn
+fair-queue $ :sn "enable fair queuing on an interface"
   id $
     line *
-random-detect $
+random-detect $ "enable random early detection (red) on an interface"
   line *
-max-reserved-bandwidth
+max-reserved-bandwidth "maximum reservable bandwidth on an interface"
   id :o $
-rate-limit
+rate-limit "rate limit access"
   line *
-traffic-shape
+traffic-shape "enable traffic shaping on an interface or sub-interface"
   line *
-custom-queue-list
+custom-queue-list "assign a custom queue list to an interface"
   id $
-priority-group
+priority-group "assign a priority group to an interface"
   id $
-qos
+qos "quality of service related commands"
   line *
-no-shutdown $
-zone-member
+no-shutdown $ "bring the interface up"
+zone-member "apply zone name"
   security
     word :o $
-virtual-template
+virtual-template "virtual template of the interface"
   id :o $
-source
+source "get config from another source"
   line *
-member
+member "member interface settings"
   line *
-wlan
+wlan "wireless lan settings"
   line *
-macsec $
+macsec $ "enable macsec on the interface"
   line *
-mka
+mka "mka configuration for the interface"
   policy
     word $
   default-policy $
   pre-shared-key $ :sn
     line *
-authentication
+authentication "authentication manager settings"
   port-control
     line *
   host-mode
@@ -638,7 +638,7 @@ authentication
     line *
   control-direction
     line *
-dot1x
+dot1x "interface config commands for ieee 802.1x"
   pae
     line *
   timeout
@@ -649,9 +649,9 @@ dot1x
     id $
   max-req
     id $
-mab $
+mab $ "mac authentication bypass interface config commands"
   eap $
-access-session
+access-session "access session specific interface configuration"
   port-control
     line *
   host-mode
@@ -659,92 +659,92 @@ access-session
   closed $
   control-direction
     line *
-device-tracking $
+device-tracking $ "configure device-tracking on the interface"
   attach-policy
     word $
-small-frame
+small-frame "set rate limit parameters for small frames"
   line *
-udld
+udld "configure udld enabled or disabled and ignore global udld setting"
   port $
     line *
-ntp
+ntp "configure ntp"
   disable $
   broadcast $
     line *
   multicast
     line *
-rmon
+rmon "configure remote monitoring on an interface"
   collection
     line *
-transmit-interface
+transmit-interface "assign a transmit interface to a receive-only interface"
   line *
-backup
+backup "modify backup parameters"
   line *
-pos
+pos "modify sonet parameters"
   line *
-crc
+crc "set the crc word size"
   id $
-framing
+framing "specify the framing type"
   line *
-cable
+cable "cable interface settings"
   line *
-ignore
+ignore "ignore a packet type or setting"
   line *
-loopback $
+loopback $ "configure internal loopback on an interface"
   line *
-no-keepalive $
-l2protocol-tunnel
+no-keepalive $ "turn off keepalives"
+l2protocol-tunnel "tunnel layer 2 protocols"
   line *
-location
+location "interface location information"
   line *
-switch
+switch "switch interface settings"
   line *
-vlan-range
+vlan-range "range of vlans"
   line *
-stackwise-virtual
+stackwise-virtual "stackwise virtual interface settings"
   line *
-isis
+isis "is-is commands"
   line *
-clns
+clns "clns interface subcommands"
   route-cache $ :sn
   line *
-dampening $
+dampening $ "enable event dampening"
   line *
-bfd
+bfd "bfd interface configuration commands"
   interval
     line *
   echo $
-ospfv3
+ospfv3 "ospfv3 interface commands"
   line *
-xconnect
+xconnect "xconnect commands"
   line *
-l2tp
+l2tp "l2tp interface settings"
   line *
-lacp
+lacp "lacp interface subcommands"
   port-priority
     id $
   rate
     line *
-pagp
+pagp "pagp interface subcommands"
   port-priority
     id $
   learn-method
     line *
-queue-set
+queue-set "choose a queue-set for this queue"
   id $
-trust
+trust "trust settings of the interface"
   line *
-h323-gateway
+h323-gateway "configure h323 gateway voip interface"
   voip
     line *
-peer-default
+peer-default "default peer address for point to point interfaces"
   line *
-service
+service "interface specific service settings"
   instance
     id :k
       ethernet @(config-if-srv)#=generic.cfm
         word @(config-if-srv)#=generic.cfm
-bgp-policy
+bgp-policy "apply policy propagated by bgp community string"
   accounting
     input $
       source $
@@ -776,6 +776,6 @@ physical-layer "physical layer mode"
   sync :o $
 routing "routing on the interface"
   dynamic $ :sn
-medium
+medium "interface medium"
   p2p $
   broadcast $

@@ -194,13 +194,13 @@ route "establish static routes"
   a.b.c.d :k "destination prefix"
     a.b.c.d :k "destination prefix mask"
       %IF
-        a.b.c.d "forwarding router's address" $
+        a.b.c.d :k "forwarding router's address" $
           id "distance metric" $
             line *
           line *
         id "distance metric" $
         line *
-      a.b.c.d "forwarding router's address" $
+      a.b.c.d :k "forwarding router's address" $
         id "distance metric" $
           line *
         line *
@@ -211,11 +211,11 @@ route "establish static routes"
       a.b.c.d :k
         a.b.c.d :k
           %IF
-            a.b.c.d $
+            a.b.c.d :k $
               line *
             id $
             line *
-          a.b.c.d $
+          a.b.c.d :k $
             line *
           dhcp $
   static
@@ -427,8 +427,8 @@ sla "ip service level agreement"
     id :k @(config-sla-monitor)#=ip_sla.cfm
     schedule
       line *
-  schedule
-    id :k
+  schedule "schedule an operation"
+    id :k/n "operation number"
       line * $
   responder $
   logging

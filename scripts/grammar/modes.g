@@ -3,19 +3,19 @@ exec-timeout "set the exec timeout"
   id :o
     id $
   id :o $
-logging
+logging "modify message logging facilities"
   synchronous $
     line *
-stopbits
+stopbits "set async line stop bits"
   id :o $
-privilege
+privilege "change privilege level for line"
   level
     id :o $
-login $ :sb/o
+login $ :sb/o "enable password checking"
   local $
   authentication
     word :o $
-transport
+transport "define transport protocols for line"
   input :o
     all $
     none $
@@ -37,148 +37,148 @@ transport
     ssh $
     telnet $
     line *
-password
+password "set a password"
   id
     line * :o
   line * :o
-exec $ :sn
+exec $ :sn "start an exec"
   prompt
     timestamp $
-exec-character-bits
+exec-character-bits "size of characters to the command exec"
   id $
-history $
+history $ "enable and control the command history function"
   size
     id :o $
-access-class
+access-class "filter connections based on an ip access list"
   word :k
     in :k $
       vrf-also $
     out :k $
-ipv6
+ipv6 "ipv6 options"
   access-class
     word :k
       in $
       out $
-session-timeout
+session-timeout "close a connection without input traffic"
   id $
     line *
-absolute-timeout
+absolute-timeout "set absolute timeout for line disconnection"
   id $
-autocommand
+autocommand "automatically execute an exec command"
   %TEXT
-speed
+speed "set the transmit and receive speeds"
   id :o $
-flowcontrol
+flowcontrol "set the flow control"
   line *
-modem
+modem "configure the line for modem operation"
   line *
-length
+length "set number of lines on a screen"
   id :o $
-width
+width "set width of the display terminal"
   id :o $
-terminal-type
+terminal-type "set the terminal type"
   word $
-accounting
+accounting "accounting parameters"
   line *
-authorization
+authorization "authorization parameters"
   exec
     word $
   commands
     id
       word $
-escape-character
+escape-character "change the current line's escape character"
   line *
-no-escape $
-motd-banner $
-exec-banner $
-logout-warning
+no-escape $ "turn off the escape character"
+motd-banner $ "enable the display of the motd banner"
+exec-banner $ "enable the display of the exec and motd banners"
+logout-warning "warning countdown before absolute timeout"
   id $
-activation-character
+activation-character "define the activation character"
   line *
-stopbits-character
+stopbits-character "stop bits of a character"
   line *
-databits
+databits "set number of data bits per character"
   id $
-parity
+parity "set terminal parity"
   line *
-rotary
+rotary "add line to a rotary group"
   id $
-autoselect
+autoselect "set line to autoselect"
   line *
-notify $
-monitor $
-refuse-message
+notify $ "inform users of output from concurrent sessions"
+monitor $ "copy debug output to the current terminal line"
+refuse-message "define a refuse banner"
   line *
-vacant-message
+vacant-message "define a vacant banner"
   line *
-timeout
+timeout "timeouts for the line"
   login
     response
       id $
-data-character-bits
+data-character-bits "size of characters being handled"
   id $
-international $
-lockable $
-padding
+international $ "enable international 8-bit character support"
+lockable $ "allow users to lock a line"
+padding "set padding for a specified output character"
   line *
-editing $
-full-help $
-location
+editing $ "enable command line editing"
+full-help $ "provide help to unprivileged user"
+location "enter terminal location description"
   %TEXT
-session-disconnect-warning
+session-disconnect-warning "set warning countdown for session-timeout"
   line *
-exit $
+exit $ "exit from line configuration mode"
 
 file vlan.cfm
 name "ascii name of the vlan"
   word :o $
-state
+state "operational state of the vlan"
   active $
   suspend $
-shutdown $
-remote-span $
-private-vlan
+shutdown $ "shutdown vlan switching"
+remote-span $ "configure as remote span vlan"
+private-vlan "configure a private vlan"
   line *
-media
+media "media type of the vlan"
   line *
-mtu
+mtu "vlan maximum transmission unit"
   id $
-are
+are "maximum number of all route explorer hops for this vlan"
   id $
-ste
+ste "maximum number of spanning tree explorer hops for this vlan"
   id $
-backupcrf
+backupcrf "backup crf mode of the vlan"
   line *
-bridge
+bridge "bridging characteristics of the vlan"
   line *
-parent
+parent "id number of the parent vlan of fddi or token ring type vlans"
   id $
-ring
+ring "ring number of fddi or token ring type vlans"
   id $
-said
+said "ieee 802.10 said"
   id $
-tb-vlan1
+tb-vlan1 "id number of the first translational vlan for this vlan"
   id $
-tb-vlan2
+tb-vlan2 "id number of the second translational vlan for this vlan"
   id $
-action
+action "action of a vlan access map"
   forward $
   drop $
     log $
-match
+match "match criteria of a vlan access map"
   ip
     address
       word $
   mac
     address
       word $
-instance
+instance "map vlans to an mst instance"
   id :k
     vlan
       <vlan> $
-revision
+revision "set the configuration revision number"
   id $
-exit $
+exit $ "apply changes, bump revision number, and exit mode"
 
 file route_map.cfm
 match "match values from routing table"
@@ -299,9 +299,9 @@ set "set values in destination routing protocol"
   traffic-index
     id $
   global $
-description :n/o
+description :n/o "route-map comment"
   %TEXT
-continue $
+continue $ "continue on a different entry within the route-map"
   id $
 
 file control_plane.cfm

@@ -192,123 +192,123 @@ rollback
 file vrf.cfm
 rd "specify route distinguisher"
   aa:nn :o $
-route-target
+route-target "specify target vpn extended communities"
   export
     aa:nn :k $
   import
     aa:nn :k $
   both
     aa:nn :k $
-description :n/o
+description :n/o "vrf specific description"
   %TEXT
-import
+import "vrf import"
   map
     word $
   ipv4
     line *
-export
+export "vrf export"
   map
     word $
   ipv4
     line *
-vpn
+vpn "configure vpn id as specified in rfc 2685"
   id
     line *
-mdt
+mdt "backbone multicast distribution tree"
   default
     a.b.c.d $
   data
     line *
   line *
-address-family
+address-family "enter address family configuration mode"
   ipv4 @(config-vrf-af)#=vrf.cfm
     unicast @(config-vrf-af)#=vrf.cfm
     multicast @(config-vrf-af)#=vrf.cfm
   ipv6 @(config-vrf-af)#=vrf.cfm
     unicast @(config-vrf-af)#=vrf.cfm
     multicast @(config-vrf-af)#=vrf.cfm
-exit-address-family $
-maximum
+exit-address-family $ "exit from address family configuration mode"
+maximum "set a limit"
   routes
     line *
-vnet
+vnet "virtual networking configuration"
   tag
     id $
-auto-classify $
+auto-classify $ "enable auto-classification"
   line *
-rd-auto $
-context
+rd-auto $ "automatically assign a route distinguisher"
+context "associate snmp context with this vrf"
   word $
-protection
+protection "configure local repair"
   line *
 
 file dhcp_pool.cfm
-network
+network "network number and mask"
   a.b.c.d :o $
     a.b.c.d $
     </nn> $
-default-router
+default-router "default routers"
   a.b.c.d :m $
     a.b.c.d :m $
       a.b.c.d :m $
-dns-server
+dns-server "dns servers"
   a.b.c.d :m $
     a.b.c.d :m $
       a.b.c.d :m $
         a.b.c.d :m $
-domain-name
+domain-name "domain name"
   word :o $
-lease
+lease "address lease time"
   id :o $
     id $
       id $
   infinite $
-option
+option "raw dhcp options"
   id :k
     line *
-host
+host "client ip address and mask"
   a.b.c.d :o $
     a.b.c.d $
     </nn> $
-client-identifier
+client-identifier "client identifier"
   word :o $
-hardware-address
+hardware-address "client hardware address"
   word :o $
     line *
-client-name
+client-name "client name"
   word $
-netbios-name-server
+netbios-name-server "netbios (wins) name servers"
   a.b.c.d :m $
     a.b.c.d :m $
-netbios-node-type
+netbios-node-type "netbios node type"
   word $
-next-server
+next-server "next server in boot process"
   a.b.c.d $
-bootfile
+bootfile "boot file name"
   word $
-import
+import "programmatically importing dhcp option parameters"
   all $
-update
+update "dynamic updates"
   line *
-vrf
+vrf "associate this pool with a vrf"
   word $
-relay
+relay "function as a dhcp relay"
   line *
-class
+class "configure a dhcp class"
   line *
-utilization
+utilization "configure various utilization parameters"
   line *
-origin
+origin "configure the origin of the pool"
   line *
-subnet
+subnet "subnet allocation commands"
   line *
-address
+address "configure a reserved address"
   line *
-dns
+dns "dns settings"
   line *
-prefix-delegation
+prefix-delegation "ipv6 prefix delegation"
   line *
-domain-search
+domain-search "domain search list"
   line *
 
 file ip_sla.cfm

@@ -364,3 +364,61 @@ igmp "internet group management protocol" $
 nos "ka9q nos compatible ip over ip tunneling" $
 pcp "payload compression protocol" $
 id :k "protocol number" $
+
+# Tracked objects: what to track is said on the opening line; the mode holds
+# its delays, its default state and, for a list, the objects of the list.
+file track.cfm
+description "object description" :n/o
+  %TEXT
+delay "tracking delay" :o
+  up :-k "delay for a change to up"
+    id "seconds" $
+      down :-k "delay for a change to down"
+        id "seconds" $
+  down :-k "delay for a change to down"
+    id "seconds" $
+      up :-k "delay for a change to up"
+        id "seconds" $
+default-state "state of the object while it is not known" :o
+  up :-k "the object is up" $
+  down :-k "the object is down" $
+object "object of the list"
+  id :k "object number" $
+    not "negate the state of the object" $
+    weight "weight of the object"
+      id "weight" $
+threshold "threshold of the list"
+  percentage "threshold in percent"
+    line *
+  weight "threshold in weights"
+    line *
+
+# The gatekeeper: zones, technology prefixes and the admission settings. It
+# is shut down until "no shutdown"; both forms are shown.
+file gatekeeper.cfm
+shutdown "shut down the gatekeeper" :sb/o $
+zone "zone definition"
+  local "define the local zone of the gatekeeper"
+    word :k "gatekeeper name"
+      word :k "domain name" $
+        line *
+  remote "define a remote zone"
+    word :k "gatekeeper name"
+      line *
+  prefix "prefix of a zone"
+    word :k "gatekeeper name"
+      word :k "e.164 prefix" $
+        line *
+gw-type-prefix "gateway technology prefix"
+  word :k "technology prefix" $
+    line *
+lrq "location request settings"
+  line *
+arq "admission request settings"
+  line *
+ras "registration, admission and status settings"
+  line *
+bandwidth "bandwidth settings"
+  line *
+endpoint "endpoint settings"
+  line *

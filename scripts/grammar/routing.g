@@ -100,7 +100,7 @@ def BGPNEIGHBOR
     line *
 
 def AFBODY
-  neighbor
+  neighbor "specify a neighbor router"
     a.b.c.d :k
       %BGPNEIGHBOR
     word :k
@@ -148,19 +148,19 @@ def AFBODY
       line *
     lisp $
       line *
-  aggregate-address
+  aggregate-address "configure bgp aggregate entries"
     line *
-  maximum-paths
+  maximum-paths "forward packets over multiple paths"
     id $
     ibgp
       id $
     eibgp
       id $
-  synchronization $ :sn
-  auto-summary $ :sn
-  default-information
+  synchronization $ :sn "perform igp synchronization"
+  auto-summary $ :sn "enable automatic network number summarization"
+  default-information "control distribution of default information"
     originate $
-  bgp
+  bgp "bgp specific commands"
     dampening $
       line *
     additional-paths
@@ -171,22 +171,22 @@ def AFBODY
       line *
     scan-time
       line *
-  distance
+  distance "define an administrative distance"
     line *
-  table-map
+  table-map "map external entry attributes into routing table"
     line *
-  default-metric
+  default-metric "set metric of redistributed routes"
     id $
-  import
+  import "import routes from another routing table"
     line *
-  export
+  export "export routes to another routing table"
     line *
-  exit-address-family $
-  segment-routing
+  exit-address-family $ "exit from address family configuration mode"
+  segment-routing "segment routing settings"
     line *
-  label
+  label "label settings"
     line *
-  allocate-label
+  allocate-label "allocate mpls labels for prefixes"
     line *
 
 file router_bgp.cfm
@@ -306,12 +306,12 @@ address-family "enter address family command mode"
     unicast @(config-router-af)#=router_bgp_af.cfm
   link-state @(config-router-af)#=router_bgp_af.cfm
     link-state @(config-router-af)#=router_bgp_af.cfm
-template
+template "enter template command mode"
   peer-session
     word :k @(config-router-stmp)#=router_bgp_af.cfm
   peer-policy
     word :k @(config-router-ptmp)#=router_bgp_af.cfm
-timers
+timers "adjust routing timers"
   bgp
     id
       id $
@@ -330,7 +330,7 @@ def OSPFBODY
         area
           id :k $
           a.b.c.d :k $
-  log-adjacency-changes $ :sb/o
+  log-adjacency-changes $ :sb/o "log changes in adjacency state"
     detail $
   passive-interface "suppress routing updates on an interface"
     default $
@@ -340,7 +340,7 @@ def OSPFBODY
       line * $
     a.b.c.d :k
       line * $
-  redistribute
+  redistribute "redistribute information from another routing protocol"
     connected $
       line *
     static $
@@ -358,13 +358,13 @@ def OSPFBODY
       line *
     isis $
       line *
-  default-information
+  default-information "control distribution of default information"
     originate $
       line *
-  auto-cost
+  auto-cost "calculate ospf interface cost according to bandwidth"
     reference-bandwidth
       id :o $
-  timers
+  timers "adjust routing timers"
     throttle
       spf
         id
@@ -377,62 +377,62 @@ def OSPFBODY
         id $
     pacing
       line *
-  summary-address
+  summary-address "configure ip address summaries"
     line *
-  summary-prefix
+  summary-prefix "configure ip address summaries"
     line *
-  distance
+  distance "define an administrative distance"
     line *
-  distribute-list
+  distribute-list "filter networks in routing updates"
     line *
-  maximum-paths
+  maximum-paths "forward packets over multiple paths"
     id $
-  default-metric
+  default-metric "set metric of redistributed routes"
     id $
-  bfd
+  bfd "bfd configuration commands"
     all-interfaces $
-  nsf $
+  nsf $ "non-stop forwarding"
     line *
-  mpls
+  mpls "configure mpls routing protocol parameters"
     line *
-  capability
+  capability "enable a specific feature"
     line *
-  max-metric
+  max-metric "set maximum metric"
     line *
-  ispf $
-  prefix-suppression $
-  shutdown $
-  compatible
+  ispf $ "enable incremental spf computation"
+  prefix-suppression $ "enable prefix suppression"
+  shutdown $ "shutdown the ospf protocol under the current instance"
+  compatible "compatibility list"
     line *
-  ignore
+  ignore "do not complain about a specific event"
     line *
-  graceful-restart $
+  graceful-restart $ "graceful restart options"
     line *
-  fast-reroute
+  fast-reroute "specify ip fast reroute"
     line *
-  segment-routing
+  segment-routing "segment routing settings"
     line *
-  microloop
+  microloop "microloop avoidance"
     line *
-  address-family
+  address-family "enter address family command mode"
     ipv4 @(config-router-af)#=router_ospf_af.cfm
       unicast @(config-router-af)#=router_ospf_af.cfm
     ipv6 @(config-router-af)#=router_ospf_af.cfm
       unicast @(config-router-af)#=router_ospf_af.cfm
-  discard-route
+  discard-route "enable or disable discard-route installation"
     line *
-  domain-id
+  domain-id "ospf domain-id"
     line *
-  domain-tag
+  domain-tag "ospf domain-tag"
     line *
-  local-rib-criteria $
-  queue-depth
+  local-rib-criteria $ "enable or disable usage of local rib as route criteria"
+  queue-depth "ospf hello/router process queue depth"
     line *
-  event-log $
+  event-log $ "event logging"
     line *
-  interface-id
+  interface-id "source of the interface id"
     line *
-  exit-address-family $
+  exit-address-family $ "exit from address family configuration mode"
 
 file router_ospf.cfm
 %OSPFBODY
@@ -441,10 +441,10 @@ file router_ospf_af.cfm
 %OSPFBODY
 
 file router_eigrp.cfm
-network
+network "enable routing on an ip network"
   a.b.c.d :k $
     a.b.c.d :k $
-eigrp
+eigrp "eigrp specific commands"
   router-id
     a.b.c.d :o $
   stub $
@@ -452,10 +452,10 @@ eigrp
   log-neighbor-changes $
   log-neighbor-warnings $
     id $
-passive-interface
+passive-interface "suppress routing updates on an interface"
   default $
   %IF
-redistribute
+redistribute "redistribute information from another routing protocol"
   connected $
     line *
   static $
@@ -471,28 +471,28 @@ redistribute
       line *
   rip $
     line *
-auto-summary $ :sn
-metric
+auto-summary $ :sn "enable automatic network number summarization"
+metric "modify eigrp routing metrics and parameters"
   line *
-variance
+variance "control load balancing variance"
   id $
-maximum-paths
+maximum-paths "forward packets over multiple paths"
   id $
-distance
+distance "define an administrative distance"
   line *
-distribute-list
+distribute-list "filter entries in eigrp updates"
   line *
-default-metric
+default-metric "set metric of redistributed routes"
   line *
-offset-list
+offset-list "add or subtract offset from eigrp metrics"
   line *
-timers
+timers "adjust routing timers"
   line *
-traffic-share
+traffic-share "how to compute traffic share over alternate paths"
   line *
-summary-metric
+summary-metric "specify summary to apply metric/filtering"
   line *
-address-family
+address-family "enter address family command mode"
   ipv4 @(config-router-af)#=router_eigrp_af.cfm
     unicast @(config-router-af)#=router_eigrp_af.cfm
       autonomous-system
@@ -513,9 +513,9 @@ address-family
         id @(config-router-af)#=router_eigrp_af.cfm
     autonomous-system
       id @(config-router-af)#=router_eigrp_af.cfm
-no-shutdown $
-shutdown $
-nsf $
+no-shutdown $ "bring the routing process up"
+shutdown $ "shutdown the eigrp process"
+nsf $ "non-stop forwarding"
 
 file router_eigrp_af.cfm
 network

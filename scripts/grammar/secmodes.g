@@ -26,7 +26,7 @@ attribute
   line *
 
 file key_chain.cfm
-key
+key "configure a key"
   id :k @(config-keychain-key)#=key_chain_key.cfm
 
 file key_chain_key.cfm
@@ -45,15 +45,15 @@ file class_map.cfm
 match "classification criteria"
   ip
     dscp
-      <value> :m * 
+      <value> :k * 
     precedence
-      <value> :m *
+      <value> :k *
     rtp
       line *
   dscp
-    <value> :m *
+    <value> :k *
   precedence
-    <value> :m *
+    <value> :k *
   access-group
     id :k $
     name
@@ -62,12 +62,12 @@ match "classification criteria"
   class-map
     word $
   cos
-    <value> :m *
+    <value> :k *
   mpls
     experimental
       topmost
-        <value> :m *
-      <value> :m *
+        <value> :k *
+      <value> :k *
   qos-group
     id :k $
   protocol
@@ -97,7 +97,7 @@ match "classification criteria"
     line *
   security-group
     line *
-description :n/o
+description :n/o "class-map description"
   %TEXT
 
 file policy_map.cfm
@@ -108,11 +108,11 @@ class "policy criteria"
   type
     inspect
       word :k @(config-pmap-c)#=policy_map_class.cfm
-description :n/o
+description :n/o "policy-map description"
   %TEXT
 
 file policy_map_class.cfm
-bandwidth "bandwidth"
+bandwidth "bandwidth guaranteed to this class"
   id :o $
   percent
     id :o $
@@ -121,7 +121,7 @@ bandwidth "bandwidth"
       id :o $
     ratio
       id :o $
-priority
+priority "strict scheduling priority for this class"
   id :o $
     id $
   percent
@@ -129,7 +129,7 @@ priority
       id $
   level
     id $
-police
+police "police the traffic of this class"
   cir
     percent
       id :o $
@@ -140,7 +140,7 @@ police
     line *
   id :o $
     line *
-shape
+shape "traffic shaping"
   average
     id :o $
       line *
@@ -153,7 +153,7 @@ shape
     id $
   adaptive
     line *
-set
+set "set qos values"
   dscp
     line *
   ip
@@ -171,10 +171,10 @@ set
     line *
   fr-de $
   atm-clp $
-queue-limit
+queue-limit "queue max threshold for tail drop"
   id :o $
     line *
-random-detect $
+random-detect $ "enable random early detection as drop policy"
   dscp-based $
   prec-based $
   discard-class-based $
@@ -187,32 +187,32 @@ random-detect $
   exponential-weighting-constant
     id $
   ecn $
-fair-queue $
+fair-queue $ "enable flow-based fair queuing"
   id $
-service-policy
+service-policy "configure flow next"
   word :o $
-inspect $
+inspect $ "context-based access control engine"
   word $
-drop $
+drop $ "drop all packets"
   log $
-pass $
+pass $ "pass packets"
   log $
-conform-action
+conform-action "action when rate is within conform burst"
   line *
-exceed-action
+exceed-action "action when rate is within conform and conform + exceed burst"
   line *
-violate-action
+violate-action "action when rate is greater than conform + exceed burst"
   line *
-compression
+compression "activate compression"
   line *
-estimate
+estimate "estimate resources required for this class"
   line *
-admit
+admit "admission control"
   line *
-account $
-trust
+account $ "overhead accounting"
+trust "set trust value for the class"
   line *
-log $
+log $ "log ipv4 and arp packets"
 
 file crypto_isakmp.cfm
 encr "encryption"
@@ -220,56 +220,56 @@ encr "encryption"
     id $
   3des :o $
   des :o $
-encryption
+encryption "set encryption algorithm for protection suite"
   line *
-hash
+hash "set hash algorithm for protection suite"
   md5 :o $
   sha :o $
   sha256 :o $
   sha384 :o $
   sha512 :o $
-authentication
+authentication "set authentication method for protection suite"
   pre-share :o $
   rsa-sig :o $
   rsa-encr :o $
   ecdsa-sig :o $
-group
+group "set the diffie-hellman group"
   id :o $
-lifetime
+lifetime "set lifetime for isakmp security association"
   id :o $
-key
+key "pre-shared key for remote peer"
   line * :o
-pool
+pool "set name of address pool"
   word :o $
-dns
+dns "specify dns addresses"
   a.b.c.d $
     a.b.c.d $
-domain
+domain "set default domain name to send to client"
   word $
-acl
+acl "specify split tunneling inclusion access-list number"
   word :o $
-save-password $
-include-local-lan $
-split-dns
+save-password $ "allows remote client to save xauth password"
+include-local-lan $ "enable local lan access with no split tunnel"
+split-dns "dns name to append for resolution"
   word $
-netmask
+netmask "netmask used by the client for local connectivity"
   a.b.c.d $
-max-users
+max-users "set maximum number of users for this group"
   id $
-max-logins
+max-logins "set maximum simultaneous logins for users"
   id $
-banner
+banner "specify mode config banner"
   line *
-firewall
+firewall "enforce group firewall policy"
   line *
-backup-gateway
+backup-gateway "specify backup gateway"
   line *
-pfs $
-dhcp
+pfs $ "the client should propose pfs"
+dhcp "configure dhcp parameters"
   line *
-wins
+wins "specify wins addresses"
   line *
-crypto
+crypto "client crypto settings"
   aaa
     line *
 
@@ -359,7 +359,7 @@ mode
     require $
 
 file crypto_map.cfm
-set
+set "set values for encryption/decryption"
   peer
     a.b.c.d :k $
       default $
@@ -400,19 +400,19 @@ set
     line *
   ip
     line *
-match
+match "match values"
   address
     word :o $
-reverse-route $
+reverse-route $ "reverse route injection"
   static $
   remote-peer
     line *
   line *
-description :n/o
+description :n/o "description of the crypto map statement policy"
   %TEXT
-qos
+qos "quality of service related commands"
   pre-classify $
-dialer
+dialer "dialer related commands"
   line *
 
 file crypto_pki.cfm

@@ -283,7 +283,7 @@ snmp-server "modify snmp engine parameters"
     line *
   ip
     line *
-snmp
+snmp "modify snmp engine parameters"
   ifmib
     line *
   mib
@@ -403,13 +403,13 @@ crypto "encryption module"
       local-address
         %IF
       client
-        line *
+        line :k *
       isakmp
-        line *
+        line :k *
       isakmp-profile
         word $
       redundancy
-        line *
+        line :k *
   dynamic-map
     word :k
       id :k @(config-crypto-map)#=crypto_map.cfm

@@ -36,7 +36,7 @@ interface "select an interface to configure"
     <number> :k "interface number" @(config-if)#=interface.cfm
   range "interface range"
     line * @(config-if-range)#=interface.cfm
-version "version"
+version "version of the configuration"
   <value> :o $
 boot-start-marker "boot marker" $
 boot-end-marker "boot marker" $
@@ -327,9 +327,21 @@ route-map "create route-map or enter route-map command mode"
     deny "route map denies set operations" @(config-route-map)#=route_map.cfm
       id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
     id :k @(config-route-map)#=route_map.cfm
-control-plane-policing $
+control-plane-policing $ "control plane policing settings"
 platform "platform configuration"
-  line * :o
+  console "console selection"
+    auto :-k :o "automatic console selection" $
+    serial :-k :o "serial console" $
+    virtual :-k :o "virtual console" $
+  punt-keepalive "punt keepalive settings"
+    disable-kernel-core :o/sb "do not write a kernel core on a keepalive failure" $
+    ignore-fault :o/sb "ignore keepalive faults" $
+  qfp "quantum flow processor"
+    utilization "utilization settings"
+      monitor "monitor utilization"
+        load "load threshold"
+          id :o "load in percent" $
+  line :k * "other platform setting"
 license "license configuration"
   line *
 upgrade "upgrade commands"
@@ -404,49 +416,49 @@ memory "memory configuration"
     critical
       id $
   lite $
-memory-size
+memory-size "adjust memory size by percentage"
   iomem
     id $
 netconf-yang "netconf yang" $
   line *
-restconf "restconf" $
-netconf
+restconf $ "enable restconf"
+netconf "configure netconf"
   line *
-gatekeeper "gatekeeper configuration" @(config-gk)#=generic.cfm
+gatekeeper "gatekeeper configuration" @(config-gk)#=gatekeeper.cfm
 track "object tracking"
   id :k
     ip
       sla
-        id :k @(config-track)#=generic.cfm
-          reachability @(config-track)#=generic.cfm
-          state @(config-track)#=generic.cfm
+        id :k @(config-track)#=track.cfm
+          reachability @(config-track)#=track.cfm
+          state @(config-track)#=track.cfm
       route
         a.b.c.d/<1-32> :k
-          reachability @(config-track)#=generic.cfm
+          reachability @(config-track)#=track.cfm
           metric
-            threshold @(config-track)#=generic.cfm
+            threshold @(config-track)#=track.cfm
         a.b.c.d :k
           a.b.c.d :k
-            reachability @(config-track)#=generic.cfm
+            reachability @(config-track)#=track.cfm
             metric
-              threshold @(config-track)#=generic.cfm
+              threshold @(config-track)#=track.cfm
     interface
       %IF
-        line-protocol @(config-track)#=generic.cfm
+        line-protocol @(config-track)#=track.cfm
         ip
-          routing @(config-track)#=generic.cfm
+          routing @(config-track)#=track.cfm
     list
       boolean
-        and @(config-track)#=generic.cfm
-        or @(config-track)#=generic.cfm
+        and @(config-track)#=track.cfm
+        or @(config-track)#=track.cfm
       threshold
-        weight @(config-track)#=generic.cfm
-        percentage @(config-track)#=generic.cfm
+        weight @(config-track)#=track.cfm
+        percentage @(config-track)#=track.cfm
     rtr
-      id :k @(config-track)#=generic.cfm
-        reachability @(config-track)#=generic.cfm
-        state @(config-track)#=generic.cfm
-    stub-object @(config-track)#=generic.cfm
+      id :k @(config-track)#=track.cfm
+        reachability @(config-track)#=track.cfm
+        state @(config-track)#=track.cfm
+    stub-object @(config-track)#=track.cfm
 clock "configure time-of-day clock"
   timezone
     word :o
@@ -504,7 +516,7 @@ dialer-list "dialer list"
         deny $
         list
           id $
-dialer
+dialer "dialer watch and pool configuration"
   watch-list
     line *
 domain "domain configuration"
@@ -516,7 +528,7 @@ vpdn "virtual private dialup network"
   group
     word :k @(config-vpdn)#=generic.cfm
   line *
-vpdn-group
+vpdn-group "vpdn group configuration"
   word :k @(config-vpdn)#=generic.cfm
 bba-group "bba group"
   pppoe
@@ -618,9 +630,9 @@ radius "radius server"
 mmi "modem management"
   polling-interval
     id $
-  auto-configure
-    id $
-  pvc
+  auto-configure :n/o/sb "automatic configuration of the modem pvc"
+    id "retry interval in seconds" $
+  pvc :n/o/sb "pvc used by the modem"
     line * $
   snmp-timeout
     id $
@@ -629,7 +641,7 @@ app-hosting "application hosting"
   appid
     word :k @(config-app-hosting)#=generic.cfm
 call-home "call home" @(cfg-call-home)#=call_home.cfm
-aqm-register-fnf $
+aqm-register-fnf $ "aqm register with flexible netflow"
 event "event manager"
   manager
     applet
@@ -655,7 +667,7 @@ mgcp "media gateway control protocol" $
   line *
 pseudowire-class "pseudowire class"
   word :k @(config-pw-class)#=generic.cfm
-l2tp-class
+l2tp-class "configure an l2tp class"
   word :k @(config-l2tp-class)#=generic.cfm
 voice "voice configuration"
   service
@@ -669,11 +681,11 @@ voice "voice configuration"
     word :k @(config-translate)#=generic.cfm
   rtp
     send-recv $
-voice-card
+voice-card "configure a voice card"
   id :k @(config-voicecard)#=generic.cfm
 sccp "skinny client control protocol" $
   line *
-stcapp $
+stcapp $ "skinny telephony control application"
   line *
 card "card type"
   type
@@ -683,11 +695,11 @@ controller "controller configuration"
     <number> :k @(config-controller)#=generic.cfm
 network-clock-participate "network clock"
   line *
-network-clock
+network-clock "configure network clock"
   line *
-network-clock-select
+network-clock-select "select a network clock source"
   line *
-scheduler "scheduler"
+scheduler "scheduler parameters"
   allocate $
     id
       id $

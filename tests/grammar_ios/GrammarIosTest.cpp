@@ -24,7 +24,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 0.48;
+constexpr double kRecordedRefusedShare = 0.476;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -33,14 +33,15 @@ std::string resourceFolder() {
 }
 
 // No path, or (an incomplete line) a path that never reached the end of a
-// command; a "no" line may stop early on purpose.
+// command; a "no" line may stop early where the grammar lets it, and
+// elsewhere the device answered "% Incomplete command.".
 bool isRefused(const CiscoCommandLine& record) {
   if (record.getFlag() == qxparser::CMD_TEXT) return false;
   if (record.getTreeNodeSize() == 0) return true;
   for (const auto& entry : record.getTreeNodes()) {
     if (entry.words.count("\n") != 0) return false;
   }
-  return !record.hasFlags(qxparser::CMDBIT_NO);
+  return !record.hasFlags(qxparser::CMDBIT_NO) || record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
 }
 
 class GrammarIos : public ::testing::Test {
@@ -147,6 +148,9 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"interface ATM0/0.32 point-to-point\n pvc 0/32\n  vbr-nrt 704 704\n  dialer pool-member 1\n  protocol ppp dialer\n",
        {0, 1, 2, 2, 2}},
       {"platform console auto\nno platform punt-keepalive disable-kernel-core\nmemory statistics history table 12\n", {0, 0, 0}},
+      // "no" forms that stop where the running configuration stops them.
+      {"no mmi auto-configure\nno mmi pvc\nmmi snmp-timeout 180\nno ip sla schedule 16\nno ip sla 17\n",
+       {0, 0, 0, 0, 0}},
       {"ipv6 dhcp pool POOL6\n address prefix fd01:ab00::/64 lifetime infinite\n dns-server 2001::1\n domain-name UK.COM\n",
        {0, 1, 1, 1}},
       {"crypto gdoi group G1\n identity number 18090212\n server local\n  rekey transport unicast\n  sa ipsec 10\n"
@@ -168,6 +172,14 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
        {0, 1, 1, 0, 1}},
       {"gatekeeper\n shutdown\nzone security Z0\nservice timestamps log datetime msec\nhostname R9\n", {0, 1, 0, 0, 0}},
       {"line vty 0 4\n login\nline con 0\n exec-timeout 0 0\n", {0, 1, 0, 1}},
+      // Tracked objects and the gatekeeper have modes of their own; a top-level
+      // line after them leaves the mode.
+      {"track 1 ip sla 1 reachability\n delay down 5 up 5\n default-state up\ntrack 10 list boolean and\n"
+       " object 1 not\n object 2\ninterface Loopback0\n",
+       {0, 1, 1, 0, 1, 1, 0}},
+      {"gatekeeper\n zone local GK1 example.com 10.0.0.1\n zone prefix GK1 408*\n gw-type-prefix 1#* default-technology\n"
+       " no shutdown\nzone security INSIDE\nhostname R1\n",
+       {0, 1, 1, 1, 1, 0, 0}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -279,6 +291,53 @@ TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
   EXPECT_NE(helpAt(2, {"ip access-list extended WEB"}), config);
   EXPECT_NE(helpAt(1, {}), helpAt(0, {}));
   EXPECT_NE(helpAt(1, {}), config);
+}
+
+// Commands whose help text only repeats the keyword, in the listings of the
+// roots of the main modes. The figure may only fall.
+constexpr size_t kRecordedKeywordOnlyHelps = 0;
+
+TEST_F(GrammarIos, MainModesExplainTheirCommands) {
+  const std::vector<std::vector<std::string>> modes = {
+      {},
+      {"interface GigabitEthernet0/0"},
+      {"interface GigabitEthernet0/0.10"},
+      {"router ospf 1"},
+      {"router bgp 65000"},
+      {"router bgp 65000", "address-family ipv4"},
+      {"router eigrp 10"},
+      {"line vty 0 4"},
+      {"route-map RM permit 10"},
+      {"ip access-list extended WEB"},
+      {"class-map match-any C"},
+      {"policy-map P"},
+      {"policy-map P", "class C"},
+      {"vlan 10"},
+      {"ip dhcp pool P"},
+      {"crypto isakmp policy 10"},
+      {"crypto map M 10 ipsec-isakmp"},
+      {"key chain K"},
+      {"ip vrf V"},
+      {"vrf definition V"},
+  };
+  size_t keywordOnly = 0;
+  std::string listed;
+  for (const std::vector<std::string>& opening : modes) {
+    std::istringstream listing(helpAt(2, opening));
+    std::string line;
+    while (std::getline(listing, line)) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      const size_t tab = line.find('\t');
+      if (tab == 0 || tab == std::string::npos) continue;  // a wrapped help line
+      const std::string key = line.substr(0, tab);
+      const size_t help = line.find_first_not_of('\t', tab);
+      if (help != std::string::npos && line.compare(help, std::string::npos, key) == 0) {
+        ++keywordOnly;
+        listed += (opening.empty() ? std::string("config") : opening.back()) + ": " + key + "\n";
+      }
+    }
+  }
+  EXPECT_LE(keywordOnly, kRecordedKeywordOnlyHelps) << listed;
 }
 
 // Refused corpus lines that are left uncovered on purpose, each with its
@@ -482,6 +541,49 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "service password-encryption\nip http server\n",
        "hostname R1 \nservice password-encryption \nip http server \n",
        "no service password-encryption \nno ip http server \n"},
+      {"no of one static route leaves the route through another next hop",
+       "ip route 0.0.0.0 0.0.0.0 10.0.0.1\nip route 0.0.0.0 0.0.0.0 10.0.0.2 100\n",
+       "no ip route 0.0.0.0 0.0.0.0 10.0.0.1\n",
+       "ip route 0.0.0.0 0.0.0.0 10.0.0.2 100 \n",
+       "ip route 0.0.0.0 0.0.0.0 10.0.0.1 \n"},
+      {"a match line of a class stands beside the others, as the device shows it",
+       "class-map match-any VOICE\n match dscp ef\n",
+       "class-map match-any VOICE\n match dscp cs5\n",
+       "class-map match-any VOICE \n match dscp ef \n match dscp cs5 \n!\n",
+       "class-map match-any VOICE \n no match dscp cs5 \n!\n"},
+      {"no of one crypto map client line leaves its other client lines",
+       "crypto map M client authentication list L\ncrypto map M isakmp authorization list L\n"
+       "crypto map M client configuration address respond\n",
+       "no crypto map M client configuration address respond\n",
+       "crypto map M client authentication list L \ncrypto map M isakmp authorization list L \n",
+       "crypto map M client configuration address respond \n"},
+      // The stored "no" form replaces the positive one; delta fallback keeps
+      // the positive one for a flush that no later command brings.
+      {"a platform no form replaces its positive form, and its rollback waits for a flush (intended)",
+       "hostname R1\nplatform console auto\nplatform punt-keepalive disable-kernel-core\n",
+       "no platform punt-keepalive disable-kernel-core\n",
+       "hostname R1 \nplatform console auto \nno platform punt-keepalive disable-kernel-core \n",
+       ""},
+      {"a platform console choice overwrites only the console choice",
+       "platform console auto\nno platform punt-keepalive disable-kernel-core\n",
+       "platform console serial\n",
+       "platform console serial \nno platform punt-keepalive disable-kernel-core \n",
+       "platform console auto \n"},
+      {"a modem setting shown in its no form is replaced by a value",
+       "mmi polling-interval 60\nno mmi auto-configure\nno mmi pvc\n",
+       "mmi auto-configure 30\n",
+       "mmi polling-interval 60 \nmmi auto-configure 30 \nno mmi pvc \n",
+       "no mmi auto-configure \n"},
+      {"a gatekeeper brought up is shown with no shutdown; its rollback waits for a flush too (intended)",
+       "gatekeeper\n zone local GK1 example.com\n shutdown\n",
+       "gatekeeper\n no shutdown\n",
+       "gatekeeper \n zone local GK1 example.com \n no shutdown \n!\n",
+       ""},
+      {"a tracking delay is one setting",
+       "track 1 ip sla 1 reachability\n delay down 5 up 5\n",
+       "track 1 ip sla 1 reachability\n delay up 10\n",
+       "track 1 ip sla 1 reachability \n delay up 10 \n!\n",
+       "track 1 ip sla 1 reachability \n delay down 5 up 5 \n!\n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
