@@ -5,11 +5,35 @@ any|any destination|||&acl_opts.cfm
     &portfile.cfm|port|||&acl_opts.cfm
       <cr>||||
       !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
     !
   !
   neq|port not equal to|||
     &portfile.cfm|port|||&acl_opts.cfm
       <cr>||||
+      !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -42,11 +66,35 @@ host|a single destination host|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
         !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+              &portfile.cfm|port|||&acl_opts.cfm
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
       !
     !
     neq|port not equal to|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -80,11 +128,35 @@ a.b.c.d|destination address|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
         !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+              &portfile.cfm|port|||&acl_opts.cfm
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
       !
     !
     neq|port not equal to|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -118,11 +190,35 @@ object-group|destination network object group|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
         !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+              &portfile.cfm|port|||&acl_opts.cfm
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
       !
     !
     neq|port not equal to|||
       &portfile.cfm|port|||&acl_opts.cfm
         <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+          !
         !
       !
     !

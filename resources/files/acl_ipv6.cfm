@@ -1,6 +1,6 @@
-permit|forward packets|||&acl_ext_entry.cfm
+permit|forward packets|||&acl6_entry.cfm
 !
-deny|drop packets|||&acl_ext_entry.cfm
+deny|drop packets|||&acl6_entry.cfm
 !
 remark|access list entry comment|||
   line|text|lb/le/wa||
@@ -10,9 +10,9 @@ remark|access list entry comment|||
 !
 sequence|sequence number|||
   id|id|k||
-    permit|forward packets|||&acl_ext_entry.cfm
+    permit|forward packets|||&acl6_entry.cfm
     !
-    deny|drop packets|||&acl_ext_entry.cfm
+    deny|drop packets|||&acl6_entry.cfm
     !
   !
 !

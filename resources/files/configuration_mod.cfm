@@ -3504,3 +3504,1149 @@ crypto|encryption module|k||
     !
   !
 !
+mls|multilayer switching|k||
+  qos|qos configuration|k/sb/o||
+    <cr>||||
+    !
+    map|qos maps|k||
+      cos-dscp|cos to dscp map|k||
+        <values>|dscp values for cos 0 to 7|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+      dscp-cos|dscp to cos map|k||
+        <values>|dscp values|lb/le/wa||
+          to|cos value follows|k||
+            id|cos value|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      ip-prec-dscp|ip precedence to dscp map|k||
+        <values>|dscp values for precedence 0 to 7|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+      policed-dscp|policed dscp map|k||
+        <values>|dscp values|lb/le/wa||
+          to|mark down dscp follows|k||
+            id|mark down dscp value|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      dscp-mutation|dscp mutation map|k||
+        word|mutation map name|k||
+          <values>|input dscp values|lb/le/wa||
+            to|output dscp follows|k||
+              id|output dscp value|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    srr-queue|configure srr queues|k||
+      input|input queues|k||
+        cos-map|configure cos map|k||
+          queue|queue id|k||
+            id|queue id|k||
+              <cr>||||
+              !
+              threshold|threshold id|k||
+                id|threshold id|k||
+                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              <values>|values mapped to this queue|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        dscp-map|configure dscp map|k||
+          queue|queue id|k||
+            id|queue id|k||
+              <cr>||||
+              !
+              threshold|threshold id|k||
+                id|threshold id|k||
+                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              <values>|values mapped to this queue|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        bandwidth|configure srr bandwidth|k||
+          <weights>|weights|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        buffers|configure buffer allocation|k||
+          <percentages>|percentages|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        threshold|configure queue tail-drop thresholds|k||
+          id|queue id|k||
+            <percentages>|threshold percentages|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        priority-queue|configure priority queue|k||
+          id|queue id|k||
+            bandwidth|bandwidth of the priority queue|k||
+              id|percentage|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      output|output queues|k||
+        cos-map|configure cos map|k||
+          queue|queue id|k||
+            id|queue id|k||
+              <cr>||||
+              !
+              threshold|threshold id|k||
+                id|threshold id|k||
+                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              <values>|values mapped to this queue|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        dscp-map|configure dscp map|k||
+          queue|queue id|k||
+            id|queue id|k||
+              <cr>||||
+              !
+              threshold|threshold id|k||
+                id|threshold id|k||
+                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              <values>|values mapped to this queue|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        bandwidth|configure srr bandwidth|k||
+          <weights>|weights|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        buffers|configure buffer allocation|k||
+          <percentages>|percentages|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        threshold|configure queue tail-drop thresholds|k||
+          id|queue id|k||
+            <percentages>|threshold percentages|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        priority-queue|configure priority queue|k||
+          id|queue id|k||
+            bandwidth|bandwidth of the priority queue|k||
+              id|percentage|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    queue-set|configure a queue set|k||
+      output|output queue set|k||
+        id|queue set id|k||
+          threshold|configure queue thresholds|k||
+            id|queue id|k||
+              <values>|drop thresholds, reserved and maximum|lb/le/wa/o||
+                <cr>||||
+                !
+              !
+            !
+          !
+          buffers|configure buffer allocation|k||
+            <percentages>|percentages|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    rewrite|modify packet priority|k||
+      ip|ip header|k||
+        dscp|rewrite dscp|k/sb||
+          <cr>||||
+          !
+        !
+      !
+    !
+    aggregate-policer|named aggregate policer|k||
+      word|policer name|k||
+        line|rate, burst and actions|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    trust|trust settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  aging|mls aging|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  cef|cef settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  netflow|netflow settings|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  flow|flow masks|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  rate-limit|rate limiters|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+errdisable|error disable|k||
+  recovery|error disable recovery|k||
+    cause|enable error disable recovery for a cause|k||
+      word|cause|k||
+        <cr>||||
+        !
+      !
+    !
+    interval|error disable recovery timer|k||
+      id|timer interval in seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  detect|error disable detection|k||
+    cause|enable error disable detection for a cause|k||
+      word|cause|k||
+        <cr>||||
+        !
+        shutdown|shut down the port|k||
+          vlan|shut down the vlan on the port|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  flap-setting|error disable flap detection|k||
+    cause|cause|k||
+      word|cause|k||
+        max-flaps|maximum flaps|k||
+          id|number of flaps|||
+            time|time period|k||
+              id|seconds|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+!
+vtp|configure global vtp state|k||
+  domain|set the vtp domain name|k||
+    word|vtp domain name|o||
+      <cr>||||
+      !
+    !
+  !
+  mode|configure the vtp device mode|k||
+    server|server mode|k/-k/o||
+      <cr>||||
+      !
+      vlan|vlan database|k||
+        <cr>||||
+        !
+      !
+      mst|mst database|k||
+        <cr>||||
+        !
+      !
+    !
+    client|client mode|k/-k/o||
+      <cr>||||
+      !
+      vlan|vlan database|k||
+        <cr>||||
+        !
+      !
+      mst|mst database|k||
+        <cr>||||
+        !
+      !
+    !
+    transparent|transparent mode|k/-k/o||
+      <cr>||||
+      !
+      vlan|vlan database|k||
+        <cr>||||
+        !
+      !
+      mst|mst database|k||
+        <cr>||||
+        !
+      !
+    !
+    off|off mode|k/-k/o||
+      <cr>||||
+      !
+      vlan|vlan database|k||
+        <cr>||||
+        !
+      !
+      mst|mst database|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  version|set the administrative domain vtp version|k||
+    id|version number|o||
+      <cr>||||
+      !
+    !
+  !
+  password|set the password for the vtp domain|k||
+    word|password|o||
+      <cr>||||
+      !
+      hidden|hide the password|k||
+        <cr>||||
+        !
+      !
+      secret|the password is a secret|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  pruning|set the administrative domain to permit pruning|k||
+    <cr>||||
+    !
+  !
+  file|configure the file name of the vtp database|k||
+    word|file name|o||
+      <cr>||||
+      !
+    !
+  !
+  interface|configure the interface of the vtp updater id|k||
+    word|interface name|o||
+      <cr>||||
+      !
+      only|use only this interface's address|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  primary|make this device the vtp primary server|k||
+    <cr>||||
+    !
+    vlan|vlan database|k||
+      <cr>||||
+      !
+    !
+    mst|mst database|k||
+      <cr>||||
+      !
+    !
+  !
+!
+dot1x|ieee 802.1x global configuration|k||
+  system-auth-control|enable or disable sysauthcontrol|k/sb/o||
+    <cr>||||
+    !
+  !
+  critical|critical authentication settings|k||
+    eapol|send eapol success on a critical port|k||
+      <cr>||||
+      !
+    !
+    eapol-block|block eapol on a critical port|k||
+      <cr>||||
+      !
+    !
+    recovery|recovery settings|k||
+      delay|recovery delay|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  guest-vlan|guest vlan settings|k||
+    supplicant|allow supplicants into the guest vlan|k||
+      <cr>||||
+      !
+    !
+  !
+  logging|dot1x logging|k||
+    verbose|verbose logging|k||
+      <cr>||||
+      !
+    !
+  !
+  supplicant|supplicant settings|k||
+    force-multicast|force multicast eapol|k||
+      <cr>||||
+      !
+    !
+    controlled|control the supplicant transmit|k||
+      <cr>||||
+      !
+    !
+  !
+  credentials|credentials profile|k||
+    word|profile name|k||
+      <cr>||||
+      !
+    !
+  !
+  test|test settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  auth-fail|authentication failure settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+authentication|authentication manager|k||
+  mac-move|mac move settings|k||
+    permit|allow a mac address to move|k/o||
+      <cr>||||
+      !
+    !
+    deny|deny a mac address to move|k/o||
+      <cr>||||
+      !
+    !
+    deny-uncontrolled|deny moves to uncontrolled ports|k/o||
+      <cr>||||
+      !
+    !
+  !
+  critical|critical authentication|k||
+    recovery|recovery settings|k||
+      delay|recovery delay|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  logging|authentication logging|k||
+    verbose|verbose logging|k||
+      <cr>||||
+      !
+    !
+  !
+  display|display mode|k||
+    legacy|legacy|k||
+      <cr>||||
+      !
+    !
+    new-style|new-style|k||
+      <cr>||||
+      !
+    !
+  !
+  timer|timers|k||
+    restart|restart timer|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    reauthenticate|reauthentication timer|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  violation|violation settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  compliance|compliance settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+access-session|access session settings|k||
+  mac-move|mac move settings|k||
+    deny|deny a mac address to move|k/o||
+      <cr>||||
+      !
+    !
+    deny-uncontrolled|deny moves to uncontrolled ports|k/o||
+      <cr>||||
+      !
+    !
+  !
+  attributes|session attributes|k||
+    filter-list|filter list|k||
+      list|named list|k||
+        word|list name|k||
+          <cr>||||@(config-com-filter-list)# switch_sub.cfm
+          !
+        !
+      !
+    !
+  !
+  template|template settings|k||
+    monitor|monitor templates|k||
+      <cr>||||
+      !
+    !
+  !
+  monitor|monitor sessions|k||
+    <cr>||||
+    !
+  !
+  host-mode|host mode|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  port-control|port control|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  closed|closed|k||
+    <cr>||||
+    !
+  !
+  interface-template|interface templates|k||
+    sticky|keep templates bound|k||
+      <cr>||||
+      !
+      timer|timer|k||
+        id|seconds|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  acl|session acls|k||
+    default|default acl|k||
+      passthrough|passthrough|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  authentication|authentication settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+switch|switch stack member|k||
+  id|switch number|k||
+    provision|provision a switch type|k||
+      word|switch type|o||
+        <cr>||||
+        !
+      !
+    !
+    priority|switch priority|k||
+      id|priority value|o||
+        <cr>||||
+        !
+      !
+    !
+    renumber|renumber the switch|k||
+      id|new number|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  virtual|stackwise virtual|k||
+    domain|domain|k||
+      id|domain id|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+udld|global udld configuration|k||
+  enable|enable udld on fiber ports|k/o||
+    <cr>||||
+    !
+  !
+  aggressive|aggressive mode on fiber ports|k/o||
+    <cr>||||
+    !
+  !
+  message|udld message settings|k||
+    time|message interval|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  recovery|error disable recovery|k||
+    <cr>||||
+    !
+    interval|recovery interval|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+power|power configuration|k||
+  redundancy-mode|power supply redundancy mode|k||
+    redundant|redundant mode|k/-k/o||
+      <cr>||||
+      !
+    !
+    combined|combined mode|k/-k/o||
+      <cr>||||
+      !
+    !
+  !
+  redundancy|stack power redundancy|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  inline|inline power|k||
+    consumption|default consumption|k||
+      id|milliwatts|o||
+        <cr>||||
+        !
+      !
+    !
+    police|police power|k||
+      <cr>||||
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  supply|power supply|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  main-cpu|main-cpu|k||
+    <cr>||||
+    !
+  !
+!
+system|system settings|k||
+  mtu|system mtu|k||
+    id|mtu size|o||
+      <cr>||||
+      !
+    !
+    jumbo|jumbo mtu|k||
+      id|mtu size|o||
+        <cr>||||
+        !
+      !
+    !
+    routing|routed mtu|k||
+      id|mtu size|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  env|environmental settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  ignore|ignore settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  flowcontrol|system flow control|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+port-channel|port channel settings|k||
+  load-balance|load balancing method|k||
+    word|method|o||
+      <cr>||||
+      !
+    !
+  !
+  min-links|minimum links|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  auto|auto|k||
+    <cr>||||
+    !
+  !
+  protocol|channel protocol|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+lacp|lacp settings|k||
+  system-priority|lacp system priority|k||
+    id|priority value|o||
+      <cr>||||
+      !
+    !
+  !
+!
+monitor|monitor sessions|k||
+  session|span session|k||
+    id|session number|k||
+      source|span source|k||
+        interface|span source interface|k||
+          <interfaces>|interfaces|k/lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        vlan|span source vlan|k||
+          <vlans>|vlans|k/lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        remote|rspan source|k||
+          vlan|rspan vlan|k||
+            <vlan>|vlan id|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      destination|span destination|k||
+        interface|span destination interface|k||
+          <interfaces>|interface and options|k/lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        remote|rspan destination|k||
+          vlan|rspan vlan|k||
+            <vlan>|vlan id|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      filter|span filters|k||
+        vlan|filter vlans|k||
+          <vlans>|vlans|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        ip|ip filter|k||
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        mac|mac filter|k||
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        packet-type|packet type filter|k||
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      type|session type|k||
+        word|type|k||
+          <cr>||||@(config-mon-erspan-src)# switch_sub.cfm
+          !
+        !
+      !
+      description|session description|k||
+        line|text|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+mac|mac configuration|k||
+  address-table|mac address table|k||
+    notification|notifications|k||
+      change|mac change notifications|k||
+        <cr>||||
+        !
+        history-size|history size|k||
+          id|entries|o||
+            <cr>||||
+            !
+          !
+        !
+        interval|interval|k||
+          id|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      mac-move|mac move notifications|k||
+        <cr>||||
+        !
+      !
+      threshold|threshold notifications|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    aging-time|aging time|k||
+      id|seconds|o||
+        <cr>||||
+        !
+        vlan|vlan|k||
+          <vlan>|vlan id|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    static|static mac address|k||
+      h.h.h|mac address|k||
+        vlan|vlan|k||
+          <vlan>|vlan id|k||
+            interface|interface|k||
+              &interfacefile.cfm|interface type|k||
+                <number>|interface number|k||
+                  <cr>||||
+                  !
+                  <interfaces>|more interfaces|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            drop|drop frames|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    learning|mac learning|k||
+      vlan|vlan|k||
+        <vlan>|vlan id|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    limit|mac limits|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    move|mac moves|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    secure|secure addresses|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  access-list|mac access lists|k||
+    extended|extended mac access list|k||
+      word|list name|k||
+        <cr>||||@(config-ext-macl)# switch_sub.cfm
+        !
+      !
+    !
+  !
+!
+transceiver|transceiver settings|k||
+  type|transceiver type|k||
+    all|all transceiver types|k||
+      <cr>||||@(config-xcvr-type)# switch_sub.cfm
+      !
+    !
+  !
+!
+device-tracking|device tracking|k||
+  tracking|tracking settings|k||
+    <cr>||||
+    !
+    auto-source|auto-source|k||
+      <cr>||||
+      !
+      fallback|fallback|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    retry-interval|retry-interval|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  policy|device tracking policy|k||
+    word|policy name|k||
+      <cr>||||@(config-device-tracking)# switch_sub.cfm
+      !
+    !
+  !
+  logging|tracking logs|k||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  binding|bindings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  upgrade-cli|upgrade the cli|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+template|interface template|k||
+  word|template name|k||
+    <cr>||||@(config-template)# interface.cfm
+    !
+  !
+!
+flow|flexible netflow|k||
+  record|flow record|k||
+    word|record name|k||
+      <cr>||||@(config-flow-record)# flow_record.cfm
+      !
+    !
+  !
+  exporter|flow exporter|k||
+    word|exporter name|k||
+      <cr>||||@(config-flow-exporter)# flow_exporter.cfm
+      !
+    !
+  !
+  monitor|flow monitor|k||
+    word|monitor name|k||
+      <cr>||||@(config-flow-monitor)# flow_monitor.cfm
+      !
+    !
+  !
+!
+sampler|flow sampler|k||
+  word|sampler name|k||
+    <cr>||||@(config-sampler)# flow_monitor.cfm
+    !
+  !
+!
+fhrp|first hop redundancy|k||
+  version|fhrp version|k||
+    vrrp|vrrp version|k||
+      v2|v2|k/-k/o||
+        <cr>||||
+        !
+      !
+      v3|v3|k/-k/o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  delay|delays|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+sdm|switch database management|k||
+  prefer|preferred template|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+!
+stack-mac|stack mac address|k||
+  persistent|persistent mac address|k||
+    timer|timer|k||
+      id|minutes|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+macro|macro settings|k||
+  auto|auto smartports|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  name|named macro|k||
+    word|macro name|k||
+    !
+  !
+!
+vstack|smart install|k/sn||
+  <cr>||||
+  !
+!
+energywise|energywise settings|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+rmon|remote monitoring|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

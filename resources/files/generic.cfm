@@ -455,7 +455,7 @@ enable|enable|k||
   !
 !
 monitor|monitor|k||
-  line|line|lb/le/wa||
+  word|word|||
     <cr>||||
     !
   !

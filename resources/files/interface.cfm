@@ -2195,8 +2195,16 @@ location|interface location information|k||
   !
 !
 switch|switch interface settings|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  virtual|stackwise virtual|k||
+    link|stackwise virtual link|k||
+      id|link number|k||
+        <cr>||||
+        !
+      !
+    !
+    dual-active-detection|dual active detection link|k||
+      <cr>||||
+      !
     !
   !
 !

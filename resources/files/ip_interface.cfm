@@ -858,6 +858,34 @@ rip|rip|k||
     !
   !
 !
+arp|arp settings|k||
+  inspection|dynamic arp inspection|k||
+    trust|trust arp on this interface|k||
+      <cr>||||
+      !
+    !
+    limit|arp packet rate limit|k||
+      rate|packets per second|k||
+        id|rate|o||
+          <cr>||||
+          !
+          burst|burst interval|k||
+            interval|interval|k||
+              id|seconds|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      none|no limit|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
 dhcp|dhcp|k||
   relay|relay|k||
     information|information|k||

@@ -25,46 +25,814 @@ multicast|multicast|k||
   !
 !
 route|establish static routes|k||
-  word|word|k||
+  word|ipv6 prefix|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
         !
-        word|word|||
+        word|ipv6 address of the next hop|k||
           <cr>||||
           !
-          line|line|lb/le/wa||
+          id|administrative distance|||
+            <cr>||||
+            !
+            tag|set tag for this route|k||
+              id|tag value|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            name|specify name of the next hop|k||
+              word|name of the next hop|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            permanent|permanent route|k||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+            track|install route depending on tracked item|k||
+              id|tracked object number|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            multicast|route only for multicast|k||
+              <cr>||||
+              !
+            !
+            unicast|route only for unicast|k||
+              <cr>||||
+              !
+            !
+          !
+          tag|set tag for this route|k||
+            id|tag value|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          name|specify name of the next hop|k||
+            word|name of the next hop|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          permanent|permanent route|k||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          track|install route depending on tracked item|k||
+            id|tracked object number|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          multicast|route only for multicast|k||
+            <cr>||||
+            !
+          !
+          unicast|route only for unicast|k||
             <cr>||||
             !
           !
         !
-        id|id|||
+        id|administrative distance|||
+          <cr>||||
+          !
+          tag|set tag for this route|k||
+            id|tag value|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          name|specify name of the next hop|k||
+            word|name of the next hop|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          permanent|permanent route|k||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          track|install route depending on tracked item|k||
+            id|tracked object number|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          multicast|route only for multicast|k||
+            <cr>||||
+            !
+          !
+          unicast|route only for unicast|k||
+            <cr>||||
+            !
+          !
+        !
+        tag|set tag for this route|k||
+          id|tag value|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        name|specify name of the next hop|k||
+          word|name of the next hop|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        permanent|permanent route|k||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        track|install route depending on tracked item|k||
+          id|tracked object number|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        multicast|route only for multicast|k||
           <cr>||||
           !
         !
-        line|line|lb/le/wa||
+        unicast|route only for unicast|k||
           <cr>||||
           !
         !
       !
     !
-    word|word|||
+    word|next hop address or interface|k||
       <cr>||||
       !
-      id|id|||
+      word|ipv6 address of the next hop|k||
+        <cr>||||
+        !
+        id|administrative distance|||
+          <cr>||||
+          !
+          tag|set tag for this route|k||
+            id|tag value|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          name|specify name of the next hop|k||
+            word|name of the next hop|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          permanent|permanent route|k||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          track|install route depending on tracked item|k||
+            id|tracked object number|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          multicast|route only for multicast|k||
+            <cr>||||
+            !
+          !
+          unicast|route only for unicast|k||
+            <cr>||||
+            !
+          !
+        !
+        tag|set tag for this route|k||
+          id|tag value|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        name|specify name of the next hop|k||
+          word|name of the next hop|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        permanent|permanent route|k||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        track|install route depending on tracked item|k||
+          id|tracked object number|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        multicast|route only for multicast|k||
+          <cr>||||
+          !
+        !
+        unicast|route only for unicast|k||
+          <cr>||||
+          !
+        !
+      !
+      id|administrative distance|||
+        <cr>||||
+        !
+        tag|set tag for this route|k||
+          id|tag value|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        name|specify name of the next hop|k||
+          word|name of the next hop|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        permanent|permanent route|k||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        track|install route depending on tracked item|k||
+          id|tracked object number|||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+        multicast|route only for multicast|k||
+          <cr>||||
+          !
+        !
+        unicast|route only for unicast|k||
+          <cr>||||
+          !
+        !
+      !
+      tag|set tag for this route|k||
+        id|tag value|||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      name|specify name of the next hop|k||
+        word|name of the next hop|||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      permanent|permanent route|k||
+        <cr>||||
+        !
+        line|further options|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      track|install route depending on tracked item|k||
+        id|tracked object number|||
+          <cr>||||
+          !
+          line|further options|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      multicast|route only for multicast|k||
         <cr>||||
         !
       !
-      line|line|lb/le/wa||
+      unicast|route only for unicast|k||
         <cr>||||
         !
       !
     !
   !
-  vrf|vrf|k||
-    word|word|k||
-      line|line|lb/le/wa||
-        <cr>||||
+  vrf|vrf of the route|k||
+    word|vrf name|k||
+      word|ipv6 prefix|k||
+        &interfacefile.cfm|interface type|k||
+          <number>|interface number|k||
+            <cr>||||
+            !
+            word|ipv6 address of the next hop|k||
+              <cr>||||
+              !
+              id|administrative distance|||
+                <cr>||||
+                !
+                tag|set tag for this route|k||
+                  id|tag value|||
+                    <cr>||||
+                    !
+                    line|further options|lb/le/wa||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+                name|specify name of the next hop|k||
+                  word|name of the next hop|||
+                    <cr>||||
+                    !
+                    line|further options|lb/le/wa||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+                permanent|permanent route|k||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+                track|install route depending on tracked item|k||
+                  id|tracked object number|||
+                    <cr>||||
+                    !
+                    line|further options|lb/le/wa||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+                multicast|route only for multicast|k||
+                  <cr>||||
+                  !
+                !
+                unicast|route only for unicast|k||
+                  <cr>||||
+                  !
+                !
+              !
+              tag|set tag for this route|k||
+                id|tag value|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              name|specify name of the next hop|k||
+                word|name of the next hop|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              permanent|permanent route|k||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+              track|install route depending on tracked item|k||
+                id|tracked object number|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              multicast|route only for multicast|k||
+                <cr>||||
+                !
+              !
+              unicast|route only for unicast|k||
+                <cr>||||
+                !
+              !
+            !
+            id|administrative distance|||
+              <cr>||||
+              !
+              tag|set tag for this route|k||
+                id|tag value|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              name|specify name of the next hop|k||
+                word|name of the next hop|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              permanent|permanent route|k||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+              track|install route depending on tracked item|k||
+                id|tracked object number|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              multicast|route only for multicast|k||
+                <cr>||||
+                !
+              !
+              unicast|route only for unicast|k||
+                <cr>||||
+                !
+              !
+            !
+            tag|set tag for this route|k||
+              id|tag value|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            name|specify name of the next hop|k||
+              word|name of the next hop|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            permanent|permanent route|k||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+            track|install route depending on tracked item|k||
+              id|tracked object number|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            multicast|route only for multicast|k||
+              <cr>||||
+              !
+            !
+            unicast|route only for unicast|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+        word|next hop address or interface|k||
+          <cr>||||
+          !
+          word|ipv6 address of the next hop|k||
+            <cr>||||
+            !
+            id|administrative distance|||
+              <cr>||||
+              !
+              tag|set tag for this route|k||
+                id|tag value|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              name|specify name of the next hop|k||
+                word|name of the next hop|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              permanent|permanent route|k||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+              track|install route depending on tracked item|k||
+                id|tracked object number|||
+                  <cr>||||
+                  !
+                  line|further options|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              multicast|route only for multicast|k||
+                <cr>||||
+                !
+              !
+              unicast|route only for unicast|k||
+                <cr>||||
+                !
+              !
+            !
+            tag|set tag for this route|k||
+              id|tag value|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            name|specify name of the next hop|k||
+              word|name of the next hop|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            permanent|permanent route|k||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+            track|install route depending on tracked item|k||
+              id|tracked object number|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            multicast|route only for multicast|k||
+              <cr>||||
+              !
+            !
+            unicast|route only for unicast|k||
+              <cr>||||
+              !
+            !
+          !
+          id|administrative distance|||
+            <cr>||||
+            !
+            tag|set tag for this route|k||
+              id|tag value|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            name|specify name of the next hop|k||
+              word|name of the next hop|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            permanent|permanent route|k||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+            track|install route depending on tracked item|k||
+              id|tracked object number|||
+                <cr>||||
+                !
+                line|further options|lb/le/wa||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+            multicast|route only for multicast|k||
+              <cr>||||
+              !
+            !
+            unicast|route only for unicast|k||
+              <cr>||||
+              !
+            !
+          !
+          tag|set tag for this route|k||
+            id|tag value|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          name|specify name of the next hop|k||
+            word|name of the next hop|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          permanent|permanent route|k||
+            <cr>||||
+            !
+            line|further options|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          track|install route depending on tracked item|k||
+            id|tracked object number|||
+              <cr>||||
+              !
+              line|further options|lb/le/wa||
+                <cr>||||
+                !
+              !
+            !
+          !
+          multicast|route only for multicast|k||
+            <cr>||||
+            !
+          !
+          unicast|route only for unicast|k||
+            <cr>||||
+            !
+          !
         !
       !
     !

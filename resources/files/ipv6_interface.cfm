@@ -414,9 +414,13 @@ flow|flow|k||
     !
   !
 !
-router|router|k||
-  line|line|lb/le/wa||
+router|ipv6 routing protocol|k||
+  isis|is-is routing|k||
     <cr>||||
+    !
+    word|routing process tag|k||
+      <cr>||||
+      !
     !
   !
 !

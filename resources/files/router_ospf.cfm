@@ -221,8 +221,70 @@ nsf|non-stop forwarding|k||
   !
 !
 mpls|configure mpls routing protocol parameters|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  ldp|mpls ldp settings|k||
+    sync|ldp igp synchronisation|k||
+      <cr>||||
+      !
+    !
+    autoconfig|enable ldp on the process's interfaces|k||
+      <cr>||||
+      !
+      area|ospf area|k||
+        id|area id|k||
+          <cr>||||
+          !
+        !
+      !
+      level-1|is-is level-1|k||
+        <cr>||||
+        !
+      !
+      level-2|is-is level-2|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  traffic-eng|mpls traffic engineering|k||
+    router-id|traffic engineering router id|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    area|ospf area|k||
+      id|area id|k||
+        <cr>||||
+        !
+      !
+    !
+    level-1|is-is level-1|k||
+      <cr>||||
+      !
+    !
+    level-2|is-is level-2|k||
+      <cr>||||
+      !
+    !
+    multicast-intact|keep multicast routes intact|k||
+      <cr>||||
+      !
+    !
+    interface|traffic engineering interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+          area|ospf area|k||
+            id|area id|||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
     !
   !
 !

@@ -36,13 +36,20 @@ object-group "source network object group"
   word "object group name" &acl_dst.cfm
     %SRCPORT
 
-# Several ports after "eq" are not taken: a looping node would lose its loop
-# to the include of the options.
+# A named list takes several ports after "eq" and "neq". They are nested
+# nodes rather than a loop: a looping node would lose its loop to the include
+# of the options.
 def DSTPORT
   eq "port equal to"
     &portfile.cfm "port" $ &acl_opts.cfm
+      &portfile.cfm "port" $ &acl_opts.cfm
+        &portfile.cfm "port" $ &acl_opts.cfm
+          &portfile.cfm "port" $ &acl_opts.cfm
+            &portfile.cfm "port" $ &acl_opts.cfm
   neq "port not equal to"
     &portfile.cfm "port" $ &acl_opts.cfm
+      &portfile.cfm "port" $ &acl_opts.cfm
+        &portfile.cfm "port" $ &acl_opts.cfm
   gt "port greater than"
     &portfile.cfm "port" $ &acl_opts.cfm
   lt "port less than"
@@ -63,6 +70,49 @@ a.b.c.d "destination address"
 object-group "destination network object group"
   word "object group name" $ &acl_opts.cfm
     %DSTPORT
+
+# IPv6 entries: a source or destination is any, a host address or a prefix.
+file acl6_entry.cfm -allk
+&protocolfile.cfm "protocol" &acl6_src.cfm
+object-group "service object group"
+  word "service object group name" &acl6_src.cfm
+
+def SRCPORT6
+  eq "port equal to"
+    &portfile.cfm "port" &acl6_dst.cfm
+  neq "port not equal to"
+    &portfile.cfm "port" &acl6_dst.cfm
+  gt "port greater than"
+    &portfile.cfm "port" &acl6_dst.cfm
+  lt "port less than"
+    &portfile.cfm "port" &acl6_dst.cfm
+  range "port range"
+    &portfile.cfm "first port"
+      &portfile.cfm "last port" &acl6_dst.cfm
+
+file acl6_src.cfm -allk
+any "any source" &acl6_dst.cfm
+  %SRCPORT6
+host "a single source host"
+  word "source address" &acl6_dst.cfm
+    %SRCPORT6
+object-group "source network object group"
+  word "object group name" &acl6_dst.cfm
+    %SRCPORT6
+word "source prefix" &acl6_dst.cfm
+  %SRCPORT6
+
+file acl6_dst.cfm -allk
+any "any destination" $ &acl_opts.cfm
+  %DSTPORT
+host "a single destination host"
+  word "destination address" $ &acl_opts.cfm
+    %DSTPORT
+object-group "destination network object group"
+  word "object group name" $ &acl_opts.cfm
+    %DSTPORT
+word "destination prefix" $ &acl_opts.cfm
+  %DSTPORT
 
 file acl_opts.cfm -allk
 %ACLOPTS
@@ -99,11 +149,11 @@ id :k "sequence number"
     %TEXT
 
 file acl_ipv6.cfm -k
-permit "forward packets" &acl_ext_entry.cfm
-deny "drop packets" &acl_ext_entry.cfm
+permit "forward packets" &acl6_entry.cfm
+deny "drop packets" &acl6_entry.cfm
 remark "access list entry comment"
   %TEXT
 sequence "sequence number"
   id :k
-    permit "forward packets" &acl_ext_entry.cfm
-    deny "drop packets" &acl_ext_entry.cfm
+    permit "forward packets" &acl6_entry.cfm
+    deny "drop packets" &acl6_entry.cfm

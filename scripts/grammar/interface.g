@@ -698,7 +698,10 @@ l2protocol-tunnel "tunnel layer 2 protocols"
 location "interface location information"
   line *
 switch "switch interface settings"
-  line *
+  virtual "stackwise virtual"
+    link "stackwise virtual link"
+      id :k "link number" $
+    dual-active-detection "dual active detection link" $
 vlan-range "range of vlans"
   line *
 stackwise-virtual "stackwise virtual interface settings"

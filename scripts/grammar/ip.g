@@ -591,6 +591,42 @@ pim-vrf
 gdoi
   line *
 
+# The next hop of an IPv6 static route (an interface, an address or both)
+# and the options that may follow it.
+def V6ROPT
+  tag "set tag for this route"
+    id "tag value" $
+      line * "further options"
+  name "specify name of the next hop"
+    word "name of the next hop" $
+      line * "further options"
+  permanent "permanent route" $
+    line * "further options"
+  track "install route depending on tracked item"
+    id "tracked object number" $
+      line * "further options"
+  multicast "route only for multicast" $
+  unicast "route only for unicast" $
+
+def V6HOP
+  id "administrative distance" $
+    %V6ROPT
+  %V6ROPT
+
+# The catch-all next hop also takes an interface name (the catch-all is
+# tried before an interface name is cut), so it may be followed by the
+# address of a next hop on that interface. The interface table stays for the
+# help listing.
+def V6ROUTE
+  %IF
+    word :k "ipv6 address of the next hop" $
+      %V6HOP
+    %V6HOP
+  word :k "next hop address or interface" $
+    word :k "ipv6 address of the next hop" $
+      %V6HOP
+    %V6HOP
+
 file ipv6_global.cfm
 unicast-routing $
 cef $ :sb/o
@@ -600,18 +636,12 @@ multicast-routing $
 multicast
   line *
 route "establish static routes"
-  word :k
-    %IF
-      word $
-        line *
-      id $
-      line *
-    word $
-      id $
-      line *
-  vrf
-    word :k
-      line *
+  word :k "ipv6 prefix"
+    %V6ROUTE
+  vrf "vrf of the route"
+    word :k "vrf name"
+      word :k "ipv6 prefix"
+        %V6ROUTE
   static
     line *
 router

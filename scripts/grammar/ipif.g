@@ -270,6 +270,16 @@ ospf "ospf interface commands"
     disable $
 rip
   line *
+arp "arp settings"
+  inspection "dynamic arp inspection"
+    trust "trust arp on this interface" $
+    limit "arp packet rate limit"
+      rate "packets per second"
+        id :o "rate" $
+          burst "burst interval"
+            interval "interval"
+              id "seconds" $
+      none "no limit" $
 dhcp
   relay
     information
@@ -457,8 +467,9 @@ access-list
 source-route $
 flow
   line *
-router
-  line *
+router "ipv6 routing protocol"
+  isis "is-is routing" $
+    word :k "routing process tag" $
 
 nhrp "ipv6 next hop resolution"
   map

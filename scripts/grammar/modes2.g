@@ -148,7 +148,7 @@ exclude-address
 hidekeys $
 enable $
 monitor
-  line *
+  word $
 path
   line *
 frequency

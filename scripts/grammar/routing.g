@@ -1,3 +1,27 @@
+# MPLS settings of an IGP process. Each branch ends where the device ends
+# it: a catch-all here would keep the global "mpls ldp ..." lines that follow
+# a routing process inside it.
+def IGPMPLS
+  ldp "mpls ldp settings"
+    sync "ldp igp synchronisation" $
+    autoconfig "enable ldp on the process's interfaces" $
+      area "ospf area"
+        id :k "area id" $
+      level-1 "is-is level-1" $
+      level-2 "is-is level-2" $
+  traffic-eng "mpls traffic engineering"
+    router-id "traffic engineering router id"
+      %IF
+    area "ospf area"
+      id :k "area id" $
+    level-1 "is-is level-1" $
+    level-2 "is-is level-2" $
+    multicast-intact "keep multicast routes intact" $
+    interface "traffic engineering interface"
+      %IF
+        area "ospf area"
+          id "area id" $
+
 def BGPNEIGHBOR
   remote-as "specify a bgp neighbor"
     <as> :o $
@@ -394,7 +418,7 @@ def OSPFBODY
   nsf $ "non-stop forwarding"
     line *
   mpls "configure mpls routing protocol parameters"
-    line *
+    %IGPMPLS
   capability "enable a specific feature"
     line *
   max-metric "set maximum metric"
@@ -669,7 +693,7 @@ fast-reroute
   line *
 segment-routing
   line *
-mpls
-  line *
+mpls "configure mpls routing protocol parameters"
+  %IGPMPLS
 hostname
   dynamic $

@@ -710,3 +710,4 @@ scheduler "scheduler parameters"
 ipv6 "ipv6 configuration" &ipv6_global.cfm
 ip "global ip configuration" &ip_global.cfm
 %SECTOP
+%SWTOP

@@ -1,0 +1,244 @@
+any|any destination|||&acl_opts.cfm
+  <cr>||||
+  !
+  eq|port equal to|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  neq|port not equal to|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  gt|port greater than|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+    !
+  !
+  lt|port less than|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+    !
+  !
+  range|port range|||
+    &portfile.cfm|first port|||
+      &portfile.cfm|last port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+host|a single destination host|||
+  word|destination address|||&acl_opts.cfm
+    <cr>||||
+    !
+    eq|port equal to|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+              &portfile.cfm|port|||&acl_opts.cfm
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    neq|port not equal to|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    gt|port greater than|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+    lt|port less than|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+    range|port range|||
+      &portfile.cfm|first port|||
+        &portfile.cfm|last port|||&acl_opts.cfm
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+object-group|destination network object group|||
+  word|object group name|||&acl_opts.cfm
+    <cr>||||
+    !
+    eq|port equal to|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+              &portfile.cfm|port|||&acl_opts.cfm
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    neq|port not equal to|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    gt|port greater than|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+    lt|port less than|||
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+    range|port range|||
+      &portfile.cfm|first port|||
+        &portfile.cfm|last port|||&acl_opts.cfm
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+word|destination prefix|||&acl_opts.cfm
+  <cr>||||
+  !
+  eq|port equal to|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+          &portfile.cfm|port|||&acl_opts.cfm
+            <cr>||||
+            !
+            &portfile.cfm|port|||&acl_opts.cfm
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  neq|port not equal to|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+      &portfile.cfm|port|||&acl_opts.cfm
+        <cr>||||
+        !
+        &portfile.cfm|port|||&acl_opts.cfm
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  gt|port greater than|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+    !
+  !
+  lt|port less than|||
+    &portfile.cfm|port|||&acl_opts.cfm
+      <cr>||||
+      !
+    !
+  !
+  range|port range|||
+    &portfile.cfm|first port|||
+      &portfile.cfm|last port|||&acl_opts.cfm
+        <cr>||||
+        !
+      !
+    !
+  !
+!

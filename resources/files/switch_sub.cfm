@@ -1,0 +1,142 @@
+tracking|tracking settings|k||
+  enable|enable tracking|k||
+    <cr>||||
+    !
+    reachable-lifetime|lifetime|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  disable|disable tracking|k||
+    <cr>||||
+    !
+  !
+!
+security-level|security level|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+device-role|device role|k||
+  word|word|o||
+    <cr>||||
+    !
+  !
+!
+limit|limits|k||
+  address-count|address count|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+data-glean|data gleaning|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+destination-glean|destination gleaning|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+prefix-glean|prefix gleaning|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+trusted-port|trusted port|k||
+  <cr>||||
+  !
+!
+protocol|protocols|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+cdp|cdp attributes|k||
+  <cr>||||
+  !
+!
+lldp|lldp attributes|k||
+  <cr>||||
+  !
+!
+dhcp|dhcp attributes|k||
+  <cr>||||
+  !
+!
+http|http attributes|k||
+  <cr>||||
+  !
+!
+monitoring|transceiver monitoring|k||
+  <cr>||||
+  !
+  interval|monitoring interval|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+permit|permit a mac address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+deny|deny a mac address|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+source|erspan source|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+destination|erspan destination|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+erspan-id|erspan id|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+origin|erspan origin|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+shutdown|shut down the session|k||
+  <cr>||||
+  !
+!
+description|description|k||
+  line|line|lb/le/wa/o||
+    <cr>||||
+    !
+  !
+!
