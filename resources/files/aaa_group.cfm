@@ -52,6 +52,18 @@ ip|ip|k||
     !
   !
 !
+deadtime|time to skip a dead server|k||
+  id|minutes|o||
+    <cr>||||
+    !
+  !
+!
+load-balance|server load balancing|k||
+  line|line|lb/le/wa/o||
+    <cr>||||
+    !
+  !
+!
 client|client|k||
   line|line|lb/le/wa||
     <cr>||||

@@ -12,7 +12,7 @@ maximum|maximum|k||
 !
 log|log|k||
   config|config|k||
-    <cr>||||@(config-archive-log-cfg)# archive_nested.cfm
+    <cr>||||@(config-archive-log-cfg)# archive_log.cfm
     !
   !
 !

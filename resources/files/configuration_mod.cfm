@@ -917,14 +917,58 @@ spanning-tree|spanning tree subsystem|k||
       !
     !
   !
-  mst|mst|k||
-    configuration|configuration|k||
+  mst|multiple spanning tree|k||
+    configuration|enter mst configuration|k||
       <cr>||||@(config-mst)# vlan.cfm
       !
     !
-    id|id|k||
-      priority|priority|k||
-        id|id|||
+    <instances>|mst instance list, such as 0-1 or 2,4|k||
+      priority|bridge priority|k||
+        id|priority in steps of 4096|o||
+          <cr>||||
+          !
+        !
+      !
+      root|root switch|k||
+        primary|primary|k/o||
+          <cr>||||
+          !
+        !
+        secondary|secondary|k/o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    hello-time|hello interval|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    forward-time|forward delay|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    max-age|maximum age|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    max-hops|maximum hops|k||
+      id|hops|o||
+        <cr>||||
+        !
+      !
+    !
+    simulate|simulate pvst|k||
+      pvst|pvst|k||
+        <cr>||||
+        !
+        global|global|k||
           <cr>||||
           !
         !
@@ -1616,7 +1660,9 @@ mpls|mpls configuration|k||
         !
       !
     !
-    label|label|k||
+    label|ldp label settings|k||
+      <cr>||||@(config-ldp-lbl)# mpls_ldp_label.cfm
+      !
       line|line|lb/le/wa||
         <cr>||||
         !
@@ -2505,6 +2551,12 @@ ntp|configure ntp|k||
     id|id|k||
       <cr>||||
       !
+      -|range of keys|k||
+        id|last key|k||
+          <cr>||||
+          !
+        !
+      !
     !
   !
   logging|logging|k||
@@ -3041,6 +3093,14 @@ policy-map|configure qos service policy|k||
     inspect|inspect|k||
       word|word|k||
         <cr>||||@(config-pmap)# policy_map.cfm
+        !
+      !
+    !
+    control|control policy|k||
+      subscriber|subscriber control policy|k||
+        word|policy map name|k||
+          <cr>||||@(config-event-control-policymap)# policy_ctrl.cfm
+          !
         !
       !
     !

@@ -1454,6 +1454,28 @@ storm-control|storm configuration|k||
     !
   !
 !
+srr-queue|shaped round robin transmit queues|k||
+  bandwidth|srr bandwidth|k||
+    share|shared mode weights|k||
+      <weights>|weights of queues 1 to 4|lb/le/wa/o||
+        <cr>||||
+        !
+      !
+    !
+    shape|shaped mode weights|k||
+      <weights>|weights of queues 1 to 4|lb/le/wa/o||
+        <cr>||||
+        !
+      !
+    !
+    limit|limit the port's bandwidth|k||
+      id|percentage|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
 priority-queue|priority queue settings|k||
   out|out|k||
     <cr>||||

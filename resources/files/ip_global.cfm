@@ -977,33 +977,73 @@ bgp-community|bgp-community|k||
 nat|nat configuration|k||
   inside|inside|k||
     source|source|k||
-      list|list|k||
-        word|word|k||
-          interface|interface|k||
+      list|specify access list describing local addresses|k||
+        word|access list name or number|k||
+          interface|specify interface for global address|k||
             &interfacefile.cfm|interface type|k||
               <number>|interface number|k||
                 <cr>||||
                 !
-                overload|overload|k||
+                overload|overload an address translation|k||
+                  <cr>||||
+                  !
+                  reversible|allow out->in traffic|k||
+                    <cr>||||
+                    !
+                  !
+                  no-payload|no translation of embedded addresses|k||
+                    <cr>||||
+                    !
+                  !
+                  redundancy|nat redundancy|k||
+                    line|line|lb/le/wa||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+                vrf|specify vrf|k||
+                  word|vrf name|k||
+                    <cr>||||
+                    !
+                    match-in-vrf|match in vrf|k||
+                      <cr>||||
+                      !
+                      overload|overload an address translation|k||
+                        <cr>||||
+                        !
+                      !
+                    !
+                    overload|overload an address translation|k||
+                      <cr>||||
+                      !
+                      reversible|allow out->in traffic|k||
+                        <cr>||||
+                        !
+                      !
+                      no-payload|no translation of embedded addresses|k||
+                        <cr>||||
+                        !
+                      !
+                      redundancy|nat redundancy|k||
+                        line|line|lb/le/wa||
+                          <cr>||||
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+                reversible|allow out->in traffic|k||
                   <cr>||||
                   !
                 !
-              !
-            !
-          !
-          pool|pool|k||
-            word|word|k||
-              <cr>||||
-              !
-              overload|overload|k||
-                <cr>||||
-                !
-              !
-              vrf|vrf|k||
-                word|word|||
+                no-payload|no translation of embedded addresses|k||
                   <cr>||||
                   !
-                  overload|overload|k||
+                !
+                redundancy|nat redundancy|k||
+                  line|line|lb/le/wa||
                     <cr>||||
                     !
                   !
@@ -1011,28 +1051,218 @@ nat|nat configuration|k||
               !
             !
           !
-        !
-      !
-      route-map|route-map|k||
-        word|word|k||
-          interface|interface|k||
-            &interfacefile.cfm|interface type|k||
-              <number>|interface number|k||
+          pool|name pool of global addresses|k||
+            word|pool name|k||
+              <cr>||||
+              !
+              overload|overload an address translation|k||
                 <cr>||||
                 !
-                overload|overload|k||
+                reversible|allow out->in traffic|k||
+                  <cr>||||
+                  !
+                !
+                no-payload|no translation of embedded addresses|k||
+                  <cr>||||
+                  !
+                !
+                redundancy|nat redundancy|k||
+                  line|line|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              vrf|specify vrf|k||
+                word|vrf name|k||
+                  <cr>||||
+                  !
+                  match-in-vrf|match in vrf|k||
+                    <cr>||||
+                    !
+                    overload|overload an address translation|k||
+                      <cr>||||
+                      !
+                    !
+                  !
+                  overload|overload an address translation|k||
+                    <cr>||||
+                    !
+                    reversible|allow out->in traffic|k||
+                      <cr>||||
+                      !
+                    !
+                    no-payload|no translation of embedded addresses|k||
+                      <cr>||||
+                      !
+                    !
+                    redundancy|nat redundancy|k||
+                      line|line|lb/le/wa||
+                        <cr>||||
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+              reversible|allow out->in traffic|k||
+                <cr>||||
+                !
+              !
+              no-payload|no translation of embedded addresses|k||
+                <cr>||||
+                !
+              !
+              redundancy|nat redundancy|k||
+                line|line|lb/le/wa||
                   <cr>||||
                   !
                 !
               !
             !
           !
-          pool|pool|k||
-            word|word|k||
+        !
+      !
+      route-map|specify route-map|k||
+        word|route-map name|k||
+          interface|specify interface for global address|k||
+            &interfacefile.cfm|interface type|k||
+              <number>|interface number|k||
+                <cr>||||
+                !
+                overload|overload an address translation|k||
+                  <cr>||||
+                  !
+                  reversible|allow out->in traffic|k||
+                    <cr>||||
+                    !
+                  !
+                  no-payload|no translation of embedded addresses|k||
+                    <cr>||||
+                    !
+                  !
+                  redundancy|nat redundancy|k||
+                    line|line|lb/le/wa||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+                vrf|specify vrf|k||
+                  word|vrf name|k||
+                    <cr>||||
+                    !
+                    match-in-vrf|match in vrf|k||
+                      <cr>||||
+                      !
+                      overload|overload an address translation|k||
+                        <cr>||||
+                        !
+                      !
+                    !
+                    overload|overload an address translation|k||
+                      <cr>||||
+                      !
+                      reversible|allow out->in traffic|k||
+                        <cr>||||
+                        !
+                      !
+                      no-payload|no translation of embedded addresses|k||
+                        <cr>||||
+                        !
+                      !
+                      redundancy|nat redundancy|k||
+                        line|line|lb/le/wa||
+                          <cr>||||
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+                reversible|allow out->in traffic|k||
+                  <cr>||||
+                  !
+                !
+                no-payload|no translation of embedded addresses|k||
+                  <cr>||||
+                  !
+                !
+                redundancy|nat redundancy|k||
+                  line|line|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+          pool|name pool of global addresses|k||
+            word|pool name|k||
               <cr>||||
               !
-              overload|overload|k||
+              overload|overload an address translation|k||
                 <cr>||||
+                !
+                reversible|allow out->in traffic|k||
+                  <cr>||||
+                  !
+                !
+                no-payload|no translation of embedded addresses|k||
+                  <cr>||||
+                  !
+                !
+                redundancy|nat redundancy|k||
+                  line|line|lb/le/wa||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+              vrf|specify vrf|k||
+                word|vrf name|k||
+                  <cr>||||
+                  !
+                  match-in-vrf|match in vrf|k||
+                    <cr>||||
+                    !
+                    overload|overload an address translation|k||
+                      <cr>||||
+                      !
+                    !
+                  !
+                  overload|overload an address translation|k||
+                    <cr>||||
+                    !
+                    reversible|allow out->in traffic|k||
+                      <cr>||||
+                      !
+                    !
+                    no-payload|no translation of embedded addresses|k||
+                      <cr>||||
+                      !
+                    !
+                    redundancy|nat redundancy|k||
+                      line|line|lb/le/wa||
+                        <cr>||||
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+              reversible|allow out->in traffic|k||
+                <cr>||||
+                !
+              !
+              no-payload|no translation of embedded addresses|k||
+                <cr>||||
+                !
+              !
+              redundancy|nat redundancy|k||
+                line|line|lb/le/wa||
+                  <cr>||||
+                  !
                 !
               !
             !

@@ -89,10 +89,14 @@ match|match values from routing table|k||
       !
     !
   !
-  interface|interface|k||
+  interface|match first hop interface of route|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
+        !
+        line|more interfaces|lb/le/wa||
+          <cr>||||
+          !
         !
       !
     !

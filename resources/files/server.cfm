@@ -38,6 +38,12 @@ single-connection|single-connection|k||
   <cr>||||
   !
 !
+retransmit|number of retries to an active server|k||
+  id|retries|o||
+    <cr>||||
+    !
+  !
+!
 port|port|k||
   id|id|||
     <cr>||||

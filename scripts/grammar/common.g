@@ -147,3 +147,29 @@ def ACLOPTS
 
 def COMMUNITY
   <aa:nn> :wa/lb/le "community value" $
+
+# The target of a dynamic translation and the options behind it.
+def NATTAIL
+  overload "overload an address translation" $
+    %NATOPT
+  vrf "specify vrf"
+    word :k "vrf name" $
+      match-in-vrf "match in vrf" $
+        overload "overload an address translation" $
+      overload "overload an address translation" $
+        %NATOPT
+  %NATOPT
+
+def NATOPT
+  reversible "allow out->in traffic" $
+  no-payload "no translation of embedded addresses" $
+  redundancy "nat redundancy"
+    line *
+
+def NATTARGET
+  interface "specify interface for global address"
+    %IF
+      %NATTAIL
+  pool "name pool of global addresses"
+    word :k "pool name" $
+      %NATTAIL

@@ -458,6 +458,14 @@ logging "configure logging for interface"
     line *
 storm-control "storm configuration"
   line *
+srr-queue "shaped round robin transmit queues"
+  bandwidth "srr bandwidth"
+    share "shared mode weights"
+      <weights> :lb/le/wa/o "weights of queues 1 to 4" $
+    shape "shaped mode weights"
+      <weights> :lb/le/wa/o "weights of queues 1 to 4" $
+    limit "limit the port's bandwidth"
+      id :o "percentage" $
 priority-queue "priority queue settings"
   out $
 mls "multi-layer switching settings"

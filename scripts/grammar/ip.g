@@ -321,25 +321,12 @@ bgp-community
 nat "nat configuration"
   inside
     source
-      list
-        word :k
-          interface
-            %IF
-              overload $
-          pool
-            word :k $
-              overload $
-              vrf
-                word $
-                  overload $
-      route-map
-        word :k
-          interface
-            %IF
-              overload $
-          pool
-            word :k $
-              overload $
+      list "specify access list describing local addresses"
+        word :k "access list name or number"
+          %NATTARGET
+      route-map "specify route-map"
+        word :k "route-map name"
+          %NATTARGET
       static
         a.b.c.d :k
           a.b.c.d :k $

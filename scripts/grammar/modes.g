@@ -211,8 +211,9 @@ match "match values from routing table"
     line *
   as-path
     id :m $
-  interface
+  interface "match first hop interface of route"
     %IF
+      line * "more interfaces"
   tag
     id $
   metric

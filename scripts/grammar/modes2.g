@@ -173,7 +173,7 @@ path
 maximum
   id $
 log
-  config @(config-archive-log-cfg)#=archive.cfm
+  config @(config-archive-log-cfg)#=archive_log.cfm
 logging
   enable $
   size
@@ -402,6 +402,8 @@ key
 timeout
   id $
 single-connection $
+retransmit "number of retries to an active server"
+  id :o "retries" $
 port
   id $
 pac
@@ -420,3 +422,20 @@ key-string $
 key-hash
   line *
 quit $
+
+# The configuration log of the archive: a level of its own, so that the
+# archive settings after it (path, maximum, write-memory) return to the
+# archive.
+file archive_log.cfm
+logging "logging settings"
+  enable "enable the configuration log" $
+  size "entries kept"
+    id :o "entries" $
+  persistent "persist the log"
+    line *
+notify "notifications"
+  syslog "send to syslog" $
+    contenttype "content type"
+      plaintext :o $
+      xml :o $
+hidekeys "hide keys in the log" $

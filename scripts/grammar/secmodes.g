@@ -16,6 +16,10 @@ ip
   vrf
     forwarding
       word $
+deadtime "time to skip a dead server"
+  id :o "minutes" $
+load-balance "server load balancing"
+  line * :o
 client
   line *
 server-key

@@ -140,6 +140,8 @@ ntp "configure ntp"
         line *
   trusted-key
     id :k $
+      - "range of keys"
+        id :k "last key" $
   logging $
   access-group
     line *
@@ -312,6 +314,9 @@ policy-map "configure qos service policy"
   type
     inspect
       word :k @(config-pmap)#=policy_map.cfm
+    control "control policy"
+      subscriber "subscriber control policy"
+        word :k "policy map name" @(config-event-control-policymap)#=policy_ctrl.cfm
     word
       line * @(config-pmap)#=policy_map.cfm
   word :k @(config-pmap)#=policy_map.cfm

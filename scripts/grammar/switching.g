@@ -499,3 +499,81 @@ mode "sampler mode"
         id $
 granularity "sampling granularity"
   connection $
+
+file mpls_ldp_label.cfm
+allocate "allocate local labels"
+  global "global table"
+    host-routes "host routes only" $ :o
+    prefix-list "prefixes of a list"
+      word :o "prefix list name" $
+    all-routes "all routes" $ :o
+
+# A subscriber control policy: events, the classes of each event, and the
+# actions of each class, three levels deep.
+file policy_ctrl.cfm
+event "event type"
+  word :k "event name" @(config-class-control-policymap)#=policy_ctrl_class.cfm
+    match-all "evaluate all matching classes" @(config-class-control-policymap)#=policy_ctrl_class.cfm
+    match-first "evaluate the first matching class" @(config-class-control-policymap)#=policy_ctrl_class.cfm
+description "policy description"
+  line * :o
+
+file policy_ctrl_class.cfm
+id :k "class number"
+  class "class map"
+    word :k "class map name" @(config-action-control-policymap)#=policy_ctrl_action.cfm
+      do-until-failure "run actions until one fails" @(config-action-control-policymap)#=policy_ctrl_action.cfm
+      do-until-success "run actions until one succeeds" @(config-action-control-policymap)#=policy_ctrl_action.cfm
+      do-all "run all actions" @(config-action-control-policymap)#=policy_ctrl_action.cfm
+
+def CTRLTEMPLATE
+  service-template "service template"
+    word :k "template name" $
+      precedence "precedence"
+        id $
+  interface-template "interface template"
+    word :k "template name" $
+
+file policy_ctrl_action.cfm
+id :k "action number"
+  authenticate "authenticate a session"
+    using "method"
+      word :k "dot1x, mab or webauth" $
+        priority "method priority"
+          id :o "priority" $
+            line * "further options"
+        retries "retries"
+          id "retries" $
+            line * "further options"
+        aaa "aaa lists"
+          line * "lists"
+        both "both directions" $
+          line * "further options"
+        period "period"
+          line * "further options"
+  terminate "terminate a method"
+    word :k "dot1x, mab or webauth" $
+  activate "activate a template"
+    %CTRLTEMPLATE
+  deactivate "deactivate a template"
+    %CTRLTEMPLATE
+  authorize "authorize the session" $
+  unauthorize "unauthorize the session" $
+  authentication-restart "restart authentication"
+    id :o "seconds" $
+  clear-session "clear the session" $
+  clear-authenticated-data-hosts-on-port "clear data hosts" $
+  err-disable "error disable the port" $
+  protect "silently drop violating packets" $
+  replace "clear the existing session" $
+  restrict "drop violating packets and log" $
+  pause "pause"
+    reauthentication $
+  resume "resume"
+    reauthentication $
+  set-domain "set the domain"
+    word :o $
+  map "map attributes"
+    line *
+  notify "notify"
+    line *

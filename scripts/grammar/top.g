@@ -315,11 +315,25 @@ spanning-tree "spanning tree subsystem"
     method
       long $
       short $
-  mst
-    configuration @(config-mst)#=vlan.cfm
-    id :k
-      priority
-        id $
+  mst "multiple spanning tree"
+    configuration "enter mst configuration" @(config-mst)#=vlan.cfm
+    <instances> :k "mst instance list, such as 0-1 or 2,4"
+      priority "bridge priority"
+        id :o "priority in steps of 4096" $
+      root "root switch"
+        primary :o $
+        secondary :o $
+    hello-time "hello interval"
+      id :o "seconds" $
+    forward-time "forward delay"
+      id :o "seconds" $
+    max-age "maximum age"
+      id :o "seconds" $
+    max-hops "maximum hops"
+      id :o "hops" $
+    simulate "simulate pvst"
+      pvst $
+        global $
 route-map "create route-map or enter route-map command mode"
   word :k "route map tag" @(config-route-map)#=route_map.cfm
     permit "route map permits set operations" @(config-route-map)#=route_map.cfm
@@ -548,7 +562,7 @@ mpls "mpls configuration"
       line *
     neighbor
       line *
-    label
+    label "ldp label settings" @(config-ldp-lbl)#=mpls_ldp_label.cfm
       line *
     password
       line *
