@@ -537,6 +537,10 @@ syn|syn flag|||
       !
     !
   !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
+    !
+  !
 !
 ack|ack flag|||
   <cr>||||
@@ -569,6 +573,10 @@ ack|ack flag|||
         <cr>||||
         !
       !
+    !
+  !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
     !
   !
 !
@@ -605,6 +613,10 @@ rst|rst flag|||
       !
     !
   !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
+    !
+  !
 !
 fin|fin flag|||
   <cr>||||
@@ -637,6 +649,10 @@ fin|fin flag|||
         <cr>||||
         !
       !
+    !
+  !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
     !
   !
 !
@@ -673,6 +689,10 @@ psh|psh|||
       !
     !
   !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
+    !
+  !
 !
 urg|urg|||
   <cr>||||
@@ -705,6 +725,10 @@ urg|urg|||
         <cr>||||
         !
       !
+    !
+  !
+  line|further tcp flags and options|lb/le/wa||
+    <cr>||||
     !
   !
 !
@@ -1084,6 +1108,86 @@ information-request|information request|||
 !
 information-reply|information reply|||
   <cr>||||
+  !
+  log|log matches|||
+    <cr>||||
+    !
+    word|log tag|||
+      <cr>||||
+      !
+    !
+  !
+  log-input|log matches with the input interface|||
+    <cr>||||
+    !
+    word|log tag|||
+      <cr>||||
+      !
+    !
+  !
+  time-range|time range|||
+    word|time range name|||
+      <cr>||||
+      !
+      log|log matches|||
+        <cr>||||
+        !
+      !
+      log-input|log matches with the input interface|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+match-any|match any of the tcp flags|||
+  line|tcp flags (+flag or -flag) and options|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+match-all|match all of the tcp flags|||
+  line|tcp flags (+flag or -flag) and options|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+id|icmp message type|||
+  <cr>||||
+  !
+  id|icmp message code|||
+    <cr>||||
+    !
+    log|log matches|||
+      <cr>||||
+      !
+      word|log tag|||
+        <cr>||||
+        !
+      !
+    !
+    log-input|log matches with the input interface|||
+      <cr>||||
+      !
+      word|log tag|||
+        <cr>||||
+        !
+      !
+    !
+    time-range|time range|||
+      word|time range name|||
+        <cr>||||
+        !
+        log|log matches|||
+          <cr>||||
+          !
+        !
+        log-input|log matches with the input interface|||
+          <cr>||||
+          !
+        !
+      !
+    !
   !
   log|log matches|||
     <cr>||||

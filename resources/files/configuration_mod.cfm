@@ -380,9 +380,47 @@ username|establish user name authentication|k||
             !
           !
         !
-        view|view|k||
-          word|word|||
+        view|set view name|k||
+          word|view name|||
             <cr>||||
+            !
+            password|specify the password for the user|k||
+              id|encryption type|||
+                line|the password|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              line|the password|lb/le/wa/o||
+                <cr>||||
+                !
+              !
+            !
+            secret|specify the secret for the user|k||
+              id|encryption type|||
+                line|the secret|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              line|the secret|lb/le/wa/o||
+                <cr>||||
+                !
+              !
+            !
+            nopassword|no password is required|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+        algorithm-type|encryption algorithm for the secret|k||
+          word|md5, sha256 or scrypt|||
+            secret|specify the secret for the user|k||
+              line|line|lb/le/wa/o||
+                <cr>||||
+                !
+              !
             !
           !
         !
@@ -420,9 +458,37 @@ username|establish user name authentication|k||
       <cr>||||
       !
     !
-    view|view|k||
-      word|word|||
+    view|set view name|k||
+      word|view name|||
         <cr>||||
+        !
+        password|specify the password for the user|k||
+          id|encryption type|||
+            line|the password|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+          line|the password|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        secret|specify the secret for the user|k||
+          id|encryption type|||
+            line|the secret|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+          line|the secret|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        nopassword|no password is required|k||
+          <cr>||||
+          !
         !
       !
     !
@@ -432,13 +498,17 @@ username|establish user name authentication|k||
         !
       !
     !
-    algorithm-type|algorithm-type|k||
-      word|word|||
-        secret|secret|k||
+    algorithm-type|encryption algorithm for the secret|k||
+      word|md5, sha256 or scrypt|||
+        secret|specify the secret for the user|k||
           id|id|||
             line|line|lb/le/wa||
               <cr>||||
               !
+            !
+          !
+          line|line|lb/le/wa||
+            <cr>||||
             !
           !
         !
@@ -491,13 +561,17 @@ enable|modify enable password parameters|k||
       !
     !
   !
-  algorithm-type|algorithm-type|k||
-    word|word|||
-      secret|secret|k||
+  algorithm-type|encryption algorithm for the secret|k||
+    word|md5, sha256 or scrypt|||
+      secret|assign the privileged level secret|k||
         id|id|||
           line|line|lb/le/wa/o||
             <cr>||||
             !
+          !
+        !
+        line|line|lb/le/wa/o||
+          <cr>||||
           !
         !
       !
@@ -687,6 +761,24 @@ access-list|add an access list entry|k||
       !
       line|text|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+  !
+  <700-799>|48-bit mac address access list|k/n||
+    permit|specify addresses to forward|||
+      h.h.h|48-bit mac address|||
+        h.h.h|mask of bits to ignore|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    deny|specify addresses to drop|||
+      h.h.h|48-bit mac address|||
+        h.h.h|mask of bits to ignore|||
+          <cr>||||
+          !
         !
       !
     !
@@ -1394,6 +1486,72 @@ track|object tracking|k||
     !
     stub-object|stub-object|k||
       <cr>||||@(config-track)# track.cfm
+      !
+    !
+  !
+  timer|polling interval timers|k||
+    interface|interface polling|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+      msec|milliseconds|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    ip|ip polling|k||
+      route|route polling|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+        msec|milliseconds|k||
+          id|milliseconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      sla|ip sla polling|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+        msec|milliseconds|k||
+          id|milliseconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    ipv6|ipv6 polling|k||
+      route|route polling|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+        msec|milliseconds|k||
+          id|milliseconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    list|list polling|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+      msec|milliseconds|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -2739,6 +2897,12 @@ logging|modify message logging facilities|k||
   !
   history|history|k||
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  snmp-trap|logging severities sent as snmp traps|k||
+    &loglevelfile.cfm|severity|k||
       <cr>||||
       !
     !
@@ -4707,6 +4871,50 @@ energywise|energywise settings|k||
 rmon|remote monitoring|k||
   line|line|lb/le/wa||
     <cr>||||
+    !
+  !
+!
+time-range|define time range entries|k||
+  word|time range name|k||
+    <cr>||||@(config-time-range)# time_range.cfm
+    !
+  !
+!
+parameter-map|parameter map|k||
+  type|parameter map type|k||
+    inspect|inspect parameters|k||
+      word|parameter map name|k||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+    inspect-global|global inspect parameters|k||
+      <cr>||||@(config-profile)# param_map.cfm
+      !
+    !
+    regex|regular expressions|k||
+      word|parameter map name|k||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+    urlfpolicy|url filter policy|k||
+      line|line|lb/le/wa||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+    urlfilter|url filter|k||
+      line|line|lb/le/wa||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+    umbrella|umbrella|k||
+      global|global|k||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
     !
   !
 !

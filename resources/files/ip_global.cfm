@@ -120,6 +120,20 @@ domain|domain name system|k||
     !
   !
 !
+domain-list|domain name to complete unqualified host names|k||
+  word|a domain name|k||
+    <cr>||||
+    !
+  !
+  vrf|vrf of the list|k||
+    word|vrf name|k||
+      word|a domain name|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
 domain-name|domain-name|k||
   word|word|o||
     <cr>||||

@@ -78,16 +78,22 @@ def ACLOPTS
     %ACLTAIL
   syn "syn flag" $
     %ACLTAIL
+    line * "further tcp flags and options"
   ack "ack flag" $
     %ACLTAIL
+    line * "further tcp flags and options"
   rst "rst flag" $
     %ACLTAIL
+    line * "further tcp flags and options"
   fin "fin flag" $
     %ACLTAIL
+    line * "further tcp flags and options"
   psh "psh" $
     %ACLTAIL
+    line * "further tcp flags and options"
   urg "urg" $
     %ACLTAIL
+    line * "further tcp flags and options"
   host-unreachable "host unreachable" $
     %ACLTAIL
   net-unreachable "net unreachable" $
@@ -111,6 +117,14 @@ def ACLOPTS
   information-request "information request" $
     %ACLTAIL
   information-reply "information reply" $
+    %ACLTAIL
+  match-any "match any of the tcp flags"
+    line * "tcp flags (+flag or -flag) and options"
+  match-all "match all of the tcp flags"
+    line * "tcp flags (+flag or -flag) and options"
+  id "icmp message type" $
+    id "icmp message code" $
+      %ACLTAIL
     %ACLTAIL
   dscp "dscp value"
     <value> "dscp" $
@@ -173,3 +187,15 @@ def NATTARGET
   pool "name pool of global addresses"
     word :k "pool name" $
       %NATTAIL
+
+# The password of a user, after the name, the privilege or the view.
+def USERSECRET
+  password "specify the password for the user"
+    id "encryption type"
+      line * :o "the password"
+    line * :o "the password"
+  secret "specify the secret for the user"
+    id "encryption type"
+      line * :o "the secret"
+    line * :o "the secret"
+  nopassword "no password is required" $

@@ -38,6 +38,11 @@ domain "domain name system"
     id $
   retry
     id $
+domain-list "domain name to complete unqualified host names"
+  word :k "a domain name" $
+  vrf "vrf of the list"
+    word :k "vrf name"
+      word :k "a domain name" $
 domain-name
   word :o $
   vrf

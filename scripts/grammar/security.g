@@ -197,6 +197,8 @@ logging "modify message logging facilities"
     line *
   history
     line *
+  snmp-trap "logging severities sent as snmp traps"
+    &loglevelfile.cfm :k "severity" $
   file
     line *
   on $

@@ -133,8 +133,13 @@ username "establish user name authentication"
           id
             line * :o
           line * :o
-        view
-          word $
+        view "set view name"
+          word "view name" $
+            %USERSECRET
+        algorithm-type "encryption algorithm for the secret"
+          word "md5, sha256 or scrypt"
+            secret "specify the secret for the user"
+              line * :o
       %TEXT
     password
       id
@@ -145,15 +150,17 @@ username "establish user name authentication"
         line * :o
       line * :o
     nopassword $
-    view
-      word $
+    view "set view name"
+      word "view name" $
+        %USERSECRET
     autocommand
       %TEXT
-    algorithm-type
-      word
-        secret
+    algorithm-type "encryption algorithm for the secret"
+      word "md5, sha256 or scrypt"
+        secret "specify the secret for the user"
           id
             line *
+          line *
 enable "modify enable password parameters"
   secret
     level
@@ -171,11 +178,12 @@ enable "modify enable password parameters"
     id
       line * :o
     line * :o
-  algorithm-type
-    word
-      secret
+  algorithm-type "encryption algorithm for the secret"
+    word "md5, sha256 or scrypt"
+      secret "assign the privileged level secret"
         id
           line * :o
+        line * :o
 banner "define a login banner"
   motd :k
     line *
@@ -239,6 +247,13 @@ access-list "add an access list entry"
         permit :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
+  <700-799> :k/n "48-bit mac address access list"
+    permit :-k "specify addresses to forward"
+      h.h.h "48-bit mac address"
+        h.h.h "mask of bits to ignore" $
+    deny :-k "specify addresses to drop"
+      h.h.h "48-bit mac address"
+        h.h.h "mask of bits to ignore" $
   <2000-2699> :k/n "ip extended access list (expanded range)"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
@@ -473,6 +488,29 @@ track "object tracking"
         reachability @(config-track)#=track.cfm
         state @(config-track)#=track.cfm
     stub-object @(config-track)#=track.cfm
+  timer "polling interval timers"
+    interface "interface polling"
+      id :o "seconds" $
+      msec "milliseconds"
+        id :o "milliseconds" $
+    ip "ip polling"
+      route "route polling"
+        id :o "seconds" $
+        msec "milliseconds"
+          id :o "milliseconds" $
+      sla "ip sla polling"
+        id :o "seconds" $
+        msec "milliseconds"
+          id :o "milliseconds" $
+    ipv6 "ipv6 polling"
+      route "route polling"
+        id :o "seconds" $
+        msec "milliseconds"
+          id :o "milliseconds" $
+    list "list polling"
+      id :o "seconds" $
+      msec "milliseconds"
+        id :o "milliseconds" $
 clock "configure time-of-day clock"
   timezone
     word :o
@@ -725,3 +763,4 @@ ipv6 "ipv6 configuration" &ipv6_global.cfm
 ip "global ip configuration" &ip_global.cfm
 %SECTOP
 %SWTOP
+%MISCTOP
