@@ -868,15 +868,15 @@ vlan|vlan commands|k||
 !
 spanning-tree|spanning tree subsystem|k||
   mode|mode|k||
-    pvst|pvst|k/o||
+    pvst|pvst|o||
       <cr>||||
       !
     !
-    rapid-pvst|rapid-pvst|k/o||
+    rapid-pvst|rapid-pvst|o||
       <cr>||||
       !
     !
-    mst|mst|k/o||
+    mst|mst|o||
       <cr>||||
       !
     !
@@ -4054,7 +4054,7 @@ vtp|configure global vtp state|k||
     !
   !
   mode|configure the vtp device mode|k||
-    server|server mode|k/-k/o||
+    server|server mode|o||
       <cr>||||
       !
       vlan|vlan database|k||
@@ -4066,7 +4066,7 @@ vtp|configure global vtp state|k||
         !
       !
     !
-    client|client mode|k/-k/o||
+    client|client mode|o||
       <cr>||||
       !
       vlan|vlan database|k||
@@ -4078,7 +4078,7 @@ vtp|configure global vtp state|k||
         !
       !
     !
-    transparent|transparent mode|k/-k/o||
+    transparent|transparent mode|o||
       <cr>||||
       !
       vlan|vlan database|k||
@@ -4090,7 +4090,7 @@ vtp|configure global vtp state|k||
         !
       !
     !
-    off|off mode|k/-k/o||
+    off|off mode|o||
       <cr>||||
       !
       vlan|vlan database|k||
@@ -4422,11 +4422,11 @@ udld|global udld configuration|k||
 !
 power|power configuration|k||
   redundancy-mode|power supply redundancy mode|k||
-    redundant|redundant mode|k/-k/o||
+    redundant|redundant mode|o||
       <cr>||||
       !
     !
-    combined|combined mode|k/-k/o||
+    combined|combined mode|o||
       <cr>||||
       !
     !
@@ -4811,11 +4811,11 @@ sampler|flow sampler|k||
 fhrp|first hop redundancy|k||
   version|fhrp version|k||
     vrrp|vrrp version|k||
-      v2|v2|k/-k/o||
+      v2|v2|o||
         <cr>||||
         !
       !
-      v3|v3|k/-k/o||
+      v3|v3|o||
         <cr>||||
         !
       !

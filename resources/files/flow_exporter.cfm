@@ -43,15 +43,15 @@ transport|transport protocol|k||
   !
 !
 export-protocol|export protocol|k||
-  netflow-v5|netflow-v5|k/-k/o||
+  netflow-v5|netflow-v5|o||
     <cr>||||
     !
   !
-  netflow-v9|netflow-v9|k/-k/o||
+  netflow-v9|netflow-v9|o||
     <cr>||||
     !
   !
-  ipfix|ipfix|k/-k/o||
+  ipfix|ipfix|o||
     <cr>||||
     !
   !

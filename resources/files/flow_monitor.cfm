@@ -60,15 +60,15 @@ cache|cache settings|k||
     !
   !
   type|cache type|k||
-    normal|normal|k/-k/o||
+    normal|normal|o||
       <cr>||||
       !
     !
-    immediate|immediate|k/-k/o||
+    immediate|immediate|o||
       <cr>||||
       !
     !
-    permanent|permanent|k/-k/o||
+    permanent|permanent|o||
       <cr>||||
       !
     !

@@ -321,14 +321,14 @@ switchport|set switching mode characteristics|k||
     <cr>||||
     !
   !
-  port-security|port-security|k||
+  port-security|security on the port|k||
     <cr>||||
     !
-    maximum|maximum|k||
-      id|id|||
+    maximum|maximum secure addresses|k/n||
+      id|maximum addresses|o||
         <cr>||||
         !
-        vlan|vlan|k||
+        vlan|per vlan maximum|k||
           line|line|lb/le/wa||
             <cr>||||
             !
@@ -336,19 +336,19 @@ switchport|set switching mode characteristics|k||
         !
       !
     !
-    violation|violation|k||
-      protect|protect|k||
+    violation|security violation mode|k/n||
+      protect|drop violating packets|o||
         <cr>||||
         !
       !
-      restrict|restrict|k||
+      restrict|drop and count violating packets|o||
         <cr>||||
         !
       !
-      shutdown|shutdown|k||
+      shutdown|shut down the port|o||
         <cr>||||
         !
-        vlan|vlan|k||
+        vlan|shut down the vlan|k||
           <cr>||||
           !
         !
@@ -380,8 +380,24 @@ switchport|set switching mode characteristics|k||
         !
       !
     !
-    aging|aging|k||
-      line|line|lb/le/wa||
+    aging|port-security aging|k||
+      time|aging time|k/n||
+        id|minutes|o||
+          <cr>||||
+          !
+        !
+      !
+      type|aging type|k/n||
+        absolute|absolute aging|o||
+          <cr>||||
+          !
+        !
+        inactivity|aging when inactive|o||
+          <cr>||||
+          !
+        !
+      !
+      static|age static addresses|k||
         <cr>||||
         !
       !
@@ -574,8 +590,8 @@ standby|hot standby router protocol|k||
         !
       !
     !
-    priority|priority|k||
-      id|id|o||
+    priority|priority level|k/n||
+      id|priority value|o||
         <cr>||||
         !
       !
@@ -767,7 +783,115 @@ standby|hot standby router protocol|k||
   !
 !
 vrrp|vrrp configuration|k||
-  id|id|k||
+  id|group number|k||
+    ip|enable vrrp and set the virtual address|k/n||
+      a.b.c.d|virtual router ip address|o||
+        <cr>||||
+        !
+        secondary|secondary address|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    description|group description|k/n||
+      line|line|lb/le/wa/o||
+        <cr>||||
+        !
+      !
+    !
+    priority|priority level|k/n||
+      id|priority value|o||
+        <cr>||||
+        !
+      !
+    !
+    preempt|enable preemption|k||
+      <cr>||||
+      !
+      delay|wait before preempting|k||
+        minimum|minimum delay|k||
+          id|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    timers|vrrp timers|k/n||
+      advertise|advertisement timer|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+        msec|milliseconds|k||
+          id|milliseconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      learn|learn the timer from the master|k||
+        <cr>||||
+        !
+      !
+    !
+    authentication|authentication|k/n||
+      text|plain text string|k||
+        word|string|o||
+          <cr>||||
+          !
+        !
+      !
+      md5|md5 authentication|k||
+        key-string|key string|k||
+          id|encryption type|||
+            line|line|lb/le/wa/o||
+              <cr>||||
+              !
+            !
+          !
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+        key-chain|key chain|k||
+          word|key chain name|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    track|track an object|k||
+      id|tracked object number|k||
+        <cr>||||
+        !
+        decrement|priority decrement|k||
+          id|decrement|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    shutdown|disable the group|k||
+      <cr>||||
+      !
+    !
+    name|redundancy name|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    address-family|address family|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -1449,8 +1573,134 @@ logging|configure logging for interface|k||
   !
 !
 storm-control|storm configuration|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  broadcast|broadcast traffic|k||
+    level|threshold level|k/n||
+      <level>|rising threshold|o||
+        <cr>||||
+        !
+        <level>|falling threshold|||
+          <cr>||||
+          !
+        !
+      !
+      bps|bits per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      pps|packets per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    include|include traffic|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  multicast|multicast traffic|k||
+    level|threshold level|k/n||
+      <level>|rising threshold|o||
+        <cr>||||
+        !
+        <level>|falling threshold|||
+          <cr>||||
+          !
+        !
+      !
+      bps|bits per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      pps|packets per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    include|include traffic|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  unicast|unicast traffic|k||
+    level|threshold level|k/n||
+      <level>|rising threshold|o||
+        <cr>||||
+        !
+        <level>|falling threshold|||
+          <cr>||||
+          !
+        !
+      !
+      bps|bits per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      pps|packets per second|k||
+        <rate>|rising threshold|o||
+          <cr>||||
+          !
+          <rate>|falling threshold|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    include|include traffic|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  action|action on a storm|k||
+    shutdown|shut down the port|k||
+      <cr>||||
+      !
+    !
+    trap|send an snmp trap|k||
+      <cr>||||
+      !
+    !
+    level|shut down at a level|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -199,3 +199,18 @@ def USERSECRET
       line * :o "the secret"
     line * :o "the secret"
   nopassword "no password is required" $
+
+# A storm-control threshold: a percentage (1.00), bits or packets per
+# second, each with an optional falling threshold.
+def STORMLEVEL
+  level :n "threshold level"
+    <level> :o "rising threshold" $
+      <level> "falling threshold" $
+    bps "bits per second"
+      <rate> :o "rising threshold" $
+        <rate> "falling threshold" $
+    pps "packets per second"
+      <rate> :o "rising threshold" $
+        <rate> "falling threshold" $
+  include "include traffic"
+    line *

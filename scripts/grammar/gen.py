@@ -55,11 +55,14 @@ def parse_line(text):
     if node.token.startswith("%"):
         node.macro = node.token[1:]
     for p in parts[1:]:
-        if p == ":-k":
-            node.nokey = True
-        elif p.startswith(":"):
-            # Flags add up, whatever their order with "*" on the line.
-            node.flags = "/".join(x for x in (node.flags, p[1:]) if x)
+        if p.startswith(":"):
+            # Flags add up, whatever their order with "*" on the line; "-k"
+            # among them (":-k/o") leaves out the automatic k.
+            codes = [x for x in p[1:].split("/") if x]
+            if "-k" in codes:
+                node.nokey = True
+                codes = [x for x in codes if x != "-k"]
+            node.flags = "/".join(x for x in [node.flags] + codes if x)
         elif p == "$":
             node.end = True
         elif p == "*":

@@ -100,16 +100,16 @@ switchport "set switching mode characteristics" $ :sn
         line *
   nonegotiate $
   nonnegotiate $
-  port-security $
-    maximum
-      id $
-        vlan
+  port-security "security on the port" $
+    maximum :n "maximum secure addresses"
+      id :o "maximum addresses" $
+        vlan "per vlan maximum"
           line *
-    violation
-      protect $
-      restrict $
-      shutdown $
-        vlan $
+    violation :n "security violation mode"
+      protect :-k/o "drop violating packets" $
+      restrict :-k/o "drop and count violating packets" $
+      shutdown :-k/o "shut down the port" $
+        vlan "shut down the vlan" $
     mac-address
       sticky $
         h.h.h :k $
@@ -118,8 +118,13 @@ switchport "set switching mode characteristics" $ :sn
       h.h.h :k $
         vlan
           line *
-    aging
-      line *
+    aging "port-security aging"
+      time :n "aging time"
+        id :o "minutes" $
+      type :n "aging type"
+        absolute :-k/o "absolute aging" $
+        inactivity :-k/o "aging when inactive" $
+      static "age static addresses" $
   block
     unicast $
     multicast $
@@ -180,8 +185,8 @@ standby "hot standby router protocol"
     preempt $
       delay
         line *
-    priority
-      id :o $
+    priority :n "priority level"
+      id :o "priority value" $
     authentication
       md5
         key-string
@@ -242,7 +247,43 @@ standby "hot standby router protocol"
   redirect
     line *
 vrrp "vrrp configuration"
-  id :k
+  id :k "group number"
+    ip :n "enable vrrp and set the virtual address"
+      a.b.c.d :o "virtual router ip address" $
+        secondary "secondary address" $
+    description :n "group description"
+      line * :o
+    priority :n "priority level"
+      id :o "priority value" $
+    preempt "enable preemption" $
+      delay "wait before preempting"
+        minimum "minimum delay"
+          id :o "seconds" $
+    timers :n "vrrp timers"
+      advertise "advertisement timer"
+        id :o "seconds" $
+        msec "milliseconds"
+          id :o "milliseconds" $
+      learn "learn the timer from the master" $
+    authentication :n "authentication"
+      text "plain text string"
+        word :o "string" $
+      md5 "md5 authentication"
+        key-string "key string"
+          id "encryption type"
+            line * :o
+          line * :o
+        key-chain "key chain"
+          word :o "key chain name" $
+    track "track an object"
+      id :k "tracked object number" $
+        decrement "priority decrement"
+          id :o "decrement" $
+    shutdown "disable the group" $
+    name "redundancy name"
+      word :o $
+    address-family "address family"
+      line *
     line *
 glbp "glbp configuration"
   id :k
@@ -457,7 +498,17 @@ logging "configure logging for interface"
     link-status $
     line *
 storm-control "storm configuration"
-  line *
+  broadcast "broadcast traffic"
+    %STORMLEVEL
+  multicast "multicast traffic"
+    %STORMLEVEL
+  unicast "unicast traffic"
+    %STORMLEVEL
+  action "action on a storm"
+    shutdown "shut down the port" $
+    trap "send an snmp trap" $
+    level "shut down at a level"
+      line *
 srr-queue "shaped round robin transmit queues"
   bandwidth "srr bandwidth"
     share "shared mode weights"

@@ -285,9 +285,9 @@ vlan "vlan commands"
       native $
 spanning-tree "spanning tree subsystem"
   mode
-    pvst $ :o
-    rapid-pvst $ :o
-    mst $ :o
+    pvst $ :-k/o
+    rapid-pvst $ :-k/o
+    mst $ :-k/o
   extend
     system-id $
   portfast
