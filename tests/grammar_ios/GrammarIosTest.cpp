@@ -180,6 +180,27 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"gatekeeper\n zone local GK1 example.com 10.0.0.1\n zone prefix GK1 408*\n gw-type-prefix 1#* default-technology\n"
        " no shutdown\nzone security INSIDE\nhostname R1\n",
        {0, 1, 1, 1, 1, 0, 0}},
+      // A subscriber control policy is three levels deep; a new class leaves
+      // the actions, a new event leaves the classes.
+      {"policy-map type control subscriber P\n event session-started match-all\n  10 class always do-until-failure\n"
+       "   10 authenticate using dot1x priority 10\n  20 class C do-all\n   10 terminate mab\n"
+       " event agent-found match-all\n  10 class always do-until-failure\n   20 authorize\nvlan 10\n",
+       {0, 1, 2, 3, 2, 3, 1, 2, 3, 0}},
+      // The archive settings after the configuration log return to the archive.
+      {"archive\n log config\n  logging enable\n  hidekeys\n path flash:arch\n maximum 14\n", {0, 1, 2, 2, 1, 1}},
+      {"flow record R\n match ipv4 source address\n collect counter bytes long\nflow exporter E\n destination 10.0.0.1\n"
+       " transport udp 2055\nflow monitor M\n exporter E\n record R\n",
+       {0, 1, 1, 0, 1, 1, 0, 1, 1}},
+      {"time-range WORK\n periodic weekdays 8:00 to 18:00\nmpls ldp label\n allocate global host-routes\n", {0, 1, 0, 1}},
+      // Global lines after an interface or an IGP process are no commands of
+      // those modes, whatever their first words share with them.
+      {"interface GigabitEthernet1/0/5\n ip arp inspection trust\n ip dhcp snooping trust\n udld port aggressive\n"
+       "router ospf 1\n mpls ldp sync\nmpls ldp router-id Loopback0 force\ninterface Tunnel6\n ipv6 router isis\n"
+       "ipv6 router ospf 10\n router-id 10.0.0.1\n",
+       {0, 1, 1, 1, 0, 1, 0, 0, 1, 0, 1}},
+      {"template ACCESS\n switchport mode access\n spanning-tree portfast\nmonitor session 1 source vlan 300 rx\n"
+       "spanning-tree mst 0-1 priority 4096\n",
+       {0, 1, 1, 0, 0}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -468,6 +489,48 @@ TEST_F(GrammarIos, MergingOneLineIntoTheCorpusLosesNoCommand) {
   EXPECT_EQ(lost, "") << "commands that a merge of one line dropped";
 }
 
+// Configurations written as devices print them, none of them taken from the
+// corpus: the grammar must read commands as the device defines them, not as
+// the corpus happens to spell them. Each file is read without a refused line,
+// no line written at the left margin is taken inside a mode, and no indented
+// line falls back to the top level.
+TEST_F(GrammarIos, HeldOutConfigurationsAreReadWholly) {
+  namespace fs = std::filesystem;
+  const fs::path folder = fs::path(VTYCONF_TEST_DATA_DIR) / "grammar_ios" / "heldout";
+  size_t files = 0;
+  std::string problems;
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    if (entry.path().extension() != ".cfg") continue;
+    ++files;
+    std::ifstream in(entry.path(), std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    const std::string text = buffer.str();
+    const std::string name = entry.path().filename().string();
+    std::vector<std::string> refused;
+    std::vector<CiscoCommandLine*> records = read(text, &refused);
+    for (const std::string& line : refused) problems += name + ": refused: " + firstLine(line) + "\n";
+    const std::vector<bool> banner = bannerText(text);
+    std::istringstream lines(text);
+    std::string line;
+    size_t index = 0;
+    while (std::getline(lines, line) && index < records.size()) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      if (line.empty()) continue;
+      const size_t at = index++;
+      const size_t lead = line.find_first_not_of(' ');
+      if ((at < banner.size() && banner[at]) || lead == std::string::npos || line[lead] == '!') continue;
+      if (line.find("^C") != std::string::npos) continue;
+      const int level = records[at]->getLevel();
+      if (lead == 0 && level != 0) problems += name + ": taken inside a mode: " + line + "\n";
+      if (lead > 0 && level == 0) problems += name + ": fell to the top level: " + line + "\n";
+    }
+    QxParserUtil::deleteCommands(records);
+  }
+  EXPECT_GE(files, 6u) << "held-out configurations in " << folder;
+  EXPECT_EQ(problems, "");
+}
+
 // What a merge and a rollback make of small real-world changes: the flags,
 // order templates and overwrite marks of the shipped grammar decide this.
 struct MeaningCase {
@@ -584,6 +647,51 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "track 1 ip sla 1 reachability\n delay up 10\n",
        "track 1 ip sla 1 reachability \n delay up 10 \n!\n",
        "track 1 ip sla 1 reachability \n delay down 5 up 5 \n!\n"},
+      {"a new standby priority replaces the old one, and its no form removes it",
+       "interface Vlan10\n standby 10 ip 10.0.0.1\n standby 10 priority 110\n standby 20 priority 100\n",
+       "interface Vlan10\n standby 10 priority 90\n no standby 20 priority\n",
+       "interface vlan 10 \n standby 10 ip 10.0.0.1 \n standby 10 priority 90 \n!\n",
+       "interface vlan 10 \n standby 10 priority 110 \n standby 20 priority 100 \n!\n"},
+      {"a vrrp priority replaces the old one",
+       "interface Vlan20\n vrrp 20 ip 10.0.0.1\n vrrp 20 priority 120\n",
+       "interface Vlan20\n vrrp 20 priority 100\n",
+       "interface vlan 20 \n vrrp 20 ip 10.0.0.1 \n vrrp 20 priority 100 \n!\n",
+       "interface vlan 20 \n vrrp 20 priority 120 \n!\n"},
+      {"no switchport port-security maximum removes the maximum and leaves the rest",
+       "interface GigabitEthernet1/0/1\n switchport port-security maximum 3\n switchport port-security violation restrict\n"
+       " switchport port-security\n",
+       "interface GigabitEthernet1/0/1\n no switchport port-security maximum\n",
+       "interface gigabitethernet 1/0/1 \n switchport port-security violation restrict \n switchport port-security \n!\n",
+       "interface gigabitethernet 1/0/1 \n switchport port-security maximum 3 \n!\n"},
+      {"a port-security violation mode and a storm-control level are one value each",
+       "interface GigabitEthernet1/0/1\n switchport port-security violation restrict\n storm-control broadcast level 1.00\n"
+       " storm-control multicast level 5.00\n",
+       "interface GigabitEthernet1/0/1\n switchport port-security violation shutdown\n storm-control broadcast level 2.00 1.00\n",
+       "interface gigabitethernet 1/0/1 \n switchport port-security violation shutdown \n"
+       " storm-control broadcast level 2.00 1.00 \n storm-control multicast level 5.00 \n!\n",
+       "interface gigabitethernet 1/0/1 \n switchport port-security violation restrict \n"
+       " storm-control broadcast level 1.00 \n!\n"},
+      {"a vtp or spanning-tree mode replaces the old mode",
+       "vtp domain A\nvtp mode server\nspanning-tree mode rapid-pvst\n",
+       "vtp mode transparent\nspanning-tree mode mst\n",
+       "vtp domain A \nvtp mode transparent \nspanning-tree mode mst \n",
+       "vtp mode server \nspanning-tree mode rapid-pvst \n"},
+      {"error-disable causes stand side by side, the recovery interval is one value",
+       "errdisable recovery cause bpduguard\nerrdisable recovery interval 300\n",
+       "errdisable recovery cause psecure-violation\nerrdisable recovery interval 60\n",
+       "errdisable recovery cause bpduguard \nerrdisable recovery interval 60 \n"
+       "errdisable recovery cause psecure-violation \n",
+       "no errdisable recovery cause psecure-violation \nerrdisable recovery interval 300 \n"},
+      {"no of an ipv6 route through an interface leaves the route through an address",
+       "ipv6 route ::/0 GigabitEthernet0/0 FE80::1\nipv6 route ::/0 2001:DB8::1 200\n",
+       "no ipv6 route ::/0 GigabitEthernet0/0 FE80::1\n",
+       "ipv6 route ::/0 2001:DB8::1 200 \n",
+       "ipv6 route ::/0 GigabitEthernet0/0 FE80::1 \n"},
+      {"a flow exporter holds one destination and one transport",
+       "flow exporter E\n destination 10.0.0.1\n transport udp 2055\n",
+       "flow exporter E\n destination 10.0.0.2\n transport udp 9995\n",
+       "flow exporter E \n destination 10.0.0.2 \n transport udp 9995 \n!\n",
+       "flow exporter E \n destination 10.0.0.1 \n transport udp 2055 \n!\n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
