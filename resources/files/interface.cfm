@@ -221,6 +221,12 @@ switchport|set switching mode characteristics|k||
         <cr>||||
         !
       !
+      name|vlan name|k||
+        word|vlan name|o||
+          <cr>||||
+          !
+        !
+      !
     !
   !
   voice|voice|k||
@@ -2720,6 +2726,22 @@ medium|interface medium|k||
     !
   !
   broadcast|broadcast|k||
+    <cr>||||
+    !
+  !
+!
+tx-ring-limit|transmit ring size|k||
+  id|packets|o||
+    <cr>||||
+    !
+  !
+!
+autostate|vlan interface state follows its ports|k/sn||
+  <cr>||||
+  !
+!
+mac-address|manually set the interface mac address|k||
+  h.h.h|mac address|o||
     <cr>||||
     !
   !

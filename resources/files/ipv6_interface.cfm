@@ -216,9 +216,21 @@ ospf|ospf|k||
       id|id|k||
         <cr>||||
         !
+        instance|instance id|k||
+          id|instance|o||
+            <cr>||||
+            !
+          !
+        !
       !
       a.b.c.d|a.b.c.d|k||
         <cr>||||
+        !
+        instance|instance id|k||
+          id|instance|o||
+            <cr>||||
+            !
+          !
         !
       !
     !

@@ -33,7 +33,7 @@ af-interface|af-interface|k||
   !
   &interfacefile.cfm|interface type|k||
     <number>|interface number|k||
-      <cr>||||
+      <cr>||||@(config-router-af-interface)# router_eigrp_afif.cfm
       !
     !
   !

@@ -69,6 +69,8 @@ switchport "set switching mode characteristics" $ :sn
   access
     vlan
       id :o $
+      name "vlan name"
+        word :o "vlan name" $
   voice
     vlan
       id :o $
@@ -841,3 +843,8 @@ routing "routing on the interface"
 medium "interface medium"
   p2p $
   broadcast $
+tx-ring-limit "transmit ring size"
+  id :o "packets" $
+autostate "vlan interface state follows its ports" $ :sn
+mac-address "manually set the interface mac address"
+  h.h.h :o "mac address" $

@@ -406,7 +406,11 @@ ospf
   id :k
     area
       id :k $
+        instance "instance id"
+          id :o "instance" $
       a.b.c.d :k $
+        instance "instance id"
+          id :o "instance" $
   cost
     id $
   network

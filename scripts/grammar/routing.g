@@ -552,7 +552,8 @@ eigrp
     line *
 af-interface @(config-router-af-interface)#=router_eigrp_afif.cfm
   default @(config-router-af-interface)#=router_eigrp_afif.cfm
-  %IF @(config-router-af-interface)#=router_eigrp_afif.cfm
+  &interfacefile.cfm "interface type"
+    <number> :k "interface number" @(config-router-af-interface)#=router_eigrp_afif.cfm
 topology
   base @(config-router-af-topology)#=router_eigrp_topo.cfm
   word @(config-router-af-topology)#=router_eigrp_topo.cfm
