@@ -676,11 +676,11 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "vtp mode transparent\nspanning-tree mode mst\n",
        "vtp domain A \nvtp mode transparent \nspanning-tree mode mst \n",
        "vtp mode server \nspanning-tree mode rapid-pvst \n"},
-      {"error-disable causes stand side by side, the recovery interval is one value",
+      {"error-disable causes stand side by side in front of the recovery interval, which is one value",
        "errdisable recovery cause bpduguard\nerrdisable recovery interval 300\n",
        "errdisable recovery cause psecure-violation\nerrdisable recovery interval 60\n",
-       "errdisable recovery cause bpduguard \nerrdisable recovery interval 60 \n"
-       "errdisable recovery cause psecure-violation \n",
+       "errdisable recovery cause bpduguard \nerrdisable recovery cause psecure-violation \n"
+       "errdisable recovery interval 60 \n",
        "no errdisable recovery cause psecure-violation \nerrdisable recovery interval 300 \n"},
       {"no of an ipv6 route through an interface leaves the route through an address",
        "ipv6 route ::/0 GigabitEthernet0/0 FE80::1\nipv6 route ::/0 2001:DB8::1 200\n",
