@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "main.h"
-#include "support/TestResources.h"
+#include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
 using qxparser::QxParserUtil;
@@ -11,15 +11,10 @@ using qxparser::VTY;
 
 namespace {
 
-class ConsoleLoopTest : public ::testing::Test {
+class ConsoleLoopTest : public testsupport::TerminalFixture {
  protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::fixtureResources("terminal"));
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
   void SetUp() override {
-    vty_ = std::make_unique<VTY>("R1", true);
+    TerminalFixture::SetUp();
     editor_ = std::make_unique<GetLineData>();
     first_ = vtysh_console_init(vty_.get(), editor_.get(), 80, "-");
   }
@@ -34,7 +29,6 @@ class ConsoleLoopTest : public ::testing::Test {
     }
     return shown;
   }
-  std::unique_ptr<VTY> vty_;
   std::unique_ptr<GetLineData> editor_;
   std::string delta_;
   std::string first_;

@@ -6,19 +6,14 @@
 
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
-#include "support/TestResources.h"
+#include "support/TerminalFixture.h"
 
 using namespace qxparser;
 
 namespace {
 
-class VTYTest : public ::testing::Test {
+class VTYTest : public testsupport::TerminalFixture {
  protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::fixtureResources("terminal"));
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
 
   static std::string prompt(const VTY& vty) {
     std::string p;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/TestFiles.h"
 #include "translator/DRTranslator.h"
 
 // Befriended by DRTranslator.
@@ -38,8 +39,8 @@ std::string head();
 std::string closeLine();
 // The runtime text as it lies in the resource folder in use.
 std::string runtimeText();
-std::string readFile(const std::string& path);
-void writeFile(const std::string& path, const std::string& text);
+using testsupport::readFile;
+using testsupport::writeFile;
 std::string tempPath(const std::string& name);
 
 struct Translation {
