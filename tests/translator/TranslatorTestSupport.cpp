@@ -100,4 +100,13 @@ std::string validBody(const std::string& script, bool perlMustAccept) {
   return t.body;
 }
 
+void expectMessages(const std::vector<MessageRow>& rows) {
+  for (const MessageRow& row : rows) {
+    Translation t = translate(row.script);
+    EXPECT_EQ(t.message, row.message) << row.script;
+    EXPECT_TRUE(t.wellFormed) << row.script;
+    EXPECT_EQ(t.body, "") << row.script;
+  }
+}
+
 }  // namespace translatortest

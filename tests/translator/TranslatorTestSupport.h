@@ -61,4 +61,12 @@ std::string perlCompile(const std::string& program, bool* skipped);
 // perl unless told not to, and return the body.
 std::string validBody(const std::string& script, bool perlMustAccept = true);
 
+// Each {script, message} row translates to exactly that message and, like a
+// failed translation does, to the same file as an empty script.
+struct MessageRow {
+  std::string script;
+  std::string message;
+};
+void expectMessages(const std::vector<MessageRow>& rows);
+
 }  // namespace translatortest
