@@ -6,7 +6,6 @@
 #include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
-using qxparser::QxParserUtil;
 using qxparser::VTY;
 
 namespace {
@@ -196,29 +195,24 @@ TEST_F(ConsoleLoopTest, OverflowShowsTheErrorAndKeepsTheLine) {
   EXPECT_EQ(vty_->currentMode(), qxparser::EXEC_MODE);
 }
 
-TEST(ConsolePromptTest, HostNameAndSuffixWithinTheBuffer) {
-  testsupport::useResources(testsupport::fixtureResources("terminal"));
-  QxParserUtil::createNewParserResource();
-  {
-    VTY plain("R7", true);
-    EXPECT_STREQ(vtysh_prompt(&plain), "R7>");
-    VTY longName(std::string(2000, 'h'), true);
-    EXPECT_EQ(std::string(vtysh_prompt(&longName)), std::string(1023, 'h')) << "at most 1023 characters";
-    EXPECT_STREQ(vtysh_prompt(nullptr), "");
+TEST_F(ConsoleLoopTest, PromptHoldsHostNameAndSuffixWithinTheBuffer) {
+  VTY plain("R7", true);
+  EXPECT_STREQ(vtysh_prompt(&plain), "R7>");
+  VTY longName(std::string(2000, 'h'), true);
+  EXPECT_EQ(std::string(vtysh_prompt(&longName)), std::string(1023, 'h')) << "at most 1023 characters";
+  EXPECT_STREQ(vtysh_prompt(nullptr), "");
 
-    VTY banner("R7", true);
-    banner.parse("enable", true, nullptr);
-    banner.parse("configure terminal", true, nullptr);
-    banner.parse("banner motd ^C", true, nullptr);
-    EXPECT_STREQ(vtysh_prompt(&banner), "(config)#") << "no host name while a banner is open";
+  VTY banner("R7", true);
+  banner.parse("enable", true, nullptr);
+  banner.parse("configure terminal", true, nullptr);
+  banner.parse("banner motd ^C", true, nullptr);
+  EXPECT_STREQ(vtysh_prompt(&banner), "(config)#") << "no host name while a banner is open";
 
-    GetLineData editor;
-    editor.Gl_setconsole(1);
-    char key[2] = {'x', '\0'};
-    editor.vtysh_rl_gets(key, &plain);
-    EXPECT_STREQ(editor.getPrompt(), "R7>") << "one key takes the terminal's prompt";
-  }
-  QxParserUtil::destroyParserResource();
+  GetLineData editor;
+  editor.Gl_setconsole(1);
+  char key[2] = {'x', '\0'};
+  editor.vtysh_rl_gets(key, &plain);
+  EXPECT_STREQ(editor.getPrompt(), "R7>") << "one key takes the terminal's prompt";
 }
 
 }  // namespace
