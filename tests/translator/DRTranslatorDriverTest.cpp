@@ -93,16 +93,6 @@ TEST(DRTranslatorDriver, UnwritableProgramPathWritesNothing) {
   EXPECT_FALSE(Pathname(program).exists());
 }
 
-TEST(DRTranslatorDriver, CopiesAndAssignmentKeepTheScript) {
-  DRTranslator original("#a = #b + #c;", tempPath("copy-a.pl"));
-  DRTranslator copy(original);
-  copy.translateScriptFile();
-  original.translateScriptFile();
-  EXPECT_EQ(readFile(tempPath("copy-a.pl")), head() +
-                                                 "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@a = @temp1;" +
-                                                 closeLine() + runtimeText());
-}
-
 TEST(DRTranslatorDriver, SampleNotesTranslateToProgramsPerlAccepts) {
   if (QXFileSystem::GetPerlExepath().empty()) GTEST_SKIP() << "perl is not installed";
   std::string folder = std::string(VTYCONF_TEST_DATA_DIR) + "/translator";
