@@ -3,17 +3,14 @@
 // library's own answer for the same texts, so that the program adds nothing
 // and loses nothing on the way.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "config/QxParserUtil.h"
 #include "grammar/DefinitionLoader.h"
 #include "platform/QXFileSystem.h"
+#include "support/CliRun.h"
 
 namespace {
 
@@ -49,12 +46,7 @@ struct Outcome {
   std::string err;
 };
 
-std::string slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream buffer;
-  buffer << in.rdbuf();
-  return buffer.str();
-}
+using testsupport::readFile;
 
 class ConfigCommandsTest : public ::testing::Test {
  protected:
@@ -74,24 +66,13 @@ class ConfigCommandsTest : public ::testing::Test {
   static std::string resources() { return std::string(VTYCONF_SOURCE_DIR) + "/resources/"; }
 
   std::string file(const std::string& name, const std::string& text) {
-    const std::string path = QXFileSystem::GetTempFolder() + "vtyconf_cli_" + name;
-    std::ofstream(path, std::ios::binary) << text;
-    return path;
+    return testsupport::tempFile("vtyconf_cli_" + name, text);
   }
 
   // Runs vtyconf with `args`, standard input from `input`.
   Outcome run(const std::string& args, const std::string& input = "") {
-    const std::string in = file("stdin", input);
-    const std::string out = QXFileSystem::GetTempFolder() + "vtyconf_cli_stdout";
-    const std::string err = QXFileSystem::GetTempFolder() + "vtyconf_cli_stderr";
-    const std::string command = std::string("'") + VTYCONF_CLI_PATH + "' --resources '" + resources() + "' " + args +
-                                " < '" + in + "' > '" + out + "' 2> '" + err + "'";
-    Outcome result;
-    const int raw = std::system(command.c_str());
-    result.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-    result.out = slurp(out);
-    result.err = slurp(err);
-    return result;
+    const testsupport::CliRun r = testsupport::runCli("--resources '" + resources() + "' " + args, input);
+    return Outcome{r.exitCode, r.out, r.err};
   }
 };
 
@@ -122,7 +103,7 @@ TEST_F(ConfigCommandsTest, MergeWritesTheLibraryResultFromFilesStdinAndToAFile) 
   const Outcome written = run("merge '" + changes + "' '" + config + "' -o '" + target + "'");
   EXPECT_EQ(written.status, 0);
   EXPECT_EQ(written.out, "");
-  EXPECT_EQ(slurp(target), expected);
+  EXPECT_EQ(readFile(target), expected);
 }
 
 TEST_F(ConfigCommandsTest, FallbackInBothModes) {
@@ -136,9 +117,9 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
   const std::vector<Row> rows = {
       {"fallback --delta '" + changes + "' '" + config + "'", QxParserUtil::fallbackConfigCmds(kChanges, kConfig, 0)},
       {"fallback --file '" + config + "' '" + intended + "'",
-       QxParserUtil::fallbackConfigCmds(kConfig, slurp(intended), 1)},
+       QxParserUtil::fallbackConfigCmds(kConfig, readFile(intended), 1)},
       // File mode is the default.
-      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmds(kConfig, slurp(intended), 1)},
+      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmds(kConfig, readFile(intended), 1)},
   };
   for (const Row& row : rows) {
     ASSERT_FALSE(row.expected.empty()) << row.args;

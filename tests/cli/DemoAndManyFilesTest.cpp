@@ -1,20 +1,17 @@
 // The demo on the bundled examples, and subcommands given many files.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 
 #include "support/CliRun.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using testsupport::runCli;
 
 class ManyFilesProgramTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (std::string(VTYCONF_CLI_PATH).empty() || !fs::exists(VTYCONF_CLI_PATH))
-      GTEST_SKIP() << "the vtyconf program was not built";
+    if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   }
   const std::string kExamples = std::string(VTYCONF_SOURCE_DIR) + "/examples";
 };

@@ -2,23 +2,20 @@
 // hint subcommands of the vtyconf program.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
 #include "platform/Pathname.h"
-#include "support/TestResources.h"
+#include "support/CliRun.h"
+#include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
 using namespace qxparser;
 
 namespace {
 
-const std::string kCli = VTYCONF_CLI_PATH;
 const std::string kFixture = testsupport::fixtureResources("terminal");
 const std::string kShipped = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 
@@ -32,17 +29,8 @@ const char kSample[] =
     " address-family ipv4\n"
     "  network 10.1.0.0\n";
 
-std::string tempFile(const std::string& name, const std::string& text) {
-  std::string path = QXFileSystem::GetTempFolder() + name;
-  std::ofstream(path, std::ios::binary) << text;
-  return path;
-}
-
-std::string readAll(const std::string& path) {
-  std::stringstream s;
-  s << std::ifstream(path, std::ios::binary).rdbuf();
-  return s.str();
-}
+using testsupport::readFile;
+using testsupport::tempFile;
 
 // Reads `text` on a terminal brought into configuration mode as the reader's.
 std::string dumpOf(VTY& vty, const std::string& text) {
@@ -60,14 +48,7 @@ std::string dumpOf(VTY& vty, const std::string& text) {
   return out + "errorLine=" + std::to_string(errorLine) + " " + errorText + "\n";
 }
 
-class CommandDumpTest : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(kFixture);
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
-};
+using CommandDumpTest = testsupport::TerminalFixture;
 
 TEST_F(CommandDumpTest, WholeConfigurationWithChildrenIndentedByLevel) {
   std::vector<CiscoCommandLine*> records;
@@ -141,8 +122,8 @@ TEST(ShippedGrammarReuseTest, CorpusConfigurationsReadAlikeOnAReusedTerminal) {
   if (files.size() < 2) GTEST_SKIP() << "fewer than two configurations in " << corpus;
   testsupport::useResources(kShipped);
   QxParserUtil::createNewParserResource();
-  const std::string one = readAll(files[0]);
-  const std::string two = readAll(files[1]);
+  const std::string one = readFile(files[0]);
+  const std::string two = readFile(files[1]);
   VTY fresh("hostName", false);
   const std::string expected = dumpOf(fresh, two);
   VTY reused("hostName", false);
@@ -154,28 +135,13 @@ TEST(ShippedGrammarReuseTest, CorpusConfigurationsReadAlikeOnAReusedTerminal) {
 
 // ------------------------------------------------------------ the program
 
-struct ProgramRun {
-  int exitCode = -1;
-  std::string out;
-  std::string err;
-};
-
-ProgramRun runCli(const std::string& arguments) {
-  std::string dir = QXFileSystem::GetTempFolder();
-  std::string out = dir + "cli-out.txt", err = dir + "cli-err.txt";
-  std::string command = "'" + kCli + "' " + arguments + " >'" + out + "' 2>'" + err + "' </dev/null";
-  int status = std::system(command.c_str());
-  ProgramRun run;
-  run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  run.out = readAll(out);
-  run.err = readAll(err);
-  return run;
-}
+using ProgramRun = testsupport::CliRun;
+using testsupport::runCli;
 
 class ProgramTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (kCli.empty() || !Pathname(kCli).exists()) GTEST_SKIP() << "the vtyconf program was not built";
+    if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   }
 };
 

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +12,7 @@
 #include "config/QxParserUtil.h"
 #include "grammar/DefinitionLoader.h"
 #include "platform/QXFileSystem.h"
+#include "support/TestFiles.h"
 
 namespace qxparser {
 
@@ -62,10 +61,7 @@ class ConfigFixture : public ::testing::Test {
 
   // Writes a configuration file for a search and returns its path.
   std::string writeConfig(const std::string& name, const std::string& text) {
-    const std::string path = QXFileSystem::GetTempFolder() + "configops_" + name;
-    std::ofstream out(path, std::ios::binary);
-    out << text;
-    return path;
+    return testsupport::tempFile("configops_" + name, text);
   }
 };
 

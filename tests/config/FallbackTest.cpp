@@ -95,10 +95,7 @@ TEST_F(FallbackTest, CreateNoCommandAddsOrCutsThePrefix) {
 TEST_F(FallbackTest, RemoveInterfaceLeavesTheFileAlone) {
   const std::string path = writeConfig("remove.cfg", "interface loopback 0\n description a\n");
   EXPECT_TRUE(QxParserUtil::removeInterfaceFromConfigFile(path, "loopback 0"));
-  std::ifstream in(path);
-  std::stringstream text;
-  text << in.rdbuf();
-  EXPECT_EQ(text.str(), "interface loopback 0\n description a\n");
+  EXPECT_EQ(testsupport::readFile(path), "interface loopback 0\n description a\n");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Searches of a configuration file and the queries built on them.
+#include <functional>
 #include <list>
 #include <string>
 
@@ -113,36 +114,40 @@ TEST_F(SearchTest, BannerOfTwoWordsKeepsNulDelimiterAndDropsTheRestIntended) {
 }
 
 TEST_F(SearchTest, Queries) {
+  using G = QXParserGetConfig;
+  const std::string& p = mPath;
+  const std::string ospf = "router ospf 1\n   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n";
+  const struct {
+    const char* name;
+    std::function<void(std::string&)> query;
+    std::string expected;
+  } rows[] = {
+      {"vrf body", [&](std::string& o) { G::GetVrfCmds(p, 0, "ip vrf red", o); }, "   rd 1:1\n"},
+      {"protocols", [&](std::string& o) { G::GetRoutingProtocols(p, 0, o); }, "router ospf 1\n"},
+      {"protocol", [&](std::string& o) { G::GetRoutingProtocolConfig(p, 0, "router ospf 1", o); }, ospf},
+      {"no head line without a section",
+       [&](std::string& o) { G::GetRoutingProtocolConfig(p, 0, "router ospf 2", o); }, ""},
+      {"protocols by list",
+       [&](std::string& o) {
+         G::GetRoutingProtocolConfig(p, 0, std::vector<std::string>{"router ospf 2", "router ospf 1"}, o);
+       },
+       ospf},
+      {"interface", [&](std::string& o) { G::getInterfaceConfig(p, 0, "Loopback 0", o); }, kLoopback},
+      {"nat", [&](std::string& o) { G::getIpNatConfig(p, 0, "ip nat pool p1", o); }, "ip nat pool p1 \n"},
+      {"route map", [&](std::string& o) { G::getRouteMapConfig(p, 0, "ip nat pool p1", o); }, "ip nat pool p1 \n"},
+      {"acl", [&](std::string& o) { G::getAclConfig(p, 0, "access-list 10", o); },
+       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n"},
+  };
+  for (const auto& row : rows) {
+    std::string out;
+    row.query(out);
+    EXPECT_EQ(out, row.expected) << row.name;
+  }
   std::string out = "earlier";
-  QXParserGetConfig::GetAllVrfs(mPath, 0, out);
-  EXPECT_EQ(out, "ip vrf red\n");
-
-  out.clear();
-  QXParserGetConfig::GetVrfCmds(mPath, 0, "ip vrf red", out);
-  EXPECT_EQ(out, "   rd 1:1\n");
-
-  out.clear();
-  QXParserGetConfig::GetRoutingProtocols(mPath, 0, out);
-  EXPECT_EQ(out, "router ospf 1\n");
-
-  out.clear();
-  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, "router ospf 1", out);
-  EXPECT_EQ(out, "router ospf 1\n   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n");
-
-  out.clear();
-  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, "router ospf 2", out);
-  EXPECT_EQ(out, "") << "no head line without a section";
-
-  out.clear();
-  QXParserGetConfig::GetRoutingProtocolConfig(mPath, 0, std::vector<std::string>{"router ospf 2", "router ospf 1"},
-                                              out);
-  EXPECT_EQ(out, "router ospf 1\n   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n");
-
-  out.clear();
-  QXParserGetConfig::getInterfaceConfig(mPath, 0, "Loopback 0", out);
-  EXPECT_EQ(out, kLoopback);
+  G::GetAllVrfs(p, 0, out);
+  EXPECT_EQ(out, "ip vrf red\n") << "the answer replaces what was there";
   out = "kept";
-  QXParserGetConfig::getInterfaceConfig(mPath + ".missing", 0, "", out);
+  G::getInterfaceConfig(mPath + ".missing", 0, "", out);
   EXPECT_EQ(out, "kept");
 
   std::vector<std::string> sections;
@@ -150,17 +155,6 @@ TEST_F(SearchTest, Queries) {
   ASSERT_EQ(sections.size(), 2u);
   EXPECT_EQ(sections[0], "interface gigabitethernet 0/1 \n   description gi\n");
   EXPECT_EQ(sections[1], kLoopback);
-
-  out.clear();
-  QXParserGetConfig::getIpNatConfig(mPath, 0, "ip nat pool p1", out);
-  EXPECT_EQ(out, "ip nat pool p1 \n");
-  out.clear();
-  QXParserGetConfig::getRouteMapConfig(mPath, 0, "ip nat pool p1", out);
-  EXPECT_EQ(out, "ip nat pool p1 \n");
-
-  out.clear();
-  QXParserGetConfig::getAclConfig(mPath, 0, "access-list 10", out);
-  EXPECT_EQ(out, "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n");
 
   std::list<std::string> acls;
   QXParserGetConfig::getAcls(mPath, 0, acls);

@@ -15,6 +15,7 @@
 #include "config/QxParserUtil.h"
 #include "grammar/DefinitionLoader.h"
 #include "platform/QXFileSystem.h"
+#include "support/TestFiles.h"
 
 namespace qxparser {
 
@@ -25,12 +26,7 @@ struct CorpusFile {
 
 inline std::string corpusFolder() { return std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/"; }
 
-inline std::string readWholeFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream buffer;
-  buffer << in.rdbuf();
-  return buffer.str();
-}
+inline std::string readWholeFile(const std::string& path) { return testsupport::readFile(path); }
 
 // The *.cfg files of the public corpus, by name; empty when it is absent.
 inline std::vector<CorpusFile> corpusFiles() {

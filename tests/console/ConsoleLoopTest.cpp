@@ -3,23 +3,17 @@
 #include <memory>
 
 #include "main.h"
-#include "support/TestResources.h"
+#include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
-using qxparser::QxParserUtil;
 using qxparser::VTY;
 
 namespace {
 
-class ConsoleLoopTest : public ::testing::Test {
+class ConsoleLoopTest : public testsupport::TerminalFixture {
  protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::fixtureResources("terminal"));
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
   void SetUp() override {
-    vty_ = std::make_unique<VTY>("R1", true);
+    TerminalFixture::SetUp();
     editor_ = std::make_unique<GetLineData>();
     first_ = vtysh_console_init(vty_.get(), editor_.get(), 80, "-");
   }
@@ -34,7 +28,6 @@ class ConsoleLoopTest : public ::testing::Test {
     }
     return shown;
   }
-  std::unique_ptr<VTY> vty_;
   std::unique_ptr<GetLineData> editor_;
   std::string delta_;
   std::string first_;
@@ -202,29 +195,24 @@ TEST_F(ConsoleLoopTest, OverflowShowsTheErrorAndKeepsTheLine) {
   EXPECT_EQ(vty_->currentMode(), qxparser::EXEC_MODE);
 }
 
-TEST(ConsolePromptTest, HostNameAndSuffixWithinTheBuffer) {
-  testsupport::useResources(testsupport::fixtureResources("terminal"));
-  QxParserUtil::createNewParserResource();
-  {
-    VTY plain("R7", true);
-    EXPECT_STREQ(vtysh_prompt(&plain), "R7>");
-    VTY longName(std::string(2000, 'h'), true);
-    EXPECT_EQ(std::string(vtysh_prompt(&longName)), std::string(1023, 'h')) << "at most 1023 characters";
-    EXPECT_STREQ(vtysh_prompt(nullptr), "");
+TEST_F(ConsoleLoopTest, PromptHoldsHostNameAndSuffixWithinTheBuffer) {
+  VTY plain("R7", true);
+  EXPECT_STREQ(vtysh_prompt(&plain), "R7>");
+  VTY longName(std::string(2000, 'h'), true);
+  EXPECT_EQ(std::string(vtysh_prompt(&longName)), std::string(1023, 'h')) << "at most 1023 characters";
+  EXPECT_STREQ(vtysh_prompt(nullptr), "");
 
-    VTY banner("R7", true);
-    banner.parse("enable", true, nullptr);
-    banner.parse("configure terminal", true, nullptr);
-    banner.parse("banner motd ^C", true, nullptr);
-    EXPECT_STREQ(vtysh_prompt(&banner), "(config)#") << "no host name while a banner is open";
+  VTY banner("R7", true);
+  banner.parse("enable", true, nullptr);
+  banner.parse("configure terminal", true, nullptr);
+  banner.parse("banner motd ^C", true, nullptr);
+  EXPECT_STREQ(vtysh_prompt(&banner), "(config)#") << "no host name while a banner is open";
 
-    GetLineData editor;
-    editor.Gl_setconsole(1);
-    char key[2] = {'x', '\0'};
-    editor.vtysh_rl_gets(key, &plain);
-    EXPECT_STREQ(editor.getPrompt(), "R7>") << "one key takes the terminal's prompt";
-  }
-  QxParserUtil::destroyParserResource();
+  GetLineData editor;
+  editor.Gl_setconsole(1);
+  char key[2] = {'x', '\0'};
+  editor.vtysh_rl_gets(key, &plain);
+  EXPECT_STREQ(editor.getPrompt(), "R7>") << "one key takes the terminal's prompt";
 }
 
 }  // namespace

@@ -11,12 +11,11 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 
-#include "platform/Pathname.h"
+#include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
+#include "support/CliRun.h"
 
 namespace {
 
@@ -25,7 +24,7 @@ const std::string kResources = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 // Only a guard against a hung program; no test depends on speed.
 constexpr int kPatienceMs = 30000;
 
-bool cliBuilt() { return !kCli.empty() && Pathname(kCli).exists(); }
+using testsupport::cliBuilt;
 
 class PtySession {
  public:
@@ -199,40 +198,26 @@ TEST(ConsoleProgramTest, NewTerminalWidthTakesEffectAtTheNextLine) {
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
 }
 
-// Runs the program with `input` on standard input; standard output and error.
-struct ProgramRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
-ProgramRun runScripted(const std::string& arguments, const std::string& input,
-                       const std::string& environment = "") {
-  std::string dir = QXFileSystem::GetTempFolder();
-  std::string in = dir + "console-in.txt", out = dir + "console-out.txt", err = dir + "console-err.txt";
-  std::ofstream(in, std::ios::binary) << input;
-  std::string command = environment + " '" + kCli + "' --resources '" + kResources + "' console " +
-                        arguments + " <'" + in + "' >'" + out + "' 2>'" + err + "'";
-  ProgramRun run;
-  run.status = std::system(command.c_str());
-  std::stringstream o, e;
-  o << std::ifstream(out, std::ios::binary).rdbuf();
-  e << std::ifstream(err, std::ios::binary).rdbuf();
-  run.out = o.str();
-  run.err = e.str();
+// Runs the console with `input` on standard input; `logLevel` sets VTYCONF_LOG
+// for that run.
+testsupport::CliRun runScripted(const std::string& arguments, const std::string& input,
+                                const std::string& logLevel = "") {
+  if (!logLevel.empty()) platform::setEnv("VTYCONF_LOG", logLevel);
+  testsupport::CliRun run = testsupport::runCli("--resources '" + kResources + "' console " + arguments, input);
+  if (!logLevel.empty()) ::unsetenv("VTYCONF_LOG");
   return run;
 }
 
 TEST(ConsoleProgramTest, StandardInputThatIsNoTerminalIsTypedLineByLine) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  ProgramRun run = runScripted("--hostname R3",
+  testsupport::CliRun run = runScripted("--hostname R3",
                                "enable\n"
                                "conf t\r\n"
                                "hostn\tR4\n"
                                "bogus\n"
                                "\x1b[A\n"
                                "end\n");
-  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_EQ(run.out.substr(0, 45), "R3>enable\nR3#conf t\nEnter configuration comma");
   EXPECT_NE(run.out.find("R3(config)#hostname R4\n"), std::string::npos) << run.out;
   size_t refused = run.out.find("R3(config)#bogus\n%");
@@ -246,13 +231,13 @@ TEST(ConsoleProgramTest, LibraryErrorOnALineIsShownAndTheSessionGoesOn) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   // A range value of only zeros raises the library's out-of-range error, on
   // a finished line as well as under "?".
-  ProgramRun run = runScripted("--hostname R6",
+  testsupport::CliRun run = runScripted("--hostname R6",
                                "enable\n"
                                "conf t\n"
                                "access-list 0 permit any\n"
                                "access-list 0 ?\x15"
                                "hostname R7\n");
-  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_NE(run.out.find(
                 "R6(config)#access-list 0 permit any\n% invalid string position\nR6(config)#access-list 0 ?\n"
                 "% invalid string position\nR6(config)#access-list 0 ?"),
@@ -263,10 +248,10 @@ TEST(ConsoleProgramTest, LibraryErrorOnALineIsShownAndTheSessionGoesOn) {
 
 TEST(ConsoleProgramTest, EveryKeyIsLoggedWhenTheLogIsOn) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  ProgramRun quiet = runScripted("", "enable\n");
+  testsupport::CliRun quiet = runScripted("", "enable\n");
   EXPECT_EQ(quiet.err, "");
-  ProgramRun logged = runScripted("", "enable\n", "VTYCONF_LOG=info");
-  EXPECT_EQ(logged.status, 0);
+  testsupport::CliRun logged = runScripted("", "enable\n", "info");
+  EXPECT_EQ(logged.exitCode, 0);
   EXPECT_NE(
       logged.err.find("EmulatedCLI backend\\libsrc\\getline\\main:80 parser_main: After Parser Main Buf e"),
       std::string::npos)
@@ -279,11 +264,9 @@ TEST(ConsoleProgramTest, HistoryFileCarriesLinesToTheNextSession) {
   std::string history = QXFileSystem::GetTempFolder() + "console-history.txt";
   std::remove(history.c_str());
   runScripted("--history '" + history + "'", "enable\nconf t\n");
-  std::stringstream kept;
-  kept << std::ifstream(history).rdbuf();
   // Each line is written with the line end it was typed with and one more.
-  EXPECT_EQ(kept.str(), "enable\n\nconf t\n\n");
-  ProgramRun next = runScripted("--history '" + history + "'", "\x1b[A\x1b[A\n");
+  EXPECT_EQ(testsupport::readFile(history), "enable\n\nconf t\n\n");
+  testsupport::CliRun next = runScripted("--history '" + history + "'", "\x1b[A\x1b[A\n");
   EXPECT_NE(next.out.find("Router#"), std::string::npos) << "enable was recalled and run: " << next.out;
 }
 

@@ -1,24 +1,14 @@
 // History ring, history file and incremental search of the line editor.
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "platform/QXFileSystem.h"
 #include "EditorFixture.h"
+#include "support/TestFiles.h"
 
 namespace editortest {
 namespace {
 
-namespace fs = std::filesystem;
-
-std::string readAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream ss;
-  ss << in.rdbuf();
-  return ss.str();
-}
+using testsupport::readFile;
 
 std::string numbered(int from, int to) {
   std::string text;
@@ -30,22 +20,16 @@ class HistoryTest : public EditorTest {
  protected:
   void SetUp() override {
     EditorTest::SetUp();
-    dir_ = fs::path(QXFileSystem::GetTempFolder()) /
-           ("editor-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
+    dir_ = testsupport::scratchFolder("editor-" +
+                                      std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     start();
-  }
-  void TearDown() override {
-    fs::remove_all(dir_);
-    EditorTest::TearDown();
   }
   void add(int from, int to) {
     for (int i = from; i <= to; i++) ed->Gl_histadd(("cmd " + std::to_string(i)).c_str());
   }
-  std::string file(const char* name) const { return (dir_ / name).string(); }
+  std::string file(const char* name) const { return dir_ + name; }
 
-  fs::path dir_;
+  std::string dir_;
 };
 
 TEST_F(HistoryTest, RingOfHundredKeepsNinetyNineLines) {
@@ -123,20 +107,20 @@ TEST_F(HistoryTest, DashKeepsNoFile) {
 TEST_F(HistoryTest, MissingFileIsCreatedAndLinesAreAppended) {
   const std::string path = file("history");
   ed->Gl_histinit(path.c_str());
-  EXPECT_TRUE(fs::exists(path));
+  EXPECT_TRUE(Pathname(path).exists());
   EXPECT_EQ(ed->getHistFileLines(), 1);
   add(1, 3);
-  EXPECT_EQ(readAll(path), numbered(1, 3));
+  EXPECT_EQ(readFile(path), numbered(1, 3));
   EXPECT_EQ(ed->getHistFileLines(), 4);
 }
 
 TEST_F(HistoryTest, FileIsLoadedIntoTheRingWithoutWritingItAgain) {
   const std::string path = file("history");
   const std::string text = "show a\nshow b\n\nshow c\n";
-  std::ofstream(path, std::ios::binary) << text;
+  testsupport::writeFile(path, text);
   ed->Gl_histinit(path.c_str());
   EXPECT_EQ(ed->getHistFileLines(), 5);  // four lines read, counted from 1
-  EXPECT_EQ(readAll(path), text);
+  EXPECT_EQ(readFile(path), text);
   EXPECT_STREQ(ed->hist_prev(), "show c");
   EXPECT_STREQ(ed->hist_prev(), "show b");
   EXPECT_STREQ(ed->hist_prev(), "show a");
@@ -147,9 +131,9 @@ TEST_F(HistoryTest, HundredthAdditionCutsTheFirstFortyLines) {
   ed->Gl_histinit(path.c_str());
   add(1, 99);
   EXPECT_EQ(ed->getHistFileLines(), 100);
-  EXPECT_EQ(readAll(path), numbered(1, 99));
+  EXPECT_EQ(readFile(path), numbered(1, 99));
   add(100, 100);
-  EXPECT_EQ(readAll(path), numbered(41, 100));
+  EXPECT_EQ(readFile(path), numbered(41, 100));
 }
 
 TEST_F(HistoryTest, CountStaysAtTwoAfterATrimIntended) {
@@ -160,9 +144,9 @@ TEST_F(HistoryTest, CountStaysAtTwoAfterATrimIntended) {
   EXPECT_EQ(ed->getHistFileLines(), 2);
   add(101, 198);
   EXPECT_EQ(ed->getHistFileLines(), 100);
-  EXPECT_EQ(readAll(path), numbered(41, 198));
+  EXPECT_EQ(readFile(path), numbered(41, 198));
   add(199, 199);
-  EXPECT_EQ(readAll(path), numbered(81, 199));
+  EXPECT_EQ(readFile(path), numbered(81, 199));
 }
 
 // ------------------------------------------------------------ search

@@ -2,6 +2,7 @@
 
 #include "grammar/DefinitionLoader.h"
 #include "grammar/NodeLookup.h"
+#include "grammar/NodePool.h"
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
 #include "support/TestResources.h"
@@ -14,6 +15,7 @@ namespace {
 class LoaderTest : public ::testing::Test {
  protected:
   ParserTreeNode* load(const std::map<std::string, std::string>& files, const std::string& top = "main.cfm") {
+    tree_.reset();  // the old tree goes before the tables it was loaded with
     testsupport::useResources(testsupport::writeResources("loader", files));
     loadKeyFiles();
     tree_ = std::make_unique<ParserTree>(top, true);
@@ -263,6 +265,60 @@ TEST_F(LoaderTest, ConflictListIsLowerCasedCommaList) {
   EXPECT_EQ(autoNode->mConflicts, (std::set<std::string>{"full", "half"}));
   EXPECT_TRUE(isConflicting(autoNode, "full"));
   EXPECT_FALSE(isConflicting(autoNode, "auto"));
+}
+
+// ------------------------------------------------------------ files the loader must survive
+
+// Levels still open at the end of a linked file end with it, so the lines of
+// the file that links it stay where they belong.
+TEST_F(LoaderTest, LevelsLeftOpenByALinkedFileEndWithIt) {
+  ParserTreeNode* root = load({{"main.cfm",
+                                "router|r|k||@router sub.cfm\n"
+                                "!\n"
+                                "hostname|h|k||\n"
+                                "!\n"},
+                               {"sub.cfm",
+                                "network|n|k||\n"
+                                "  area|a|k||\n"}});
+  ParserTreeNode* router = child(root, "router");
+  ASSERT_NE(router, nullptr);
+  EXPECT_NE(child(root, "hostname"), nullptr) << "the line after the link belongs to the top file's root";
+  EXPECT_EQ(child(router, "hostname"), nullptr);
+  EXPECT_NE(child(router, "network"), nullptr);
+  EXPECT_TRUE(tree_->mNodeStack.empty());
+}
+
+TEST_F(LoaderTest, TopFileWithOpenLevelsLeavesNoOpenNode) {
+  for (const char* text : {"a|h|k||\n", "a|h|k||\n  b|h|k||\n    c|h|k||\n", "a|h|k||\n!\nb|h|k||\n"}) {
+    ParserTreeNode* root = load({{"main.cfm", text}});
+    EXPECT_TRUE(tree_->mNodeStack.empty()) << text;
+    EXPECT_NE(child(root, "a"), nullptr) << text;
+  }
+}
+
+TEST_F(LoaderTest, LinksNamingAPathAreRefused) {
+  for (const char* text : {"a|h|k||@x ../../../../../../../../dev/zero\n!\n", "a|h|k||@x /dev/zero\n!\n",
+                           "a|h|k||&../files/main.cfm\n!\n", "a|h|k||&sub\\main.cfm\n!\n"}) {
+    try {
+      load({{"main.cfm", text}});
+      ADD_FAILURE() << "loaded: " << text;
+    } catch (const ParserException& e) {
+      EXPECT_NE(e.text().find("is not a file name of the definition folder"), std::string::npos) << e.text();
+      EXPECT_EQ(e.text().rfind("main.cfm:1: ", 0), 0u) << e.text();
+    }
+  }
+}
+
+TEST_F(LoaderTest, ReleasedPoolHandsOutFreshNodes) {
+  load({{"main.cfm", "a|h|k||\n!\n"}});
+  tree_.reset();
+  clearLoaderTables();
+  NodePool::releaseAll();
+  EXPECT_EQ(NodePool::used(), 0u);
+  ParserTreeNode* root = load({{"main.cfm", "b|h|k||\n!\n"}});
+  EXPECT_EQ(child(root, "a"), nullptr) << "a released node keeps nothing of its last use";
+  EXPECT_NE(child(root, "b"), nullptr);
+  EXPECT_EQ(NodePool::used(), 2u);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ namespace {
 class NoteCliTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (std::string(VTYCONF_CLI_PATH).empty()) GTEST_SKIP() << "the vtyconf program is not built";
+    if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program is not built";
     if (!notestest::havePerl()) GTEST_SKIP() << "no perl on PATH (or VTYCONF_PERL): notes cannot run";
   }
   std::string example(const std::string& name) { return notestest::examplesDir() + "/" + name; }

@@ -3,21 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 
 #include "platform/IpAddress.h"
 #include "platform/Pathname.h"
 #include "platform/PlatformOs.h"
 #include "platform/StlHelper.h"
+#include "support/TestFiles.h"
 
 namespace {
 
-std::string readAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream ss;
-  ss << in.rdbuf();
-  return ss.str();
-}
+using testsupport::readFile;
 
 TEST(QXFileSystemTest, SpawnedChildGetsHostileArgumentUnchanged) {
   std::string perl = QXFileSystem::GetPerlExepath();
@@ -27,7 +22,7 @@ TEST(QXFileSystemTest, SpawnedChildGetsHostileArgumentUnchanged) {
   int rc = QXFileSystem::ExecuteArgv(
       {perl, "-e", "open(my $f, '>', $ARGV[0]) or die; print $f $ARGV[1]; close $f", out, hostile});
   EXPECT_EQ(rc, 0);
-  EXPECT_EQ(readAll(out), hostile);
+  EXPECT_EQ(readFile(out), hostile);
   EXPECT_FALSE(Pathname("/tmp/pwned").exists());
 }
 
@@ -45,7 +40,7 @@ TEST(QXFileSystemTest, ExecuteCmdSplitsQuotedCommandLineWithoutShell) {
   // backslashes so that the closing quote is not escaped.
   std::string args = "\"" + script + "\" \"" + out + "\" \"conf; $(id).cfg\" \"\\\\\"";
   QXFileSystem::ExecuteCmd("\"" + perl + "\"", args);
-  EXPECT_EQ(readAll(out), "conf; $(id).cfg|\\");
+  EXPECT_EQ(readFile(out), "conf; $(id).cfg|\\");
 }
 
 TEST(QXFileSystemTest, SplitCommandLineFollowsQuoteAndBackslashRules) {

@@ -78,21 +78,13 @@ TEST_F(DRCheckTest, MessagesByteForByte) {
            "*Unclosed parenthesis at EOF: ) opened on line 3.\nSummary:\n1 too few 1 parentheses.\n"},
       {"string to end of text", "x \"abc",
        std::string("*Error: '\"' quoted string not ended by end of file.\n") + kPossible},
-  };
-  for (const Row& row : rows) {
-    SetUp();
-    EXPECT_EQ(check(row.text), row.expected) << row.name;
-  }
-}
-
-TEST_F(DRCheckTest, EndOfTextInsideCommentStringOrConstantEndsTheScan) {
-  const Row rows[] = {
-      {"comment", "x ( ! ({",
+      // The end of the text inside a comment, string or constant ends the scan.
+      {"end in comment", "x ( ! ({",
        "*Unclosed parenthesis at EOF: ) opened on line 1.\nSummary:\n1 too few 1 parentheses.\n"},
-      {"escape at end of string", "x \"ab\\",
+      {"end in escape of string", "x \"ab\\",
        std::string("*Error: '\"' quoted string not ended by end of file.\n") + kPossible},
-      {"constant", "x '\\", ""},
-      {"digit constant", "x '\\1", ""},
+      {"end in constant", "x '\\", ""},
+      {"end in digit constant", "x '\\1", ""},
       {"if at end", "x if", std::string("Bad if (no condition) line 1.\n") + kPossible},
       {"else at end", "x\nif (a == b) y;\nels", ""},
   };
@@ -120,26 +112,21 @@ TEST_F(DRCheckTest, LevelsPastTheStackReadAsEmptyWhenClosed) {
   EXPECT_NE(out.find("Summary:\n"), std::string::npos);
 }
 
-TEST_F(DRCheckTest, TenErrorsShowNineAndTheNotice) {
+// Ten errors show nine and the notice; the count carries over to the next
+// check, which then shows one less.
+TEST_F(DRCheckTest, CountCarriesOverToNextCheckIntended) {
   std::string text;
   for (int i = 0; i < 10; ++i) text += "}\n";
-  std::string expected;
-  for (int i = 1; i <= 9; ++i)
-    expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
-  expected += "Other error messages being suppressed.\nSummary:\n10 too few 0 braces.\n";
-  EXPECT_EQ(check(text), expected);
-}
-
-TEST_F(DRCheckTest, CountCarriesOverToNextCheckIntended) {
+  auto expected = [](int shown) {
+    std::string out;
+    for (int i = 1; i <= shown; ++i) out += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
+    return out + "Other error messages being suppressed.\nSummary:\n10 too few 0 braces.\n";
+  };
+  EXPECT_EQ(check(text), expected(9));
+  SetUp();
   EXPECT_NE(check("}"), "");
   EXPECT_EQ(drcheck_detail::errorCount(), 1);
-  std::string text;
-  for (int i = 0; i < 10; ++i) text += "}\n";
-  std::string expected;
-  for (int i = 1; i <= 8; ++i)
-    expected += "Muddle detected at unmatched closing } line " + std::to_string(i) + ".\n";
-  expected += "Other error messages being suppressed.\nSummary:\n10 too few 0 braces.\n";
-  EXPECT_EQ(check(text), expected);
+  EXPECT_EQ(check(text), expected(8));
   // A clean check leaves the count where it stood.
   EXPECT_EQ(check(""), "");
   EXPECT_EQ(drcheck_detail::errorCount(), 1);
@@ -172,10 +159,6 @@ TEST_F(DRCheckTest, UngetCharTurnsLineEndIntoBlankOnRequest) {
   EXPECT_EQ(c.getChar(), 'x');
   EXPECT_EQ(c.getChar(), 0);
 }
-
-}  // namespace
-
-namespace {
 
 // Texts made of the bytes the check reacts to, in random order: every read,
 // pushback and stack access must stay in bounds (the sanitizer build checks),

@@ -124,37 +124,36 @@ TEST(DRResultTreeTest, GetAllLinesKeepsFirstTextAndSkipsUnnumbered) {
 }
 
 TEST(SyntaxStringTest, BlocksSeparatorsAndCloseLines) {
-  auto tree = treeOf("1:::a !#tag_close#x#LineNumbers#1\n2:::b\nplain\n3:::c\n");
-  std::string text;
-  std::list<int> closeLines;
-  int counter = 0;
-  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
-  EXPECT_EQ(text, "a !x\r\nb\r\n!\r\nplain\r\n!\r\nc\r\n!\r\n");
-  EXPECT_EQ(closeLines, std::list<int>{1});
-  // The separator behind "plain" is not counted: the counter runs one behind.
-  EXPECT_EQ(counter, 6);
-}
-
-TEST(SyntaxStringTest, AddsToCallersTextAndCounter) {
-  auto tree = treeOf("4:::x\n5:::y !#tag_close##LineNumbers#0\n");
-  std::string text = "head\r\n";
-  std::list<int> closeLines{99};
-  int counter = 10;
-  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
-  EXPECT_EQ(text, "head\r\n!\r\nx\r\n!\r\ny\r\n!\r\n");
-  EXPECT_EQ(closeLines, (std::list<int>{99, 13}));
-  EXPECT_EQ(counter, 14);
-}
-
-TEST(SyntaxStringTest, ClosedTagBelowTopLevelIsNotNamed) {
-  auto tree = treeOf("1:::a !#tag#x#LineNumbers#2\n2:::b !#tag_close#y#LineNumbers#1\n3:::c\n");
-  std::string text;
-  std::list<int> closeLines;
-  int counter = 0;
-  EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter));
-  EXPECT_EQ(text, "a !x\r\nb !y\r\nc\r\n!\r\n");
-  EXPECT_TRUE(closeLines.empty());
-  EXPECT_EQ(counter, 4);
+  struct Row {
+    const char* name;
+    std::string file;
+    std::string textBefore;
+    std::list<int> closeBefore;
+    int counterBefore;
+    std::string text;
+    std::list<int> closeLines;
+    int counter;
+  };
+  const Row rows[] = {
+      // The separator behind "plain" is not counted: the counter runs one behind.
+      {"blocks and separators", "1:::a !#tag_close#x#LineNumbers#1\n2:::b\nplain\n3:::c\n", "", {}, 0,
+       "a !x\r\nb\r\n!\r\nplain\r\n!\r\nc\r\n!\r\n", {1}, 6},
+      {"adds to the caller's text and counter", "4:::x\n5:::y !#tag_close##LineNumbers#0\n", "head\r\n", {99}, 10,
+       "head\r\n!\r\nx\r\n!\r\ny\r\n!\r\n", {99, 13}, 14},
+      {"a closed tag below the top level is not named",
+       "1:::a !#tag#x#LineNumbers#2\n2:::b !#tag_close#y#LineNumbers#1\n3:::c\n", "", {}, 0,
+       "a !x\r\nb !y\r\nc\r\n!\r\n", {}, 4},
+  };
+  for (const Row& row : rows) {
+    auto tree = treeOf(row.file);
+    std::string text = row.textBefore;
+    std::list<int> closeLines = row.closeBefore;
+    int counter = row.counterBefore;
+    EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter)) << row.name;
+    EXPECT_EQ(text, row.text) << row.name;
+    EXPECT_EQ(closeLines, row.closeLines) << row.name;
+    EXPECT_EQ(counter, row.counter) << row.name;
+  }
 }
 
 TEST(SyntaxStringTest, NullTreeIsFalse) {

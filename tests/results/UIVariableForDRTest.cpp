@@ -20,9 +20,6 @@ TEST(UIVariableTypeTest, FileNames) {
                                               {7, "UI_NATList"},       {0, "UI_Unknown"},
                                               {8, "UI_Unknown"},       {-1, "UI_Unknown"}};
   for (const auto& [kind, name] : rows) EXPECT_EQ(UIVariableType::toString(kind), name) << kind;
-  EXPECT_EQ(UIVariableAction::ExtendNbr | UIVariableAction::Click | UIVariableAction::ShowTip |
-                UIVariableAction::Observe | UIVariableAction::AsTip,
-            31);
 }
 
 TEST(UIVariableForDRTest, AddVariableValue) {
@@ -55,16 +52,6 @@ TEST(UIVariableForDRTest, AddVariableValue) {
   EXPECT_TRUE(ui.isEmpty(1));
   EXPECT_EQ(ui.getRootPath(), "sub");
   EXPECT_EQ(ui.getUiAction(), UIVariableAction::Click);
-}
-
-TEST(UIVariableForDRTest, CopiesAreIndependent) {
-  UIVariableForDR ui("dev", 4);
-  ui.addVariableValue(2, "ospf");
-  UIVariableForDR copy(ui);
-  copy.addVariableValue(2, "bgp");
-  EXPECT_EQ(ui.getValues().at(2), Values{"ospf"});
-  EXPECT_EQ(copy.getValues().at(2), (Values{"bgp", "ospf"}));
-  EXPECT_EQ(copy.getUiAction(), 4);
 }
 
 TEST(UIVariableForDRTest, SaveWritesOneSortedFilePerList) {

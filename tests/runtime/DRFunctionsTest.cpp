@@ -3,8 +3,6 @@
 // configuration, and compares what they write to the result file.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -13,6 +11,8 @@
 #include "platform/QXFileSystem.h"
 #include "results/DRResultTree.h"
 #include "results/UIVariableForDR.h"
+#include "support/TestFiles.h"
+#include "translator/DRTranslator.h"
 
 namespace {
 
@@ -40,15 +40,6 @@ const char kConfig[] =
     "ip route 10.9.0.0 255.255.0.0 10.2.2.9\r\n"   // 21
     "end\r\n";                                     // 22
 
-// The head of a translated note, as the translator writes it.
-const char kGeneratedHead[] =
-    "\r\n#Read the config file into a perl hash variable.\r\n%allLines;\r\n@matchResults;\r\n"
-    "@matchResultsBegin;\r\n@matchResultsEnd;\r\n@matchResultsMiddle;\r\n@UI_InterfaceList;\r\n"
-    "@UI_ProtocolList;\r\n@UI_InterfaceNameList;\r\n@UI_IPAddressList;\r\n@UI_VrfNameList;\r\n"
-    "@UI_RouteMapNameList;\r\n@UI_NATList;\r\n\r\nhashConfigFile();\r\n\r\nreadUIFiles();\r\n"
-    "$resultFile = $ARGV[1];\r\nif(open(OUTFILE, \">$resultFile\")) {\r\n}\r\nelse {\r\n"
-    "\tprint \"Can't open result file!\";\r\n\treturn;\r\n}\r\n\r\n\r\n";
-
 // The same head in a form that is quiet under -w; standard error goes to the
 // file named by a fourth argument so that warnings can be checked.
 const char kQuietHead[] =
@@ -59,17 +50,8 @@ const char kQuietHead[] =
     "hashConfigFile();\nreadUIFiles();\n"
     "open(OUTFILE, '>', $ARGV[1]) or die;\n";
 
-std::string readFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream ss;
-  ss << in.rdbuf();
-  return ss.str();
-}
-
-void writeFile(const std::string& path, const std::string& content) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out << content;
-}
+using testsupport::readFile;
+using testsupport::writeFile;
 
 struct Row {
   const char* name;
@@ -84,11 +66,8 @@ class DRFunctionsTest : public ::testing::Test {
     if (mPerl.empty()) GTEST_SKIP() << "perl is not installed";
     mRuntime = readFile(QXFileSystem::GetScriptFilePath("DRFunctions"));
     ASSERT_FALSE(mRuntime.empty()) << QXFileSystem::GetScriptFilePath("DRFunctions");
-    mDir = QXFileSystem::GetTempFolder() + "runtime-" +
-           ::testing::UnitTest::GetInstance()->current_test_info()->name();
-    Pathname(mDir).removeFile(true);
-    platform::makeDir(mDir);
-    mDir += platform::kPathSeparator;
+    mDir = testsupport::scratchFolder(std::string("runtime-") +
+                                      ::testing::UnitTest::GetInstance()->current_test_info()->name());
     writeFile(mDir + "config.cfg", kConfig);
   }
 
@@ -274,7 +253,7 @@ TEST_F(DRFunctionsTest, GeneratedHeadAndResultTreeWorkTogether) {
   std::string program = mDir + "generated.pl";
   writeFile(
       program,
-      std::string(kGeneratedHead) +
+      DRTranslator::programHead() +
           "@r = search_paragraph_begin(\"^router bgp\", \"all\", \"\", \"bgp\");\r\nprintToFile(\\@r);\r\n"
           "@l = search_line(\"^end\", \"all\", \"\", \"\");\r\nprintToFile(\\@l);\r\n"
           "\r\nclose OUTFILE;\n" +

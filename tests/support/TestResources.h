@@ -11,16 +11,9 @@
 #include "platform/Pathname.h"
 #include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
+#include "support/TestFiles.h"
 
 namespace testsupport {
-
-// A fresh folder below the process's temporary folder.
-inline std::string scratchFolder(const std::string& name) {
-  std::string dir = QXFileSystem::GetTempFolder() + name;
-  Pathname(dir).removeFile(true);
-  platform::makeDir(dir);
-  return dir + "/";
-}
 
 // Writes files below <root>/files/ (names may hold "keyfiles/x").
 inline std::string writeResources(const std::string& name, const std::map<std::string, std::string>& files) {

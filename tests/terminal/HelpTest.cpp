@@ -1,36 +1,25 @@
 #include <gtest/gtest.h>
 
 #include "config/QxParserUtil.h"
-#include "support/TestResources.h"
+#include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
 using namespace qxparser;
 
 namespace {
 
-class HelpTest : public ::testing::Test {
+class HelpTest : public testsupport::TerminalFixture {
  protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::fixtureResources("terminal"));
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
   void SetUp() override {
-    vty_ = std::make_unique<VTY>("R1", true);
+    TerminalFixture::SetUp();
     vty_->parse("enable", true, nullptr);
     vty_->parse("configure terminal", true, nullptr);
     take();
-  }
-  std::string take() {
-    std::string out;
-    vty_->getOutputString(out);
-    return out;
   }
   std::string ask(const std::string& line) {
     vty_->hook(line);
     return take();
   }
-  std::unique_ptr<VTY> vty_;
 };
 
 TEST_F(HelpTest, ListingIsSortedWithTabStopsSizedByTheLongestWord) {

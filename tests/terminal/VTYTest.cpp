@@ -6,19 +6,14 @@
 
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
-#include "support/TestResources.h"
+#include "support/TerminalFixture.h"
 
 using namespace qxparser;
 
 namespace {
 
-class VTYTest : public ::testing::Test {
+class VTYTest : public testsupport::TerminalFixture {
  protected:
-  static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::fixtureResources("terminal"));
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
 
   static std::string prompt(const VTY& vty) {
     std::string p;
@@ -218,25 +213,6 @@ TEST_F(VTYTest, WaJoinsWordsInTypedOrderAndSetsSortOtherwise) {
   CiscoCommandLine description;
   ASSERT_TRUE(vty->parse(" description zebra apple mango", true, &description));
   EXPECT_EQ(description.genCommandStr(), "description zebra apple mango \n");
-}
-
-TEST_F(VTYTest, ResetAndReuseGiveIdenticalResults) {
-  const std::string config = "hostname A\ninterface Ethernet1\n shutdown\nrouter bgp 1\n neighbor 1.1.1.1 remote-as 2\n";
-  auto run = [&](VTY& vty) {
-    EXPECT_TRUE(vty.parse("enable\n", true, nullptr));
-    EXPECT_TRUE(vty.parse("configure terminal \n", true, nullptr));
-    std::vector<CiscoCommandLine*> records;
-    std::string error;
-    int line = 0;
-    vty.getComLineInfo(config, records, error, line, true);
-    std::string text = dump(records);
-    QxParserUtil::deleteCommands(records);
-    return text;
-  };
-  VTY vty("R1", false);
-  std::string first = run(vty);
-  vty.reset();
-  EXPECT_EQ(run(vty), first);
 }
 
 }  // namespace

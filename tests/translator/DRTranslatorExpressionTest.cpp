@@ -4,25 +4,10 @@
 #include "TranslatorTestSupport.h"
 
 using translatortest::translate;
+using translatortest::expectMessages;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-namespace {
-struct MessageRow {
-  std::string script;
-  std::string message;
-};
-
-void expectMessages(const std::vector<MessageRow>& rows) {
-  for (const MessageRow& row : rows) {
-    auto t = translate(row.script);
-    EXPECT_EQ(t.message, row.message) << row.script;
-    // A failed translation writes the same file as an empty script.
-    EXPECT_TRUE(t.wellFormed) << row.script;
-    EXPECT_EQ(t.body, "") << row.script;
-  }
-}
-}  // namespace
 
 TEST(DRTranslatorExpression, RefusesWordsInPlacesTheLookBackForbids) {
   expectMessages({

@@ -3,6 +3,7 @@
 
 #include "TranslatorTestSupport.h"
 
+using translatortest::expectMessages;
 using translatortest::translate;
 using translatortest::validBody;
 
@@ -11,14 +12,6 @@ struct Row {
   std::string script;
   std::string expected;
 };
-
-void expectMessages(const std::vector<Row>& rows) {
-  for (const Row& row : rows) {
-    auto t = translate(row.script);
-    EXPECT_EQ(t.message, row.expected) << row.script;
-    EXPECT_EQ(t.body, "") << row.script;
-  }
-}
 }  // namespace
 
 TEST(DRTranslatorPredicate, ComputesSetsOfConditionsAheadOfTheStatement) {

@@ -1,9 +1,5 @@
 #include "TranslatorTestSupport.h"
 
-#include <fstream>
-#include <iterator>
-#include <sstream>
-
 #include "platform/QXFileSystem.h"
 
 std::vector<std::string> DRTranslatorTestAccess::words(const std::string& script, std::string* rest) {
@@ -50,47 +46,9 @@ std::vector<std::string> DRTranslatorTestAccess::getFunVariables(const std::stri
 
 namespace translatortest {
 
-std::string head() {
-  return "\r\n"
-         "#Read the config file into a perl hash variable.\r\n"
-         "%allLines;\r\n"
-         "@matchResults;\r\n"
-         "@matchResultsBegin;\r\n"
-         "@matchResultsEnd;\r\n"
-         "@matchResultsMiddle;\r\n"
-         "@UI_InterfaceList;\r\n"
-         "@UI_ProtocolList;\r\n"
-         "@UI_InterfaceNameList;\r\n"
-         "@UI_IPAddressList;\r\n"
-         "@UI_VrfNameList;\r\n"
-         "@UI_RouteMapNameList;\r\n"
-         "@UI_NATList;\r\n"
-         "\r\n"
-         "hashConfigFile();\r\n"
-         "\r\n"
-         "readUIFiles();\r\n"
-         "$resultFile = $ARGV[1];\r\n"
-         "if(open(OUTFILE, \">$resultFile\")) {\r\n"
-         "}\r\n"
-         "else {\r\n"
-         "\tprint \"Can't open result file!\";\r\n"
-         "\treturn;\r\n"
-         "}\r\n"
-         "\r\n"
-         "\r\n";
-}
+std::string head() { return DRTranslator::programHead(); }
 
-std::string closeLine() { return "\r\nclose OUTFILE;\n"; }
-
-std::string readFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-void writeFile(const std::string& path, const std::string& text) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out << text;
-}
+std::string closeLine() { return DRTranslator::programCloseLine(); }
 
 std::string runtimeText() { return readFile(QXFileSystem::GetScriptFilePath("DRFunctions")); }
 
@@ -140,6 +98,15 @@ std::string validBody(const std::string& script, bool perlMustAccept) {
     EXPECT_EQ(perlSays, "") << "perl refuses the program of: " << script << "\nbody:\n" << t.body;
   }
   return t.body;
+}
+
+void expectMessages(const std::vector<MessageRow>& rows) {
+  for (const MessageRow& row : rows) {
+    Translation t = translate(row.script);
+    EXPECT_EQ(t.message, row.message) << row.script;
+    EXPECT_TRUE(t.wellFormed) << row.script;
+    EXPECT_EQ(t.body, "") << row.script;
+  }
 }
 
 }  // namespace translatortest

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/TestFiles.h"
 #include "translator/DRTranslator.h"
 
 // Befriended by DRTranslator.
@@ -38,8 +39,8 @@ std::string head();
 std::string closeLine();
 // The runtime text as it lies in the resource folder in use.
 std::string runtimeText();
-std::string readFile(const std::string& path);
-void writeFile(const std::string& path, const std::string& text);
+using testsupport::readFile;
+using testsupport::writeFile;
 std::string tempPath(const std::string& name);
 
 struct Translation {
@@ -59,5 +60,13 @@ std::string perlCompile(const std::string& program, bool* skipped);
 // Shorthand for tests: translate, expect no message, check the program with
 // perl unless told not to, and return the body.
 std::string validBody(const std::string& script, bool perlMustAccept = true);
+
+// Each {script, message} row translates to exactly that message and, like a
+// failed translation does, to the same file as an empty script.
+struct MessageRow {
+  std::string script;
+  std::string message;
+};
+void expectMessages(const std::vector<MessageRow>& rows);
 
 }  // namespace translatortest

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "CommandRegistry.h"
+#include "NoteStaging.h"
 #include "platform/Pathname.h"
 #include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
@@ -35,19 +36,6 @@ bool readScript(const std::string& path, std::string& text) {
   return !in.bad();
 }
 
-// The messages without their CR LF line ends, one line each.
-void printMessages(const std::string& name, const std::string& messages) {
-  std::size_t start = 0;
-  while (start < messages.size()) {
-    std::size_t end = messages.find('\n', start);
-    if (end == std::string::npos) end = messages.size();
-    std::string line = messages.substr(start, end - start);
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (!line.empty()) std::cerr << "vtyconf: " << name << ": " << line << "\n";
-    start = end + 1;
-  }
-}
-
 int runTranslate(const TranslateOptions& options) {
   std::string text;
   if (!readScript(options.script, text)) {
@@ -66,7 +54,7 @@ int runTranslate(const TranslateOptions& options) {
   }
   if (!translator.errorText.empty()) {
     platform::deleteFile(target);
-    printMessages(name, translator.errorText);
+    vtycli::printNoteMessages(name, translator.errorText);
     return 1;
   }
   if (toStdout) {

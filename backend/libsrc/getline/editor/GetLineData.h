@@ -188,6 +188,8 @@ class VTYCONF_API GetLineData {
   void beep() { gl_putc('\007'); }
   void setLineText(const char* text);
   void searchFail();
+  // One Ctrl-R (backward) or Ctrl-S (forward) step through the history ring.
+  void searchStep(bool forward, int newSearch);
 
   static int gShift;     // first visible column of the line
   static int gOffRight;  // text is cut at the right edge ("$" there)

@@ -68,39 +68,16 @@ void GetLineData::searchFail() {
   gl_fixup(mSearchPrompt.c_str(), 0, 0);
 }
 
-void GetLineData::search_back(int newSearch) {
-  mSearchForw = 0;
-  if (!mSearchMode) {
-    search_update(0);
-    mHistPos = mSearchLast = mHistLast;
-    mSearchMode = 1;
-    mLine[0] = '\0';
-    gl_fixup(mSearchPrompt.c_str(), 0, 0);
-    return;
-  }
-  if (mSearchPos == 0) {
-    beep();
-    return;
-  }
-  for (;;) {
-    int prev = (mHistPos - 1 + kHistSize) % kHistSize;
-    if (!mHist[mHistPos] || prev == mHistLast || !mHist[prev]) {
-      searchFail();
-      return;
-    }
-    mHistPos = prev;
-    const char* text = mHist[prev]->c_str();
-    if (const char* hit = std::strstr(text, mSearchString.c_str())) {
-      setLineText(text);
-      gl_fixup(mSearchPrompt.c_str(), 0, static_cast<int>(hit - text));
-      if (newSearch) mSearchLast = mHistPos;
-      return;
-    }
-  }
-}
+void GetLineData::search_back(int newSearch) { searchStep(false, newSearch); }
 
-void GetLineData::search_forw(int newSearch) {
-  mSearchForw = 1;
+void GetLineData::search_forw(int newSearch) { searchStep(true, newSearch); }
+
+// The first step only enters search mode at the newest entry. Later steps walk
+// the ring one slot at a time. Going back stops before wrapping onto the newest
+// entry; going forward stops at the newest entry itself, so a forward step from
+// there always fails.
+void GetLineData::searchStep(bool forward, int newSearch) {
+  mSearchForw = forward ? 1 : 0;
   if (!mSearchMode) {
     search_update(0);
     mHistPos = mSearchLast = mHistLast;
@@ -114,13 +91,14 @@ void GetLineData::search_forw(int newSearch) {
     return;
   }
   for (;;) {
-    int next = (mHistPos + 1) % kHistSize;
-    if (!mHist[mHistPos] || mHistPos == mHistLast || next == mHistLast || !mHist[next]) {
+    int step = forward ? (mHistPos + 1) % kHistSize : (mHistPos - 1 + kHistSize) % kHistSize;
+    bool atEnd = forward ? (mHistPos == mHistLast || step == mHistLast) : step == mHistLast;
+    if (!mHist[mHistPos] || atEnd || !mHist[step]) {
       searchFail();
       return;
     }
-    mHistPos = next;
-    const char* text = mHist[next]->c_str();
+    mHistPos = step;
+    const char* text = mHist[step]->c_str();
     if (const char* hit = std::strstr(text, mSearchString.c_str())) {
       setLineText(text);
       gl_fixup(mSearchPrompt.c_str(), 0, static_cast<int>(hit - text));

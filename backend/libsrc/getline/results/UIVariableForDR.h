@@ -17,13 +17,16 @@
 // Kinds of value lists; toString gives the base name of a kind's file.
 class VTYCONF_API UIVariableType {
  public:
-  static constexpr int InterfaceList = 1;
-  static constexpr int ProtocolList = 2;
-  static constexpr int IPAddressList = 3;
-  static constexpr int InterfaceNameList = 4;
-  static constexpr int VrfNameList = 5;
-  static constexpr int RouteMapNameList = 6;
-  static constexpr int NATList = 7;
+  // Numbered 1 to 7 in this order.
+  enum : int {
+    InterfaceList = 1,
+    ProtocolList,
+    IPAddressList,
+    InterfaceNameList,
+    VrfNameList,
+    RouteMapNameList,
+    NATList
+  };
 
   // "UI_InterfaceList" ... "UI_NATList"; "UI_Unknown" for any other kind.
   static std::string toString(int kind);

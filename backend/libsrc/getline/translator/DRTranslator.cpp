@@ -56,6 +56,12 @@ const char* const kCloseLine = "\r\nclose OUTFILE;\n";
 DRTranslator::DRTranslator(const std::string& script, const std::string& program)
     : scriptText(script), programPath(program), sourceText(script) {}
 
+std::string DRTranslator::programHead() {
+  return std::string(kHeadPart1) + kHeadPart2 + kHeadPart3 + kHeadPart4;
+}
+
+std::string DRTranslator::programCloseLine() { return kCloseLine; }
+
 void DRTranslator::translateScriptFile() {
   platform::deleteFile(programPath);
   std::ofstream out(StlHelper::AToW(programPath), std::ios::out | std::ios::trunc);

@@ -36,6 +36,11 @@ class VTYCONF_API DRTranslator {
   // be opened; the tail is left out when the runtime file cannot be read.
   void translateScriptFile();
 
+  // The fixed text every program opens with, and the line that opens its tail
+  // (the runtime follows that line).
+  static std::string programHead();
+  static std::string programCloseLine();
+
  private:
   using WordList = std::vector<std::string>;
   friend class DRTranslatorTestAccess;
