@@ -59,7 +59,7 @@ any|any destination|||&acl_opts.cfm
   !
 !
 host|a single destination host|||
-  a.b.c.d|destination address|||&acl_opts.cfm
+  a.b.c.d|destination address|n||&acl_opts.cfm
     <cr>||||
     !
     eq|port equal to|||
@@ -120,8 +120,8 @@ host|a single destination host|||
     !
   !
 !
-a.b.c.d|destination address|||
-  a.b.c.d|destination wildcard bits|||&acl_opts.cfm
+a.b.c.d|destination address|n||
+  a.b.c.d|destination wildcard bits|n||&acl_opts.cfm
     <cr>||||
     !
     eq|port equal to|||

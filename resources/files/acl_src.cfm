@@ -23,7 +23,7 @@ any|any source|||&acl_dst.cfm
   !
 !
 host|a single source host|||
-  a.b.c.d|source address|||&acl_dst.cfm
+  a.b.c.d|source address|n||&acl_dst.cfm
     eq|port equal to|||
       &portfile.cfm|port|||&acl_dst.cfm
       !
@@ -48,8 +48,8 @@ host|a single source host|||
     !
   !
 !
-a.b.c.d|source address|||
-  a.b.c.d|source wildcard bits|||&acl_dst.cfm
+a.b.c.d|source address|n||
+  a.b.c.d|source wildcard bits|n||&acl_dst.cfm
     eq|port equal to|||
       &portfile.cfm|port|||&acl_dst.cfm
       !

@@ -7,7 +7,7 @@ any|any address|||
   !
 !
 host|a single host|||
-  a.b.c.d|host address|||
+  a.b.c.d|host address|n||
     <cr>||||
     !
     log|log matches|||
@@ -16,10 +16,10 @@ host|a single host|||
     !
   !
 !
-a.b.c.d|address|||
+a.b.c.d|address|n||
   <cr>||||
   !
-  a.b.c.d|wildcard bits|||
+  a.b.c.d|wildcard bits|n||
     <cr>||||
     !
     log|log matches|||

@@ -2558,7 +2558,7 @@ ntp|configure ntp|k||
   server|server|k||
     vrf|vrf|k||
       word|word|k||
-        word|word|k||
+        word|word|k/o||
           <cr>||||
           !
           line|line|lb/le/wa||
@@ -2569,7 +2569,7 @@ ntp|configure ntp|k||
       !
     !
     ip|ip|k||
-      word|word|k||
+      word|word|k/o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -2578,13 +2578,13 @@ ntp|configure ntp|k||
         !
       !
     !
-    word|ntp server address|k||
+    word|ntp server address|k/o||
       <cr>||||
       !
-      prefer|prefer|k||
+      prefer|prefer|||
         <cr>||||
         !
-        source|source|k||
+        source|source|||
           &interfacefile.cfm|interface type|k||
             <number>|interface number|k||
               <cr>||||
@@ -2592,14 +2592,14 @@ ntp|configure ntp|k||
             !
           !
         !
-        key|key|k||
+        key|key|||
           id|id|||
             <cr>||||
             !
           !
         !
       !
-      source|source|k||
+      source|source|||
         &interfacefile.cfm|interface type|k||
           <number>|interface number|k||
             <cr>||||
@@ -2607,27 +2607,27 @@ ntp|configure ntp|k||
           !
         !
       !
-      key|key|k||
+      key|key|||
         id|id|||
           <cr>||||
           !
-          prefer|prefer|k||
+          prefer|prefer|||
             <cr>||||
             !
           !
         !
       !
-      version|version|k||
+      version|version|||
         id|id|||
           <cr>||||
           !
         !
       !
-      burst|burst|k||
+      burst|burst|||
         <cr>||||
         !
       !
-      iburst|iburst|k||
+      iburst|iburst|||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -2640,7 +2640,7 @@ ntp|configure ntp|k||
   peer|peer|k||
     vrf|vrf|k||
       word|word|k||
-        word|word|k||
+        word|word|k/o||
           <cr>||||
           !
           line|line|lb/le/wa||
@@ -2650,7 +2650,7 @@ ntp|configure ntp|k||
         !
       !
     !
-    word|word|k||
+    word|word|k/o||
       <cr>||||
       !
       line|line|lb/le/wa||
@@ -3357,7 +3357,7 @@ crypto|encryption module|k||
       !
     !
     keepalive|keepalive|k||
-      id|id|||
+      id|id|o||
         <cr>||||
         !
         id|id|||
@@ -3460,7 +3460,7 @@ crypto|encryption module|k||
   ipsec|ipsec|k||
     transform-set|transform-set|k||
       word|word|k||
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/o||
           <cr>||||@(cfg-crypto-trans)# crypto_transform.cfm
           !
         !

@@ -185,7 +185,7 @@ cdp|cdp interface subcommands|k||
 switchport|set switching mode characteristics|k||
   <cr>||sn||
   !
-  mode|mode|k||
+  mode|mode|k/n||
     access|access|k/o||
       <cr>||||
       !
@@ -215,7 +215,7 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  access|access|k||
+  access|access|k/n||
     vlan|vlan|k||
       id|id|o||
         <cr>||||
@@ -229,7 +229,7 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  voice|voice|k||
+  voice|voice|k/n||
     vlan|vlan|k||
       id|id|o||
         <cr>||||
@@ -249,7 +249,7 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  trunk|trunk|k||
+  trunk|trunk|k/n||
     encapsulation|encapsulation|k||
       dot1q|dot1q|k/o||
         <cr>||||
@@ -319,15 +319,15 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  nonegotiate|nonegotiate|k||
+  nonegotiate|nonegotiate|k/n||
     <cr>||||
     !
   !
-  nonnegotiate|nonnegotiate|k||
+  nonnegotiate|nonnegotiate|k/n||
     <cr>||||
     !
   !
-  port-security|security on the port|k||
+  port-security|security on the port|k/n||
     <cr>||||
     !
     maximum|maximum secure addresses|k/n||
@@ -409,7 +409,7 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  block|block|k||
+  block|block|k/n||
     unicast|unicast|k||
       <cr>||||
       !
@@ -419,15 +419,15 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  protected|protected|k||
+  protected|protected|k/n||
     <cr>||||
     !
   !
-  host|host|k||
+  host|host|k/n||
     <cr>||||
     !
   !
-  priority|priority|k||
+  priority|priority|k/n||
     extend|extend|k||
       line|line|lb/le/wa||
         <cr>||||
@@ -435,19 +435,19 @@ switchport|set switching mode characteristics|k||
       !
     !
   !
-  backup|backup|k||
+  backup|backup|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
     !
   !
-  private-vlan|private-vlan|k||
+  private-vlan|private-vlan|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
     !
   !
-  vlan|vlan|k||
+  vlan|vlan|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !

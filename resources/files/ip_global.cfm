@@ -1554,7 +1554,7 @@ sla|ip service level agreement|k||
     !
   !
   schedule|schedule an operation|k||
-    id|operation number|k/n||
+    id|operation number|k/n/o||
       line|line|lb/le/wa||
         <cr>||||
         !

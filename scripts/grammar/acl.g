@@ -27,10 +27,10 @@ file acl_src.cfm -allk
 any "any source" &acl_dst.cfm
   %SRCPORT
 host "a single source host"
-  a.b.c.d "source address" &acl_dst.cfm
+  a.b.c.d :n "source address" &acl_dst.cfm
     %SRCPORT
-a.b.c.d "source address"
-  a.b.c.d "source wildcard bits" &acl_dst.cfm
+a.b.c.d :n "source address"
+  a.b.c.d :n "source wildcard bits" &acl_dst.cfm
     %SRCPORT
 object-group "source network object group"
   word "object group name" &acl_dst.cfm
@@ -62,10 +62,10 @@ file acl_dst.cfm -allk
 any "any destination" $ &acl_opts.cfm
   %DSTPORT
 host "a single destination host"
-  a.b.c.d "destination address" $ &acl_opts.cfm
+  a.b.c.d :n "destination address" $ &acl_opts.cfm
     %DSTPORT
-a.b.c.d "destination address"
-  a.b.c.d "destination wildcard bits" $ &acl_opts.cfm
+a.b.c.d :n "destination address"
+  a.b.c.d :n "destination wildcard bits" $ &acl_opts.cfm
     %DSTPORT
 object-group "destination network object group"
   word "object group name" $ &acl_opts.cfm

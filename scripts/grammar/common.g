@@ -19,9 +19,9 @@ def ADDR
 def SADDR
   any "any address" $
   host "a single host"
-    a.b.c.d :k "host address" $
-  a.b.c.d :k "address" $
-    a.b.c.d :k "wildcard bits" $
+    a.b.c.d :k/n "host address" $
+  a.b.c.d :k/n "address" $
+    a.b.c.d :k/n "wildcard bits" $
 
 def PORT
   eq "port equal to"

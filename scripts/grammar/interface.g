@@ -57,7 +57,7 @@ cdp "cdp interface subcommands"
   tlv
     line *
 switchport "set switching mode characteristics" $ :sn
-  mode
+  mode :n
     access :o $
     trunk :o $
     dynamic
@@ -66,18 +66,18 @@ switchport "set switching mode characteristics" $ :sn
     private-vlan
       line *
     dot1q-tunnel $
-  access
+  access :n
     vlan
       id :o $
       name "vlan name"
         word :o "vlan name" $
-  voice
+  voice :n
     vlan
       id :o $
       dot1p $
       untagged $
       none $
-  trunk
+  trunk :n
     encapsulation
       dot1q :o $
       isl :o $
@@ -100,9 +100,9 @@ switchport "set switching mode characteristics" $ :sn
     pruning
       vlan
         line *
-  nonegotiate $
-  nonnegotiate $
-  port-security "security on the port" $
+  nonegotiate :n $
+  nonnegotiate :n $
+  port-security :n "security on the port" $
     maximum :n "maximum secure addresses"
       id :o "maximum addresses" $
         vlan "per vlan maximum"
@@ -127,19 +127,19 @@ switchport "set switching mode characteristics" $ :sn
         absolute :-k/o "absolute aging" $
         inactivity :-k/o "aging when inactive" $
       static "age static addresses" $
-  block
+  block :n
     unicast $
     multicast $
-  protected $
-  host $
-  priority
+  protected :n $
+  host :n $
+  priority :n
     extend
       line *
-  backup
+  backup :n
     line *
-  private-vlan
+  private-vlan :n
     line *
-  vlan
+  vlan :n
     line *
 spanning-tree "spanning tree subsystem"
   portfast $

@@ -420,7 +420,7 @@ sla "ip service level agreement"
     schedule
       line *
   schedule "schedule an operation"
-    id :k/n "operation number"
+    id :k/n/o "operation number"
       line * $
   responder $
   logging

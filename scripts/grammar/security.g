@@ -96,33 +96,33 @@ ntp "configure ntp"
   server
     vrf
       word :k
-        word :k $
+        word :k/o $
           line *
     ip
-      word :k $
+      word :k/o $
         line *
-    word :k "ntp server address" $
-      prefer $
-        source
+    word :k/o "ntp server address" $
+      prefer :-k $
+        source :-k
           %IF
-        key
+        key :-k
           id $
-      source
+      source :-k
         %IF
-      key
+      key :-k
         id $
-          prefer $
-      version
+          prefer :-k $
+      version :-k
         id $
-      burst $
-      iburst $
+      burst :-k $
+      iburst :-k $
         line *
   peer
     vrf
       word :k
-        word :k $
+        word :k/o $
           line *
-    word :k $
+    word :k/o $
       line *
   master $
     id $
@@ -350,7 +350,7 @@ crypto "encryption module"
         hostname
           word :k $
     keepalive
-      id $
+      id :o $
         id $
           periodic $
           on-demand $
@@ -383,7 +383,7 @@ crypto "encryption module"
   ipsec
     transform-set
       word :k
-        line * @(cfg-crypto-trans)#=crypto_transform.cfm
+        line * :o @(cfg-crypto-trans)#=crypto_transform.cfm
     profile
       word :k @(ipsec-profile)#=crypto_map.cfm
     security-association
