@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 // Share of corpus commands, in per cent, that stand in a mode with an order
 // file and still find no template. Add templates, then lower this figure.
-constexpr double kRecordedOrderZeroShare = 1.19;
+constexpr double kRecordedOrderZeroShare = 1.18;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -59,6 +59,17 @@ bool isComplete(const CiscoCommandLine& record) {
     if (entry.words.count("\n") != 0) return true;
   }
   return record.hasFlags(qxparser::CMDBIT_NO) && !record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
+}
+
+// Whether the grammar took every word of the line: a template may stop short
+// of a whole command on purpose (it then covers every command that goes on
+// from there), but never at a word that the grammar refused.
+bool takesEveryWord(const CiscoCommandLine& record, const std::string& line) {
+  std::istringstream in(line);
+  size_t words = 0;
+  std::string word;
+  while (in >> word) ++words;
+  return record.getTreeNodeSize() > 0 && static_cast<size_t>(record.getTreeNodeSize()) >= words;
 }
 
 // The grammar file whose order templates a record is measured against: the
@@ -102,8 +113,8 @@ class OrderTemplates : public ::testing::Test {
   static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
 };
 
-// Each line of an order file is one complete command at the depth its indent
-// says; a line the grammar refuses, a banner left open or a level that reads
+// Each line of an order file is one command, or the start of one, at the
+// depth its indent says; a line the grammar refuses, a banner left open or a level that reads
 // free text would take the templates behind it out of effect. Each file's key
 // names a grammar file, and every template of the file's own mode can be
 // reached: read again, it takes its own number, unless it closes a banner
@@ -129,7 +140,8 @@ TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
       const int indent = static_cast<int>(line.find_first_not_of(' '));
       const bool closesBanner = !openBanner.empty() && line == openBanner;
       if (line.rfind("version ", 0) == 0) continue;  // read, never stored
-      if (!closesBanner && (!isComplete(record) || record.getLevel() != indent)) {
+      const bool accepted = isComplete(record) || takesEveryWord(record, line);
+      if (!closesBanner && (!accepted || record.getLevel() != indent)) {
         problems += file.filename().string() + ": refused or misplaced: " + line + "\n";
         continue;
       }
@@ -138,8 +150,9 @@ TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
         openBanner.clear();
         continue;
       }
-      // The opening lines of a mode take their numbers from the outer file.
-      if (modeFileOf(record) != key) continue;
+      // The opening lines of a mode take their numbers from the outer file; a
+      // line cut short never ends, so it is never given a number at all.
+      if (modeFileOf(record) != key || !isComplete(record)) continue;
       if (record.getOrderNo() != static_cast<int>(i) + 1) {
         problems += file.filename().string() + ": hidden by template " + std::to_string(record.getOrderNo()) +
                     ": " + line + "\n";
