@@ -1,0 +1,254 @@
+// The shipped command-order files against the shipped grammar: every line is
+// a template that parses, every template can be reached, real configurations
+// find their templates, and merged commands land where a device prints them.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "config/CmdOrderTable.h"
+#include "config/QxParserUtil.h"
+#include "grammar/ParserTreeNode.h"
+
+using qxparser::CiscoCommandLine;
+using qxparser::QxParserUtil;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Share of corpus commands, in per cent, that stand in a mode with an order
+// file and still find no template. Add templates, then lower this figure.
+constexpr double kRecordedOrderZeroShare = 1.18;
+
+std::string resourceFolder() {
+  const char* env = std::getenv("VTYCONF_RESOURCES");
+  if (env != nullptr && *env != '\0') return env;
+  return std::string(VTYCONF_SOURCE_DIR) + "/resources/";
+}
+
+std::string readFile(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream buffer;
+  buffer << in.rdbuf();
+  return buffer.str();
+}
+
+// The non-empty lines of a text, without a trailing carriage return.
+std::vector<std::string> nonEmptyLines(const std::string& text) {
+  std::vector<std::string> out;
+  std::istringstream in(text);
+  std::string line;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (!line.empty()) out.push_back(line);
+  }
+  return out;
+}
+
+// A path that reached the end of a command; a "no" line may also stop early
+// where the grammar lets it.
+bool isComplete(const CiscoCommandLine& record) {
+  if (record.getTreeNodeSize() == 0) return false;
+  for (const auto& entry : record.getTreeNodes()) {
+    if (entry.words.count("\n") != 0) return true;
+  }
+  return record.hasFlags(qxparser::CMDBIT_NO) && !record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
+}
+
+// Whether the grammar took every word of the line: a template may stop short
+// of a whole command on purpose (it then covers every command that goes on
+// from there), but never at a word that the grammar refused.
+bool takesEveryWord(const CiscoCommandLine& record, const std::string& line) {
+  std::istringstream in(line);
+  size_t words = 0;
+  std::string word;
+  while (in >> word) ++words;
+  return record.getTreeNodeSize() > 0 && static_cast<size_t>(record.getTreeNodeSize()) >= words;
+}
+
+// The grammar file whose order templates a record is measured against: the
+// mode that its parent command opened, or the top level.
+std::string modeFileOf(const CiscoCommandLine& record) {
+  const CiscoCommandLine* parent = record.getParentCommand();
+  if (parent == nullptr) return "configuration_mod.cfm";
+  std::string file;
+  for (const auto& entry : parent->getTreeNodes()) {
+    if (entry.node != nullptr && entry.node->mEntersMode && !entry.node->mFileName.empty()) {
+      file = entry.node->mFileName;
+    }
+  }
+  return file;
+}
+
+// Records of all levels, in line order.
+std::vector<CiscoCommandLine*> readAll(const std::string& text) {
+  std::vector<CiscoCommandLine*> records;
+  std::string errorText;
+  int errorLine = 0;
+  QxParserUtil::getCmdInfo(text, records, errorText, errorLine);
+  return records;
+}
+
+std::vector<fs::path> orderFiles() {
+  std::vector<fs::path> files;
+  for (const auto& entry : fs::directory_iterator(fs::path(resourceFolder()) / "files" / "commandorder")) {
+    if (entry.is_regular_file() && entry.path().filename().string()[0] != '.') files.push_back(entry.path());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+class OrderTemplates : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    setenv("VTYCONF_RESOURCES", resourceFolder().c_str(), 1);
+    QxParserUtil::createNewParserResource();
+  }
+  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
+};
+
+// Each line of an order file is one command, or the start of one, at the
+// depth its indent says; a line the grammar refuses, a banner left open or a level that reads
+// free text would take the templates behind it out of effect. Each file's key
+// names a grammar file, and every template of the file's own mode can be
+// reached: read again, it takes its own number, unless it closes a banner
+// (all closing lines are one kind).
+TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
+  const std::vector<fs::path> files = orderFiles();
+  ASSERT_GE(files.size(), 6u);
+  const fs::path grammarFolder = fs::path(resourceFolder()) / "files";
+  for (const fs::path& file : files) {
+    const std::string key = file.stem().string();
+    EXPECT_TRUE(fs::exists(grammarFolder / key)) << file.filename() << " names no grammar file";
+    ASSERT_EQ(qxparser::gCmdOrderTable().count(key), 1u) << key;
+
+    const std::string text = readFile(file);
+    const std::vector<std::string> lines = nonEmptyLines(text);
+    std::vector<CiscoCommandLine*> records = readAll(text);
+    ASSERT_EQ(records.size(), lines.size()) << file.filename();
+    std::string problems;
+    std::string openBanner;
+    for (size_t i = 0; i < records.size(); ++i) {
+      const CiscoCommandLine& record = *records[i];
+      const std::string& line = lines[i];
+      const int indent = static_cast<int>(line.find_first_not_of(' '));
+      const bool closesBanner = !openBanner.empty() && line == openBanner;
+      if (line.rfind("version ", 0) == 0) continue;  // read, never stored
+      const bool accepted = isComplete(record) || takesEveryWord(record, line);
+      if (!closesBanner && (!accepted || record.getLevel() != indent)) {
+        problems += file.filename().string() + ": refused or misplaced: " + line + "\n";
+        continue;
+      }
+      if (line.rfind("banner ", 0) == 0) openBanner = line.substr(line.rfind(' ') + 1);
+      if (closesBanner) {
+        openBanner.clear();
+        continue;
+      }
+      // The opening lines of a mode take their numbers from the outer file; a
+      // line cut short never ends, so it is never given a number at all.
+      if (modeFileOf(record) != key || !isComplete(record)) continue;
+      if (record.getOrderNo() != static_cast<int>(i) + 1) {
+        problems += file.filename().string() + ": hidden by template " + std::to_string(record.getOrderNo()) +
+                    ": " + line + "\n";
+      }
+    }
+    EXPECT_TRUE(openBanner.empty()) << file.filename() << " leaves a banner open";
+    EXPECT_EQ(problems, "");
+    QxParserUtil::deleteCommands(records);
+  }
+}
+
+// Real configurations: among the commands of modes that have an order file,
+// the share that no template fits stays at the recorded figure or below.
+TEST_F(OrderTemplates, CorpusCommandsOfOrderedModesFindTheirTemplates) {
+  const fs::path folder = VTYCONF_SHARED_CORPUS_DIR;
+  if (!fs::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
+  size_t total = 0;
+  size_t unordered = 0;
+  std::map<std::string, size_t> byMode;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.path().extension() != ".cfg") continue;
+    std::vector<CiscoCommandLine*> records = readAll(readFile(entry.path()));
+    for (const CiscoCommandLine* record : records) {
+      if (record->getFlag() == qxparser::CMD_TEXT || !isComplete(*record)) continue;
+      const std::string mode = modeFileOf(*record);
+      if (qxparser::gCmdOrderTable().count(mode) == 0) continue;
+      ++total;
+      if (record->getOrderNo() == 0) {
+        ++unordered;
+        ++byMode[mode];
+      }
+    }
+    QxParserUtil::deleteCommands(records);
+  }
+  ASSERT_GT(total, 1000u) << "corpus at " << folder;
+  const double share = 100.0 * static_cast<double>(unordered) / static_cast<double>(total);
+  std::string detail;
+  for (const auto& mode : byMode) detail += " " + mode.first + ":" + std::to_string(mode.second);
+  EXPECT_LE(share, kRecordedOrderZeroShare) << unordered << " of " << total << " without a template;" << detail;
+}
+
+// A command that the merge adds has no line number, so its template alone
+// decides where it stands among the commands that were there.
+struct PlacementCase {
+  const char* name;
+  const char* config;
+  const char* changes;
+  const char* merged;
+};
+
+TEST_F(OrderTemplates, MergedCommandsLandWhereTheDevicePrintsThem) {
+  const PlacementCase cases[] = {
+      {"switchport mode access follows the access vlan, ahead of shutdown and spanning-tree",
+       "interface FastEthernet0/1\n description desk\n switchport access vlan 10\n shutdown\n"
+       " spanning-tree portfast\n",
+       "interface FastEthernet0/1\n switchport mode access\n",
+       "interface fastethernet 0/1 \n description desk \n switchport access vlan 10 \n switchport mode access \n"
+       " shutdown \n spanning-tree portfast \n!\n"},
+      {"no ip redirects stands behind the access group and ahead of the proxy-arp setting",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n ip access-group 1 in\n"
+       " no ip proxy-arp\n duplex auto\n",
+       "interface GigabitEthernet0/0\n no ip redirects\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n ip access-group 1 in \n"
+       " no ip redirects \n no ip proxy-arp \n duplex auto \n!\n"},
+      {"spanning-tree portfast goes behind the switchport lines and before the guard",
+       "interface GigabitEthernet1/0/1\n switchport mode access\n speed 100\n spanning-tree guard root\n",
+       "interface GigabitEthernet1/0/1\n spanning-tree portfast\n",
+       "interface gigabitethernet 1/0/1 \n switchport mode access \n speed 100 \n spanning-tree portfast \n"
+       " spanning-tree guard root \n!\n"},
+      {"ntp server comes after the lines",
+       "hostname R1\nline con 0\n exec-timeout 0 0\nline vty 0 4\n login local\n",
+       "ntp server 192.0.2.1\n",
+       "hostname R1 \nline con 0 \n exec-timeout 0 0 \n!\nline vty 0 4 \n login local \n!\n"
+       "ntp server 192.0.2.1 \n"},
+      {"line vty 5 15 follows line vty 0 4, ahead of ntp",
+       "hostname R1\nline vty 0 4\n login local\nntp server 192.0.2.1\n",
+       "line vty 5 15\n login local\n",
+       "hostname R1 \nline vty 0 4 \n login local \n!\nline vty 5 15 \n login local \n!\n"
+       "ntp server 192.0.2.1 \n"},
+      {"vtp mode server stands with the other vtp settings",
+       "hostname SW1\nvtp domain LAB\nspanning-tree mode pvst\n",
+       "vtp mode server\n",
+       "hostname SW1 \nvtp domain LAB \nvtp mode server \nspanning-tree mode pvst \n"},
+      {"a login method list stands with aaa new-model, ahead of the clock",
+       "aaa new-model\naaa session-id common\nclock timezone UTC 0 0\n",
+       "aaa authentication login default group tacacs+ local\n",
+       "aaa new-model \naaa authentication login default group tacacs+ local \naaa session-id common \n"
+       "clock timezone UTC 0 0 \n"},
+      {"a set clause of a route-map entry follows its match clause",
+       "route-map OUT permit 10\n match ip address prefix-list P\n",
+       "route-map OUT permit 10\n set local-preference 200\n",
+       "route-map OUT permit 10 \n match ip address prefix-list P \n set local-preference 200 \n!\n"},
+  };
+  for (const PlacementCase& c : cases) {
+    EXPECT_EQ(QxParserUtil::mergeConfigCmds(c.changes, c.config), c.merged) << c.name;
+  }
+}
+
+}  // namespace
