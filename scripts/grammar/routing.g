@@ -22,106 +22,120 @@ def IGPMPLS
         area "ospf area"
           id "area id" $
 
-def BGPNEIGHBOR
+# Neighbor settings of a BGP session (transport, timers, authentication):
+# the lines of a peer-session template as well.
+def BGPSESSION
   remote-as "specify a bgp neighbor"
     <as> :o $
       line *
-  activate $
-  peer-group "member of the peer-group" $
-    word :o $
-  update-source
+  update-source "source of routing updates"
     %IF
-  description :n/o
+  description :n/o "neighbor specific description"
     %TEXT
-  send-community $
-    both $
-    standard $
-    extended $
-  route-map
-    word
-      in :k $
-      out :k $
-  next-hop-self $
-    all $
-  soft-reconfiguration
-    inbound $
-  route-reflector-client $
-  advertisement-interval
-    id :o $
-  timers
+  timers "bgp per neighbor timers"
     id
       id $
         id $
-  default-originate $
-    route-map
-      word $
-  password
+  password "set a password"
     id
       line *
     line *
-  ebgp-multihop $
+  ebgp-multihop $ "allow ebgp neighbors not on directly connected networks"
     id $
-  shutdown $
-  weight
+  shutdown $ "administratively shut down this neighbor"
+  local-as "specify a local-as number"
+    <as> $
+      line *
+  version "set the bgp version to match a neighbor"
     id $
-  send-label $
+  fall-over $ "session fall on peer route lost"
+    line *
+  disable-connected-check $ "one-hop away ebgp peer using loopback address"
+  ttl-security "bgp ttl security check"
+    hops
+      id $
+  transport "transport options"
+    line *
+  fast-external-fallover $ "fast fallover for this neighbor"
+  ha-mode "high availability mode"
+    line *
+
+# Neighbor settings of one address family (filters, attributes, limits): the
+# lines of a peer-policy template as well.
+def BGPPOLICY
+  send-community $ "send community attribute to this neighbor"
+    both $
+    standard $
+    extended $
+  route-map "apply route map to neighbor"
+    word
+      in :k $
+      out :k $
+  next-hop-self $ "disable the next hop calculation for this neighbor"
+    all $
+  soft-reconfiguration "per neighbor soft reconfiguration"
+    inbound $
+  route-reflector-client $ "configure a neighbor as route reflector client"
+  advertisement-interval "minimum interval between sending bgp routing updates"
+    id :o $
+  default-originate $ "originate default route to this neighbor"
+    route-map
+      word $
+  weight "set default weight for routes from this neighbor"
+    id $
+  send-label $ "send nlri + mpls label to this peer"
     explicit-null $
-  filter-list
+  filter-list "establish bgp filters"
     id
       in $
       out $
-  prefix-list
+  prefix-list "filter updates to/from this neighbor"
     word
       in :k $
       out :k $
-  distribute-list
+  distribute-list "filter updates to/from this neighbor"
     word
       in :k $
       out :k $
-  maximum-prefix
+  maximum-prefix "maximum number of prefixes accepted from this peer"
     id $
       line *
-  allowas-in $
+  allowas-in $ "accept as-path with my as present in it"
     id $
-  as-override $
-  remove-private-as $
+  as-override $ "override matching as-number while sending update"
+  remove-private-as $ "remove private as number from outbound updates"
     all $
       replace-as $
-  local-as
-    <as> $
-      line *
-  version
-    id $
-  dmzlink-bw $
-  advertise
+  dmzlink-bw $ "propagate the dmz link bandwidth"
+  advertise "advertise to this neighbor"
     additional-paths
       line *
     best-external $
-  additional-paths
+  additional-paths "negotiate additional paths capabilities with this neighbor"
     line *
-  fall-over $
-    line *
-  disable-connected-check $
-  ttl-security
-    hops
-      id $
-  transport
-    line *
-  unsuppress-map
+  unsuppress-map "route-map to selectively unsuppress suppressed routes"
     word $
-  capability
+  capability "advertise capability to the peer"
     line *
-  inherit
+  slow-peer "configure slow-peer"
     line *
-  ha-mode
+  translate-update "translate update to mbgp format"
     line *
-  fast-external-fallover $
-  slow-peer
+  aigp $ "accumulated igp metric"
     line *
-  translate-update
-    line *
-  aigp $
-    line *
+
+def BGPNEIGHBOR
+  %BGPSESSION
+  %BGPPOLICY
+  activate $ "enable the address family for this neighbor"
+  peer-group "member of the peer-group" $
+    word :o $
+  inherit "inherit a template"
+    peer-session "inherit a peer-session template"
+      word :o "template name" $
+    peer-policy "inherit a peer-policy template"
+      word :o "template name" $
+        id "sequence number" $
 
 def AFBODY
   neighbor "specify a neighbor router"
@@ -331,10 +345,10 @@ address-family "enter address family command mode"
   link-state @(config-router-af)#=router_bgp_af.cfm
     link-state @(config-router-af)#=router_bgp_af.cfm
 template "enter template command mode"
-  peer-session
-    word :k @(config-router-stmp)#=router_bgp_af.cfm
-  peer-policy
-    word :k @(config-router-ptmp)#=router_bgp_af.cfm
+  peer-session "template configuration for session parameters"
+    word :k "template name" @(config-router-stmp)#=router_bgp_stmp.cfm
+  peer-policy "template configuration for policy parameters"
+    word :k "template name" @(config-router-ptmp)#=router_bgp_ptmp.cfm
 timers "adjust routing timers"
   bgp
     id
@@ -344,6 +358,21 @@ timers "adjust routing timers"
 
 file router_bgp_af.cfm
 %AFBODY
+
+file router_bgp_stmp.cfm
+%BGPSESSION
+inherit "inherit a template"
+  peer-session "inherit a peer-session template"
+    word :o "template name" $
+exit-peer-session $ "exit from template configuration mode"
+
+file router_bgp_ptmp.cfm
+%BGPPOLICY
+inherit "inherit a template"
+  peer-policy "inherit a peer-policy template"
+    word :k "template name" $
+      id "sequence number" $
+exit-peer-policy $ "exit from template configuration mode"
 
 def OSPFBODY
   router-id "router id for this ospf process"
