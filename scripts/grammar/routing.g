@@ -374,6 +374,61 @@ inherit "inherit a template"
       id "sequence number" $
 exit-peer-policy $ "exit from template configuration mode"
 
+# Settings of one OSPF area. Options that the device takes in any order
+# behind a first one (nssa no-summary default-information-originate ...) are
+# read as text after that first one.
+def OSPFAREA
+  authentication "enable authentication" $
+    message-digest "use message-digest authentication" $
+    null "use no authentication" $
+  stub "specify a stub area" $
+    no-summary "do not send summary lsa into stub area" $
+    no-ext-capability "do not send domain specific capabilities into stub area" $
+  nssa "specify a nssa area" $
+    no-summary "do not send summary lsa into nssa" $
+      line *
+    no-redistribution "no redistribution into this nssa area" $
+      line *
+    default-information-originate "originate type 7 default into nssa area" $
+      line *
+    translate "translate lsa"
+      type7 "from type 7 to type 5"
+        always "always translate lsas on this abr" $
+          line *
+        suppress-fa "suppress forwarding address in translated lsas" $
+    no-ext-capability "do not send domain specific capabilities into nssa" $
+  range "summarize routes matching address/mask (border routers only)"
+    a.b.c.d :k "ip address to match"
+      a.b.c.d :k "ip mask for address" $
+        advertise "advertise this range (default)" $
+        not-advertise "do not advertise this range" $
+        cost "user specified metric for this range"
+          id :o "advertised metric for this range" $
+    word :k "ipv6 prefix" $
+      advertise "advertise this range (default)" $
+      not-advertise "do not advertise this range" $
+      cost "user specified metric for this range"
+        id :o "advertised metric for this range" $
+  virtual-link "define a virtual link and its parameters"
+    a.b.c.d :k "id (ip addr) associated with virtual link neighbor" $
+      line *
+  sham-link "define a sham link and its parameters"
+    a.b.c.d :k "ip addr associated with sham-link source"
+      a.b.c.d :k "ip addr associated with sham-link destination" $
+        cost "associate a cost with the sham-link"
+          id :o "cost" $
+        ttl-security "ttl security check"
+          line *
+  default-cost "set the summary default-cost of a nssa/stub area"
+    id :o "stub's advertised external route metric" $
+  filter-list "filter networks between ospf areas"
+    prefix "filter prefixes between ospf areas"
+      word :k "name of an ip prefix-list"
+        in :k "filter networks sent to this area" $
+        out :k "filter networks sent from this area" $
+  capability "enable area specific capabilities"
+    default-exclusion "enable exclusion of links from base topology" $
+
 def OSPFBODY
   router-id "router id for this ospf process"
     a.b.c.d :o $
@@ -389,10 +444,23 @@ def OSPFBODY
     default $
     %IF
   area "ospf area parameters"
-    id :k
-      line * $
-    a.b.c.d :k
-      line * $
+    id :k "ospf area id as a decimal value"
+      %OSPFAREA
+    a.b.c.d :k "ospf area id in ip address format"
+      %OSPFAREA
+  neighbor "specify a neighbor router"
+    a.b.c.d :k "neighbor address" $
+      priority "ospf priority of non-broadcast neighbor"
+        id :o "priority" $
+          poll-interval "ospf dead-router polling interval"
+            id "seconds" $
+      poll-interval "ospf dead-router polling interval"
+        id :o "seconds" $
+      cost "ospf cost for point-to-multipoint neighbor"
+        id :o "metric" $
+      database-filter "filter ospf lsa during synchronization and flooding"
+        all "filter all lsa"
+          out "outgoing lsa" $
   redistribute "redistribute information from another routing protocol"
     connected $
       line *
@@ -431,7 +499,14 @@ def OSPFBODY
     pacing
       line *
   summary-address "configure ip address summaries"
-    line *
+    a.b.c.d :k "summary prefix"
+      a.b.c.d :k "summary mask" $
+        not-advertise "suppress routes that match the prefix" $
+        tag "set tag"
+          id :o "32-bit tag value" $
+        nssa-only "limit summary to nssa areas" $
+    word :k "ipv6 summary prefix" $
+      line *
   summary-prefix "configure ip address summaries"
     line *
   distance "define an administrative distance"
@@ -451,7 +526,16 @@ def OSPFBODY
   capability "enable a specific feature"
     line *
   max-metric "set maximum metric"
-    line *
+    router-lsa "maximum metric in self-originated router-lsas" $
+      on-startup "set maximum metric temporarily after reboot"
+        id :o "time in seconds" $
+        wait-for-bgp "let bgp decide when to originate router-lsa with normal metric" $
+      include-stub "set maximum metric for stub links in router-lsas" $
+        line *
+      external-lsa "override external-lsa metric with max-metric value" $
+        line *
+      summary-lsa "override summary-lsa metric with max-metric value" $
+        line *
   ispf $ "enable incremental spf computation"
   prefix-suppression $ "enable prefix suppression"
   shutdown $ "shutdown the ospf protocol under the current instance"
