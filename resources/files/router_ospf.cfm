@@ -597,7 +597,69 @@ default-metric|set metric of redistributed routes|k||
   !
 !
 bfd|bfd configuration commands|k||
-  all-interfaces|all-interfaces|k||
+  all-interfaces|enable bfd on all interfaces|k||
+    <cr>||||
+    !
+    strict-mode|hold the adjacency down until bfd comes up|k||
+      <cr>||||
+      !
+    !
+  !
+!
+nsr|non-stop routing|k||
+  <cr>||||
+  !
+!
+limit|limit a specific ospf feature|k||
+  retransmissions|ospf retransmission limits|k||
+    dc|demand circuit retransmissions|k||
+      id|retransmission limit|o||
+        <cr>||||
+        !
+      !
+      disable|disable the feature|k||
+        <cr>||||
+        !
+      !
+    !
+    non-dc|non-demand-circuit retransmissions|k||
+      id|retransmission limit|o||
+        <cr>||||
+        !
+      !
+      disable|disable the feature|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+traffic-share|how to compute traffic share over alternate paths|k||
+  min|all traffic shared among min metric paths|k||
+    across-interfaces|use different interfaces for equal-cost paths|k||
+      <cr>||||
+      !
+    !
+  !
+!
+process-min-time|percentage of quantum to be used before releasing cpu|k||
+  percent|percentage|k||
+    id|percentage of quantum|o||
+      <cr>||||
+      !
+    !
+  !
+!
+snmp|modify snmp parameters|k||
+  context|configure a snmp context|k||
+    word|context name|o||
+      <cr>||||
+      !
+    !
+  !
+!
+table-map|map external entry attributes into routing table|k||
+  word|route-map name|o||
     <cr>||||
     !
   !

@@ -518,7 +518,28 @@ def OSPFBODY
   default-metric "set metric of redistributed routes"
     id $
   bfd "bfd configuration commands"
-    all-interfaces $
+    all-interfaces "enable bfd on all interfaces" $
+      strict-mode "hold the adjacency down until bfd comes up" $
+  nsr $ "non-stop routing"
+  limit "limit a specific ospf feature"
+    retransmissions "ospf retransmission limits"
+      dc "demand circuit retransmissions"
+        id :o "retransmission limit" $
+        disable "disable the feature" $
+      non-dc "non-demand-circuit retransmissions"
+        id :o "retransmission limit" $
+        disable "disable the feature" $
+  traffic-share "how to compute traffic share over alternate paths"
+    min "all traffic shared among min metric paths"
+      across-interfaces "use different interfaces for equal-cost paths" $
+  process-min-time "percentage of quantum to be used before releasing cpu"
+    percent "percentage"
+      id :o "percentage of quantum" $
+  snmp "modify snmp parameters"
+    context "configure a snmp context"
+      word :o "context name" $
+  table-map "map external entry attributes into routing table"
+    word :o "route-map name" $
   nsf $ "non-stop forwarding"
     line *
   mpls "configure mpls routing protocol parameters"
