@@ -2128,6 +2128,34 @@ event|event manager|k||
         !
       !
     !
+    policy|register a policy|k||
+      word|policy file name|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    scheduler|scheduler settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    history|history settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    detector|detector settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
   !
 !
 ethernet|ethernet configuration|k||

@@ -165,8 +165,8 @@ relay|function as a dhcp relay|k||
   !
 !
 class|configure a dhcp class|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  word|class name|k||
+    <cr>||||@(config-dhcp-pool-class)# dhcp_pool_class.cfm
     !
   !
 !

@@ -1459,6 +1459,12 @@ dhcp|configure dhcp server and relay parameters|k||
       !
     !
   !
+  class|configure a dhcp class|k||
+    word|class name|k||
+      <cr>||||@(config-dhcp-class)# dhcp_class.cfm
+      !
+    !
+  !
   excluded-address|excluded-address|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
@@ -1580,6 +1586,16 @@ sla|ip service level agreement|k||
   reaction-configuration|reaction-configuration|k||
     line|line|lb/le/wa||
       <cr>||||
+      !
+    !
+  !
+  group|group operations|k||
+    schedule|schedule a group of operations|k||
+      id|group number|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
       !
     !
   !

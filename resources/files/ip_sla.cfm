@@ -1,3 +1,19 @@
+icmp-jitter|icmp jitter operation|k||
+  a.b.c.d|destination address|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ethernet|ethernet operations|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
 icmp-echo|icmp-echo|k||
   a.b.c.d|a.b.c.d|o||
     <cr>||||

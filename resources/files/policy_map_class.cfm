@@ -51,37 +51,281 @@ priority|strict scheduling priority for this class|k||
   !
 !
 police|police the traffic of this class|k||
-  cir|cir|k||
-    percent|percent|k||
-      id|id|o||
-        <cr>||||
+  cir|committed information rate|k||
+    id|bits per second|o||
+      <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+      !
+      conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+      !
+      bc|conform burst|k||
+        id|bytes|||
+          <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+          !
+          conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+          !
+          be|excess burst|k||
+            id|bytes|||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
+          pir|peak information rate|k||
+            id|bits per second|||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+              be|excess burst|k||
+                id|bytes|||
+                  <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+                  !
+                  conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+                  !
+                !
+              !
+            !
+          !
         !
-        line|line|lb/le/wa||
-          <cr>||||
+      !
+      pir|peak information rate|k||
+        id|bits per second|||
+          <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+          !
+          conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+          !
+          be|excess burst|k||
+            id|bytes|||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
           !
         !
       !
     !
-    id|id|o||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
+    percent|rate as a percentage of the interface bandwidth|k||
+      id|percentage|o||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
+        bc|conform burst|k||
+          id|milliseconds|||
+            ms|milliseconds|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+              be|excess burst|k||
+                id|milliseconds|||
+                  ms|milliseconds|k||
+                    <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+                    !
+                    conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+                    !
+                  !
+                !
+              !
+              pir|peak information rate|k||
+                percent|rate as a percentage of the interface bandwidth|k||
+                  id|percentage|||
+                    <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+                    !
+                    conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+        pir|peak information rate|k||
+          percent|rate as a percentage of the interface bandwidth|k||
+            id|percentage|||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
         !
       !
     !
   !
-  rate|rate|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  rate|rate in bits, packets or cells per second|k||
+    id|rate|o||
+      <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+      !
+      conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+      !
+      burst|burst|k||
+        id|burst size|||
+          <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+          !
+          conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+          !
+          bytes|bytes|k||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+          !
+          packets|packets|k||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+          !
+        !
+      !
+      peak-rate|peak rate|k||
+        id|rate|||
+          <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+          !
+          conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+          !
+        !
+      !
+      bps|bits per second|k||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
+        burst|burst|k||
+          id|burst size|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+            bytes|bytes|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+            packets|packets|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
+        !
+        peak-rate|peak rate|k||
+          id|rate|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+          !
+        !
+      !
+      pps|packets per second|k||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
+        burst|burst|k||
+          id|burst size|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+            bytes|bytes|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+            packets|packets|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
+        !
+        peak-rate|peak rate|k||
+          id|rate|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+          !
+        !
+      !
+      cps|cells per second|k||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
+        burst|burst|k||
+          id|burst size|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+            bytes|bytes|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+            packets|packets|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
+        !
+        peak-rate|peak rate|k||
+          id|rate|||
+            <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+            !
+            conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+            !
+          !
+        !
+      !
+    !
+    percent|rate as a percentage of the interface bandwidth|k||
+      id|percentage|o||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
+        burst|burst in milliseconds|k||
+          id|milliseconds|||
+            ms|milliseconds|k||
+              <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+              !
+              conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+              !
+            !
+          !
+        !
       !
     !
   !
-  id|id|o||
-    <cr>||||
+  id|bits per second|o||
+    <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
     !
-    line|line|lb/le/wa||
-      <cr>||||
+    conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+    !
+    id|normal burst in bytes|||
+      <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+      !
+      conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+      !
+      id|maximum burst in bytes|||
+        <cr>||||@(config-pmap-c-police)# policy_map_police.cfm
+        !
+        conform-action|action when rate is less than conform burst|k||&police_conform.cfm
+        !
       !
     !
   !
@@ -268,24 +512,6 @@ pass|pass packets|k||
   <cr>||||
   !
   log|log|k||
-    <cr>||||
-    !
-  !
-!
-conform-action|action when rate is within conform burst|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-exceed-action|action when rate is within conform and conform + exceed burst|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-violate-action|action when rate is greater than conform + exceed burst|k||
-  line|line|lb/le/wa||
     <cr>||||
     !
   !

@@ -228,19 +228,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -248,13 +236,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -270,7 +346,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -282,7 +358,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -290,35 +366,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -328,37 +392,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -366,7 +406,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -378,7 +418,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -390,7 +430,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -402,7 +442,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -412,7 +452,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -420,11 +460,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -436,27 +476,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -468,83 +492,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -560,19 +572,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -580,13 +580,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -602,7 +690,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -614,7 +702,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -622,35 +710,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -660,37 +736,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -698,7 +750,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -710,7 +762,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -722,7 +774,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -734,7 +786,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -744,7 +796,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -752,11 +804,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -768,27 +820,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -800,83 +836,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -896,19 +920,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -916,13 +928,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -938,7 +1038,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -950,7 +1050,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -958,35 +1058,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -996,37 +1084,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -1034,7 +1098,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -1046,7 +1110,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1058,7 +1122,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1070,7 +1134,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -1080,7 +1144,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -1088,11 +1152,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -1104,27 +1168,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -1136,83 +1184,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -1355,15 +1391,15 @@ address-family|enter address family command mode|k||
   !
 !
 template|enter template command mode|k||
-  peer-session|peer-session|k||
-    word|word|k||
-      <cr>||||@(config-router-stmp)# router_bgp_af.cfm
+  peer-session|template configuration for session parameters|k||
+    word|template name|k||
+      <cr>||||@(config-router-stmp)# router_bgp_stmp.cfm
       !
     !
   !
-  peer-policy|peer-policy|k||
-    word|word|k||
-      <cr>||||@(config-router-ptmp)# router_bgp_af.cfm
+  peer-policy|template configuration for policy parameters|k||
+    word|template name|k||
+      <cr>||||@(config-router-ptmp)# router_bgp_ptmp.cfm
       !
     !
   !
@@ -1394,19 +1430,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -1414,13 +1438,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -1436,7 +1548,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1448,7 +1560,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -1456,35 +1568,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -1494,37 +1594,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -1532,7 +1608,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -1544,7 +1620,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1556,7 +1632,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1568,7 +1644,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -1578,7 +1654,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -1586,11 +1662,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -1602,27 +1678,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -1634,83 +1694,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -1726,19 +1774,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -1746,13 +1782,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -1768,7 +1892,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1780,7 +1904,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -1788,35 +1912,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -1826,37 +1938,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -1864,7 +1952,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -1876,7 +1964,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1888,7 +1976,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -1900,7 +1988,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -1910,7 +1998,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -1918,11 +2006,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -1934,27 +2022,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -1966,83 +2038,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !

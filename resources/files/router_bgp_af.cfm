@@ -10,19 +10,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -30,13 +18,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -52,7 +128,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -64,7 +140,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -72,35 +148,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -110,37 +174,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -148,7 +188,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -160,7 +200,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -172,7 +212,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -184,7 +224,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -194,7 +234,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -202,11 +242,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -218,27 +258,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -250,83 +274,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -342,19 +354,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    activate|activate|k||
-      <cr>||||
-      !
-    !
-    peer-group|member of the peer-group|k||
-      <cr>||||
-      !
-      word|word|o||
-        <cr>||||
-        !
-      !
-    !
-    update-source|update-source|k||
+    update-source|source of routing updates|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -362,13 +362,101 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    description|description|k/n/o||
+    description|neighbor specific description|k/n/o||
       line|text|lb/le/wa||
         <cr>||||
         !
       !
     !
-    send-community|send-community|k||
+    timers|bgp per neighbor timers|k||
+      id|id|||
+        id|id|||
+          <cr>||||
+          !
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    password|set a password|k||
+      id|id|||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
+      <cr>||||
+      !
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    shutdown|administratively shut down this neighbor|k||
+      <cr>||||
+      !
+    !
+    local-as|specify a local-as number|k||
+      <as>|as|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    version|set the bgp version to match a neighbor|k||
+      id|id|||
+        <cr>||||
+        !
+      !
+    !
+    fall-over|session fall on peer route lost|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    disable-connected-check|one-hop away ebgp peer using loopback address|k||
+      <cr>||||
+      !
+    !
+    ttl-security|bgp ttl security check|k||
+      hops|hops|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    transport|transport options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    fast-external-fallover|fast fallover for this neighbor|k||
+      <cr>||||
+      !
+    !
+    ha-mode|high availability mode|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    send-community|send community attribute to this neighbor|k||
       <cr>||||
       !
       both|both|k||
@@ -384,7 +472,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    route-map|route-map|k||
+    route-map|apply route map to neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -396,7 +484,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    next-hop-self|next-hop-self|k||
+    next-hop-self|disable the next hop calculation for this neighbor|k||
       <cr>||||
       !
       all|all|k||
@@ -404,35 +492,23 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    soft-reconfiguration|soft-reconfiguration|k||
+    soft-reconfiguration|per neighbor soft reconfiguration|k||
       inbound|inbound|k||
         <cr>||||
         !
       !
     !
-    route-reflector-client|route-reflector-client|k||
+    route-reflector-client|configure a neighbor as route reflector client|k||
       <cr>||||
       !
     !
-    advertisement-interval|advertisement-interval|k||
+    advertisement-interval|minimum interval between sending bgp routing updates|k||
       id|id|o||
         <cr>||||
         !
       !
     !
-    timers|timers|k||
-      id|id|||
-        id|id|||
-          <cr>||||
-          !
-          id|id|||
-            <cr>||||
-            !
-          !
-        !
-      !
-    !
-    default-originate|default-originate|k||
+    default-originate|originate default route to this neighbor|k||
       <cr>||||
       !
       route-map|route-map|k||
@@ -442,37 +518,13 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|password|k||
-      id|id|||
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    ebgp-multihop|ebgp-multihop|k||
-      <cr>||||
-      !
+    weight|set default weight for routes from this neighbor|k||
       id|id|||
         <cr>||||
         !
       !
     !
-    shutdown|shutdown|k||
-      <cr>||||
-      !
-    !
-    weight|weight|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    send-label|send-label|k||
+    send-label|send nlri + mpls label to this peer|k||
       <cr>||||
       !
       explicit-null|explicit-null|k||
@@ -480,7 +532,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    filter-list|filter-list|k||
+    filter-list|establish bgp filters|k||
       id|id|||
         in|in|k||
           <cr>||||
@@ -492,7 +544,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    prefix-list|prefix-list|k||
+    prefix-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -504,7 +556,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    distribute-list|distribute-list|k||
+    distribute-list|filter updates to/from this neighbor|k||
       word|word|||
         in|in|k||
           <cr>||||
@@ -516,7 +568,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    maximum-prefix|maximum-prefix|k||
+    maximum-prefix|maximum number of prefixes accepted from this peer|k||
       id|id|||
         <cr>||||
         !
@@ -526,7 +578,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    allowas-in|allowas-in|k||
+    allowas-in|accept as-path with my as present in it|k||
       <cr>||||
       !
       id|id|||
@@ -534,11 +586,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    as-override|as-override|k||
+    as-override|override matching as-number while sending update|k||
       <cr>||||
       !
     !
-    remove-private-as|remove-private-as|k||
+    remove-private-as|remove private as number from outbound updates|k||
       <cr>||||
       !
       all|all|k||
@@ -550,27 +602,11 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    local-as|local-as|k||
-      <as>|as|||
-        <cr>||||
-        !
-        line|line|lb/le/wa||
-          <cr>||||
-          !
-        !
-      !
-    !
-    version|version|k||
-      id|id|||
-        <cr>||||
-        !
-      !
-    !
-    dmzlink-bw|dmzlink-bw|k||
+    dmzlink-bw|propagate the dmz link bandwidth|k||
       <cr>||||
       !
     !
-    advertise|advertise|k||
+    advertise|advertise to this neighbor|k||
       additional-paths|additional-paths|k||
         line|line|lb/le/wa||
           <cr>||||
@@ -582,83 +618,71 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    additional-paths|additional-paths|k||
+    additional-paths|negotiate additional paths capabilities with this neighbor|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fall-over|fall-over|k||
-      <cr>||||
-      !
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    disable-connected-check|disable-connected-check|k||
-      <cr>||||
-      !
-    !
-    ttl-security|ttl-security|k||
-      hops|hops|k||
-        id|id|||
-          <cr>||||
-          !
-        !
-      !
-    !
-    transport|transport|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    unsuppress-map|unsuppress-map|k||
+    unsuppress-map|route-map to selectively unsuppress suppressed routes|k||
       word|word|||
         <cr>||||
         !
       !
     !
-    capability|capability|k||
+    capability|advertise capability to the peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    inherit|inherit|k||
+    slow-peer|configure slow-peer|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    ha-mode|ha-mode|k||
+    translate-update|translate update to mbgp format|k||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    fast-external-fallover|fast-external-fallover|k||
-      <cr>||||
-      !
-    !
-    slow-peer|slow-peer|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    translate-update|translate-update|k||
-      line|line|lb/le/wa||
-        <cr>||||
-        !
-      !
-    !
-    aigp|aigp|k||
+    aigp|accumulated igp metric|k||
       <cr>||||
       !
       line|line|lb/le/wa||
         <cr>||||
+        !
+      !
+    !
+    activate|enable the address family for this neighbor|k||
+      <cr>||||
+      !
+    !
+    peer-group|member of the peer-group|k||
+      <cr>||||
+      !
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    inherit|inherit a template|k||
+      peer-session|inherit a peer-session template|k||
+        word|template name|o||
+          <cr>||||
+          !
+        !
+      !
+      peer-policy|inherit a peer-policy template|k||
+        word|template name|o||
+          <cr>||||
+          !
+          id|sequence number|||
+            <cr>||||
+            !
+          !
         !
       !
     !

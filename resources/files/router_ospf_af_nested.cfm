@@ -41,15 +41,381 @@ passive-interface|suppress routing updates on an interface|k||
   !
 !
 area|ospf area parameters|k||
-  id|id|k||
-    line|line|lb/le/wa||
+  id|ospf area id as a decimal value|k||
+    authentication|enable authentication|k||
       <cr>||||
+      !
+      message-digest|use message-digest authentication|k||
+        <cr>||||
+        !
+      !
+      null|use no authentication|k||
+        <cr>||||
+        !
+      !
+    !
+    stub|specify a stub area|k||
+      <cr>||||
+      !
+      no-summary|do not send summary lsa into stub area|k||
+        <cr>||||
+        !
+      !
+      no-ext-capability|do not send domain specific capabilities into stub area|k||
+        <cr>||||
+        !
+      !
+    !
+    nssa|specify a nssa area|k||
+      <cr>||||
+      !
+      no-summary|do not send summary lsa into nssa|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      no-redistribution|no redistribution into this nssa area|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      default-information-originate|originate type 7 default into nssa area|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      translate|translate lsa|k||
+        type7|from type 7 to type 5|k||
+          always|always translate lsas on this abr|k||
+            <cr>||||
+            !
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          suppress-fa|suppress forwarding address in translated lsas|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+      no-ext-capability|do not send domain specific capabilities into nssa|k||
+        <cr>||||
+        !
+      !
+    !
+    range|summarize routes matching address/mask (border routers only)|k||
+      a.b.c.d|ip address to match|k||
+        a.b.c.d|ip mask for address|k||
+          <cr>||||
+          !
+          advertise|advertise this range (default)|k||
+            <cr>||||
+            !
+          !
+          not-advertise|do not advertise this range|k||
+            <cr>||||
+            !
+          !
+          cost|user specified metric for this range|k||
+            id|advertised metric for this range|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      word|ipv6 prefix|k||
+        <cr>||||
+        !
+        advertise|advertise this range (default)|k||
+          <cr>||||
+          !
+        !
+        not-advertise|do not advertise this range|k||
+          <cr>||||
+          !
+        !
+        cost|user specified metric for this range|k||
+          id|advertised metric for this range|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    virtual-link|define a virtual link and its parameters|k||
+      a.b.c.d|id (ip addr) associated with virtual link neighbor|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    sham-link|define a sham link and its parameters|k||
+      a.b.c.d|ip addr associated with sham-link source|k||
+        a.b.c.d|ip addr associated with sham-link destination|k||
+          <cr>||||
+          !
+          cost|associate a cost with the sham-link|k||
+            id|cost|o||
+              <cr>||||
+              !
+            !
+          !
+          ttl-security|ttl security check|k||
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    default-cost|set the summary default-cost of a nssa/stub area|k||
+      id|stub's advertised external route metric|o||
+        <cr>||||
+        !
+      !
+    !
+    filter-list|filter networks between ospf areas|k||
+      prefix|filter prefixes between ospf areas|k||
+        word|name of an ip prefix-list|k||
+          in|filter networks sent to this area|k||
+            <cr>||||
+            !
+          !
+          out|filter networks sent from this area|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    capability|enable area specific capabilities|k||
+      default-exclusion|enable exclusion of links from base topology|k||
+        <cr>||||
+        !
       !
     !
   !
-  a.b.c.d|a.b.c.d|k||
-    line|line|lb/le/wa||
+  a.b.c.d|ospf area id in ip address format|k||
+    authentication|enable authentication|k||
       <cr>||||
+      !
+      message-digest|use message-digest authentication|k||
+        <cr>||||
+        !
+      !
+      null|use no authentication|k||
+        <cr>||||
+        !
+      !
+    !
+    stub|specify a stub area|k||
+      <cr>||||
+      !
+      no-summary|do not send summary lsa into stub area|k||
+        <cr>||||
+        !
+      !
+      no-ext-capability|do not send domain specific capabilities into stub area|k||
+        <cr>||||
+        !
+      !
+    !
+    nssa|specify a nssa area|k||
+      <cr>||||
+      !
+      no-summary|do not send summary lsa into nssa|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      no-redistribution|no redistribution into this nssa area|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      default-information-originate|originate type 7 default into nssa area|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      translate|translate lsa|k||
+        type7|from type 7 to type 5|k||
+          always|always translate lsas on this abr|k||
+            <cr>||||
+            !
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+          suppress-fa|suppress forwarding address in translated lsas|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+      no-ext-capability|do not send domain specific capabilities into nssa|k||
+        <cr>||||
+        !
+      !
+    !
+    range|summarize routes matching address/mask (border routers only)|k||
+      a.b.c.d|ip address to match|k||
+        a.b.c.d|ip mask for address|k||
+          <cr>||||
+          !
+          advertise|advertise this range (default)|k||
+            <cr>||||
+            !
+          !
+          not-advertise|do not advertise this range|k||
+            <cr>||||
+            !
+          !
+          cost|user specified metric for this range|k||
+            id|advertised metric for this range|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      word|ipv6 prefix|k||
+        <cr>||||
+        !
+        advertise|advertise this range (default)|k||
+          <cr>||||
+          !
+        !
+        not-advertise|do not advertise this range|k||
+          <cr>||||
+          !
+        !
+        cost|user specified metric for this range|k||
+          id|advertised metric for this range|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    virtual-link|define a virtual link and its parameters|k||
+      a.b.c.d|id (ip addr) associated with virtual link neighbor|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    sham-link|define a sham link and its parameters|k||
+      a.b.c.d|ip addr associated with sham-link source|k||
+        a.b.c.d|ip addr associated with sham-link destination|k||
+          <cr>||||
+          !
+          cost|associate a cost with the sham-link|k||
+            id|cost|o||
+              <cr>||||
+              !
+            !
+          !
+          ttl-security|ttl security check|k||
+            line|line|lb/le/wa||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    default-cost|set the summary default-cost of a nssa/stub area|k||
+      id|stub's advertised external route metric|o||
+        <cr>||||
+        !
+      !
+    !
+    filter-list|filter networks between ospf areas|k||
+      prefix|filter prefixes between ospf areas|k||
+        word|name of an ip prefix-list|k||
+          in|filter networks sent to this area|k||
+            <cr>||||
+            !
+          !
+          out|filter networks sent from this area|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    capability|enable area specific capabilities|k||
+      default-exclusion|enable exclusion of links from base topology|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+neighbor|specify a neighbor router|k||
+  a.b.c.d|neighbor address|k||
+    <cr>||||
+    !
+    priority|ospf priority of non-broadcast neighbor|k||
+      id|priority|o||
+        <cr>||||
+        !
+        poll-interval|ospf dead-router polling interval|k||
+          id|seconds|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    poll-interval|ospf dead-router polling interval|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    cost|ospf cost for point-to-multipoint neighbor|k||
+      id|metric|o||
+        <cr>||||
+        !
+      !
+    !
+    database-filter|filter ospf lsa during synchronization and flooding|k||
+      all|filter all lsa|k||
+        out|outgoing lsa|k||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -171,8 +537,32 @@ timers|adjust routing timers|k||
   !
 !
 summary-address|configure ip address summaries|k||
-  line|line|lb/le/wa||
+  a.b.c.d|summary prefix|k||
+    a.b.c.d|summary mask|k||
+      <cr>||||
+      !
+      not-advertise|suppress routes that match the prefix|k||
+        <cr>||||
+        !
+      !
+      tag|set tag|k||
+        id|32-bit tag value|o||
+          <cr>||||
+          !
+        !
+      !
+      nssa-only|limit summary to nssa areas|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  word|ipv6 summary prefix|k||
     <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !
@@ -207,7 +597,69 @@ default-metric|set metric of redistributed routes|k||
   !
 !
 bfd|bfd configuration commands|k||
-  all-interfaces|all-interfaces|k||
+  all-interfaces|enable bfd on all interfaces|k||
+    <cr>||||
+    !
+    strict-mode|hold the adjacency down until bfd comes up|k||
+      <cr>||||
+      !
+    !
+  !
+!
+nsr|non-stop routing|k||
+  <cr>||||
+  !
+!
+limit|limit a specific ospf feature|k||
+  retransmissions|ospf retransmission limits|k||
+    dc|demand circuit retransmissions|k||
+      id|retransmission limit|o||
+        <cr>||||
+        !
+      !
+      disable|disable the feature|k||
+        <cr>||||
+        !
+      !
+    !
+    non-dc|non-demand-circuit retransmissions|k||
+      id|retransmission limit|o||
+        <cr>||||
+        !
+      !
+      disable|disable the feature|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+traffic-share|how to compute traffic share over alternate paths|k||
+  min|all traffic shared among min metric paths|k||
+    across-interfaces|use different interfaces for equal-cost paths|k||
+      <cr>||||
+      !
+    !
+  !
+!
+process-min-time|percentage of quantum to be used before releasing cpu|k||
+  percent|percentage|k||
+    id|percentage of quantum|o||
+      <cr>||||
+      !
+    !
+  !
+!
+snmp|modify snmp parameters|k||
+  context|configure a snmp context|k||
+    word|context name|o||
+      <cr>||||
+      !
+    !
+  !
+!
+table-map|map external entry attributes into routing table|k||
+  word|route-map name|o||
     <cr>||||
     !
   !
@@ -295,8 +747,42 @@ capability|enable a specific feature|k||
   !
 !
 max-metric|set maximum metric|k||
-  line|line|lb/le/wa||
+  router-lsa|maximum metric in self-originated router-lsas|k||
     <cr>||||
+    !
+    on-startup|set maximum metric temporarily after reboot|k||
+      id|time in seconds|o||
+        <cr>||||
+        !
+      !
+      wait-for-bgp|let bgp decide when to originate router-lsa with normal metric|k||
+        <cr>||||
+        !
+      !
+    !
+    include-stub|set maximum metric for stub links in router-lsas|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    external-lsa|override external-lsa metric with max-metric value|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    summary-lsa|override summary-lsa metric with max-metric value|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -4,57 +4,9 @@ rd|specify route distinguisher|k||
     !
   !
 !
-route-target|specify target vpn extended communities|k||
-  export|export|k||
-    aa:nn|aa:nn|k||
-      <cr>||||
-      !
-    !
-  !
-  import|import|k||
-    aa:nn|aa:nn|k||
-      <cr>||||
-      !
-    !
-  !
-  both|both|k||
-    aa:nn|aa:nn|k||
-      <cr>||||
-      !
-    !
-  !
-!
 description|vrf specific description|k/n/o||
   line|text|lb/le/wa||
     <cr>||||
-    !
-  !
-!
-import|vrf import|k||
-  map|map|k||
-    word|word|||
-      <cr>||||
-      !
-    !
-  !
-  ipv4|ipv4|k||
-    line|line|lb/le/wa||
-      <cr>||||
-      !
-    !
-  !
-!
-export|vrf export|k||
-  map|map|k||
-    word|word|||
-      <cr>||||
-      !
-    !
-  !
-  ipv4|ipv4|k||
-    line|line|lb/le/wa||
-      <cr>||||
-      !
     !
   !
 !
@@ -66,58 +18,28 @@ vpn|configure vpn id as specified in rfc 2685|k||
     !
   !
 !
-mdt|backbone multicast distribution tree|k||
-  default|default|k||
-    a.b.c.d|a.b.c.d|||
-      <cr>||||
-      !
-    !
-  !
-  data|data|k||
-    line|line|lb/le/wa||
-      <cr>||||
-      !
-    !
-  !
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
 address-family|enter address family configuration mode|k||
-  ipv4|ipv4|k||
-    <cr>||||@(config-vrf-af)# vrf_nested.cfm
+  ipv4|address family|k||
+    <cr>||||@(config-vrf-af)# vrf_af.cfm
     !
-    unicast|unicast|k||
-      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+    unicast|unicast sub-address family|k||
+      <cr>||||@(config-vrf-af)# vrf_af.cfm
       !
     !
-    multicast|multicast|k||
-      <cr>||||@(config-vrf-af)# vrf_nested.cfm
-      !
-    !
-  !
-  ipv6|ipv6|k||
-    <cr>||||@(config-vrf-af)# vrf_nested.cfm
-    !
-    unicast|unicast|k||
-      <cr>||||@(config-vrf-af)# vrf_nested.cfm
-      !
-    !
-    multicast|multicast|k||
-      <cr>||||@(config-vrf-af)# vrf_nested.cfm
+    multicast|multicast sub-address family|k||
+      <cr>||||@(config-vrf-af)# vrf_af.cfm
       !
     !
   !
-!
-exit-address-family|exit from address family configuration mode|k||
-  <cr>||||
-  !
-!
-maximum|set a limit|k||
-  routes|routes|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  ipv6|address family|k||
+    <cr>||||@(config-vrf-af)# vrf_af.cfm
+    !
+    unicast|unicast sub-address family|k||
+      <cr>||||@(config-vrf-af)# vrf_af.cfm
+      !
+    !
+    multicast|multicast sub-address family|k||
+      <cr>||||@(config-vrf-af)# vrf_af.cfm
       !
     !
   !
@@ -149,6 +71,86 @@ context|associate snmp context with this vrf|k||
   !
 !
 protection|configure local repair|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+route-target|specify target vpn extended communities|k||
+  export|export target-vpn extension|k||
+    aa:nn|target vpn extended community|k||
+      <cr>||||
+      !
+    !
+  !
+  import|import target-vpn extension|k||
+    aa:nn|target vpn extended community|k||
+      <cr>||||
+      !
+    !
+  !
+  both|both import and export target-vpn extension|k||
+    aa:nn|target vpn extended community|k||
+      <cr>||||
+      !
+    !
+  !
+!
+import|vrf import|k||
+  map|route-map based vrf import|k||
+    word|route-map name|o||
+      <cr>||||
+      !
+    !
+  !
+  ipv4|address family based vrf import|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+export|vrf export|k||
+  map|route-map based vrf export|k||
+    word|route-map name|o||
+      <cr>||||
+      !
+    !
+  !
+  ipv4|address family based vrf export|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+mdt|backbone multicast distribution tree|k||
+  default|the default group|k||
+    a.b.c.d|ip multicast group address|||
+      <cr>||||
+      !
+    !
+  !
+  data|data multicast distribution trees|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+maximum|set a limit|k||
+  routes|maximum number of routes allowed in this routing table|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+route-replicate|replicate routes from another vrf|k||
   line|line|lb/le/wa||
     <cr>||||
     !

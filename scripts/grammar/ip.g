@@ -389,6 +389,8 @@ nat "nat configuration"
 dhcp "configure dhcp server and relay parameters"
   pool
     word :k @(dhcp-config)#=dhcp_pool.cfm
+  class "configure a dhcp class"
+    word :k "class name" @(config-dhcp-class)#=dhcp_class.cfm
   excluded-address
     a.b.c.d :k $
       a.b.c.d :k $
@@ -429,6 +431,10 @@ sla "ip service level agreement"
     reaction-alerts $
   reaction-configuration
     line *
+  group "group operations"
+    schedule "schedule a group of operations"
+      id :k "group number"
+        line *
   auto
     line *
 inspect "context-based access control"

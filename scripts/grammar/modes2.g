@@ -189,48 +189,54 @@ time-period
 rollback
   line *
 
+# Settings of a vrf that its address families take as well. An address
+# family opens no further address family: a second "address-family" line
+# (after "exit-address-family") belongs to the vrf again.
+def VRFAF
+  route-target "specify target vpn extended communities"
+    export "export target-vpn extension"
+      aa:nn :k "target vpn extended community" $
+    import "import target-vpn extension"
+      aa:nn :k "target vpn extended community" $
+    both "both import and export target-vpn extension"
+      aa:nn :k "target vpn extended community" $
+  import "vrf import"
+    map "route-map based vrf import"
+      word :o "route-map name" $
+    ipv4 "address family based vrf import"
+      line *
+  export "vrf export"
+    map "route-map based vrf export"
+      word :o "route-map name" $
+    ipv4 "address family based vrf export"
+      line *
+  mdt "backbone multicast distribution tree"
+    default "the default group"
+      a.b.c.d "ip multicast group address" $
+    data "data multicast distribution trees"
+      line *
+    line *
+  maximum "set a limit"
+    routes "maximum number of routes allowed in this routing table"
+      line *
+  route-replicate "replicate routes from another vrf"
+    line *
+
 file vrf.cfm
 rd "specify route distinguisher"
   aa:nn :o $
-route-target "specify target vpn extended communities"
-  export
-    aa:nn :k $
-  import
-    aa:nn :k $
-  both
-    aa:nn :k $
 description :n/o "vrf specific description"
   %TEXT
-import "vrf import"
-  map
-    word $
-  ipv4
-    line *
-export "vrf export"
-  map
-    word $
-  ipv4
-    line *
 vpn "configure vpn id as specified in rfc 2685"
   id
     line *
-mdt "backbone multicast distribution tree"
-  default
-    a.b.c.d $
-  data
-    line *
-  line *
 address-family "enter address family configuration mode"
-  ipv4 @(config-vrf-af)#=vrf.cfm
-    unicast @(config-vrf-af)#=vrf.cfm
-    multicast @(config-vrf-af)#=vrf.cfm
-  ipv6 @(config-vrf-af)#=vrf.cfm
-    unicast @(config-vrf-af)#=vrf.cfm
-    multicast @(config-vrf-af)#=vrf.cfm
-exit-address-family $ "exit from address family configuration mode"
-maximum "set a limit"
-  routes
-    line *
+  ipv4 "address family" @(config-vrf-af)#=vrf_af.cfm
+    unicast "unicast sub-address family" @(config-vrf-af)#=vrf_af.cfm
+    multicast "multicast sub-address family" @(config-vrf-af)#=vrf_af.cfm
+  ipv6 "address family" @(config-vrf-af)#=vrf_af.cfm
+    unicast "unicast sub-address family" @(config-vrf-af)#=vrf_af.cfm
+    multicast "multicast sub-address family" @(config-vrf-af)#=vrf_af.cfm
 vnet "virtual networking configuration"
   tag
     id $
@@ -241,6 +247,11 @@ context "associate snmp context with this vrf"
   word $
 protection "configure local repair"
   line *
+%VRFAF
+
+file vrf_af.cfm
+%VRFAF
+exit-address-family $ "exit from address family configuration mode"
 
 file dhcp_pool.cfm
 network "network number and mask"
@@ -295,7 +306,7 @@ vrf "associate this pool with a vrf"
 relay "function as a dhcp relay"
   line *
 class "configure a dhcp class"
-  line *
+  word :k "class name" @(config-dhcp-pool-class)#=dhcp_pool_class.cfm
 utilization "configure various utilization parameters"
   line *
 origin "configure the origin of the pool"
@@ -311,7 +322,35 @@ prefix-delegation "ipv6 prefix delegation"
 domain-search "domain search list"
   line *
 
+file dhcp_pool_class.cfm
+address "configure an address range"
+  range "address range"
+    a.b.c.d :k "start address"
+      a.b.c.d :k "end address" $
+relay "relay settings for this class"
+  target "relay target"
+    a.b.c.d :k "target address" $
+      line *
+
+file dhcp_class.cfm
+relay "relay agent settings"
+  agent "relay agent"
+    information "relay agent information option" @(config-dhcp-class-relayinfo)#=dhcp_class_relay.cfm
+remark "class specific remark"
+  %TEXT
+
+file dhcp_class_relay.cfm
+relay-information "relay agent information pattern"
+  hex "hexadecimal pattern"
+    word :k "pattern" $
+      line *
+
 file ip_sla.cfm
+icmp-jitter "icmp jitter operation"
+  a.b.c.d :o "destination address" $
+    line *
+ethernet "ethernet operations"
+  line *
 icmp-echo
   a.b.c.d :o $
     source-interface

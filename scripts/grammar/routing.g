@@ -22,106 +22,120 @@ def IGPMPLS
         area "ospf area"
           id "area id" $
 
-def BGPNEIGHBOR
+# Neighbor settings of a BGP session (transport, timers, authentication):
+# the lines of a peer-session template as well.
+def BGPSESSION
   remote-as "specify a bgp neighbor"
     <as> :o $
       line *
-  activate $
-  peer-group "member of the peer-group" $
-    word :o $
-  update-source
+  update-source "source of routing updates"
     %IF
-  description :n/o
+  description :n/o "neighbor specific description"
     %TEXT
-  send-community $
-    both $
-    standard $
-    extended $
-  route-map
-    word
-      in :k $
-      out :k $
-  next-hop-self $
-    all $
-  soft-reconfiguration
-    inbound $
-  route-reflector-client $
-  advertisement-interval
-    id :o $
-  timers
+  timers "bgp per neighbor timers"
     id
       id $
         id $
-  default-originate $
-    route-map
-      word $
-  password
+  password "set a password"
     id
       line *
     line *
-  ebgp-multihop $
+  ebgp-multihop $ "allow ebgp neighbors not on directly connected networks"
     id $
-  shutdown $
-  weight
+  shutdown $ "administratively shut down this neighbor"
+  local-as "specify a local-as number"
+    <as> $
+      line *
+  version "set the bgp version to match a neighbor"
     id $
-  send-label $
+  fall-over $ "session fall on peer route lost"
+    line *
+  disable-connected-check $ "one-hop away ebgp peer using loopback address"
+  ttl-security "bgp ttl security check"
+    hops
+      id $
+  transport "transport options"
+    line *
+  fast-external-fallover $ "fast fallover for this neighbor"
+  ha-mode "high availability mode"
+    line *
+
+# Neighbor settings of one address family (filters, attributes, limits): the
+# lines of a peer-policy template as well.
+def BGPPOLICY
+  send-community $ "send community attribute to this neighbor"
+    both $
+    standard $
+    extended $
+  route-map "apply route map to neighbor"
+    word
+      in :k $
+      out :k $
+  next-hop-self $ "disable the next hop calculation for this neighbor"
+    all $
+  soft-reconfiguration "per neighbor soft reconfiguration"
+    inbound $
+  route-reflector-client $ "configure a neighbor as route reflector client"
+  advertisement-interval "minimum interval between sending bgp routing updates"
+    id :o $
+  default-originate $ "originate default route to this neighbor"
+    route-map
+      word $
+  weight "set default weight for routes from this neighbor"
+    id $
+  send-label $ "send nlri + mpls label to this peer"
     explicit-null $
-  filter-list
+  filter-list "establish bgp filters"
     id
       in $
       out $
-  prefix-list
+  prefix-list "filter updates to/from this neighbor"
     word
       in :k $
       out :k $
-  distribute-list
+  distribute-list "filter updates to/from this neighbor"
     word
       in :k $
       out :k $
-  maximum-prefix
+  maximum-prefix "maximum number of prefixes accepted from this peer"
     id $
       line *
-  allowas-in $
+  allowas-in $ "accept as-path with my as present in it"
     id $
-  as-override $
-  remove-private-as $
+  as-override $ "override matching as-number while sending update"
+  remove-private-as $ "remove private as number from outbound updates"
     all $
       replace-as $
-  local-as
-    <as> $
-      line *
-  version
-    id $
-  dmzlink-bw $
-  advertise
+  dmzlink-bw $ "propagate the dmz link bandwidth"
+  advertise "advertise to this neighbor"
     additional-paths
       line *
     best-external $
-  additional-paths
+  additional-paths "negotiate additional paths capabilities with this neighbor"
     line *
-  fall-over $
-    line *
-  disable-connected-check $
-  ttl-security
-    hops
-      id $
-  transport
-    line *
-  unsuppress-map
+  unsuppress-map "route-map to selectively unsuppress suppressed routes"
     word $
-  capability
+  capability "advertise capability to the peer"
     line *
-  inherit
+  slow-peer "configure slow-peer"
     line *
-  ha-mode
+  translate-update "translate update to mbgp format"
     line *
-  fast-external-fallover $
-  slow-peer
+  aigp $ "accumulated igp metric"
     line *
-  translate-update
-    line *
-  aigp $
-    line *
+
+def BGPNEIGHBOR
+  %BGPSESSION
+  %BGPPOLICY
+  activate $ "enable the address family for this neighbor"
+  peer-group "member of the peer-group" $
+    word :o $
+  inherit "inherit a template"
+    peer-session "inherit a peer-session template"
+      word :o "template name" $
+    peer-policy "inherit a peer-policy template"
+      word :o "template name" $
+        id "sequence number" $
 
 def AFBODY
   neighbor "specify a neighbor router"
@@ -331,10 +345,10 @@ address-family "enter address family command mode"
   link-state @(config-router-af)#=router_bgp_af.cfm
     link-state @(config-router-af)#=router_bgp_af.cfm
 template "enter template command mode"
-  peer-session
-    word :k @(config-router-stmp)#=router_bgp_af.cfm
-  peer-policy
-    word :k @(config-router-ptmp)#=router_bgp_af.cfm
+  peer-session "template configuration for session parameters"
+    word :k "template name" @(config-router-stmp)#=router_bgp_stmp.cfm
+  peer-policy "template configuration for policy parameters"
+    word :k "template name" @(config-router-ptmp)#=router_bgp_ptmp.cfm
 timers "adjust routing timers"
   bgp
     id
@@ -344,6 +358,76 @@ timers "adjust routing timers"
 
 file router_bgp_af.cfm
 %AFBODY
+
+file router_bgp_stmp.cfm
+%BGPSESSION
+inherit "inherit a template"
+  peer-session "inherit a peer-session template"
+    word :o "template name" $
+exit-peer-session $ "exit from template configuration mode"
+
+file router_bgp_ptmp.cfm
+%BGPPOLICY
+inherit "inherit a template"
+  peer-policy "inherit a peer-policy template"
+    word :k "template name" $
+      id "sequence number" $
+exit-peer-policy $ "exit from template configuration mode"
+
+# Settings of one OSPF area. Options that the device takes in any order
+# behind a first one (nssa no-summary default-information-originate ...) are
+# read as text after that first one.
+def OSPFAREA
+  authentication "enable authentication" $
+    message-digest "use message-digest authentication" $
+    null "use no authentication" $
+  stub "specify a stub area" $
+    no-summary "do not send summary lsa into stub area" $
+    no-ext-capability "do not send domain specific capabilities into stub area" $
+  nssa "specify a nssa area" $
+    no-summary "do not send summary lsa into nssa" $
+      line *
+    no-redistribution "no redistribution into this nssa area" $
+      line *
+    default-information-originate "originate type 7 default into nssa area" $
+      line *
+    translate "translate lsa"
+      type7 "from type 7 to type 5"
+        always "always translate lsas on this abr" $
+          line *
+        suppress-fa "suppress forwarding address in translated lsas" $
+    no-ext-capability "do not send domain specific capabilities into nssa" $
+  range "summarize routes matching address/mask (border routers only)"
+    a.b.c.d :k "ip address to match"
+      a.b.c.d :k "ip mask for address" $
+        advertise "advertise this range (default)" $
+        not-advertise "do not advertise this range" $
+        cost "user specified metric for this range"
+          id :o "advertised metric for this range" $
+    word :k "ipv6 prefix" $
+      advertise "advertise this range (default)" $
+      not-advertise "do not advertise this range" $
+      cost "user specified metric for this range"
+        id :o "advertised metric for this range" $
+  virtual-link "define a virtual link and its parameters"
+    a.b.c.d :k "id (ip addr) associated with virtual link neighbor" $
+      line *
+  sham-link "define a sham link and its parameters"
+    a.b.c.d :k "ip addr associated with sham-link source"
+      a.b.c.d :k "ip addr associated with sham-link destination" $
+        cost "associate a cost with the sham-link"
+          id :o "cost" $
+        ttl-security "ttl security check"
+          line *
+  default-cost "set the summary default-cost of a nssa/stub area"
+    id :o "stub's advertised external route metric" $
+  filter-list "filter networks between ospf areas"
+    prefix "filter prefixes between ospf areas"
+      word :k "name of an ip prefix-list"
+        in :k "filter networks sent to this area" $
+        out :k "filter networks sent from this area" $
+  capability "enable area specific capabilities"
+    default-exclusion "enable exclusion of links from base topology" $
 
 def OSPFBODY
   router-id "router id for this ospf process"
@@ -360,10 +444,23 @@ def OSPFBODY
     default $
     %IF
   area "ospf area parameters"
-    id :k
-      line * $
-    a.b.c.d :k
-      line * $
+    id :k "ospf area id as a decimal value"
+      %OSPFAREA
+    a.b.c.d :k "ospf area id in ip address format"
+      %OSPFAREA
+  neighbor "specify a neighbor router"
+    a.b.c.d :k "neighbor address" $
+      priority "ospf priority of non-broadcast neighbor"
+        id :o "priority" $
+          poll-interval "ospf dead-router polling interval"
+            id "seconds" $
+      poll-interval "ospf dead-router polling interval"
+        id :o "seconds" $
+      cost "ospf cost for point-to-multipoint neighbor"
+        id :o "metric" $
+      database-filter "filter ospf lsa during synchronization and flooding"
+        all "filter all lsa"
+          out "outgoing lsa" $
   redistribute "redistribute information from another routing protocol"
     connected $
       line *
@@ -402,7 +499,14 @@ def OSPFBODY
     pacing
       line *
   summary-address "configure ip address summaries"
-    line *
+    a.b.c.d :k "summary prefix"
+      a.b.c.d :k "summary mask" $
+        not-advertise "suppress routes that match the prefix" $
+        tag "set tag"
+          id :o "32-bit tag value" $
+        nssa-only "limit summary to nssa areas" $
+    word :k "ipv6 summary prefix" $
+      line *
   summary-prefix "configure ip address summaries"
     line *
   distance "define an administrative distance"
@@ -414,7 +518,28 @@ def OSPFBODY
   default-metric "set metric of redistributed routes"
     id $
   bfd "bfd configuration commands"
-    all-interfaces $
+    all-interfaces "enable bfd on all interfaces" $
+      strict-mode "hold the adjacency down until bfd comes up" $
+  nsr $ "non-stop routing"
+  limit "limit a specific ospf feature"
+    retransmissions "ospf retransmission limits"
+      dc "demand circuit retransmissions"
+        id :o "retransmission limit" $
+        disable "disable the feature" $
+      non-dc "non-demand-circuit retransmissions"
+        id :o "retransmission limit" $
+        disable "disable the feature" $
+  traffic-share "how to compute traffic share over alternate paths"
+    min "all traffic shared among min metric paths"
+      across-interfaces "use different interfaces for equal-cost paths" $
+  process-min-time "percentage of quantum to be used before releasing cpu"
+    percent "percentage"
+      id :o "percentage of quantum" $
+  snmp "modify snmp parameters"
+    context "configure a snmp context"
+      word :o "context name" $
+  table-map "map external entry attributes into routing table"
+    word :o "route-map name" $
   nsf $ "non-stop forwarding"
     line *
   mpls "configure mpls routing protocol parameters"
@@ -422,7 +547,16 @@ def OSPFBODY
   capability "enable a specific feature"
     line *
   max-metric "set maximum metric"
-    line *
+    router-lsa "maximum metric in self-originated router-lsas" $
+      on-startup "set maximum metric temporarily after reboot"
+        id :o "time in seconds" $
+        wait-for-bgp "let bgp decide when to originate router-lsa with normal metric" $
+      include-stub "set maximum metric for stub links in router-lsas" $
+        line *
+      external-lsa "override external-lsa metric with max-metric value" $
+        line *
+      summary-lsa "override summary-lsa metric with max-metric value" $
+        line *
   ispf $ "enable incremental spf computation"
   prefix-suppression $ "enable prefix suppression"
   shutdown $ "shutdown the ospf protocol under the current instance"

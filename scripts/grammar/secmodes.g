@@ -115,6 +115,132 @@ class "policy criteria"
 description :n/o "policy-map description"
   %TEXT
 
+# Police actions. On the police line they follow one another (conform,
+# exceed, violate), each stage a file of its own that the leaves of the stage
+# before include, so the option tree is not copied under every rate. On the
+# police level each action stands on a line of its own, and a new one replaces
+# the old: the action words carry no k.
+def PACT
+  transmit :-k/o "transmit the packet" $
+  drop :-k/o "drop the packet" $
+  set-dscp-transmit :-k/o "set dscp and send it"
+    word "dscp value" $
+  set-prec-transmit :-k/o "rewrite precedence and send it"
+    id "precedence value" $
+  set-qos-transmit :-k/o "set qos-group and send it"
+    id "qos-group value" $
+  set-cos-transmit :-k/o "set cos and send it"
+    id "cos value" $
+  set-discard-class-transmit :-k/o "set discard-class and send it"
+    id "discard-class value" $
+  set-mpls-exp-imposition-transmit :-k/o "set exp at tag imposition and send it"
+    id "exp value" $
+  set-mpls-exp-topmost-transmit :-k/o "set exp on topmost label and send it"
+    id "exp value" $
+  set-frde-transmit :-k/o "set fr de and send it" $
+  set-clp-transmit :-k/o "set atm clp and send it" $
+
+def PCONFORM
+  conform-action "action when rate is less than conform burst" &police_conform.cfm
+
+file police_conform.cfm
+transmit :-k/o "transmit the packet" $ &police_exceed.cfm
+drop :-k/o "drop the packet" $ &police_exceed.cfm
+set-dscp-transmit :-k/o "set dscp and send it"
+  word "dscp value" $ &police_exceed.cfm
+set-prec-transmit :-k/o "rewrite precedence and send it"
+  id "precedence value" $ &police_exceed.cfm
+set-qos-transmit :-k/o "set qos-group and send it"
+  id "qos-group value" $ &police_exceed.cfm
+set-cos-transmit :-k/o "set cos and send it"
+  id "cos value" $ &police_exceed.cfm
+set-discard-class-transmit :-k/o "set discard-class and send it"
+  id "discard-class value" $ &police_exceed.cfm
+set-mpls-exp-imposition-transmit :-k/o "set exp at tag imposition and send it"
+  id "exp value" $ &police_exceed.cfm
+set-mpls-exp-topmost-transmit :-k/o "set exp on topmost label and send it"
+  id "exp value" $ &police_exceed.cfm
+set-frde-transmit :-k/o "set fr de and send it" $ &police_exceed.cfm
+set-clp-transmit :-k/o "set atm clp and send it" $ &police_exceed.cfm
+
+file police_exceed.cfm
+exceed-action "action when rate is within conform and conform + exceed burst"
+  transmit :-k/o "transmit the packet" $ &police_violate.cfm
+  drop :-k/o "drop the packet" $ &police_violate.cfm
+  set-dscp-transmit :-k/o "set dscp and send it"
+    word "dscp value" $ &police_violate.cfm
+  set-prec-transmit :-k/o "rewrite precedence and send it"
+    id "precedence value" $ &police_violate.cfm
+  set-qos-transmit :-k/o "set qos-group and send it"
+    id "qos-group value" $ &police_violate.cfm
+  set-cos-transmit :-k/o "set cos and send it"
+    id "cos value" $ &police_violate.cfm
+  set-discard-class-transmit :-k/o "set discard-class and send it"
+    id "discard-class value" $ &police_violate.cfm
+  set-mpls-exp-imposition-transmit :-k/o "set exp at tag imposition and send it"
+    id "exp value" $ &police_violate.cfm
+  set-mpls-exp-topmost-transmit :-k/o "set exp on topmost label and send it"
+    id "exp value" $ &police_violate.cfm
+  set-frde-transmit :-k/o "set fr de and send it" $ &police_violate.cfm
+  set-clp-transmit :-k/o "set atm clp and send it" $ &police_violate.cfm
+
+file police_violate.cfm
+violate-action "action when rate is greater than conform + exceed burst"
+  transmit :-k/o "transmit the packet" $
+  drop :-k/o "drop the packet" $
+  set-dscp-transmit :-k/o "set dscp and send it"
+    word "dscp value" $
+  set-prec-transmit :-k/o "rewrite precedence and send it"
+    id "precedence value" $
+  set-qos-transmit :-k/o "set qos-group and send it"
+    id "qos-group value" $
+  set-cos-transmit :-k/o "set cos and send it"
+    id "cos value" $
+  set-discard-class-transmit :-k/o "set discard-class and send it"
+    id "discard-class value" $
+  set-mpls-exp-imposition-transmit :-k/o "set exp at tag imposition and send it"
+    id "exp value" $
+  set-mpls-exp-topmost-transmit :-k/o "set exp on topmost label and send it"
+    id "exp value" $
+  set-frde-transmit :-k/o "set fr de and send it" $
+  set-clp-transmit :-k/o "set atm clp and send it" $
+
+def PPIR
+  pir "peak information rate"
+    id "bits per second" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      be "excess burst"
+        id "bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+          %PCONFORM
+
+def PCIRBURST
+  bc "conform burst"
+    id "bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      be "excess burst"
+        id "bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+          %PCONFORM
+      %PPIR
+  %PPIR
+
+def PPIRPERCENT
+  pir "peak information rate"
+    percent "rate as a percentage of the interface bandwidth"
+      id "percentage" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+
+def PRATEBURST
+  burst "burst"
+    id "burst size" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      bytes "bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+      packets "packets" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+  peak-rate "peak rate"
+    id "rate" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+
 file policy_map_class.cfm
 bandwidth "bandwidth guaranteed to this class"
   id :o $
@@ -134,16 +260,49 @@ priority "strict scheduling priority for this class"
   level
     id $
 police "police the traffic of this class"
-  cir
-    percent
-      id :o $
-        line *
-    id :o $
-      line *
-  rate
-    line *
-  id :o $
-    line *
+  cir "committed information rate"
+    id :o "bits per second" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      %PCIRBURST
+    percent "rate as a percentage of the interface bandwidth"
+      id :o "percentage" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+        bc "conform burst"
+          id "milliseconds"
+            ms "milliseconds" @(config-pmap-c-police)#=policy_map_police.cfm
+              %PCONFORM
+              be "excess burst"
+                id "milliseconds"
+                  ms "milliseconds" @(config-pmap-c-police)#=policy_map_police.cfm
+                    %PCONFORM
+              %PPIRPERCENT
+        %PPIRPERCENT
+  rate "rate in bits, packets or cells per second"
+    id :o "rate" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      %PRATEBURST
+      bps "bits per second" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+        %PRATEBURST
+      pps "packets per second" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+        %PRATEBURST
+      cps "cells per second" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+        %PRATEBURST
+    percent "rate as a percentage of the interface bandwidth"
+      id :o "percentage" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
+        burst "burst in milliseconds"
+          id "milliseconds"
+            ms "milliseconds" @(config-pmap-c-police)#=policy_map_police.cfm
+              %PCONFORM
+  id :o "bits per second" @(config-pmap-c-police)#=policy_map_police.cfm
+    %PCONFORM
+    id "normal burst in bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+      %PCONFORM
+      id "maximum burst in bytes" @(config-pmap-c-police)#=policy_map_police.cfm
+        %PCONFORM
 shape "traffic shaping"
   average
     id :o $
@@ -201,12 +360,6 @@ drop $ "drop all packets"
   log $
 pass $ "pass packets"
   log $
-conform-action "action when rate is within conform burst"
-  line *
-exceed-action "action when rate is within conform and conform + exceed burst"
-  line *
-violate-action "action when rate is greater than conform + exceed burst"
-  line *
 compression "activate compression"
   line *
 estimate "estimate resources required for this class"
@@ -217,6 +370,18 @@ account $ "overhead accounting"
 trust "set trust value for the class"
   line *
 log $ "log ipv4 and arp packets"
+
+file policy_map_police.cfm
+conform-action "action when rate is less than conform burst"
+  %PACT
+exceed-action "action when rate is within conform and conform + exceed burst"
+  %PACT
+violate-action "action when rate is greater than conform + exceed burst"
+  %PACT
+conform-color "conform color class"
+  word $
+exceed-color "exceed color class"
+  word $
 
 file crypto_isakmp.cfm
 encr "encryption"

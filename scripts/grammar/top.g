@@ -706,6 +706,15 @@ event "event manager"
       line *
     directory
       line *
+    policy "register a policy"
+      word :k "policy file name" $
+        line *
+    scheduler "scheduler settings"
+      line *
+    history "history settings"
+      line *
+    detector "detector settings"
+      line *
 ethernet "ethernet configuration"
   lmi
     ce $

@@ -201,6 +201,33 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"template ACCESS\n switchport mode access\n spanning-tree portfast\nmonitor session 1 source vlan 300 rx\n"
        "spanning-tree mst 0-1 priority 4096\n",
        {0, 1, 1, 0, 0}},
+      // A police statement without actions opens a level for them; with its
+      // actions on the line it opens none, and the class goes on after both.
+      {"policy-map P\n class C\n  police cir 8000 bc 1500 be 1500\n   conform-action transmit\n"
+       "   exceed-action set-dscp-transmit af11\n   violate-action drop\n  fair-queue\n class D\n"
+       "  police 8000 conform-action transmit exceed-action drop\n  priority percent 10\n",
+       {0, 1, 2, 3, 3, 3, 2, 1, 2, 2}},
+      {"policy-map P\n class C\n  police rate 2000000 bps burst 62500 bytes\n   conform-action set-qos-transmit 3\n"
+       "  police cir percent 10 bc 20 ms be 10 ms\n   exceed-action drop\n  police 8000 1500\n   violate-action drop\n"
+       "  police cir 1000000 pir 2000000 be 8000\n   conform-action transmit\npolicy-map Q\n",
+       {0, 1, 2, 3, 2, 3, 2, 3, 2, 3, 0}},
+      // Peer templates are levels of their own under the BGP process.
+      {"router bgp 65000\n template peer-policy P\n  route-map IN in\n  send-community both\n exit-peer-policy\n"
+       " template peer-session S\n  remote-as 65001\n  inherit peer-session BASE\n exit-peer-session\n"
+       " neighbor 10.0.0.2 inherit peer-session S\n address-family ipv4\n  neighbor 10.0.0.2 inherit peer-policy P 10\n",
+       {0, 1, 2, 2, 2, 1, 2, 2, 2, 1, 1, 2}},
+      {"router ospf 1\n neighbor 10.0.0.9 priority 0 poll-interval 60\n neighbor 10.0.0.10 cost 20\n"
+       " area 1 nssa no-summary\n area 0.0.0.2 range 10.2.0.0 255.255.0.0 not-advertise\n"
+       " area 5 virtual-link 10.0.0.5 hello-interval 5\n max-metric router-lsa on-startup 300\n"
+       " summary-address 172.16.0.0 255.255.0.0 tag 5\n area 10 range 2001:DB8:60::/48\n",
+       {0, 1, 1, 1, 1, 1, 1, 1, 1}},
+      // A second address family of a vrf is no command of the first one.
+      {"vrf definition V\n rd 1:1\n address-family ipv4\n  route-target both 1:1\n exit-address-family\n"
+       " address-family ipv6\n  route-target export 1:1\n exit-address-family\ninterface Loopback0\n",
+       {0, 1, 1, 2, 2, 1, 2, 2, 0}},
+      {"ip dhcp pool P\n class C\n  address range 10.0.0.10 10.0.0.20\n lease 1\nip dhcp class C\n"
+       " relay agent information\n  relay-information hex 0102\nhostname R1\n",
+       {0, 1, 2, 1, 0, 1, 2, 0}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -226,6 +253,9 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
       "access-list 10 permit tcp any any\n",  // a standard list takes no protocol
       "interface Ge0/0\n",             // not a prefix of any interface type
       "ip access-list extended X\n permit esp host any any\n",  // "host" needs an address
+      "policy-map P\n class C\n  police cir 8000\n   conform-action bogus\n",  // no such action
+      "router bgp 1\n template peer-session S\n  activate\n",  // an address-family setting
+      "router ospf 1\n neighbor 10.0.0.1 priority\n",  // the priority is missing
   };
   for (const char* line : lines) {
     std::vector<std::string> refused;
@@ -692,6 +722,16 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "flow exporter E\n destination 10.0.0.2\n transport udp 9995\n",
        "flow exporter E \n destination 10.0.0.2 \n transport udp 9995 \n!\n",
        "flow exporter E \n destination 10.0.0.1 \n transport udp 2055 \n!\n"},
+      {"a neighbor inherits one session template at a time",
+       "router bgp 65000\n neighbor 10.0.0.2 remote-as 65001\n neighbor 10.0.0.2 inherit peer-session A\n",
+       "router bgp 65000\n neighbor 10.0.0.2 inherit peer-session B\n",
+       "router bgp 65000 \n neighbor 10.0.0.2 remote-as 65001 \n neighbor 10.0.0.2 inherit peer-session B \n!\n",
+       "router bgp 65000 \n neighbor 10.0.0.2 inherit peer-session A \n!\n"},
+      {"a new ospf neighbor priority replaces the old one",
+       "router ospf 1\n neighbor 10.0.0.9 priority 5\n neighbor 10.0.0.10\n",
+       "router ospf 1\n neighbor 10.0.0.9 priority 0\n",
+       "router ospf 1 \n neighbor 10.0.0.9 priority 0 \n neighbor 10.0.0.10 \n!\n",
+       "router ospf 1 \n neighbor 10.0.0.9 priority 5 \n!\n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
