@@ -136,6 +136,31 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
   EXPECT_NE(run(rows[1].args).out.find("hostname probe \n"), std::string::npos);
 }
 
+// The text that fallback compares ends at the first command two levels
+// inside a mode; the program names that line of each input, and only then.
+TEST_F(ConfigCommandsTest, FallbackWarnsWhereTheComparedTextEnds) {
+  const std::string flat = file("flat.cfg", kConfig);
+  const std::string deep = file("deep.cfg",
+                                "hostname r1\n"
+                                "!\n"
+                                "router bgp 65000\n"
+                                " neighbor 192.0.2.2 remote-as 65001\n"
+                                " !\n"
+                                " address-family ipv4\n"
+                                "  neighbor 192.0.2.2 activate\n"
+                                " exit-address-family\n"
+                                "!\n"
+                                "ip route 0.0.0.0 0.0.0.0 192.0.2.254\n");
+  const Outcome quiet = run("fallback --file '" + flat + "' '" + flat + "'");
+  EXPECT_EQ(quiet.err, "");
+  const Outcome warned = run("fallback --file '" + flat + "' '" + deep + "'");
+  EXPECT_EQ(warned.status, 0);
+  EXPECT_EQ(warned.err,
+            "vtyconf: warning: vtyconf_cli_deep.cfg:7: fallback compares nothing from this line on (a command two levels "
+            "inside a mode ends the normalised text)\n");
+  EXPECT_EQ(warned.out, QxParserUtil::fallbackConfigCmds(kConfig, readFile(deep), 1));
+}
+
 TEST_F(ConfigCommandsTest, SortWritesEveryCommandOnceWithItsModes) {
   const Outcome result = run("sort -", kConfig);
   EXPECT_EQ(result.status, 0) << result.err;

@@ -173,8 +173,7 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
   return true;
 }
 
-bool readInput(const std::string& path, std::string& text, bool keepCapture) {
-  ConfigInput input;
+bool readInput(const std::string& path, ConfigInput& input, bool keepCapture) {
   std::string error;
   if (!readConfigInput(path, keepCapture, input, error)) {
     std::cerr << "vtyconf: " << error << "\n";
@@ -182,6 +181,12 @@ bool readInput(const std::string& path, std::string& text, bool keepCapture) {
   }
   for (const std::string& left : input.leftOut)
     std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+  return true;
+}
+
+bool readInput(const std::string& path, std::string& text, bool keepCapture) {
+  ConfigInput input;
+  if (!readInput(path, input, keepCapture)) return false;
   text = std::move(input.text);
   return true;
 }

@@ -48,6 +48,8 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 // standard error. False, after the message "vtyconf: ...", when the file
 // cannot be read.
 bool readInput(const std::string& path, std::string& text, bool keepCapture = false);
+// The same, keeping what the reader learnt (line numbers of the file).
+bool readInput(const std::string& path, ConfigInput& input, bool keepCapture = false);
 
 // A refused line: its walk found no path, or a path that never reached the
 // end of a command (a "no" line may stop early where the grammar allows it,

@@ -1,13 +1,49 @@
 // vtyconf fallback FIRST SECOND [--delta|--file]: the commands that lead back.
+//
+// Both configurations are compared in the form the merge writer gives them,
+// which indents a command two or more levels deep with NUL bytes, and the
+// text read back from that form ends at the first of them. Commands from
+// there on take no part in the comparison, so the program says so on
+// standard error, naming the first such line of each input.
 #include <iostream>
+#include <vector>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "OutputText.h"
+#include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
 namespace {
+
+// The first stored command two or more levels deep, in line order; null if none.
+const qxparser::CiscoCommandLine* firstDeepCommand(const std::vector<qxparser::CiscoCommandLine*>& records) {
+  const qxparser::CiscoCommandLine* first = nullptr;
+  std::vector<const qxparser::CiscoCommandLine*> pending(records.begin(), records.end());
+  while (!pending.empty()) {
+    const qxparser::CiscoCommandLine* record = pending.back();
+    pending.pop_back();
+    if (record == nullptr) continue;
+    if (record->getLevel() >= 2 && (first == nullptr || record->getLineNo() < first->getLineNo())) first = record;
+    for (const qxparser::CiscoCommandLine* child : record->getChildCommands()) pending.push_back(child);
+  }
+  return first;
+}
+
+// Warns when `input` holds a command that the comparison cannot see.
+void warnAboutDeepCommands(const ConfigInput& input) {
+  std::vector<qxparser::CiscoCommandLine*> records;
+  std::string errorText;
+  int errorLine = 0;
+  qxparser::QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+  if (const qxparser::CiscoCommandLine* deep = firstDeepCommand(records)) {
+    std::cerr << "vtyconf: warning: " << input.displayName() << ":" << input.fileLineOf(deep->getLineNo())
+              << ": fallback compares nothing from this line on (a command two levels inside a mode ends the "
+                 "normalised text)\n";
+  }
+  qxparser::QxParserUtil::deleteCommands(records);
+}
 
 struct FallbackOptions {
   std::string first;
@@ -28,12 +64,15 @@ CommandRegistration registration{CommandSpec{
       delta->excludes(file);
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
-        std::string first;
-        std::string second;
+        ConfigInput first;
+        ConfigInput second;
         if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
         if (!loadResources()) return 2;
+        warnAboutDeepCommands(first);
+        warnAboutDeepCommands(second);
         const unsigned int mode = options->delta ? 0u : 1u;
-        const std::string text = printable(qxparser::QxParserUtil::fallbackConfigCmds(first, second, mode));
+        const std::string text =
+            printable(qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode));
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
         return 0;
       };
