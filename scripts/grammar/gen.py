@@ -127,6 +127,9 @@ def expand(children, defs):
     out = []
     for c in children:
         if c.macro is not None:
+            if c.link or c.include:
+                sys.exit("gen.py: %%%s carries '%s', which a fragment reference cannot take; "
+                         "write the fragment out or put the link on its leaves" % (c.macro, c.link or c.include))
             frag = defs[c.macro]
             extra = c.children
             out.extend(copy_with_leaves(n, extra, defs) for n in expand(frag.children, defs))
