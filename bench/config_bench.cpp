@@ -103,9 +103,31 @@ void BM_FallbackDelta(benchmark::State& state) {
   reportPeak(state);
 }
 
+// Both modes over every level: the text behind the first command two levels
+// inside a mode takes part too (what `vtyconf fallback` runs).
+void BM_FallbackFileAllLevels(benchmark::State& state) {
+  loadOnce();
+  const int lines = static_cast<int>(state.range(0));
+  const std::string running = makeConfig(lines, false);
+  const std::string intended = makeConfig(lines, true);
+  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmdsAllLevels(running, intended, 1));
+  reportPeak(state);
+}
+
+void BM_FallbackDeltaAllLevels(benchmark::State& state) {
+  loadOnce();
+  const int lines = static_cast<int>(state.range(0));
+  const std::string running = makeConfig(lines, false);
+  const std::string changes = makeConfig(lines, true);
+  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmdsAllLevels(changes, running, 0));
+  reportPeak(state);
+}
+
 BENCHMARK(BM_MergeOneLine)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_MergeChanges)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_FallbackFile)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_FallbackDelta)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_FallbackFileAllLevels)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_FallbackDeltaAllLevels)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace

@@ -4,6 +4,7 @@
 // and loses nothing on the way.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -115,11 +116,11 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
     std::string expected;
   };
   const std::vector<Row> rows = {
-      {"fallback --delta '" + changes + "' '" + config + "'", QxParserUtil::fallbackConfigCmds(kChanges, kConfig, 0)},
+      {"fallback --delta '" + changes + "' '" + config + "'", QxParserUtil::fallbackConfigCmdsAllLevels(kChanges, kConfig, 0)},
       {"fallback --file '" + config + "' '" + intended + "'",
-       QxParserUtil::fallbackConfigCmds(kConfig, readFile(intended), 1)},
+       QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(intended), 1)},
       // File mode is the default.
-      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmds(kConfig, readFile(intended), 1)},
+      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(intended), 1)},
   };
   for (const Row& row : rows) {
     ASSERT_FALSE(row.expected.empty()) << row.args;
@@ -136,9 +137,9 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
   EXPECT_NE(run(rows[1].args).out.find("hostname probe \n"), std::string::npos);
 }
 
-// The text that fallback compares ends at the first command two levels
-// inside a mode; the program names that line of each input, and only then.
-TEST_F(ConfigCommandsTest, FallbackWarnsWhereTheComparedTextEnds) {
+// The program compares every level; asked for the library's cut, it names the
+// line of each input from which nothing is compared, and only then.
+TEST_F(ConfigCommandsTest, FallbackComparesEveryLevelOrWarnsWhereTheLibraryCutsTheText) {
   const std::string flat = file("flat.cfg", kConfig);
   const std::string deep = file("deep.cfg",
                                 "hostname r1\n"
@@ -151,14 +152,21 @@ TEST_F(ConfigCommandsTest, FallbackWarnsWhereTheComparedTextEnds) {
                                 " exit-address-family\n"
                                 "!\n"
                                 "ip route 0.0.0.0 0.0.0.0 192.0.2.254\n");
-  const Outcome quiet = run("fallback --file '" + flat + "' '" + flat + "'");
-  EXPECT_EQ(quiet.err, "");
-  const Outcome warned = run("fallback --file '" + flat + "' '" + deep + "'");
+  const Outcome whole = run("fallback --file '" + flat + "' '" + deep + "'");
+  EXPECT_EQ(whole.err, "");
+  // The program prints the writer's NUL indent bytes as blanks.
+  std::string expected = QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(deep), 1);
+  std::replace(expected.begin(), expected.end(), '\0', ' ');
+  EXPECT_EQ(whole.out, expected);
+  EXPECT_NE(whole.out.find("neighbor 192.0.2.2 activate"), std::string::npos) << whole.out;
+  EXPECT_EQ(run("fallback --cut-at-deep-levels --file '" + flat + "' '" + flat + "'").err, "");
+  const Outcome warned = run("fallback --cut-at-deep-levels --file '" + flat + "' '" + deep + "'");
   EXPECT_EQ(warned.status, 0);
   EXPECT_EQ(warned.err,
             "vtyconf: warning: vtyconf_cli_deep.cfg:7: fallback compares nothing from this line on (a command two levels "
             "inside a mode ends the normalised text)\n");
   EXPECT_EQ(warned.out, QxParserUtil::fallbackConfigCmds(kConfig, readFile(deep), 1));
+  EXPECT_EQ(warned.out.find("activate"), std::string::npos) << warned.out;
 }
 
 TEST_F(ConfigCommandsTest, SortWritesEveryCommandOnceWithItsModes) {

@@ -127,11 +127,11 @@ int runDemo(const DemoOptions& options, const GlobalOptions& global) {
   std::cout << unifiedDiff(printable(before), printable(after), 1);
 
   narrator.step("rollback of the change set", "The commands that undo the change set (fallback --delta).");
-  std::cout << printable(QxParserUtil::fallbackConfigCmds(changes, config, 0));
+  std::cout << printable(QxParserUtil::fallbackConfigCmdsAllLevels(changes, config, 0));
 
   narrator.step("rollback from the new configuration to the old one",
                 "The commands that take the merged configuration back to the original (fallback --file).");
-  std::cout << printable(QxParserUtil::fallbackConfigCmds(after, config, 1));
+  std::cout << printable(QxParserUtil::fallbackConfigCmdsAllLevels(after, config, 1));
 
   narrator.step("queries", "Sections fetched from the file: routing protocols, access lists, one interface.");
   const std::string path = (folder / "branch-router.cfg").string();

@@ -1,10 +1,12 @@
-// vtyconf fallback FIRST SECOND [--delta|--file]: the commands that lead back.
+// vtyconf fallback FIRST SECOND [--delta|--file] [--cut-at-deep-levels]: the
+// commands that lead back.
 //
-// Both configurations are compared in the form the merge writer gives them,
-// which indents a command two or more levels deep with NUL bytes, and the
-// text read back from that form ends at the first of them. Commands from
-// there on take no part in the comparison, so the program says so on
-// standard error, naming the first such line of each input.
+// Both configurations are compared in the form the merge writer gives them.
+// That form indents a command two or more levels deep with NUL bytes, and the
+// library's fallbackConfigCmds reads it back only up to the first of them.
+// The program compares every level (fallbackConfigCmdsAllLevels) unless asked
+// for the library's own cut; then it names, on standard error, the line of
+// each input from which nothing is compared.
 #include <iostream>
 #include <vector>
 
@@ -50,6 +52,7 @@ struct FallbackOptions {
   std::string second;
   bool delta = false;
   bool file = false;
+  bool cutAtDeepLevels = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -62,17 +65,24 @@ CommandRegistration registration{CommandSpec{
       auto* delta = sub.add_flag("--delta", options->delta, "undo the changes FIRST applied to SECOND");
       auto* file = sub.add_flag("--file", options->file, "turn configuration FIRST into SECOND (default)");
       delta->excludes(file);
+      sub.add_flag("--cut-at-deep-levels", options->cutAtDeepLevels,
+                   "compare as fallbackConfigCmds does: nothing from the first command two levels inside a mode on");
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
         ConfigInput first;
         ConfigInput second;
         if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
         if (!loadResources()) return 2;
-        warnAboutDeepCommands(first);
-        warnAboutDeepCommands(second);
         const unsigned int mode = options->delta ? 0u : 1u;
-        const std::string text =
-            printable(qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode));
+        std::string text;
+        if (options->cutAtDeepLevels) {
+          warnAboutDeepCommands(first);
+          warnAboutDeepCommands(second);
+          text = qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode);
+        } else {
+          text = qxparser::QxParserUtil::fallbackConfigCmdsAllLevels(first.text, second.text, mode);
+        }
+        text = printable(text);
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
         return 0;
       };

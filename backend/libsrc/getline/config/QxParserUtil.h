@@ -58,7 +58,16 @@ class VTYCONF_API QxParserUtil {
   // Fallback: mode 0 gives the commands that undo `first` (changes) applied
   // to `second` (configuration); any other mode the commands that turn the
   // configuration `first` into `second`.
+  // Both texts are compared in the form a merge writes, and that form indents
+  // a command two or more levels deep with NUL bytes, at which the text read
+  // back ends: nothing from the first such command on is compared.
   static std::string fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode);
+  // vtyconf's own: the same comparison over every level. The written form is
+  // read back with its NUL indent bytes taken as blanks, so commands at any
+  // depth, and everything behind them, take part. The result is written as
+  // fallbackConfigCmds writes it (NUL indent bytes included).
+  static std::string fallbackConfigCmdsAllLevels(const std::string& first, const std::string& second,
+                                                 unsigned int mode);
   static bool removeInterfaceFromConfigFile(const std::string& path, const std::string& name);
 
   // Builds the overwrite set from files/commandflag/cisco.flg. Nothing in the
@@ -71,6 +80,8 @@ class VTYCONF_API QxParserUtil {
 
  private:
   friend struct QxParserUtilPeer;
+  static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
+                                        bool allLevels);
   static bool transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                             std::string& errorText, int& errorLine);
   static void GetSpecialCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,

@@ -1,5 +1,6 @@
 // Fallback: the commands that take a device back, either from applied changes
 // (delta mode) or from one complete configuration to another (file mode).
+#include <algorithm>
 #include <fstream>
 #include <memory>
 #include <sstream>
@@ -27,6 +28,16 @@ CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
 }
 
 std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode) {
+  return fallbackNormalised(first, second, mode, false);
+}
+
+std::string QxParserUtil::fallbackConfigCmdsAllLevels(const std::string& first, const std::string& second,
+                                                      unsigned int mode) {
+  return fallbackNormalised(first, second, mode, true);
+}
+
+std::string QxParserUtil::fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
+                                             bool allLevels) {
   if (first.empty()) return second;
   std::vector<CiscoCommandLine*> firstCmds;
   std::vector<CiscoCommandLine*> secondCmds;
@@ -40,7 +51,8 @@ std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std
     // Both sides are brought into the form that a merge writes, so that
     // comments are gone and repeated words stand in one order.
     for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {
-      const std::string normalised = expandMergedCmds(*side, 0);
+      std::string normalised = expandMergedCmds(*side, 0);
+      if (allLevels) std::replace(normalised.begin(), normalised.end(), '\0', ' ');
       deleteTopLevel(*side);
       transformCmds(normalised, *side, errorText, errorLine);
     }
