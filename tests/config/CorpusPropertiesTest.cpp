@@ -193,6 +193,31 @@ std::string storedView(const std::string& text) {
 //   mode finds the remaining one equal and writes nothing.
 constexpr size_t kRecordedRoundTrips = 30;
 
+// The library's fallback compares nothing behind the first command two levels
+// inside a mode; over every level the change there is found, also when the
+// text is a merge result with its NUL indent bytes.
+TEST_F(ShippedGrammarTest, FallbackOverAllLevelsSeesDeepChangesAndReadsMergeResultsWhole) {
+  const std::string before =
+      "router bgp 65000\n"
+      " neighbor 192.0.2.2 remote-as 65001\n"
+      " address-family ipv4\n"
+      "  neighbor 192.0.2.2 activate\n"
+      " exit-address-family\n"
+      "ip route 0.0.0.0 0.0.0.0 192.0.2.254\n";
+  const std::string changes = "ip route 10.0.0.0 255.0.0.0 192.0.2.9\n";
+  const std::string after = QxParserUtil::mergeConfigCmds(changes, before);
+  ASSERT_NE(after.find('\0'), std::string::npos) << "the merge writes the second level with a NUL";
+  EXPECT_EQ(QxParserUtil::fallbackConfigCmds(after, before, 1).find("ip route 10.0.0.0"), std::string::npos)
+      << "the library's cut hides everything behind the address family, intended";
+  const std::string back = QxParserUtil::fallbackConfigCmdsAllLevels(after, before, 1);
+  EXPECT_NE(back.find("no ip route 10.0.0.0 255.0.0.0 192.0.2.9"), std::string::npos) << back;
+  EXPECT_EQ(back.find("activate"), std::string::npos) << "unchanged deep commands are not written: " << back;
+  std::string deeper = before;
+  deeper.replace(deeper.find("activate"), 8, "shutdown");
+  EXPECT_NE(QxParserUtil::fallbackConfigCmdsAllLevels(before, deeper, 1).find("neighbor 192.0.2.2 shutdown"),
+            std::string::npos);
+}
+
 // How many files give back their variant through `fallback` and a merge;
 // the report names each failing file.
 size_t countRoundTrips(const std::vector<CorpusFile>& files,

@@ -62,9 +62,10 @@ class VTYCONF_API QxParserUtil {
   // a command two or more levels deep with NUL bytes, at which the text read
   // back ends: nothing from the first such command on is compared.
   static std::string fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode);
-  // vtyconf's own: the same comparison over every level. The written form is
-  // read back with its NUL indent bytes taken as blanks, so commands at any
-  // depth, and everything behind them, take part. The result is written as
+  // vtyconf's own: the same comparison over every level. NUL bytes are taken
+  // as blanks, in the given texts (a merge result may be one of them) and in
+  // the written form read back, so commands at any depth, and everything
+  // behind them, take part. The result is written as
   // fallbackConfigCmds writes it (NUL indent bytes included).
   static std::string fallbackConfigCmdsAllLevels(const std::string& first, const std::string& second,
                                                  unsigned int mode);

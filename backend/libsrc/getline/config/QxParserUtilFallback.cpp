@@ -27,6 +27,16 @@ CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
   return negated.release();
 }
 
+namespace {
+
+// The writer's NUL indent bytes as blanks, so that a reader takes the text whole.
+std::string blanksForNul(std::string text) {
+  std::replace(text.begin(), text.end(), '\0', ' ');
+  return text;
+}
+
+}  // namespace
+
 std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode) {
   return fallbackNormalised(first, second, mode, false);
 }
@@ -46,13 +56,15 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   try {
     std::string errorText;
     int errorLine = 0;
-    transformCmds(first, firstCmds, errorText, errorLine);
-    transformCmds(second, secondCmds, errorText, errorLine);
+    // Over every level, a text that is itself a merge result (NUL indent
+    // bytes included) is read whole as well.
+    transformCmds(allLevels ? blanksForNul(first) : first, firstCmds, errorText, errorLine);
+    transformCmds(allLevels ? blanksForNul(second) : second, secondCmds, errorText, errorLine);
     // Both sides are brought into the form that a merge writes, so that
     // comments are gone and repeated words stand in one order.
     for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {
       std::string normalised = expandMergedCmds(*side, 0);
-      if (allLevels) std::replace(normalised.begin(), normalised.end(), '\0', ' ');
+      if (allLevels) normalised = blanksForNul(normalised);
       deleteTopLevel(*side);
       transformCmds(normalised, *side, errorText, errorLine);
     }
