@@ -799,6 +799,12 @@ access-list|add an access list entry|k||
   !
 !
 vlan|vlan commands|k||
+  configuration|vlan feature configuration mode|k||
+    <vlan>|vlan id or list|k||
+      <cr>||||@(config-vlan-config)# vlan_config.cfm
+      !
+    !
+  !
   <vlan>|vlan id or list|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !

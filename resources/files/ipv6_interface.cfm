@@ -9,7 +9,7 @@ cef|cef|k||
   !
 !
 address|address|k||
-  <x:x::x/n>|x:x::x/n|k||
+  <x:x::x/n>|ipv6 prefix, or the name of a general prefix|k||
     <cr>||||
     !
     eui-64|eui-64|k||
@@ -22,6 +22,14 @@ address|address|k||
     !
     link-local|link-local|k||
       <cr>||||
+      !
+    !
+    <x:x::x/n>|sub-prefix bits and length under the general prefix|k||
+      <cr>||||
+      !
+      eui-64|eui-64|k||
+        <cr>||||
+        !
       !
     !
   !

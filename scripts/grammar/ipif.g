@@ -341,10 +341,12 @@ cef $
   accounting
     line *
 address
-  <x:x::x/n> :k $
+  <x:x::x/n> :k "ipv6 prefix, or the name of a general prefix" $
     eui-64 $
     anycast $
     link-local $
+    <x:x::x/n> :k "sub-prefix bits and length under the general prefix" $
+      eui-64 $
   <x:x::x> :k
     link-local $
   autoconfig $

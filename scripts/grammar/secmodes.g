@@ -639,14 +639,19 @@ trustpoint
 no-shutdown $
 
 file crypto_cert.cfm
-certificate
-  self-signed
-    word :k $
-  ca
-    word :k $
+certificate "exchange certificates"
+  self-signed "self signed certificate"
+    word :k "certificate serial number" $
+  ca "certificate authority certificate"
+    word :k "certificate serial number" $
   rollover
     line *
-  word :k $
+  word :k "certificate serial number" $
+# The certificate data follows its certificate line as rows of hex words and
+# ends with quit. The rows have no path and are not kept, and neither is
+# quit (sn: read, never stored), as a quit without its data says nothing. It
+# is read as a line of the chain, which keeps the chain one level deep.
+quit "end of certificate data" :sn $
 
 
 file crypto_ikev2.cfm

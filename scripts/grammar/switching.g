@@ -577,3 +577,37 @@ id :k "action number"
     line *
   notify "notify"
     line *
+
+# Features bound to a list of vlans (vlan configuration 10,20): policies of
+# the first-hop security features and the EVPN membership.
+file vlan_config.cfm
+device-tracking "configure device-tracking on the vlans" $
+  attach-policy "apply a policy"
+    word :k "policy name" $
+ipv6 "ipv6 vlan feature configuration"
+  nd "ipv6 neighbor discovery"
+    raguard "router advertisement guard"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+    suppress "neighbor discovery suppress"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+  dhcp "ipv6 dhcp"
+    guard "dhcpv6 guard"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+  destination-guard "destination guard"
+    attach-policy "apply a policy"
+      word :k "policy name" $
+  source-guard "source guard"
+    attach-policy "apply a policy"
+      word :k "policy name" $
+member "vlan members"
+  evpn-instance "evpn instance"
+    id :k "evpn instance number"
+      vni "virtual network identifier"
+        id :o "vni number" $
+  vni "virtual network identifier"
+    id :k "vni number" $
+et-analytics "encrypted traffic analytics"
+  enable "enable on the vlans" $

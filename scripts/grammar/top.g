@@ -260,6 +260,8 @@ access-list "add an access list entry"
     remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
+  configuration "vlan feature configuration mode"
+    <vlan> :k "vlan id or list" @(config-vlan-config)#=vlan_config.cfm
   <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
   internal
     allocation
