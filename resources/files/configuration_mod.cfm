@@ -1147,8 +1147,58 @@ platform|platform configuration|k||
   !
 !
 license|license configuration|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  udi|unique device identifier|k||
+    pid|product identifier|k||
+      word|product identifier|||
+        sn|serial number|k||
+          word|serial number|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  boot|boot license settings|k||
+    level|technology package level|k||
+      word|level name|k||
+        <cr>||||
+        !
+        addon|add-on level|k||
+          word|add-on level name|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  smart|smart licensing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  accept|accept an agreement|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  feature|feature license|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  call-home|call-home licensing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !
@@ -1167,12 +1217,50 @@ upgrade|upgrade commands|k||
   !
 !
 subscriber|subscriber configuration|k||
-  templating|templating|k||
+  templating|subscriber templates|k||
     <cr>||||
     !
   !
-  line|line|lb/le/wa||
-    <cr>||||
+  authorization|subscriber authorization|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+  aaa|subscriber aaa|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  redundancy|subscriber redundancy|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  service|subscriber service|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  policy|subscriber policy|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  feature|subscriber feature|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  accounting|subscriber accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !

@@ -1261,16 +1261,22 @@ channel-protocol|select the channel protocol (lacp, pagp)|k||
   !
 !
 mop|dec mop server commands|k||
-  enabled|enabled|k/sn||
+  enabled|enable mop on the interface|k/sn||
     <cr>||||
     !
   !
-  sysid|sysid|k/sn||
+  sysid|send mop periodic system id messages|k/sn||
     <cr>||||
     !
   !
-  line|line|lb/le/wa||
-    <cr>||||
+  device-code|device code in the system id|k||
+    cisco|cisco|o||
+      <cr>||||
+      !
+    !
+    ds200|ds200|o||
+      <cr>||||
+      !
     !
   !
 !

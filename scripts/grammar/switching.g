@@ -381,9 +381,12 @@ tracking "tracking settings"
       id $
   disable "disable tracking" $
 security-level "security level"
-  word :o $
+  glean "learn bindings, never drop" :-k/o $
+  guard "drop unwanted messages" :-k/o $
+  inspect "check messages, drop the invalid ones" :-k/o $
 device-role "device role"
-  word :o $
+  node "attached to a host" :-k/o $
+  switch "attached to a switch" :-k/o $
 limit "limits"
   address-count "address count"
     id :o $
@@ -394,8 +397,22 @@ destination-glean "destination gleaning"
 prefix-glean "prefix gleaning" $
   line *
 trusted-port "trusted port" $
-protocol "protocols"
-  line *
+protocol "protocols gleaned"
+  arp "arp" $
+    prefix-list "limit to a prefix list"
+      word $
+  dhcp4 "dhcpv4" $
+    prefix-list "limit to a prefix list"
+      word $
+  dhcp6 "dhcpv6" $
+    prefix-list "limit to a prefix list"
+      word $
+  ndp "neighbor discovery" $
+    prefix-list "limit to a prefix list"
+      word $
+  udp "udp" $
+    prefix-list "limit to a prefix list"
+      word $
 cdp "cdp attributes" $
 lldp "lldp attributes" $
 dhcp "dhcp attributes" $
