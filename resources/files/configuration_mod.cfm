@@ -2895,10 +2895,32 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  buffered|buffered|k||
+  buffered|logging to the buffer|k||
     <cr>||||
     !
-    id|id|o||
+    id|buffer size in bytes|o||
+      <cr>||||
+      !
+      &loglevelfile.cfm|severity|o||
+        <cr>||||
+        !
+      !
+    !
+    &loglevelfile.cfm|severity|o||
+      <cr>||||
+      !
+    !
+    discriminator|filter by a message discriminator|k||
+      word|word|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    xml|log in xml form|k||
       <cr>||||
       !
       line|line|lb/le/wa||
@@ -2906,8 +2928,12 @@ logging|modify message logging facilities|k||
         !
       !
     !
-    line|line|lb/le/wa/o||
+    filtered|filtered logging|k||
       <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !

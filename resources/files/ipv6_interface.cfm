@@ -332,26 +332,66 @@ traffic-filter|traffic-filter|k||
     !
   !
 !
-dhcp|dhcp|k||
-  server|server|k||
-    word|word|||
+dhcp|ipv6 dhcp interface configuration|k||
+  server|act as a dhcpv6 server on the interface|k||
+    word|pool name|o||
       <cr>||||
       !
-      line|line|lb/le/wa||
+      rapid-commit|allow the two-message exchange|k||
+        <cr>||||
+        !
+      !
+      preference|preference advertised|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      allow-hint|allow the client's prefix hint|k||
         <cr>||||
         !
       !
     !
   !
-  relay|relay|k||
+  relay|act as a dhcpv6 relay agent|k||
     line|line|lb/le/wa||
       <cr>||||
       !
     !
   !
-  client|client|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  client|act as a dhcpv6 client|k||
+    pd|request prefix delegation|k||
+      hint|prefix hint|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      word|general prefix name for the delegated prefix|o||
+        <cr>||||
+        !
+        rapid-commit|allow the two-message exchange|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    information|information request settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    request|request options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    vendor-class|vendor class option|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !

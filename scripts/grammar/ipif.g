@@ -442,14 +442,27 @@ traffic-filter
   word :k
     in $
     out $
-dhcp
-  server
-    word $
+dhcp "ipv6 dhcp interface configuration"
+  server "act as a dhcpv6 server on the interface"
+    word :o "pool name" $
+      rapid-commit "allow the two-message exchange" $
+      preference "preference advertised"
+        id $
+      allow-hint "allow the client's prefix hint" $
+  relay "act as a dhcpv6 relay agent"
+    line *
+  client "act as a dhcpv6 client"
+    pd "request prefix delegation"
+      hint "prefix hint"
+        line *
+      word :o "general prefix name for the delegated prefix" $
+        rapid-commit "allow the two-message exchange" $
+    information "information request settings"
       line *
-  relay
-    line *
-  client
-    line *
+    request "request options"
+      line *
+    vendor-class "vendor class option"
+      line *
 policy
   line *
 pim $
