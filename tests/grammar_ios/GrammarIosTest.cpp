@@ -24,7 +24,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 0.476;
+constexpr double kRecordedRefusedShare = 0.463;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
