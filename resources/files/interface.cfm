@@ -1269,16 +1269,6 @@ mop|dec mop server commands|k||
     <cr>||||
     !
   !
-  device-code|device code in the system id|k||
-    cisco|cisco|o||
-      <cr>||||
-      !
-    !
-    ds200|ds200|o||
-      <cr>||||
-      !
-    !
-  !
 !
 serial|serial interface commands|k||
   restart-delay|restart-delay|k||

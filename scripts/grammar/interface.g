@@ -399,9 +399,6 @@ channel-protocol "select the channel protocol (lacp, pagp)"
 mop "dec mop server commands"
   enabled "enable mop on the interface" $ :sn
   sysid "send mop periodic system id messages" $ :sn
-  device-code "device code in the system id"
-    cisco :-k/o $
-    ds200 :-k/o $
 serial "serial interface commands"
   restart-delay
     id :o $
