@@ -799,6 +799,12 @@ access-list|add an access list entry|k||
   !
 !
 vlan|vlan commands|k||
+  configuration|vlan feature configuration mode|k||
+    <vlan>|vlan id or list|k||
+      <cr>||||@(config-vlan-config)# vlan_config.cfm
+      !
+    !
+  !
   <vlan>|vlan id or list|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !
@@ -1141,8 +1147,58 @@ platform|platform configuration|k||
   !
 !
 license|license configuration|k||
-  line|line|lb/le/wa||
-    <cr>||||
+  udi|unique device identifier|k||
+    pid|product identifier|k||
+      word|product identifier|||
+        sn|serial number|k||
+          word|serial number|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  boot|boot license settings|k||
+    level|technology package level|k||
+      word|level name|k||
+        <cr>||||
+        !
+        addon|add-on level|k||
+          word|add-on level name|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  smart|smart licensing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  accept|accept an agreement|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  feature|feature license|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  call-home|call-home licensing|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !
@@ -1161,12 +1217,50 @@ upgrade|upgrade commands|k||
   !
 !
 subscriber|subscriber configuration|k||
-  templating|templating|k||
+  templating|subscriber templates|k||
     <cr>||||
     !
   !
-  line|line|lb/le/wa||
-    <cr>||||
+  authorization|subscriber authorization|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+  aaa|subscriber aaa|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  redundancy|subscriber redundancy|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  service|subscriber service|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  policy|subscriber policy|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  feature|subscriber feature|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  accounting|subscriber accounting|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !
@@ -2801,10 +2895,32 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  buffered|buffered|k||
+  buffered|logging to the buffer|k||
     <cr>||||
     !
-    id|id|o||
+    id|buffer size in bytes|o||
+      <cr>||||
+      !
+      &loglevelfile.cfm|severity|o||
+        <cr>||||
+        !
+      !
+    !
+    &loglevelfile.cfm|severity|o||
+      <cr>||||
+      !
+    !
+    discriminator|filter by a message discriminator|k||
+      word|word|||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    xml|log in xml form|k||
       <cr>||||
       !
       line|line|lb/le/wa||
@@ -2812,8 +2928,12 @@ logging|modify message logging facilities|k||
         !
       !
     !
-    line|line|lb/le/wa/o||
+    filtered|filtered logging|k||
       <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !

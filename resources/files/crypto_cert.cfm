@@ -1,12 +1,12 @@
-certificate|certificate|k||
-  self-signed|self-signed|k||
-    word|word|k||
+certificate|exchange certificates|k||
+  self-signed|self signed certificate|k||
+    word|certificate serial number|k||
       <cr>||||
       !
     !
   !
-  ca|ca|k||
-    word|word|k||
+  ca|certificate authority certificate|k||
+    word|certificate serial number|k||
       <cr>||||
       !
     !
@@ -17,8 +17,12 @@ certificate|certificate|k||
       !
     !
   !
-  word|word|k||
+  word|certificate serial number|k||
     <cr>||||
     !
+  !
+!
+quit|end of certificate data|k/sn||
+  <cr>||||
   !
 !

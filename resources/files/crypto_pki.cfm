@@ -1,6 +1,48 @@
-enrollment|enrollment|k||
-  line|line|lb/le/wa||
+enrollment|enrollment parameters|k||
+  selfsigned|generate a self-signed certificate|o||
     <cr>||||
+    !
+  !
+  pkcs12|import the certificate with pkcs12|o||
+    <cr>||||
+    !
+  !
+  terminal|enroll by cut and paste|o||
+    <cr>||||
+    !
+    pem|the certificate in pem form|k||
+      <cr>||||
+      !
+    !
+  !
+  url|enrollment url|o||
+    line|url of the certificate authority|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  profile|enrollment profile|o||
+    word|profile name|||
+      <cr>||||
+      !
+    !
+  !
+  mode|mode of the certificate authority|k||
+    ra|registration authority|k||
+      <cr>||||
+      !
+    !
+  !
+  retry|retry settings|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  http-proxy|http proxy for enrollment|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
     !
   !
 !
@@ -30,8 +72,40 @@ subject-alt-name|subject-alt-name|k||
     !
   !
 !
-revocation-check|revocation-check|k||
-  line|line|lb/le/wa||
+revocation-check|method of revocation checking, in the order tried|k||
+  crl|check the certificate revocation list|o||
+    <cr>||||
+    !
+    none|ignore revocation if the list is unavailable|k||
+      <cr>||||
+      !
+    !
+    ocsp|then ask an ocsp server|k||
+      <cr>||||
+      !
+      none|ignore revocation if neither answers|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  ocsp|ask an ocsp server|o||
+    <cr>||||
+    !
+    none|ignore revocation if the server is unreachable|k||
+      <cr>||||
+      !
+    !
+    crl|then check the certificate revocation list|k||
+      <cr>||||
+      !
+      none|ignore revocation if neither answers|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  none|ignore revocation|o||
     <cr>||||
     !
   !
@@ -70,8 +144,24 @@ password|password|k||
     !
   !
 !
-hash|hash|k||
-  line|line|lb/le/wa||
+hash|hash algorithm for signing|k||
+  md5|md5|o||
+    <cr>||||
+    !
+  !
+  sha1|sha1|o||
+    <cr>||||
+    !
+  !
+  sha256|sha256|o||
+    <cr>||||
+    !
+  !
+  sha384|sha384|o||
+    <cr>||||
+    !
+  !
+  sha512|sha512|o||
     <cr>||||
     !
   !

@@ -1261,15 +1261,11 @@ channel-protocol|select the channel protocol (lacp, pagp)|k||
   !
 !
 mop|dec mop server commands|k||
-  enabled|enabled|k/sn||
+  enabled|enable mop on the interface|k/sn||
     <cr>||||
     !
   !
-  sysid|sysid|k/sn||
-    <cr>||||
-    !
-  !
-  line|line|lb/le/wa||
+  sysid|send mop periodic system id messages|k/sn||
     <cr>||||
     !
   !

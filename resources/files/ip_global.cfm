@@ -410,6 +410,380 @@ ssh|configure secure shell|k||
     !
   !
   server|server|k||
+    algorithm|algorithms the server offers|k||
+      encryption|encryption algorithms, in order of preference|k||
+        aes128-ctr|aes128-ctr|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes192-ctr|aes192-ctr|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes256-ctr|aes256-ctr|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes128-cbc|aes128-cbc|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes192-cbc|aes192-cbc|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes256-cbc|aes256-cbc|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes128-gcm|aes128-gcm|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes256-gcm|aes256-gcm|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes128-gcm@openssh.com|aes128-gcm@openssh.com|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        aes256-gcm@openssh.com|aes256-gcm@openssh.com|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        chacha20-poly1305@openssh.com|chacha20-poly1305@openssh.com|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        3des-cbc|3des-cbc|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      mac|mac algorithms, in order of preference|k||
+        hmac-sha1|hmac-sha1|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        hmac-sha1-96|hmac-sha1-96|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        hmac-sha2-256|hmac-sha2-256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        hmac-sha2-512|hmac-sha2-512|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        hmac-sha2-256-etm@openssh.com|hmac-sha2-256-etm@openssh.com|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        hmac-sha2-512-etm@openssh.com|hmac-sha2-512-etm@openssh.com|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      kex|key exchange algorithms, in order of preference|k||
+        diffie-hellman-group14-sha1|diffie-hellman-group14-sha1|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        diffie-hellman-group14-sha256|diffie-hellman-group14-sha256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        diffie-hellman-group16-sha512|diffie-hellman-group16-sha512|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdh-sha2-nistp256|ecdh-sha2-nistp256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdh-sha2-nistp384|ecdh-sha2-nistp384|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdh-sha2-nistp521|ecdh-sha2-nistp521|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        curve25519-sha256|curve25519-sha256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        curve25519-sha256@libssh.org|curve25519-sha256@libssh.org|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      hostkey|host key algorithms, in order of preference|k||
+        rsa-sha2-256|rsa-sha2-256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        rsa-sha2-512|rsa-sha2-512|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ssh-rsa|ssh-rsa|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        x509v3-ssh-rsa|x509v3-ssh-rsa|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp256|ecdsa-sha2-nistp256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp384|ecdsa-sha2-nistp384|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp521|ecdsa-sha2-nistp521|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ssh-ed25519|ssh-ed25519|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      publickey|public key algorithms, in order of preference|k||
+        rsa-sha2-256|rsa-sha2-256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        rsa-sha2-512|rsa-sha2-512|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ssh-rsa|ssh-rsa|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        x509v3-ssh-rsa|x509v3-ssh-rsa|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp256|ecdsa-sha2-nistp256|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp384|ecdsa-sha2-nistp384|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ecdsa-sha2-nistp521|ecdsa-sha2-nistp521|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        ssh-ed25519|ssh-ed25519|o||
+          <cr>||||
+          !
+          line|further algorithms|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+      authentication|user authentication methods, in order of preference|k||
+        password|password|o||
+          <cr>||||
+          !
+          line|further methods|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        keyboard|keyboard|o||
+          <cr>||||
+          !
+          line|further methods|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        publickey|publickey|o||
+          <cr>||||
+          !
+          line|further methods|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
     line|line|lb/le/wa||
       <cr>||||
       !

@@ -9,7 +9,7 @@ cef|cef|k||
   !
 !
 address|address|k||
-  <x:x::x/n>|x:x::x/n|k||
+  <x:x::x/n>|ipv6 prefix, or the name of a general prefix|k||
     <cr>||||
     !
     eui-64|eui-64|k||
@@ -22,6 +22,14 @@ address|address|k||
     !
     link-local|link-local|k||
       <cr>||||
+      !
+    !
+    <x:x::x/n>|sub-prefix bits and length under the general prefix|k||
+      <cr>||||
+      !
+      eui-64|eui-64|k||
+        <cr>||||
+        !
       !
     !
   !
@@ -324,26 +332,66 @@ traffic-filter|traffic-filter|k||
     !
   !
 !
-dhcp|dhcp|k||
-  server|server|k||
-    word|word|||
+dhcp|ipv6 dhcp interface configuration|k||
+  server|act as a dhcpv6 server on the interface|k||
+    word|pool name|o||
       <cr>||||
       !
-      line|line|lb/le/wa||
+      rapid-commit|allow the two-message exchange|k||
+        <cr>||||
+        !
+      !
+      preference|preference advertised|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      allow-hint|allow the client's prefix hint|k||
         <cr>||||
         !
       !
     !
   !
-  relay|relay|k||
+  relay|act as a dhcpv6 relay agent|k||
     line|line|lb/le/wa||
       <cr>||||
       !
     !
   !
-  client|client|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  client|act as a dhcpv6 client|k||
+    pd|request prefix delegation|k||
+      hint|prefix hint|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      word|general prefix name for the delegated prefix|o||
+        <cr>||||
+        !
+        rapid-commit|allow the two-message exchange|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    information|information request settings|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    request|request options|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    vendor-class|vendor class option|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !

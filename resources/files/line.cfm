@@ -74,7 +74,15 @@ transport|define transport protocols for line|k||
         !
       !
     !
-    line|line|lb/le/wa||
+    pad|pad|k||
+      <cr>||||
+      !
+    !
+    rlogin|rlogin|k||
+      <cr>||||
+      !
+    !
+    udptn|udptn|k||
       <cr>||||
       !
     !

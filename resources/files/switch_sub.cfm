@@ -15,13 +15,25 @@ tracking|tracking settings|k||
   !
 !
 security-level|security level|k||
-  word|word|o||
+  glean|learn bindings, never drop|o||
+    <cr>||||
+    !
+  !
+  guard|drop unwanted messages|o||
+    <cr>||||
+    !
+  !
+  inspect|check messages, drop the invalid ones|o||
     <cr>||||
     !
   !
 !
 device-role|device role|k||
-  word|word|o||
+  node|attached to a host|o||
+    <cr>||||
+    !
+  !
+  switch|attached to a switch|o||
     <cr>||||
     !
   !
@@ -60,9 +72,55 @@ trusted-port|trusted port|k||
   <cr>||||
   !
 !
-protocol|protocols|k||
-  line|line|lb/le/wa||
+protocol|protocols gleaned|k||
+  arp|arp|k||
     <cr>||||
+    !
+    prefix-list|limit to a prefix list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  dhcp4|dhcpv4|k||
+    <cr>||||
+    !
+    prefix-list|limit to a prefix list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  dhcp6|dhcpv6|k||
+    <cr>||||
+    !
+    prefix-list|limit to a prefix list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  ndp|neighbor discovery|k||
+    <cr>||||
+    !
+    prefix-list|limit to a prefix list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  udp|udp|k||
+    <cr>||||
+    !
+    prefix-list|limit to a prefix list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -214,3 +214,52 @@ def STORMLEVEL
         <rate> "falling threshold" $
   include "include traffic"
     line *
+
+# Algorithm names of the ssh server lists. A list holds one value per kind:
+# a new list replaces the old one.
+def SSHENC
+aes128-ctr :-k/o $
+aes192-ctr :-k/o $
+aes256-ctr :-k/o $
+aes128-cbc :-k/o $
+aes192-cbc :-k/o $
+aes256-cbc :-k/o $
+aes128-gcm :-k/o $
+aes256-gcm :-k/o $
+aes128-gcm@openssh.com :-k/o $
+aes256-gcm@openssh.com :-k/o $
+chacha20-poly1305@openssh.com :-k/o $
+3des-cbc :-k/o $
+
+def SSHMAC
+hmac-sha1 :-k/o $
+hmac-sha1-96 :-k/o $
+hmac-sha2-256 :-k/o $
+hmac-sha2-512 :-k/o $
+hmac-sha2-256-etm@openssh.com :-k/o $
+hmac-sha2-512-etm@openssh.com :-k/o $
+
+def SSHKEX
+diffie-hellman-group14-sha1 :-k/o $
+diffie-hellman-group14-sha256 :-k/o $
+diffie-hellman-group16-sha512 :-k/o $
+ecdh-sha2-nistp256 :-k/o $
+ecdh-sha2-nistp384 :-k/o $
+ecdh-sha2-nistp521 :-k/o $
+curve25519-sha256 :-k/o $
+curve25519-sha256@libssh.org :-k/o $
+
+def SSHHOSTKEY
+rsa-sha2-256 :-k/o $
+rsa-sha2-512 :-k/o $
+ssh-rsa :-k/o $
+x509v3-ssh-rsa :-k/o $
+ecdsa-sha2-nistp256 :-k/o $
+ecdsa-sha2-nistp384 :-k/o $
+ecdsa-sha2-nistp521 :-k/o $
+ssh-ed25519 :-k/o $
+
+def SSHAUTH
+password :-k/o $
+keyboard :-k/o $
+publickey :-k/o $

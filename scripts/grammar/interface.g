@@ -397,9 +397,8 @@ channel-protocol "select the channel protocol (lacp, pagp)"
   lacp :o $
   pagp :o $
 mop "dec mop server commands"
-  enabled $ :sn
-  sysid $ :sn
-  line *
+  enabled "enable mop on the interface" $ :sn
+  sysid "send mop periodic system id messages" $ :sn
 serial "serial interface commands"
   restart-delay
     id :o $

@@ -133,6 +133,25 @@ ssh "configure secure shell"
     keypair-name
       word $
   server
+    algorithm "algorithms the server offers"
+      encryption "encryption algorithms, in order of preference"
+        %SSHENC
+          line * "further algorithms"
+      mac "mac algorithms, in order of preference"
+        %SSHMAC
+          line * "further algorithms"
+      kex "key exchange algorithms, in order of preference"
+        %SSHKEX
+          line * "further algorithms"
+      hostkey "host key algorithms, in order of preference"
+        %SSHHOSTKEY
+          line * "further algorithms"
+      publickey "public key algorithms, in order of preference"
+        %SSHHOSTKEY
+          line * "further algorithms"
+      authentication "user authentication methods, in order of preference"
+        %SSHAUTH
+          line * "further methods"
     line *
   client
     line *

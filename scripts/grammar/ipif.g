@@ -341,10 +341,12 @@ cef $
   accounting
     line *
 address
-  <x:x::x/n> :k $
+  <x:x::x/n> :k "ipv6 prefix, or the name of a general prefix" $
     eui-64 $
     anycast $
     link-local $
+    <x:x::x/n> :k "sub-prefix bits and length under the general prefix" $
+      eui-64 $
   <x:x::x> :k
     link-local $
   autoconfig $
@@ -440,14 +442,27 @@ traffic-filter
   word :k
     in $
     out $
-dhcp
-  server
-    word $
+dhcp "ipv6 dhcp interface configuration"
+  server "act as a dhcpv6 server on the interface"
+    word :o "pool name" $
+      rapid-commit "allow the two-message exchange" $
+      preference "preference advertised"
+        id $
+      allow-hint "allow the client's prefix hint" $
+  relay "act as a dhcpv6 relay agent"
+    line *
+  client "act as a dhcpv6 client"
+    pd "request prefix delegation"
+      hint "prefix hint"
+        line *
+      word :o "general prefix name for the delegated prefix" $
+        rapid-commit "allow the two-message exchange" $
+    information "information request settings"
       line *
-  relay
-    line *
-  client
-    line *
+    request "request options"
+      line *
+    vendor-class "vendor class option"
+      line *
 policy
   line *
 pim $

@@ -23,7 +23,9 @@ transport "define transport protocols for line"
       telnet $
     telnet $
       ssh $
-    line *
+    pad $
+    rlogin $
+    udptn $
   output :o
     all $
     none $

@@ -585,8 +585,21 @@ dialer "dialer related commands"
   line *
 
 file crypto_pki.cfm
-enrollment
-  line *
+enrollment "enrollment parameters"
+  selfsigned "generate a self-signed certificate" :-k/o $
+  pkcs12 "import the certificate with pkcs12" :-k/o $
+  terminal "enroll by cut and paste" :-k/o $
+    pem "the certificate in pem form" $
+  url "enrollment url" :-k/o
+    line * "url of the certificate authority"
+  profile "enrollment profile" :-k/o
+    word "profile name" $
+  mode "mode of the certificate authority"
+    ra "registration authority" $
+  retry "retry settings"
+    line *
+  http-proxy "http proxy for enrollment"
+    line *
 serial-number $
   none $
 ip-address
@@ -595,8 +608,16 @@ subject-name
   line *
 subject-alt-name
   line *
-revocation-check
-  line *
+revocation-check "method of revocation checking, in the order tried"
+  crl "check the certificate revocation list" :-k/o $
+    none "ignore revocation if the list is unavailable" $
+    ocsp "then ask an ocsp server" $
+      none "ignore revocation if neither answers" $
+  ocsp "ask an ocsp server" :-k/o $
+    none "ignore revocation if the server is unreachable" $
+    crl "then check the certificate revocation list" $
+      none "ignore revocation if neither answers" $
+  none "ignore revocation" :-k/o $
 rsakeypair
   word :o $
     line *
@@ -608,8 +629,12 @@ usage
   line *
 password
   line *
-hash
-  line *
+hash "hash algorithm for signing"
+  md5 :-k/o $
+  sha1 :-k/o $
+  sha256 :-k/o $
+  sha384 :-k/o $
+  sha512 :-k/o $
 fingerprint
   line *
 chain-validation
@@ -639,14 +664,19 @@ trustpoint
 no-shutdown $
 
 file crypto_cert.cfm
-certificate
-  self-signed
-    word :k $
-  ca
-    word :k $
+certificate "exchange certificates"
+  self-signed "self signed certificate"
+    word :k "certificate serial number" $
+  ca "certificate authority certificate"
+    word :k "certificate serial number" $
   rollover
     line *
-  word :k $
+  word :k "certificate serial number" $
+# The certificate data follows its certificate line as rows of hex words and
+# ends with quit. The rows have no path and are not kept, and neither is
+# quit (sn: read, never stored), as a quit without its data says nothing. It
+# is read as a line of the chain, which keeps the chain one level deep.
+quit "end of certificate data" :sn $
 
 
 file crypto_ikev2.cfm

@@ -159,10 +159,17 @@ logging "modify message logging facilities"
       line *
     word :k $
       line *
-  buffered $
-    id :o $
+  buffered "logging to the buffer" $
+    id :o "buffer size in bytes" $
+      &loglevelfile.cfm :-k/o "severity" $
+    &loglevelfile.cfm :-k/o "severity" $
+    discriminator "filter by a message discriminator"
+      word $
+        line *
+    xml "log in xml form" $
       line *
-    line * :o
+    filtered "filtered logging" $
+      line *
   console $ :sn
     line * :o
     discriminator

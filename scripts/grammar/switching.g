@@ -381,9 +381,12 @@ tracking "tracking settings"
       id $
   disable "disable tracking" $
 security-level "security level"
-  word :o $
+  glean "learn bindings, never drop" :-k/o $
+  guard "drop unwanted messages" :-k/o $
+  inspect "check messages, drop the invalid ones" :-k/o $
 device-role "device role"
-  word :o $
+  node "attached to a host" :-k/o $
+  switch "attached to a switch" :-k/o $
 limit "limits"
   address-count "address count"
     id :o $
@@ -394,8 +397,22 @@ destination-glean "destination gleaning"
 prefix-glean "prefix gleaning" $
   line *
 trusted-port "trusted port" $
-protocol "protocols"
-  line *
+protocol "protocols gleaned"
+  arp "arp" $
+    prefix-list "limit to a prefix list"
+      word $
+  dhcp4 "dhcpv4" $
+    prefix-list "limit to a prefix list"
+      word $
+  dhcp6 "dhcpv6" $
+    prefix-list "limit to a prefix list"
+      word $
+  ndp "neighbor discovery" $
+    prefix-list "limit to a prefix list"
+      word $
+  udp "udp" $
+    prefix-list "limit to a prefix list"
+      word $
 cdp "cdp attributes" $
 lldp "lldp attributes" $
 dhcp "dhcp attributes" $
@@ -577,3 +594,37 @@ id :k "action number"
     line *
   notify "notify"
     line *
+
+# Features bound to a list of vlans (vlan configuration 10,20): policies of
+# the first-hop security features and the EVPN membership.
+file vlan_config.cfm
+device-tracking "configure device-tracking on the vlans" $
+  attach-policy "apply a policy"
+    word :k "policy name" $
+ipv6 "ipv6 vlan feature configuration"
+  nd "ipv6 neighbor discovery"
+    raguard "router advertisement guard"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+    suppress "neighbor discovery suppress"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+  dhcp "ipv6 dhcp"
+    guard "dhcpv6 guard"
+      attach-policy "apply a policy"
+        word :k "policy name" $
+  destination-guard "destination guard"
+    attach-policy "apply a policy"
+      word :k "policy name" $
+  source-guard "source guard"
+    attach-policy "apply a policy"
+      word :k "policy name" $
+member "vlan members"
+  evpn-instance "evpn instance"
+    id :k "evpn instance number"
+      vni "virtual network identifier"
+        id :o "vni number" $
+  vni "virtual network identifier"
+    id :k "vni number" $
+et-analytics "encrypted traffic analytics"
+  enable "enable on the vlans" $

@@ -260,6 +260,8 @@ access-list "add an access list entry"
     remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
+  configuration "vlan feature configuration mode"
+    <vlan> :k "vlan id or list" @(config-vlan-config)#=vlan_config.cfm
   <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
   internal
     allocation
@@ -372,15 +374,46 @@ platform "platform configuration"
           id :o "load in percent" $
   line :k * "other platform setting"
 license "license configuration"
-  line *
+  udi "unique device identifier"
+    pid "product identifier"
+      word "product identifier"
+        sn "serial number"
+          word :o "serial number" $
+  boot "boot license settings"
+    level "technology package level"
+      word :k "level name" $
+        addon "add-on level"
+          word :o "add-on level name" $
+    line *
+  smart "smart licensing"
+    line *
+  accept "accept an agreement"
+    line *
+  feature "feature license"
+    line *
+  call-home "call-home licensing"
+    line *
 upgrade "upgrade commands"
   fpd
     auto $
     path
       %TEXT
 subscriber "subscriber configuration"
-  templating $
-  line *
+  templating "subscriber templates" $
+  authorization "subscriber authorization"
+    enable $
+  aaa "subscriber aaa"
+    line *
+  redundancy "subscriber redundancy"
+    line *
+  service "subscriber service"
+    line *
+  policy "subscriber policy"
+    line *
+  feature "subscriber feature"
+    line *
+  accounting "subscriber accounting"
+    line *
 virtual-service "virtual service"
   word :k @(config-virt-serv)#=generic.cfm
 archive "archive configuration" @(config-archive)#=archive.cfm

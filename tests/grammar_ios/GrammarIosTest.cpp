@@ -24,7 +24,7 @@ namespace {
 
 // Share of refused corpus lines, in per cent, that the definition files have
 // reached; raise the grammar, then lower this figure.
-constexpr double kRecordedRefusedShare = 0.476;
+constexpr double kRecordedRefusedShare = 0.463;
 
 std::string resourceFolder() {
   const char* env = std::getenv("VTYCONF_RESOURCES");
@@ -228,6 +228,35 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
       {"ip dhcp pool P\n class C\n  address range 10.0.0.10 10.0.0.20\n lease 1\nip dhcp class C\n"
        " relay agent information\n  relay-information hex 0102\nhostname R1\n",
        {0, 1, 2, 1, 0, 1, 2, 0}},
+      // What every current router and switch shows: vlan feature levels, the
+      // end of certificate data, trustpoints, ssh algorithm lists, prefix
+      // delegation and a general prefix, device-tracking policies, licenses.
+      {"vlan configuration 20,30\n device-tracking attach-policy P\n ipv6 nd raguard attach-policy R\n"
+       " member evpn-instance 1 vni 10001\nvlan 20\n name USERS\n",
+       {0, 1, 1, 1, 0, 1}},
+      {"crypto pki certificate chain TP\n certificate self-signed 01\n  \tquit\n certificate ca 02\n  \tquit\n"
+       "hostname R1\n",
+       {0, 1, 1, 1, 1, 0}},
+      {"crypto pki trustpoint TP\n enrollment selfsigned\n subject-name cn=IOS-Self-Signed-Certificate-1\n"
+       " revocation-check crl none\n rsakeypair TP\n hash sha256\n"
+       "crypto pki trustpoint T2\n enrollment pkcs12\n"
+       " revocation-check ocsp crl none\n",
+       {0, 1, 1, 1, 1, 1, 0, 1, 1}},
+      {"ip ssh server algorithm encryption aes256-gcm aes256-ctr\n"
+       "ip ssh server algorithm kex ecdh-sha2-nistp521\n"
+       "ip ssh server algorithm hostkey rsa-sha2-512 rsa-sha2-256\n"
+       "ip ssh server algorithm authentication publickey password keyboard\n",
+       {0, 0, 0, 0}},
+      {"interface GigabitEthernet0/0/0\n ipv6 dhcp client pd PD-WAN rapid-commit\n"
+       "interface GigabitEthernet0/0/1\n"
+       " ipv6 address PD-WAN ::1/64\n ipv6 dhcp server LAN-V6 rapid-commit\n",
+       {0, 1, 0, 1, 1}},
+      {"device-tracking policy P\n security-level glean\n device-role switch\n no protocol udp\n"
+       " protocol dhcp4 prefix-list PL\n tracking enable\n",
+       {0, 1, 1, 1, 1, 1}},
+      {"license udi pid C8000V sn 9ABCDEF\nlicense boot level network-advantage addon dna-advantage\n"
+       "subscriber templating\nlogging buffered 64000 informational\nlogging buffered warnings\n",
+       {0, 0, 0, 0, 0}},
   };
   for (const AcceptCase& c : cases) {
     std::vector<std::string> refused;
@@ -256,6 +285,16 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
       "policy-map P\n class C\n  police cir 8000\n   conform-action bogus\n",  // no such action
       "router bgp 1\n template peer-session S\n  activate\n",  // an address-family setting
       "router ospf 1\n neighbor 10.0.0.1 priority\n",  // the priority is missing
+      "ip ssh server algorithm encryption aes256-foo\n",  // no such cipher
+      "crypto pki trustpoint TP\n revocation-check never\n",  // no such method
+      "crypto pki trustpoint TP\n enrollment self-signed\n",  // the keyword is selfsigned
+      "crypto pki trustpoint TP\n hash sha3\n",          // no such hash
+      "device-tracking policy P\n security-level strict\n",  // glean, guard or inspect
+      "device-tracking policy P\n protocol icmp\n",     // not a gleaned protocol
+      "subscriber templates\n",                          // the keyword is templating
+      "license boot level\n",                            // the level is missing
+      "line vty 0 4\n transport input sshv2\n",         // no such transport
+      "interface GigabitEthernet1\n mop sysid enabled\n",  // sysid takes nothing
   };
   for (const char* line : lines) {
     std::vector<std::string> refused;
@@ -263,6 +302,25 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
     EXPECT_EQ(refused.size(), 1u) << line;
     QxParserUtil::deleteCommands(records);
   }
+}
+
+// The quit that ends certificate data is read at the chain and stays where
+// it was written, but it is no setting of its own (not stored): the quits of
+// two certificates are not one setting, so neither replaces the other.
+TEST_F(GrammarIos, CertificateQuitStaysInPlaceAndIsNoSetting) {
+  const char* chain =
+      "crypto pki certificate chain TP\n certificate self-signed 01\n  \tquit\n certificate ca 02\n  \tquit\n";
+  std::vector<std::string> refused;
+  std::vector<CiscoCommandLine*> records = read(chain, &refused);
+  EXPECT_TRUE(refused.empty());
+  ASSERT_EQ(records.size(), 5u);
+  EXPECT_TRUE(records[1]->hasFlags(qxparser::CMDBIT_STORED));
+  EXPECT_FALSE(records[2]->hasFlags(qxparser::CMDBIT_STORED));
+  EXPECT_EQ(records[2]->getParentCommand(), records[0]);
+  QxParserUtil::deleteCommands(records);
+  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname R1\n", chain),
+            "hostname R1 \ncrypto pki certificate chain TP \n certificate self-signed 01 \n quit \n"
+            " certificate ca 02 \n quit \n!\n");
 }
 
 TEST_F(GrammarIos, ModeChangingAndFlaggedCommandsKeepTheirMeaning) {
@@ -402,7 +460,6 @@ struct Exclusion {
 
 const Exclusion kExclusions[] = {
     {"", R"(([0-9A-Fa-f]{1,8} )*[0-9A-Fa-f]{1,8})", "certificate data (free data until quit)"},
-    {"", "quit", "end of certificate data"},
     {"", R"([A-Za-z0-9+/]{20,}=*)", "public-key data under key-string"},
     {"", R"(\S+\^C)", "banner closing line with text before the delimiter"},
     {"", R"((Building configuration|Current configuration|show run).*)", "terminal capture"},
@@ -732,6 +789,16 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "router ospf 1\n neighbor 10.0.0.9 priority 0\n",
        "router ospf 1 \n neighbor 10.0.0.9 priority 0 \n neighbor 10.0.0.10 \n!\n",
        "router ospf 1 \n neighbor 10.0.0.9 priority 5 \n!\n"},
+      {"a trustpoint holds one hash and one enrollment",
+       "crypto pki trustpoint TP\n enrollment selfsigned\n hash sha1\n",
+       "crypto pki trustpoint TP\n enrollment terminal\n hash sha256\n",
+       "crypto pki trustpoint TP \n enrollment terminal \n hash sha256 \n!\n",
+       "crypto pki trustpoint TP \n enrollment selfsigned \n hash sha1 \n!\n"},
+      {"a new ssh cipher list replaces the old one, the mac list stays",
+       "ip ssh server algorithm encryption aes256-ctr aes128-ctr\nip ssh server algorithm mac hmac-sha2-512\n",
+       "ip ssh server algorithm encryption aes256-gcm\n",
+       "ip ssh server algorithm encryption aes256-gcm \nip ssh server algorithm mac hmac-sha2-512 \n",
+       "ip ssh server algorithm encryption aes256-ctr aes128-ctr \n"},
       {"a new host name overwrites the old one",
        "hostname R1\ninterface Loopback0\n ip address 10.9.9.9 255.255.255.255\n",
        "hostname R2\n",
