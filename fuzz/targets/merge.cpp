@@ -1,5 +1,6 @@
 // Merge and fallback on a pair of configuration texts (changes, then the
-// configuration, cut at the split marker), in both fallback modes.
+// configuration, cut at the split marker), in both fallback modes, with the
+// library's cut at the first deep command and over every level.
 #include "FuzzSupport.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -16,6 +17,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (unsigned int mode : {0u, 1u}) {
     try {
       QxParserUtil::fallbackConfigCmds(changes, config, mode);
+    } catch (const std::out_of_range& e) {
+      fuzzsupport::expectRangeQuirk(e);
+    }
+    try {
+      QxParserUtil::fallbackConfigCmdsAllLevels(changes, config, mode);
     } catch (const std::out_of_range& e) {
       fuzzsupport::expectRangeQuirk(e);
     }
