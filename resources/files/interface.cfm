@@ -271,7 +271,7 @@ switchport|set switching mode characteristics|k||
           !
         !
         add|add|k||
-          <vlan>|vlan|m||
+          <vlan>|vlan|k/a||
             <cr>||||
             !
           !
@@ -571,10 +571,10 @@ spanning-tree|spanning tree subsystem|k||
 standby|hot standby router protocol|k||
   id|group number|k||
     ip|ip|k/o||
-      a.b.c.d|a.b.c.d|||
+      a.b.c.d|a.b.c.d|n||
         <cr>||||
         !
-        secondary|secondary|k||
+        secondary|secondary|k/a||
           <cr>||||
           !
         !
@@ -712,10 +712,10 @@ standby|hot standby router protocol|k||
     !
   !
   ip|ip|k/o||
-    a.b.c.d|a.b.c.d|||
+    a.b.c.d|a.b.c.d|n||
       <cr>||||
       !
-      secondary|secondary|k||
+      secondary|secondary|k/a||
         <cr>||||
         !
       !

@@ -86,7 +86,7 @@ switchport "set switching mode characteristics" $ :sn
       vlan
         <vlan> :m $
         add
-          <vlan> :m $
+          <vlan> :k/a $
         remove
           <vlan> :m $
         except
@@ -180,8 +180,8 @@ spanning-tree "spanning tree subsystem"
 standby "hot standby router protocol"
   id :k "group number"
     ip :o
-      a.b.c.d $
-        secondary $
+      a.b.c.d :n $
+        secondary :k/a $
     ipv6
       line *
     preempt $
@@ -225,8 +225,8 @@ standby "hot standby router protocol"
     follow
       word $
   ip :o
-    a.b.c.d $
-      secondary $
+    a.b.c.d :n $
+      secondary :k/a $
   version
     id $
   use-bia $

@@ -1,8 +1,8 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
-  a.b.c.d :o "ip address"
+  a.b.c.d :o/n "ip address"
     a.b.c.d "ip subnet mask" $
-      secondary :k $
+      secondary :k/a $
         vrf
           word $
   dhcp $
