@@ -2535,7 +2535,53 @@ bfd|bfd interface configuration commands|k||
   !
 !
 ospfv3|ospfv3 interface commands|k||
-  line|line|lb/le/wa||
+  network|network|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  encryption|encryption|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  authentication|authentication|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  cost|cost|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  id|process id|k||
+    area|area|k||
+      id|id|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cost|cost|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa/k||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa/k||
     <cr>||||
     !
   !

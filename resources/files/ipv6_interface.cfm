@@ -104,8 +104,28 @@ nd|nd|k||
     !
   !
   prefix|prefix|k||
-    line|line|lb/le/wa||
+    default|default|k||
       <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    framed-ipv6-prefix|framed-ipv6-prefix|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    <x:x::x/n>|x:x::x/n|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !
@@ -326,7 +346,7 @@ traffic-filter|traffic-filter|k||
 !
 dhcp|dhcp|k||
   server|server|k||
-    word|word|||
+    word|word|k||
       <cr>||||
       !
       line|line|lb/le/wa||

@@ -779,7 +779,22 @@ bfd "bfd interface configuration commands"
     line *
   echo $
 ospfv3 "ospfv3 interface commands"
-  line *
+  network
+    line * :o
+  encryption
+    line * :o
+  authentication
+    line * :o
+  cost
+    id :o $
+  id :k "process id"
+    area
+      id :k $
+        line *
+    cost
+      id :o $
+    line * :k
+  line * :k
 xconnect "xconnect commands"
   line *
 l2tp "l2tp interface settings"

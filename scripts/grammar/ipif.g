@@ -369,7 +369,12 @@ nd
       unicast $
     line *
   prefix
-    line *
+    default $
+      line *
+    framed-ipv6-prefix $
+      line *
+    <x:x::x/n> :k $
+      line *
   reachable-time
     id $
   nud
@@ -442,7 +447,7 @@ traffic-filter
     out $
 dhcp
   server
-    word $
+    word :k $
       line *
   relay
     line *
