@@ -271,7 +271,7 @@ switchport|set switching mode characteristics|k||
           !
         !
         add|add|k||
-          <vlan>|vlan|m||
+          <vlan>|vlan|k/a||
             <cr>||||
             !
           !
@@ -571,10 +571,10 @@ spanning-tree|spanning tree subsystem|k||
 standby|hot standby router protocol|k||
   id|group number|k||
     ip|ip|k/o||
-      a.b.c.d|a.b.c.d|||
+      a.b.c.d|a.b.c.d|n||
         <cr>||||
         !
-        secondary|secondary|k||
+        secondary|secondary|k/a||
           <cr>||||
           !
         !
@@ -712,10 +712,10 @@ standby|hot standby router protocol|k||
     !
   !
   ip|ip|k/o||
-    a.b.c.d|a.b.c.d|||
+    a.b.c.d|a.b.c.d|n||
       <cr>||||
       !
-      secondary|secondary|k||
+      secondary|secondary|k/a||
         <cr>||||
         !
       !
@@ -2531,7 +2531,53 @@ bfd|bfd interface configuration commands|k||
   !
 !
 ospfv3|ospfv3 interface commands|k||
-  line|line|lb/le/wa||
+  network|network|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  encryption|encryption|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  authentication|authentication|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+  cost|cost|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  id|process id|k||
+    area|area|k||
+      id|id|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cost|cost|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    line|line|lb/le/wa/k||
+      <cr>||||
+      !
+    !
+  !
+  line|line|lb/le/wa/k||
     <cr>||||
     !
   !

@@ -1,9 +1,9 @@
 address|set the ip address of an interface|k/n||
-  a.b.c.d|ip address|o||
+  a.b.c.d|ip address|o/n||
     a.b.c.d|ip subnet mask|||
       <cr>||||
       !
-      secondary|secondary|k||
+      secondary|secondary|k/a||
         <cr>||||
         !
         vrf|vrf|k||

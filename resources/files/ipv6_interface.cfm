@@ -112,8 +112,28 @@ nd|nd|k||
     !
   !
   prefix|prefix|k||
-    line|line|lb/le/wa||
+    default|default|k||
       <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    framed-ipv6-prefix|framed-ipv6-prefix|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    <x:x::x/n>|x:x::x/n|k||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !
@@ -334,7 +354,7 @@ traffic-filter|traffic-filter|k||
 !
 dhcp|ipv6 dhcp interface configuration|k||
   server|act as a dhcpv6 server on the interface|k||
-    word|pool name|o||
+    word|pool name|k||
       <cr>||||
       !
       rapid-commit|allow the two-message exchange|k||

@@ -86,7 +86,7 @@ switchport "set switching mode characteristics" $ :sn
       vlan
         <vlan> :m $
         add
-          <vlan> :m $
+          <vlan> :k/a $
         remove
           <vlan> :m $
         except
@@ -180,8 +180,8 @@ spanning-tree "spanning tree subsystem"
 standby "hot standby router protocol"
   id :k "group number"
     ip :o
-      a.b.c.d $
-        secondary $
+      a.b.c.d :n $
+        secondary :k/a $
     ipv6
       line *
     preempt $
@@ -225,8 +225,8 @@ standby "hot standby router protocol"
     follow
       word $
   ip :o
-    a.b.c.d $
-      secondary $
+    a.b.c.d :n $
+      secondary :k/a $
   version
     id $
   use-bia $
@@ -778,7 +778,22 @@ bfd "bfd interface configuration commands"
     line *
   echo $
 ospfv3 "ospfv3 interface commands"
-  line *
+  network
+    line * :o
+  encryption
+    line * :o
+  authentication
+    line * :o
+  cost
+    id :o $
+  id :k "process id"
+    area
+      id :k $
+        line *
+    cost
+      id :o $
+    line * :k
+  line * :k
 xconnect "xconnect commands"
   line *
 l2tp "l2tp interface settings"

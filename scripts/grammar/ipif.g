@@ -1,8 +1,8 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
-  a.b.c.d :o "ip address"
+  a.b.c.d :o/n "ip address"
     a.b.c.d "ip subnet mask" $
-      secondary :k $
+      secondary :k/a $
         vrf
           word $
   dhcp $
@@ -371,7 +371,12 @@ nd
       unicast $
     line *
   prefix
-    line *
+    default $
+      line *
+    framed-ipv6-prefix $
+      line *
+    <x:x::x/n> :k $
+      line *
   reachable-time
     id $
   nud
@@ -444,7 +449,7 @@ traffic-filter
     out $
 dhcp "ipv6 dhcp interface configuration"
   server "act as a dhcpv6 server on the interface"
-    word :o "pool name" $
+    word :k "pool name" $
       rapid-commit "allow the two-message exchange" $
       preference "preference advertised"
         id $

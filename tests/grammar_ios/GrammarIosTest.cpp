@@ -641,6 +641,39 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
        "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n"
        " ip address 10.0.1.1 255.255.255.0 secondary \n!\n",
        "interface gigabitethernet 0/0 \n no ip address 10.0.1.1 255.255.255.0 secondary \n!\n"},
+      {"a second secondary address stands beside the first",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n"
+       " ip address 10.0.1.1 255.255.255.0 secondary\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.2.1 255.255.255.0 secondary\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n"
+       " ip address 10.0.1.1 255.255.255.0 secondary \n ip address 10.0.2.1 255.255.255.0 secondary \n!\n",
+       "interface gigabitethernet 0/0 \n no ip address 10.0.2.1 255.255.255.0 secondary \n!\n"},
+      {"a new primary address replaces the primary and keeps the secondaries",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n"
+       " ip address 10.0.1.1 255.255.255.0 secondary\n",
+       "interface GigabitEthernet0/0\n ip address 10.0.9.1 255.255.255.0\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.9.1 255.255.255.0 \n"
+       " ip address 10.0.1.1 255.255.255.0 secondary \n!\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n!\n"},
+      {"no of one secondary address removes only that one",
+       "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n"
+       " ip address 10.0.1.1 255.255.255.0 secondary\n ip address 10.0.2.1 255.255.255.0 secondary\n",
+       "interface GigabitEthernet0/0\n no ip address 10.0.1.1 255.255.255.0 secondary\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.0.1 255.255.255.0 \n"
+       " ip address 10.0.2.1 255.255.255.0 secondary \n!\n",
+       "interface gigabitethernet 0/0 \n ip address 10.0.1.1 255.255.255.0 secondary \n!\n"},
+      {"a second standby secondary address stands beside the first",
+       "interface Vlan10\n standby 1 ip 10.0.0.1\n standby 1 ip 10.0.1.1 secondary\n",
+       "interface Vlan10\n standby 1 ip 10.0.2.1 secondary\n",
+       "interface vlan 10 \n standby 1 ip 10.0.0.1 \n standby 1 ip 10.0.1.1 secondary \n"
+       " standby 1 ip 10.0.2.1 secondary \n!\n",
+       "interface vlan 10 \n no standby 1 ip 10.0.2.1 secondary \n!\n"},
+      {"an allowed vlan add line stands beside the first list line",
+       "interface GigabitEthernet0/1\n switchport trunk allowed vlan 10,20,30\n",
+       "interface GigabitEthernet0/1\n switchport trunk allowed vlan add 40,50\n",
+       "interface gigabitethernet 0/1 \n switchport trunk allowed vlan 10,20,30 \n"
+       " switchport trunk allowed vlan add 40,50 \n!\n",
+       "interface gigabitethernet 0/1 \n no switchport trunk allowed vlan add 40,50 \n!\n"},
       {"no shutdown removes shutdown",
        "interface GigabitEthernet0/0\n ip address 10.0.0.1 255.255.255.0\n shutdown\n",
        "interface GigabitEthernet0/0\n no shutdown\n",
@@ -809,6 +842,46 @@ TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
     EXPECT_EQ(QxParserUtil::mergeConfigCmds(c.changes, c.config), c.merged) << c.name;
     EXPECT_EQ(QxParserUtil::fallbackConfigCmds(c.changes, c.config, 0), c.rollback) << c.name;
   }
+}
+
+// Settings of which an interface holds several must each find themselves
+// when a configuration is compared with itself. Secondary addresses are
+// compared by their place: the device prints them in one run behind the
+// primary. The others may stand apart, so their value is part of their key.
+TEST_F(GrammarIos, SettingsHeldSideBySideCompareEmptyWithThemselves) {
+  const char* configs[] = {
+      "interface FastEthernet0/0\n description lan\n ip address 10.0.0.1 255.255.255.0\n"
+      " ip address 10.0.1.1 255.255.255.0 secondary\n ip address 10.0.2.1 255.255.255.0 secondary\n no ip redirects\n",
+      "interface Vlan10\n standby 1 ip 10.0.0.1\n standby 1 ip 10.0.1.1 secondary\n"
+      " standby 1 ip 10.0.2.1 secondary\n standby 1 priority 150\n",
+      "interface GigabitEthernet0/1\n switchport trunk allowed vlan 10,20,30\n"
+      " switchport trunk allowed vlan add 40,50\n switchport trunk allowed vlan add 60,70\n"
+      " switchport trunk allowed vlan add 80\n",
+      "interface FastEthernet0/0\n ipv6 dhcp server POOL_A\n ipv6 enable\n ipv6 dhcp server POOL_B\n",
+      "interface FastEthernet0/1\n ipv6 nd prefix default no-advertise\n ipv6 nd other-config-flag\n"
+      " ipv6 nd prefix fd01:ab01::/64 300 300 no-autoconfig\n ipv6 nd prefix fd01:ab02::/64\n",
+      "interface FastEthernet0/1\n ospfv3 network point-to-point\n ipv6 ospf 11 area 0\n"
+      " ospfv3 encryption ipsec spi 1001 esp null md5 0 27576134094768132473302031209727\n"
+      " ospfv3 demand-circuit\n ospfv3 11 cost 1000\n ospfv3 flood-reduction\n",
+  };
+  for (const char* config : configs) {
+    EXPECT_EQ(QxParserUtil::fallbackConfigCmds(config, config, 1), "") << config;
+  }
+}
+
+// An OSPFv3 interface setting of one kind replaces the old one; the ND prefix
+// of another value stands beside the first.
+TEST_F(GrammarIos, OneValueIpv6InterfaceSettingsReplaceAndPrefixesAdd) {
+  const std::string config =
+      "interface FastEthernet0/1\n ospfv3 encryption null\n ipv6 nd prefix fd01:ab01::/64 300 300\n";
+  const std::string merged = QxParserUtil::mergeConfigCmds(
+      "interface FastEthernet0/1\n ospfv3 encryption ipsec spi 256 esp null sha1 0 1234\n"
+      " ipv6 nd prefix fd01:ab02::/64\n",
+      config);
+  EXPECT_EQ(merged.find("ospfv3 encryption null"), std::string::npos) << merged;
+  EXPECT_NE(merged.find("ospfv3 encryption ipsec spi 256"), std::string::npos) << merged;
+  EXPECT_NE(merged.find("ipv6 nd prefix fd01:ab01::/64 300 300"), std::string::npos) << merged;
+  EXPECT_NE(merged.find("ipv6 nd prefix fd01:ab02::/64"), std::string::npos) << merged;
 }
 
 // The definition files are generated: the committed files must be what the
