@@ -75,7 +75,12 @@ void QxParserUtil::fillCmdOrderTable() {
     std::vector<CiscoCommandLine*> records;
     std::string errorText;
     int errorLine = 0;
-    getCmdInfo(text, records, errorText, errorLine);
+    try {
+      getCmdInfo(text, records, errorText, errorLine);
+    } catch (...) {
+      deleteCommands(records);
+      throw;
+    }
     std::vector<CiscoCommandLine*> templates;
     int counter = 0;
     for (CiscoCommandLine* record : records) {
@@ -123,7 +128,14 @@ bool QxParserUtil::getCmdInfo(const std::string& text, std::vector<CiscoCommandL
 bool QxParserUtil::transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                                  std::string& errorText, int& errorLine) {
   std::vector<CiscoCommandLine*> all;
-  bool ok = getCmdInfo(text, all, errorText, errorLine);
+  bool ok = false;
+  try {
+    ok = getCmdInfo(text, all, errorText, errorLine);
+  } catch (...) {
+    // The records read before the exception belong to nobody else.
+    deleteCommands(all);
+    throw;
+  }
   for (CiscoCommandLine* record : all) {
     if (record->getLevel() == 0) commands.push_back(record);
   }
