@@ -83,44 +83,30 @@ void BM_MergeChanges(benchmark::State& state) {
   reportPeak(state);
 }
 
-void BM_FallbackFile(benchmark::State& state) {
+// The generated pair of the size asked for: in file mode from the running
+// configuration to the intended one; in delta mode (0) the whole intended
+// configuration taken as the changes, undone against the running one.
+void runFallback(benchmark::State& state,
+                 std::string (*fallback)(const std::string&, const std::string&, unsigned int), unsigned int mode) {
   loadOnce();
   const int lines = static_cast<int>(state.range(0));
   const std::string running = makeConfig(lines, false);
   const std::string intended = makeConfig(lines, true);
-  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmds(running, intended, 1));
+  const std::string& first = mode == 0 ? intended : running;
+  const std::string& second = mode == 0 ? running : intended;
+  for (auto _ : state) benchmark::DoNotOptimize(fallback(first, second, mode));
   reportPeak(state);
 }
 
-// Delta mode: the whole intended configuration taken as the changes, undone
-// against the running configuration.
-void BM_FallbackDelta(benchmark::State& state) {
-  loadOnce();
-  const int lines = static_cast<int>(state.range(0));
-  const std::string running = makeConfig(lines, false);
-  const std::string changes = makeConfig(lines, true);
-  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmds(changes, running, 0));
-  reportPeak(state);
-}
-
+void BM_FallbackFile(benchmark::State& state) { runFallback(state, &QxParserUtil::fallbackConfigCmds, 1); }
+void BM_FallbackDelta(benchmark::State& state) { runFallback(state, &QxParserUtil::fallbackConfigCmds, 0); }
 // Both modes over every level: the text behind the first command two levels
 // inside a mode takes part too (what `vtyconf fallback` runs).
 void BM_FallbackFileAllLevels(benchmark::State& state) {
-  loadOnce();
-  const int lines = static_cast<int>(state.range(0));
-  const std::string running = makeConfig(lines, false);
-  const std::string intended = makeConfig(lines, true);
-  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmdsAllLevels(running, intended, 1));
-  reportPeak(state);
+  runFallback(state, &QxParserUtil::fallbackConfigCmdsAllLevels, 1);
 }
-
 void BM_FallbackDeltaAllLevels(benchmark::State& state) {
-  loadOnce();
-  const int lines = static_cast<int>(state.range(0));
-  const std::string running = makeConfig(lines, false);
-  const std::string changes = makeConfig(lines, true);
-  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::fallbackConfigCmdsAllLevels(changes, running, 0));
-  reportPeak(state);
+  runFallback(state, &QxParserUtil::fallbackConfigCmdsAllLevels, 0);
 }
 
 BENCHMARK(BM_MergeOneLine)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);

@@ -2,6 +2,8 @@
 // accepts, at which level, what it refuses, and the help it lists.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -488,6 +490,20 @@ const char* exclusionReason(const std::string& file, const std::string& line) {
   return nullptr;
 }
 
+// The ".cfg" files of a folder, by name, with their text.
+std::vector<std::pair<std::string, std::string>> configFiles(const std::filesystem::path& folder) {
+  std::vector<std::pair<std::string, std::string>> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() != ".cfg") continue;
+    std::ifstream in(entry.path(), std::ios::binary);
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    files.emplace_back(entry.path().filename().string(), buffer.str());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
 // Every refused line of the corpus is one of the documented exclusions, and
 // their share stays at or below the recorded figure.
 TEST_F(GrammarIos, CorpusRefusesOnlyTheDocumentedLines) {
@@ -495,16 +511,11 @@ TEST_F(GrammarIos, CorpusRefusesOnlyTheDocumentedLines) {
   if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
   size_t lines = 0, refusedLines = 0;
   std::string unexplained;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".cfg") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
+  for (const auto& [name, text] : configFiles(folder)) {
     std::vector<std::string> refused;
-    std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
+    std::vector<CiscoCommandLine*> records = read(text, &refused);
     lines += records.size();
     refusedLines += refused.size();
-    const std::string name = entry.path().filename().string();
     for (const std::string& line : refused) {
       if (exclusionReason(name, line) == nullptr) unexplained += name + ": " + firstLine(line) + "\n";
     }
@@ -546,28 +557,24 @@ TEST_F(GrammarIos, MergingOneLineIntoTheCorpusLosesNoCommand) {
   const std::filesystem::path folder = std::filesystem::path(VTYCONF_SHARED_CORPUS_DIR) / "public";
   if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no corpus at " << folder;
   std::string lost;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".cfg") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
+  for (const auto& [name, text] : configFiles(folder)) {
     std::vector<std::string> refused;
-    std::vector<CiscoCommandLine*> records = read(buffer.str(), &refused);
+    std::vector<CiscoCommandLine*> records = read(text, &refused);
     std::multiset<std::string> expected;
     for (const CiscoCommandLine* record : records) {
       if (record->getFlag() == qxparser::CMD_TEXT || isRefused(*record)) continue;
-      const std::string text = trimmed(record->getOriginalCmd());
-      if (!text.empty() && text.compare(0, 9, "hostname ") != 0) expected.insert(text);
+      const std::string command = trimmed(record->getOriginalCmd());
+      if (!command.empty() && command.compare(0, 9, "hostname ") != 0) expected.insert(command);
     }
     QxParserUtil::deleteCommands(records);
     std::multiset<std::string> merged;
-    std::istringstream out(QxParserUtil::mergeConfigCmds("hostname CHANGED\n", buffer.str()));
+    std::istringstream out(QxParserUtil::mergeConfigCmds("hostname CHANGED\n", text));
     std::string line;
     while (std::getline(out, line)) merged.insert(trimmed(line));
-    for (const std::string& text : expected) {
-      auto found = merged.find(text);
+    for (const std::string& command : expected) {
+      auto found = merged.find(command);
       if (found == merged.end()) {
-        lost += entry.path().filename().string() + ": " + text + "\n";
+        lost += name + ": " + command + "\n";
       } else {
         merged.erase(found);
       }
@@ -586,14 +593,8 @@ TEST_F(GrammarIos, HeldOutConfigurationsAreReadWholly) {
   const fs::path folder = fs::path(VTYCONF_TEST_DATA_DIR) / "grammar_ios" / "heldout";
   size_t files = 0;
   std::string problems;
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.path().extension() != ".cfg") continue;
+  for (const auto& [name, text] : configFiles(folder)) {
     ++files;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    const std::string text = buffer.str();
-    const std::string name = entry.path().filename().string();
     std::vector<std::string> refused;
     std::vector<CiscoCommandLine*> records = read(text, &refused);
     for (const std::string& line : refused) problems += name + ": refused: " + firstLine(line) + "\n";
