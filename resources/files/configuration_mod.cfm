@@ -36,7 +36,7 @@ interface|select an interface to configure|k||
     !
   !
   range|interface range|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/k||
       <cr>||||@(config-if-range)# interface.cfm
       !
     !

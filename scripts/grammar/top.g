@@ -35,7 +35,7 @@ interface "select an interface to configure"
   &interfacefile.cfm "interface type"
     <number> :k "interface number" @(config-if)#=interface.cfm
   range "interface range"
-    line * @(config-if-range)#=interface.cfm
+    line :k * @(config-if-range)#=interface.cfm
 version "version of the configuration"
   <value> :o $
 boot-start-marker "boot marker" $

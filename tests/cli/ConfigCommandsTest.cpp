@@ -155,7 +155,7 @@ TEST_F(ConfigCommandsTest, FallbackComparesEveryLevelOrWarnsWhereTheLibraryCutsT
   const Outcome whole = run("fallback --file '" + flat + "' '" + deep + "'");
   EXPECT_EQ(whole.err, "");
   // The program prints the writer's NUL indent bytes as blanks.
-  std::string expected = QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(deep), 1);
+  std::string expected = QxParserUtil::fallbackConfigCmdsTyped(kConfig, readFile(deep), 1, nullptr, nullptr);
   std::replace(expected.begin(), expected.end(), '\0', ' ');
   EXPECT_EQ(whole.out, expected);
   EXPECT_NE(whole.out.find("neighbor 192.0.2.2 activate"), std::string::npos) << whole.out;

@@ -54,12 +54,13 @@ class GrammarIos : public ::testing::Test {
   }
   static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
 
-  // Reads `text`; fills the refused lines (trimmed) and returns the records.
+  // Reads `text` as the device reads a configuration pasted at its console
+  // (short interface types such as Fa0/1 and loop0 included); fills the
+  // refused lines (trimmed) and returns the records.
   static std::vector<CiscoCommandLine*> read(const std::string& text, std::vector<std::string>* refused) {
     std::vector<CiscoCommandLine*> records;
-    std::string errorText;
-    int errorLine = 0;
-    QxParserUtil::getCmdInfo(text, records, errorText, errorLine);
+    std::vector<qxparser::RefusedLine> typedRefusals;
+    QxParserUtil::getCmdInfoTyped(text, records, typedRefusals);
     if (refused != nullptr) {
       const std::vector<bool> banner = bannerText(text);
       for (size_t i = 0; i < records.size(); ++i) {
@@ -266,7 +267,8 @@ TEST_F(GrammarIos, DeviceLinesAreAcceptedAtTheirLevel) {
     EXPECT_TRUE(refused.empty()) << c.config << "refused: " << (refused.empty() ? "" : refused.front());
     ASSERT_EQ(records.size(), c.levels.size()) << c.config;
     for (size_t i = 0; i < records.size(); ++i) {
-      if (c.levels[i] >= 0) {
+      // Mode exits are no commands: they steer the terminal.
+      if (c.levels[i] >= 0 && records[i]->getFlag() != qxparser::CMD_TEXT) {
         EXPECT_EQ(records[i]->getLevel(), c.levels[i]) << c.config << " line " << i + 1;
       }
     }
@@ -278,7 +280,7 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
   const char* const lines[] = {
       "interface Foo0/0\n",            // no such interface type
       "hostname\n",                    // the name is missing
-      "int GigabitEthernet0/0\n",      // a stored configuration holds no abbreviations
+      "int GigabitEthernet0/0 x\n",    // the command takes nothing after the interface
       "ip address 10.0.0.1\n",         // no interface mode open
       "router ospf\n",                 // process id missing
       "access-list 10 permit tcp any any\n",  // a standard list takes no protocol
@@ -290,7 +292,7 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
       "ip ssh server algorithm encryption aes256-foo\n",  // no such cipher
       "crypto pki trustpoint TP\n revocation-check never\n",  // no such method
       "crypto pki trustpoint TP\n enrollment self-signed\n",  // the keyword is selfsigned
-      "crypto pki trustpoint TP\n hash sha3\n",          // no such hash
+      "crypto pki trustpoint TP\n hash sha1024\n",       // no such hash
       "device-tracking policy P\n security-level strict\n",  // glean, guard or inspect
       "device-tracking policy P\n protocol icmp\n",     // not a gleaned protocol
       "subscriber templates\n",                          // the keyword is templating
@@ -568,7 +570,7 @@ TEST_F(GrammarIos, MergingOneLineIntoTheCorpusLosesNoCommand) {
     }
     QxParserUtil::deleteCommands(records);
     std::multiset<std::string> merged;
-    std::istringstream out(QxParserUtil::mergeConfigCmds("hostname CHANGED\n", text));
+    std::istringstream out(QxParserUtil::mergeConfigCmdsTyped("hostname CHANGED\n", text, nullptr, nullptr));
     std::string line;
     while (std::getline(out, line)) merged.insert(trimmed(line));
     for (const std::string& command : expected) {
@@ -609,6 +611,8 @@ TEST_F(GrammarIos, HeldOutConfigurationsAreReadWholly) {
       const size_t lead = line.find_first_not_of(' ');
       if ((at < banner.size() && banner[at]) || lead == std::string::npos || line[lead] == '!') continue;
       if (line.find("^C") != std::string::npos) continue;
+      // Mode exits (exit-address-family) steer the terminal and are no commands.
+      if (records[at]->getFlag() == qxparser::CMD_TEXT) continue;
       const int level = records[at]->getLevel();
       if (lead == 0 && level != 0) problems += name + ": taken inside a mode: " + line + "\n";
       if (lead > 0 && level == 0) problems += name + ": fell to the top level: " + line + "\n";

@@ -1,6 +1,8 @@
 #include "ConfigInput.h"
 
+#include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -56,6 +58,25 @@ bool isShowCommand(const std::string& afterPrompt) {
 }
 
 }  // namespace
+
+bool looksBinary(const std::string& text) {
+  // Control bytes other than the blanks of text (and the escape sequences of
+  // a terminal capture) in more than one byte of twenty of the first 64 KiB;
+  // a stray NUL byte in a text is reported by the reader, not taken for this.
+  const size_t sample = std::min<size_t>(text.size(), 65536);
+  size_t control = 0;
+  for (size_t i = 0; i < sample; ++i) {
+    const unsigned char c = static_cast<unsigned char>(text[i]);
+    if (c < 0x20 && c != '\t' && c != '\n' && c != '\r' && c != '\f' && c != '\v' && c != 0x1b && c != '\b') {
+      ++control;
+    }
+  }
+  return control > 8 && control * 20 > sample;
+}
+
+bool gQuietInput = false;
+
+void setQuietInput(bool quiet) { gQuietInput = quiet; }
 
 void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
   if (text.compare(0, 3, "\xEF\xBB\xBF") == 0) {
@@ -115,14 +136,27 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
   if (path == "-") {
     out.text.assign(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
   } else {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored)) {
+      error = path + ": is a folder, not a configuration";
+      return false;
+    }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-      error = "cannot read " + path;
+      error = path + ": " + (std::filesystem::exists(path, ignored) ? "cannot read" : "no such file");
       return false;
     }
     std::stringstream buffer;
     buffer << in.rdbuf();
+    if (in.bad()) {
+      error = path + ": cannot read";
+      return false;
+    }
     out.text = buffer.str();
+  }
+  if (looksBinary(out.text)) {
+    error = out.displayName() + ": not configuration text (binary data)";
+    return false;
   }
   if (!keepCapture) cleanCapture(out.text, out.leftOut);
 
@@ -179,8 +213,10 @@ bool readInput(const std::string& path, ConfigInput& input, bool keepCapture) {
     std::cerr << "vtyconf: " << error << "\n";
     return false;
   }
-  for (const std::string& left : input.leftOut)
-    std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+  if (!gQuietInput) {
+    for (const std::string& left : input.leftOut)
+      std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
+  }
   return true;
 }
 

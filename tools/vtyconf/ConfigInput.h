@@ -40,6 +40,13 @@ struct ConfigInput {
 // Reads `path`; false with `error` set when the file cannot be read.
 bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out, std::string& error);
 
+// True for data that is no configuration text: control bytes in more than a
+// twentieth of its first 64 KiB.
+bool looksBinary(const std::string& text);
+
+// --quiet: readInput leaves out its notes on capture lines.
+void setQuietInput(bool quiet);
+
 // Cleans a capture in place (exposed for tests and other subcommands).
 void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 

@@ -8,6 +8,7 @@
 #include <map>
 
 #include "CommandRegistry.h"
+#include "ConfigInput.h"
 #include "platform/QXFileSystem.h"
 
 namespace vtycli {
@@ -65,6 +66,7 @@ int main(int argc, char** argv) {
 
   try {
     if (!global.resources.empty()) QXFileSystem::SetSystemResourceFolder(global.resources);
+    setQuietInput(global.quiet);
     for (auto& [sub, run] : runners) {
       if (sub->parsed()) return run();
     }

@@ -43,9 +43,3 @@ ucse|ucs e-series server module
 wlan-controller|wlan controller interface
 mgmtethernet|management ethernet
 gmpls|mpls interface
-fa|fastethernet (short name)
-gi|gigabitethernet (short name)
-te|tengigabitethernet (short name)
-po|port-channel (short name)
-lo|loopback (short name)
-loop|loopback (short name)

@@ -7,12 +7,16 @@
 // The program compares every level (fallbackConfigCmdsAllLevels) unless asked
 // for the library's own cut; then it names, on standard error, the line of
 // each input from which nothing is compared.
+// Both texts are read as the device reads text pasted at its console
+// (fallbackConfigCmdsTyped) unless --replay asks for the stored-configuration
+// reading; refused lines are reported and make the exit code 1.
 #include <iostream>
 #include <vector>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "OutputText.h"
+#include "RefusedReport.h"
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 
@@ -53,6 +57,7 @@ struct FallbackOptions {
   bool delta = false;
   bool file = false;
   bool cutAtDeepLevels = false;
+  bool replay = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -67,6 +72,8 @@ CommandRegistration registration{CommandSpec{
       delta->excludes(file);
       sub.add_flag("--cut-at-deep-levels", options->cutAtDeepLevels,
                    "compare as fallbackConfigCmds does: nothing from the first command two levels inside a mode on");
+      sub.add_flag("--replay", options->replay,
+                   "read both texts as a stored configuration is replayed (whole words, no mode exits)");
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
         ConfigInput first;
@@ -75,16 +82,23 @@ CommandRegistration registration{CommandSpec{
         if (!loadResources()) return 2;
         const unsigned int mode = options->delta ? 0u : 1u;
         std::string text;
+        std::vector<qxparser::RefusedLine> firstRefused;
+        std::vector<qxparser::RefusedLine> secondRefused;
         if (options->cutAtDeepLevels) {
           warnAboutDeepCommands(first);
           warnAboutDeepCommands(second);
           text = qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode);
-        } else {
+        } else if (options->replay) {
           text = qxparser::QxParserUtil::fallbackConfigCmdsAllLevels(first.text, second.text, mode);
+        } else {
+          text = qxparser::QxParserUtil::fallbackConfigCmdsTyped(first.text, second.text, mode, &firstRefused,
+                                                                  &secondRefused);
         }
         text = printable(text);
+        reportRefused(first, firstRefused);
+        reportRefused(second, secondRefused);
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
-        return 0;
+        return firstRefused.empty() && secondRefused.empty() ? 0 : 1;
       };
     }}};
 

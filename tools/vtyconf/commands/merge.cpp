@@ -1,10 +1,14 @@
-// vtyconf merge CHANGES CONFIG [-o FILE]: the configuration after the changes.
+// vtyconf merge CHANGES CONFIG [-o FILE] [--replay]: the configuration after
+// the changes. Both texts are read as the device reads text pasted at its
+// console (abbreviations, mode exits); every refused line is reported and
+// makes the exit code 1, the result still being written.
 #include <fstream>
 #include <iostream>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "OutputText.h"
+#include "RefusedReport.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
@@ -14,6 +18,7 @@ struct MergeOptions {
   std::string changes;
   std::string config;
   std::string output;
+  bool replay = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -24,16 +29,31 @@ CommandRegistration registration{CommandSpec{
           ->required();
       sub.add_option("CONFIG", options->config, "the configuration ('-' for standard input)")->required();
       sub.add_option("-o,--output", options->output, "write the result to FILE");
+      sub.add_flag("--replay", options->replay,
+                   "read both texts as a stored configuration is replayed (whole words, no mode exits), "
+                   "as mergeConfigCmds does");
       sub.footer("Example: vtyconf merge changes.txt router1.cfg -o merged.cfg");
       return [options]() {
-        std::string changes;
-        std::string config;
+        ConfigInput changes;
+        ConfigInput config;
         if (!readInput(options->changes, changes) || !readInput(options->config, config)) return 2;
         if (!loadResources()) return 2;
-        const std::string merged = printable(qxparser::QxParserUtil::mergeConfigCmds(changes, config));
+        std::vector<qxparser::RefusedLine> changesRefused;
+        std::vector<qxparser::RefusedLine> configRefused;
+        std::string merged;
+        if (options->replay) {
+          merged = qxparser::QxParserUtil::mergeConfigCmds(changes.text, config.text);
+        } else {
+          merged = qxparser::QxParserUtil::mergeConfigCmdsTyped(changes.text, config.text, &changesRefused,
+                                                                 &configRefused);
+        }
+        merged = printable(merged);
+        reportRefused(changes, changesRefused);
+        reportRefused(config, configRefused);
+        const int status = changesRefused.empty() && configRefused.empty() ? 0 : 1;
         if (options->output.empty()) {
           std::cout.write(merged.data(), static_cast<std::streamsize>(merged.size()));
-          return 0;
+          return status;
         }
         std::ofstream out(options->output, std::ios::binary);
         if (!out) {
@@ -41,7 +61,7 @@ CommandRegistration registration{CommandSpec{
           return 2;
         }
         out.write(merged.data(), static_cast<std::streamsize>(merged.size()));
-        return 0;
+        return status;
       };
     }}};
 

@@ -136,6 +136,11 @@ bool QxParserUtil::transformCmds(const std::string& text, std::vector<CiscoComma
     deleteCommands(all);
     throw;
   }
+  keepTopLevel(all, commands);
+  return ok;
+}
+
+void QxParserUtil::keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands) {
   for (CiscoCommandLine* record : all) {
     if (record->getLevel() == 0) commands.push_back(record);
   }
@@ -145,7 +150,7 @@ bool QxParserUtil::transformCmds(const std::string& text, std::vector<CiscoComma
   for (CiscoCommandLine* record : all) {
     if (record->getLevel() != 0 && record->getParentCommand() == nullptr) delete record;
   }
-  return ok;
+  all.clear();
 }
 
 bool QxParserUtil::hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints) {

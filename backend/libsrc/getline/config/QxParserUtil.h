@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "config/CiscoCommandLine.h"
+#include "config/TypedTextReader.h"
 #include "platform/Export.h"
 #include "terminal/VTY.h"
 
@@ -69,6 +70,20 @@ class VTYCONF_API QxParserUtil {
   // fallbackConfigCmds writes it (NUL indent bytes included).
   static std::string fallbackConfigCmdsAllLevels(const std::string& first, const std::string& second,
                                                  unsigned int mode);
+  // vtyconf's own, for text as people type it (TypedTextReader: CLI mode,
+  // abbreviations, mode exits): reading into records of all levels, merge,
+  // and the fallback over every level. Refused lines of each text are
+  // appended to the given list (null: not wanted); they change nothing, as
+  // on the device. The results are written as the specified operations
+  // write theirs.
+  static bool getCmdInfoTyped(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                              std::vector<RefusedLine>& refused);
+  static std::string mergeConfigCmdsTyped(const std::string& changes, const std::string& config,
+                                          std::vector<RefusedLine>* changesRefused,
+                                          std::vector<RefusedLine>* configRefused);
+  static std::string fallbackConfigCmdsTyped(const std::string& first, const std::string& second, unsigned int mode,
+                                             std::vector<RefusedLine>* firstRefused,
+                                             std::vector<RefusedLine>* secondRefused);
   static bool removeInterfaceFromConfigFile(const std::string& path, const std::string& name);
 
   // Builds the overwrite set from files/commandflag/cisco.flg. Nothing in the
@@ -81,8 +96,17 @@ class VTYCONF_API QxParserUtil {
 
  private:
   friend struct QxParserUtilPeer;
+  // Typed texts (non-null refused lists) are read by TypedTextReader, the
+  // others replayed.
+  struct Readers {
+    std::vector<RefusedLine>* first = nullptr;
+    std::vector<RefusedLine>* second = nullptr;
+  };
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
-                                        bool allLevels);
+                                        bool allLevels, const Readers& readers);
+  static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);
+  static void transformCmdsTyped(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                                 std::vector<RefusedLine>* refused);
   static bool transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                             std::string& errorText, int& errorLine);
   static void GetSpecialCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,

@@ -38,16 +38,16 @@ std::string blanksForNul(std::string text) {
 }  // namespace
 
 std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode) {
-  return fallbackNormalised(first, second, mode, false);
+  return fallbackNormalised(first, second, mode, false, Readers());
 }
 
 std::string QxParserUtil::fallbackConfigCmdsAllLevels(const std::string& first, const std::string& second,
                                                       unsigned int mode) {
-  return fallbackNormalised(first, second, mode, true);
+  return fallbackNormalised(first, second, mode, true, Readers());
 }
 
 std::string QxParserUtil::fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
-                                             bool allLevels) {
+                                             bool allLevels, const Readers& readers) {
   if (first.empty()) return second;
   std::vector<CiscoCommandLine*> firstCmds;
   std::vector<CiscoCommandLine*> secondCmds;
@@ -58,8 +58,17 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
     int errorLine = 0;
     // Over every level, a text that is itself a merge result (NUL indent
     // bytes included) is read whole as well.
-    transformCmds(allLevels ? blanksForNul(first) : first, firstCmds, errorText, errorLine);
-    transformCmds(allLevels ? blanksForNul(second) : second, secondCmds, errorText, errorLine);
+    const std::string* texts[] = {&first, &second};
+    std::vector<CiscoCommandLine*>* sides[] = {&firstCmds, &secondCmds};
+    std::vector<RefusedLine>* typed[] = {readers.first, readers.second};
+    for (int i = 0; i < 2; ++i) {
+      const std::string given = allLevels ? blanksForNul(*texts[i]) : *texts[i];
+      if (typed[i]) {
+        transformCmdsTyped(given, *sides[i], typed[i]);
+      } else {
+        transformCmds(given, *sides[i], errorText, errorLine);
+      }
+    }
     // Both sides are brought into the form that a merge writes, so that
     // comments are gone and repeated words stand in one order.
     for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {

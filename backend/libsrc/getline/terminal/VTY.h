@@ -87,6 +87,26 @@ class VTYCONF_API VTY : public std::stringstream {
   bool inBanner() const { return mInBanner; }
   // Number of open configuration levels of the current mode (1 at its root).
   size_t levelCount() const;
+  // vtyconf's own, for reading text as it is typed: a terminal in CLI mode
+  // does not link a finished command to the command of its mode or give it
+  // an order number; with this set it does, as a replaying terminal does.
+  void setLinkCommands(bool link) { mLinkCommands = link; }
+  // vtyconf's own: switches CLI mode between lines, for every mode's model
+  // (the reading of typed text tries whole words first, as a stored
+  // configuration is replayed, and abbreviations after that).
+  void setCliMode(bool cliMode);
+  bool linksCommands() const { return mLinkCommands; }
+  // vtyconf's own: one line into `command`, filled as getComLineInfo fills
+  // the record of a line (texts, context, level; CMD_TEXT with the raw line
+  // when the line holds no command), except that level and context are those
+  // of this line alone, read after it, so a caller may change modes between
+  // lines. False when the line failed; the record then has no path, its
+  // level is that of the current mode and its texts are the line as typed.
+  bool parseRecordLine(const std::string& line, CiscoCommandLine& command);
+  // Byte offset, in the last line given to parse(), of the word at which the
+  // walk stopped when the line failed (the farthest over the levels tried);
+  // the line's length for an incomplete command.
+  size_t lastErrorOffset() const { return mLastErrorOffset; }
 
   static int mInstanceCounter;
   static std::map<VTYModeType, ParserTree*> mTrees4Modes;
@@ -103,6 +123,8 @@ class VTYCONF_API VTY : public std::stringstream {
   int mType = 0;
   bool mInBanner = false;
   bool mCliMode = false;
+  bool mLinkCommands = false;
+  size_t mLastErrorOffset = 0;
   std::string mHostName;
   std::string mAllConfigCmds;
   std::string mLastError;

@@ -105,6 +105,7 @@ int VTYModel::tryLine(const std::string& line, int& modeResult, std::string& err
     mLevels->nodes.push_back(mCurrentNode);
   }
   int status = 2;
+  mOwner->mLastErrorOffset = 0;
   if (mCliMode && cliExitCommands(line, modeResult, status)) {
     mMajorLevel = mLevels->texts.size();
     return status;
@@ -198,6 +199,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     if (node) {
       acceptToken(flag, key, node, isNo, status);
     } else {
+      if (start > mOwner->mLastErrorOffset) mOwner->mLastErrorOffset = start;
       if (mCliMode) {
         rejectToken("", isNo, status, errorText);
       } else {
@@ -213,11 +215,12 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     finishCommand(isNo, modeResult);
   } else if (status == 1) {
     errorText = kIncomplete;
+    mOwner->mLastErrorOffset = line.size();
   }
 }
 
 void VTYModel::linkToParent() {
-  if (!mCurrentCommand || mCliMode) return;
+  if (!mCurrentCommand || (mCliMode && !mOwner->mLinkCommands)) return;
   CiscoCommandLine* parent = mLevels->commands.empty() ? nullptr : mLevels->commands.back();
   mCurrentCommand->setParentCommand(parent, parent != nullptr);
   mCurrentCommand->setOrderNo(mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
@@ -366,6 +369,9 @@ bool VTYModel::cliExitCommands(const std::string& line, int& modeResult, int& st
   if (word == "exit") {
     popBack(mLevels->nodes);
     popBack(mLevels->texts);
+    // A terminal that links commands keeps its stack of level commands in
+    // step, so the next command is not linked to the mode just left.
+    if (mOwner->mLinkCommands) popBack(mLevels->commands);
     if (!mLevels->nodes.empty()) {
       mCurrentNode = mLevels->nodes.back();
       mPrompt = gPromptSuffixes()[mCurrentNode];

@@ -1,0 +1,244 @@
+#include "config/TypedTextReader.h"
+
+#include <cctype>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+
+#include "config/CiscoCommandLine.h"
+#include "platform/PlatformOs.h"
+#include "platform/QXFileSystem.h"
+#include "terminal/VTY.h"
+
+namespace qxparser {
+
+namespace {
+
+const char* const kBlanks = " \t";
+const std::string kInvalidInput = "% Invalid input detected at ^";
+
+std::string lowered(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+// The words of a line with the offset of each.
+std::vector<std::pair<size_t, std::string>> wordsOf(const std::string& line) {
+  std::vector<std::pair<size_t, std::string>> words;
+  size_t start = line.find_first_not_of(kBlanks);
+  while (start != std::string::npos) {
+    size_t end = line.find_first_of(kBlanks, start);
+    words.emplace_back(start, line.substr(start, end == std::string::npos ? std::string::npos : end - start));
+    start = end == std::string::npos ? end : line.find_first_not_of(kBlanks, end);
+  }
+  return words;
+}
+
+// `word` abbreviates `full` (at least `least` letters of it).
+bool abbreviates(const std::string& word, const std::string& full, size_t least) {
+  return word.size() >= least && word.size() <= full.size() && full.compare(0, word.size(), word) == 0;
+}
+
+bool isConfigureTerminal(const std::vector<std::pair<size_t, std::string>>& words) {
+  if (words.empty() || words.size() > 2 || !abbreviates(lowered(words[0].second), "configure", 4)) return false;
+  return words.size() == 1 || abbreviates(lowered(words[1].second), "terminal", 1);
+}
+
+// The non-empty pieces of a text cut at carriage returns and line feeds, as
+// the replaying reader numbers them.
+std::vector<std::string> piecesOf(const std::string& text) {
+  std::vector<std::string> pieces;
+  size_t start = 0;
+  while (start <= text.size()) {
+    size_t end = text.find_first_of("\r\n", start);
+    if (end == std::string::npos) end = text.size();
+    if (end > start) pieces.push_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  return pieces;
+}
+
+// The line with every ambiguous short interface type replaced by the type the
+// device prefers; empty when there is none.
+std::string withPreferredInterfaceTypes(const std::string& line) {
+  std::string rewritten = line;
+  bool changed = false;
+  const auto words = wordsOf(line);
+  for (size_t i = words.size(); i-- > 0;) {
+    const std::string& word = words[i].second;
+    size_t digit = 0;
+    while (digit < word.size() && !std::isdigit(static_cast<unsigned char>(word[digit]))) ++digit;
+    if (digit == 0) continue;
+    // "Po1", or "Po" followed by the number as a word of its own.
+    const bool numberFollows = digit == word.size() && i + 1 < words.size() &&
+                               std::isdigit(static_cast<unsigned char>(words[i + 1].second[0]));
+    if (digit == word.size() && !numberFollows) continue;
+    const std::string type = TypedTextReader::preferredInterfaceType(lowered(word.substr(0, digit)));
+    if (type.empty()) continue;
+    rewritten.replace(words[i].first, digit, type);
+    changed = true;
+  }
+  return changed ? rewritten : std::string();
+}
+
+class Reading {
+ public:
+  Reading(std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused)
+      : mVty("hostName", true), mCommands(commands), mRefused(refused) {
+    mVty.setLinkCommands(true);
+    mVty.parse("enable\n", true, nullptr);
+    mVty.parse("configure terminal \n", true, nullptr);
+  }
+
+  void line(int number, std::string text) {
+    auto record = std::make_unique<CiscoCommandLine>();
+    record->setLineNo(number);
+    const size_t nul = text.find('\0');
+    if (nul != std::string::npos) {
+      refuse(number, text, nul, "% NUL byte, read as a blank");
+      for (char& c : text) {
+        if (c == '\0') c = ' ';
+      }
+    }
+    if (mVty.inBanner()) {
+      command(number, text, std::move(record));
+      return;
+    }
+    const auto words = wordsOf(text);
+    if (steers(number, text, words)) {
+      record->setFlag(CMD_TEXT);
+      record->setOriginalStr(text);
+      mCommands.push_back(record.release());
+      return;
+    }
+    if (mVty.currentMode() != CONFIG_MODE) {
+      execLine(number, text, std::move(record));
+      return;
+    }
+    command(number, text, std::move(record));
+  }
+
+ private:
+  // Lines that move the terminal between modes and levels, and lines that
+  // hold no configuration. True when the line was taken here.
+  bool steers(int number, const std::string& text, const std::vector<std::pair<size_t, std::string>>& words) {
+    if (words.empty() || words[0].second[0] == '!') return true;
+    const std::string first = lowered(words[0].second);
+    const bool configuring = mVty.currentMode() == CONFIG_MODE;
+    if (isConfigureTerminal(words)) {
+      if (!configuring) mVty.parse("configure terminal \n", true, nullptr);
+      return true;
+    }
+    // A script written for the exec prompt begins with "enable": no
+    // configuration, and no error where the reading already configures.
+    if (first == "enable" && words.size() == 1) return true;
+    if (!configuring) return false;
+    if (first == "end" || first == "exit") {
+      mVty.parse(first, true, nullptr);
+      return true;
+    }
+    if (first == "do") return true;
+    if (first.compare(0, 5, "exit-") == 0) {
+      // exit-address-family and its kind leave a mode inside a mode.
+      if (mVty.levelCount() >= 3) {
+        mVty.parse("exit", true, nullptr);
+      } else {
+        refuse(number, text, words[0].first, kInvalidInput);
+      }
+      return true;
+    }
+    return false;
+  }
+
+  // Whole words first, at this level and the levels above it, as a stored
+  // configuration is replayed: a line the device prints reads as it does
+  // there. Then abbreviations; then the preferred interface types.
+  void command(int number, const std::string& text, std::unique_ptr<CiscoCommandLine> record) {
+    if (!attempt(number, text, false, record) && !attempt(number, text, true, record)) {
+      const size_t position = mVty.lastErrorOffset();
+      const std::string message = mVty.lastError();
+      const std::string preferred = withPreferredInterfaceTypes(text);
+      std::unique_ptr<CiscoCommandLine> retry;
+      if (!preferred.empty() && attempt(number, preferred, true, retry)) {
+        record = std::move(retry);
+      } else {
+        refuse(number, text, position, message);
+      }
+    }
+    mCommands.push_back(record.release());
+  }
+
+  // One reading of the line into a fresh record (kept in `record` either way).
+  bool attempt(int number, const std::string& text, bool abbreviations, std::unique_ptr<CiscoCommandLine>& record) {
+    record = std::make_unique<CiscoCommandLine>();
+    record->setLineNo(number);
+    mVty.setCliMode(abbreviations);
+    const bool ok = mVty.parseRecordLine(text, *record);
+    mVty.setCliMode(true);
+    return ok;
+  }
+
+  // At the exec prompt: `write memory`, `show ...` and the like are no
+  // configuration; anything else is refused there, as on the device.
+  void execLine(int number, const std::string& text, std::unique_ptr<CiscoCommandLine> record) {
+    if (mVty.parse(text, true, nullptr)) {
+      record->setFlag(CMD_TEXT);
+      record->setOriginalStr(text);
+    } else {
+      refuse(number, text, mVty.lastErrorOffset(), mVty.lastError());
+      size_t start = text.find_first_not_of(kBlanks);
+      const std::string shown = (start == std::string::npos ? std::string() : text.substr(start)) + "\n";
+      record->setCurrentCommand(shown);
+      record->setOriginalCmd(shown);
+    }
+    mCommands.push_back(record.release());
+  }
+
+  void refuse(int number, const std::string& text, size_t position, const std::string& message) {
+    mRefused.push_back(RefusedLine{number, text, position, message.empty() ? kInvalidInput : message});
+  }
+
+  VTY mVty;
+  std::vector<CiscoCommandLine*>& mCommands;
+  std::vector<RefusedLine>& mRefused;
+};
+
+}  // namespace
+
+bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                           std::vector<RefusedLine>& refused) {
+  const size_t before = refused.size();
+  Reading reading(commands, refused);
+  int number = 0;
+  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  return refused.size() == before;
+}
+
+std::string TypedTextReader::preferredInterfaceType(const std::string& word) {
+  // The KeyFile of the loaded resource folder, read once per folder.
+  static std::string folder;
+  static std::vector<std::string> types;
+  const std::string current = QXFileSystem::GetSystemResourceFolder();
+  if (current != folder) {
+    folder = current;
+    types.clear();
+    std::ifstream in(folder + "files" + platform::kPathSeparator + "keyfiles" + platform::kPathSeparator +
+                     "interfacefile.cfm");
+    std::string row;
+    while (std::getline(in, row)) {
+      const std::string type = row.substr(0, row.find('|'));
+      if (!type.empty() && type.find_first_of(" \t\r") == std::string::npos) types.push_back(type);
+    }
+  }
+  std::string first;
+  int count = 0;
+  for (const std::string& type : types) {
+    if (type == word) return std::string();
+    if (abbreviates(word, type, 1)) {
+      if (count++ == 0) first = type;
+    }
+  }
+  return count >= 2 ? first : std::string();
+}
+
+}  // namespace qxparser

@@ -1,0 +1,56 @@
+// TypedTextReader: configuration text read the way the device reads text
+// pasted at its console.
+//
+// A stored configuration is replayed word for word (getCmdInfo); what people
+// type is not: keywords and interface types are abbreviated and written in
+// any case (`int Gi0/1`, `no shut`), and the text steers the terminal with
+// `configure terminal`, `exit`, `exit-address-family`, `end` and `do`. This
+// reader walks such text on a terminal in CLI mode that links every command
+// to the command of its mode, so an abbreviated line yields the very record
+// (grammar path, canonical text, level, parent) that the full words yield.
+// Lines that steer the terminal, comments and blank lines become CMD_TEXT
+// records; they are no commands. A refused line still gets its record
+// without a path (as getCmdInfo gives one) and is listed with its position.
+//
+// Where a short interface type names several types (`Po1`: port-channel and
+// pos), the device takes the one it prefers; the interface KeyFile lists the
+// types in that order, and a line refused for such a word is read once more
+// with the first type the word abbreviates.
+//
+// Records belong to the caller (all levels are returned, as by getCmdInfo).
+// Not thread-safe: it walks the shared grammar.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Export.h"
+
+namespace qxparser {
+
+class CiscoCommandLine;
+
+// A line the device would refuse, or one it would read otherwise than written
+// (a NUL byte read as a blank). The line number counts the non-empty lines of
+// the text, as the records' line numbers do.
+struct RefusedLine {
+  int lineNo = 0;
+  std::string text;       // the line as written
+  size_t position = 0;    // byte offset of the word where the walk stopped
+  std::string message;    // the terminal's answer, such as "% Invalid input detected at ^"
+};
+
+class VTYCONF_API TypedTextReader {
+ public:
+  // Reads `text`; appends one record per non-empty line to `commands` and
+  // every refused line to `refused`. True when no line was refused.
+  static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                   std::vector<RefusedLine>& refused);
+
+  // The interface type that a short, lower-case type word stands for when it
+  // abbreviates several types: the first of them in the interface KeyFile.
+  // Empty when the word is a whole type, abbreviates one type or none.
+  static std::string preferredInterfaceType(const std::string& word);
+};
+
+}  // namespace qxparser

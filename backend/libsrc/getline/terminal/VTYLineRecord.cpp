@@ -1,0 +1,44 @@
+// One line into one record, for readers that walk a text themselves (the
+// reading of typed text steers modes between lines, which getComLineInfo,
+// holding one model for the whole text, cannot follow).
+#include "config/CiscoCommandLine.h"
+#include "terminal/VTY.h"
+#include "terminal/VTYModel.h"
+
+namespace qxparser {
+
+void VTY::setCliMode(bool cliMode) {
+  mCliMode = cliMode;
+  for (auto& entry : mModels) {
+    if (entry.second) entry.second->mCliMode = cliMode;
+  }
+}
+
+bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
+  const bool ok = parse(line, true, &command);
+  VTYModel* model = currentModel();
+  std::string context;
+  if (model) model->levelText(context, false);
+  const int level = model ? static_cast<int>(model->mMajorLevel) : 0;
+  if (!ok) {
+    size_t start = line.find_first_not_of(" \t");
+    const std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
+    command.setLevel(level);
+    command.setMajorCommands(context);
+    command.setCurrentCommand(shown);
+    command.setOriginalCmd(shown);
+    return false;
+  }
+  if (model && !model->mInfoLine.empty()) {
+    command.setCurrentCommand(model->mInfoLine);
+    command.setOriginalCmd(model->mCompleteLine);
+    command.setMajorCommands(context);
+    command.setLevel(level);
+  } else {
+    command.setFlag(CMD_TEXT);
+    command.setOriginalStr(line);
+  }
+  return true;
+}
+
+}  // namespace qxparser
