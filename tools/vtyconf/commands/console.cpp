@@ -47,6 +47,8 @@ class Console {
  public:
   Console(const ConsoleOptions& options, bool interactive)
       : mVty(options.hostname, true), mEditor(std::make_unique<GetLineData>()), mInteractive(interactive) {
+    // `int Po1` and `int Se0/0/0` name the types the device prefers.
+    mVty.setPreferInterfaceTypes(true);
     show(vtysh_console_init(&mVty, mEditor.get(), interactive ? screenWidth() : 80, options.history.c_str()));
   }
 

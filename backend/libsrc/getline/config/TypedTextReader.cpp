@@ -2,12 +2,10 @@
 
 #include <cctype>
 #include <cstdio>
-#include <fstream>
 #include <memory>
 
 #include "config/CiscoCommandLine.h"
-#include "platform/PlatformOs.h"
-#include "platform/QXFileSystem.h"
+#include "grammar/InterfaceTypeOrder.h"
 #include "terminal/VTY.h"
 
 namespace qxparser {
@@ -56,29 +54,6 @@ std::vector<std::string> piecesOf(const std::string& text) {
     start = end + 1;
   }
   return pieces;
-}
-
-// The line with every ambiguous short interface type replaced by the type the
-// device prefers; empty when there is none.
-std::string withPreferredInterfaceTypes(const std::string& line) {
-  std::string rewritten = line;
-  bool changed = false;
-  const auto words = wordsOf(line);
-  for (size_t i = words.size(); i-- > 0;) {
-    const std::string& word = words[i].second;
-    size_t digit = 0;
-    while (digit < word.size() && !std::isdigit(static_cast<unsigned char>(word[digit]))) ++digit;
-    if (digit == 0) continue;
-    // "Po1", or "Po" followed by the number as a word of its own.
-    const bool numberFollows = digit == word.size() && i + 1 < words.size() &&
-                               std::isdigit(static_cast<unsigned char>(words[i + 1].second[0]));
-    if (digit == word.size() && !numberFollows) continue;
-    const std::string type = TypedTextReader::preferredInterfaceType(lowered(word.substr(0, digit)));
-    if (type.empty()) continue;
-    rewritten.replace(words[i].first, digit, type);
-    changed = true;
-  }
-  return changed ? rewritten : std::string();
 }
 
 class Reading {
@@ -157,7 +132,7 @@ class Reading {
     if (!attempt(number, text, false, record) && !attempt(number, text, true, record)) {
       const size_t position = mVty.lastErrorOffset();
       const std::string message = mVty.lastError();
-      const std::string preferred = withPreferredInterfaceTypes(text);
+      const std::string preferred = InterfaceTypeOrder::withPreferredTypes(text);
       std::unique_ptr<CiscoCommandLine> retry;
       if (!preferred.empty() && attempt(number, preferred, true, retry)) {
         record = std::move(retry);
@@ -212,33 +187,6 @@ bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine
   int number = 0;
   for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
   return refused.size() == before;
-}
-
-std::string TypedTextReader::preferredInterfaceType(const std::string& word) {
-  // The KeyFile of the loaded resource folder, read once per folder.
-  static std::string folder;
-  static std::vector<std::string> types;
-  const std::string current = QXFileSystem::GetSystemResourceFolder();
-  if (current != folder) {
-    folder = current;
-    types.clear();
-    std::ifstream in(folder + "files" + platform::kPathSeparator + "keyfiles" + platform::kPathSeparator +
-                     "interfacefile.cfm");
-    std::string row;
-    while (std::getline(in, row)) {
-      const std::string type = row.substr(0, row.find('|'));
-      if (!type.empty() && type.find_first_of(" \t\r") == std::string::npos) types.push_back(type);
-    }
-  }
-  std::string first;
-  int count = 0;
-  for (const std::string& type : types) {
-    if (type == word) return std::string();
-    if (abbreviates(word, type, 1)) {
-      if (count++ == 0) first = type;
-    }
-  }
-  return count >= 2 ? first : std::string();
 }
 
 }  // namespace qxparser

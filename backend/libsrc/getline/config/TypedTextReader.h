@@ -13,9 +13,8 @@
 // without a path (as getCmdInfo gives one) and is listed with its position.
 //
 // Where a short interface type names several types (`Po1`: port-channel and
-// pos), the device takes the one it prefers; the interface KeyFile lists the
-// types in that order, and a line refused for such a word is read once more
-// with the first type the word abbreviates.
+// pos), a refused line is read once more with the type the device prefers
+// (InterfaceTypeOrder).
 //
 // Records belong to the caller (all levels are returned, as by getCmdInfo).
 // Not thread-safe: it walks the shared grammar.
@@ -47,10 +46,6 @@ class VTYCONF_API TypedTextReader {
   static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                    std::vector<RefusedLine>& refused);
 
-  // The interface type that a short, lower-case type word stands for when it
-  // abbreviates several types: the first of them in the interface KeyFile.
-  // Empty when the word is a whole type, abbreviates one type or none.
-  static std::string preferredInterfaceType(const std::string& word);
 };
 
 }  // namespace qxparser

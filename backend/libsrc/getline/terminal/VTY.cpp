@@ -4,6 +4,7 @@
 
 #include "config/CiscoCommandLine.h"
 #include "grammar/DefinitionLoader.h"
+#include "grammar/InterfaceTypeOrder.h"
 #include "grammar/ParserTree.h"
 #include "terminal/VTYModel.h"
 #include "toolkit/ParserToolCase.h"
@@ -119,6 +120,19 @@ bool VTY::parse(const std::string& line, bool popMode, CiscoCommandLine* command
   std::string errorText;
   bool inBanner = false;
   bool ok = model->parseLine(line, errorText, modeResult, inBanner);
+  if (!ok && mPreferInterfaceTypes && !mLinkCommands) {
+    const std::string preferred = InterfaceTypeOrder::withPreferredTypes(line);
+    // The record of the refused walk holds part of a path: the second walk
+    // fills one of its own, which then stands for the line.
+    CiscoCommandLine second;
+    model->mCurrentCommand = command ? &second : nullptr;
+    std::string retryError;
+    if (!preferred.empty() && model->parseLine(preferred, retryError, modeResult, inBanner)) {
+      ok = true;
+      if (command) *command = second;
+    }
+    model->mCurrentCommand = command;
+  }
   mInBanner = inBanner;
   std::string kept;
   if (!ok) {

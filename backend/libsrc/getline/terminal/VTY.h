@@ -91,6 +91,10 @@ class VTYCONF_API VTY : public std::stringstream {
   // does not link a finished command to the command of its mode or give it
   // an order number; with this set it does, as a replaying terminal does.
   void setLinkCommands(bool link) { mLinkCommands = link; }
+  // vtyconf's own, for a console (a terminal that links no records): a line refused
+  // for an ambiguous short interface type (`int Po1`) is walked once more
+  // with the type the device prefers (InterfaceTypeOrder). Off by default.
+  void setPreferInterfaceTypes(bool prefer) { mPreferInterfaceTypes = prefer; }
   // vtyconf's own: switches CLI mode between lines, for every mode's model
   // (the reading of typed text tries whole words first, as a stored
   // configuration is replayed, and abbreviations after that).
@@ -124,6 +128,7 @@ class VTYCONF_API VTY : public std::stringstream {
   bool mInBanner = false;
   bool mCliMode = false;
   bool mLinkCommands = false;
+  bool mPreferInterfaceTypes = false;
   size_t mLastErrorOffset = 0;
   std::string mHostName;
   std::string mAllConfigCmds;

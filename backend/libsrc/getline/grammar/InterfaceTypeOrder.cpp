@@ -1,0 +1,87 @@
+#include "grammar/InterfaceTypeOrder.h"
+
+#include <cctype>
+#include <fstream>
+#include <utility>
+#include <vector>
+
+#include "platform/PlatformOs.h"
+#include "platform/QXFileSystem.h"
+
+namespace qxparser {
+
+namespace {
+
+const char* const kBlanks = " \t";
+
+bool abbreviates(const std::string& word, const std::string& full) {
+  return !word.empty() && word.size() <= full.size() && full.compare(0, word.size(), word) == 0;
+}
+
+std::string lowered(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+std::vector<std::pair<size_t, std::string>> wordsOf(const std::string& line) {
+  std::vector<std::pair<size_t, std::string>> words;
+  size_t start = line.find_first_not_of(kBlanks);
+  while (start != std::string::npos) {
+    size_t end = line.find_first_of(kBlanks, start);
+    words.emplace_back(start, line.substr(start, end == std::string::npos ? std::string::npos : end - start));
+    start = end == std::string::npos ? end : line.find_first_not_of(kBlanks, end);
+  }
+  return words;
+}
+
+}  // namespace
+
+std::string InterfaceTypeOrder::preferredType(const std::string& word) {
+  // The KeyFile of the loaded resource folder, read once per folder.
+  static std::string folder;
+  static std::vector<std::string> types;
+  const std::string current = QXFileSystem::GetSystemResourceFolder();
+  if (current != folder) {
+    folder = current;
+    types.clear();
+    std::ifstream in(folder + "files" + platform::kPathSeparator + "keyfiles" + platform::kPathSeparator +
+                     "interfacefile.cfm");
+    std::string row;
+    while (std::getline(in, row)) {
+      const std::string type = row.substr(0, row.find('|'));
+      if (!type.empty() && type.find_first_of(" \t\r") == std::string::npos) types.push_back(type);
+    }
+  }
+  std::string first;
+  int count = 0;
+  for (const std::string& type : types) {
+    if (type == word) return std::string();
+    if (abbreviates(word, type)) {
+      if (count++ == 0) first = type;
+    }
+  }
+  return count >= 2 ? first : std::string();
+}
+
+std::string InterfaceTypeOrder::withPreferredTypes(const std::string& line) {
+  std::string rewritten = line;
+  bool changed = false;
+  const auto words = wordsOf(line);
+  for (size_t i = words.size(); i-- > 0;) {
+    const std::string& word = words[i].second;
+    size_t digit = 0;
+    while (digit < word.size() && !std::isdigit(static_cast<unsigned char>(word[digit]))) ++digit;
+    if (digit == 0) continue;
+    // "Po1", or "Po" followed by the number as a word of its own.
+    const bool numberFollows = digit == word.size() && i + 1 < words.size() &&
+                               std::isdigit(static_cast<unsigned char>(words[i + 1].second[0]));
+    if (digit == word.size() && !numberFollows) continue;
+    const std::string type = preferredType(lowered(word.substr(0, digit)));
+    if (type.empty()) continue;
+    rewritten.replace(words[i].first, digit, type);
+    changed = true;
+  }
+  return changed ? rewritten : std::string();
+}
+
+}  // namespace qxparser
