@@ -1,10 +1,13 @@
 // vtyconf parse: read configurations into commands and show what the device
 // made of each line; refused lines go to standard error with the file's own
-// line number.
+// line number. Text is read as the device reads it pasted at its console
+// (getCmdInfoTyped); --replay reads it as a stored configuration is replayed
+// (getCmdInfo).
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
 #include <map>
+#include <set>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -28,6 +31,7 @@ struct ParseOptions {
   bool strict = false;
   bool stats = false;
   bool keepCapture = false;
+  bool replay = false;
   unsigned jobs = 0;
 };
 
@@ -45,7 +49,8 @@ std::string groupKey(const std::string& line) {
 }
 
 
-bool isRefused(const CiscoCommandLine& record, const ConfigInput& input) {
+bool isRefused(const CiscoCommandLine& record, const ConfigInput& input, const std::set<int>& refusedLines) {
+  if (refusedLines.count(record.getLineNo())) return true;
   if (input.isBannerText(record.getLineNo())) return false;
   return isRefusedRecord(record);
 }
@@ -117,8 +122,13 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   std::string errorText;
   int errorLine = 0;
   std::string exceptionText;
+  std::vector<qxparser::RefusedLine> refusedLines;
   try {
-    QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+    if (options.replay) {
+      QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+    } else {
+      QxParserUtil::getCmdInfoTyped(input.text, records, refusedLines);
+    }
   } catch (const std::exception& e) {
     exceptionText = e.what();
   }
@@ -132,15 +142,18 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   }
   std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
       &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
+  std::set<int> refusedNumbers;
+  for (const qxparser::RefusedLine& line : refusedLines) refusedNumbers.insert(line.lineNo);
+  auto isRefused = [&](const CiscoCommandLine& record) { return vtycli::isRefused(record, input, refusedNumbers); };
   std::ostringstream text;
   for (const CiscoCommandLine* record : records) {
     ++summary.lines;
     const int fileLine = input.fileLineOf(record->getLineNo());
-    if (isRefused(*record, input)) {
+    if (isRefused(*record)) {
       ++summary.refused;
       const std::string shown = CommandDump::commandText(*record);
       summary.groups[groupKey(shown)]++;
-      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
+      if (!options.stats) std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
       continue;
     }
     if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
@@ -156,7 +169,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   if (options.json) {
     for (const CiscoCommandLine* record : records) {
       if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
-      if (isRefused(*record, input)) continue;
+      if (isRefused(*record)) continue;
       summary.records.push_back(toJson(*record, input));
     }
   } else if (!options.stats) {
@@ -219,6 +232,8 @@ CommandRegistration registration{CommandSpec{
       sub.add_flag("--strict", options->strict, "exit 1 when a line was refused");
       sub.add_flag("--stats", options->stats,
                    "print lines read, refused, and refused lines by their first words");
+      sub.add_flag("--replay", options->replay,
+                   "read as a stored configuration is replayed (getCmdInfo): whole words, no mode exits");
       sub.add_flag("--keep-capture", options->keepCapture,
                    "keep prompt lines and \"Building configuration...\" of a terminal capture");
       sub.footer("Example: vtyconf parse router1.cfg --strict");

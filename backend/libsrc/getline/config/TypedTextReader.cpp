@@ -58,14 +58,20 @@ std::vector<std::string> piecesOf(const std::string& text) {
 
 class Reading {
  public:
-  Reading(std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused)
-      : mVty("hostName", true), mCommands(commands), mRefused(refused) {
+  Reading(const std::string& hostName, std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused,
+          std::vector<std::string>* prompts)
+      : mVty(hostName, true), mCommands(commands), mRefused(refused), mPrompts(prompts) {
     mVty.setLinkCommands(true);
     mVty.parse("enable\n", true, nullptr);
     mVty.parse("configure terminal \n", true, nullptr);
   }
 
   void line(int number, std::string text) {
+    if (mPrompts) {
+      std::string prompt;
+      mVty.getPrompt(prompt);
+      mPrompts->push_back(prompt);
+    }
     auto record = std::make_unique<CiscoCommandLine>();
     record->setLineNo(number);
     const size_t nul = text.find('\0');
@@ -80,7 +86,7 @@ class Reading {
       return;
     }
     const auto words = wordsOf(text);
-    if (steers(number, text, words)) {
+    if (steers(words)) {
       record->setFlag(CMD_TEXT);
       record->setOriginalStr(text);
       mCommands.push_back(record.release());
@@ -96,7 +102,7 @@ class Reading {
  private:
   // Lines that move the terminal between modes and levels, and lines that
   // hold no configuration. True when the line was taken here.
-  bool steers(int number, const std::string& text, const std::vector<std::pair<size_t, std::string>>& words) {
+  bool steers(const std::vector<std::pair<size_t, std::string>>& words) {
     if (words.empty() || words[0].second[0] == '!') return true;
     const std::string first = lowered(words[0].second);
     const bool configuring = mVty.currentMode() == CONFIG_MODE;
@@ -114,11 +120,14 @@ class Reading {
     }
     if (first == "do") return true;
     if (first.compare(0, 5, "exit-") == 0) {
-      // exit-address-family and its kind leave a mode inside a mode.
-      if (mVty.levelCount() >= 3) {
+      // exit-address-family and its kind leave the mode inside a mode that
+      // they name (the last word: family, interface, topology, policy...).
+      // Where that mode is not the innermost one (a line before it was
+      // refused or left it), the next lines find their level as replayed
+      // text does.
+      const std::string named = first.substr(first.rfind('-') + 1);
+      if (mVty.levelCount() >= 3 && mVty.innermostLevelText().find(named) != std::string::npos) {
         mVty.parse("exit", true, nullptr);
-      } else {
-        refuse(number, text, words[0].first, kInvalidInput);
       }
       return true;
     }
@@ -176,6 +185,7 @@ class Reading {
   VTY mVty;
   std::vector<CiscoCommandLine*>& mCommands;
   std::vector<RefusedLine>& mRefused;
+  std::vector<std::string>* mPrompts;
 };
 
 }  // namespace
@@ -183,7 +193,17 @@ class Reading {
 bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                            std::vector<RefusedLine>& refused) {
   const size_t before = refused.size();
-  Reading reading(commands, refused);
+  Reading reading("hostName", commands, refused, nullptr);
+  int number = 0;
+  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  return refused.size() == before;
+}
+
+bool TypedTextReader::readWithPrompts(const std::string& text, const std::string& hostName,
+                                      std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused,
+                                      std::vector<std::string>& prompts) {
+  const size_t before = refused.size();
+  Reading reading(hostName, commands, refused, &prompts);
   int number = 0;
   for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
   return refused.size() == before;

@@ -45,6 +45,11 @@ class VTYCONF_API TypedTextReader {
   // every refused line to `refused`. True when no line was refused.
   static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                    std::vector<RefusedLine>& refused);
+  // The same, on a terminal named `hostName`, also giving for every record
+  // the prompt at which its line was typed ("R1(config-if)#").
+  static bool readWithPrompts(const std::string& text, const std::string& hostName,
+                              std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused,
+                              std::vector<std::string>& prompts);
 
 };
 

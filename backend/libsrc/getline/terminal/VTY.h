@@ -87,6 +87,9 @@ class VTYCONF_API VTY : public std::stringstream {
   bool inBanner() const { return mInBanner; }
   // Number of open configuration levels of the current mode (1 at its root).
   size_t levelCount() const;
+  // The rebuilt text of the command that opened the innermost level ("" at
+  // the root of a mode).
+  std::string innermostLevelText() const;
   // vtyconf's own, for reading text as it is typed: a terminal in CLI mode
   // does not link a finished command to the command of its mode or give it
   // an order number; with this set it does, as a replaying terminal does.

@@ -7,6 +7,12 @@
 
 namespace qxparser {
 
+std::string VTY::innermostLevelText() const {
+  VTYModel* model = currentModel();
+  if (!model || model->mLevels->texts.empty()) return std::string();
+  return model->mLevels->texts.back();
+}
+
 void VTY::setCliMode(bool cliMode) {
   mCliMode = cliMode;
   for (auto& entry : mModels) {
