@@ -1,13 +1,21 @@
 certificate|exchange certificates|k||
   self-signed|self signed certificate|k||
     word|certificate serial number|k||
-      <cr>||||
+      <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+      !
+      word|file that holds the certificate (nvram:NAME.cer)|||
+        <cr>||||
+        !
       !
     !
   !
   ca|certificate authority certificate|k||
     word|certificate serial number|k||
-      <cr>||||
+      <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+      !
+      word|file that holds the certificate (nvram:NAME.cer)|||
+        <cr>||||
+        !
       !
     !
   !
@@ -18,7 +26,11 @@ certificate|exchange certificates|k||
     !
   !
   word|certificate serial number|k||
-    <cr>||||
+    <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+    !
+    word|file that holds the certificate (nvram:NAME.cer)|||
+      <cr>||||
+      !
     !
   !
 !

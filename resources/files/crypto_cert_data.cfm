@@ -1,0 +1,4 @@
+&certdatafile.cfm|certificate data|k/lb/le/wa||
+  <cr>||||
+  !
+!
