@@ -2788,3 +2788,741 @@ mac-address|manually set the interface mac address|k||
     !
   !
 !
+tx-queue-limit|largest transmit queue|k||
+  id|packets|o||
+    <cr>||||
+    !
+  !
+!
+dce-terminal-timing-enable|dce terminal timing|k||
+  <cr>||||
+  !
+!
+async|async interface|k||
+  mode|mode|k||
+    interactive|interactive|k/o||
+      <cr>||||
+      !
+    !
+    dedicated|dedicated|k/o||
+      <cr>||||
+      !
+    !
+  !
+  default|defaults|k||
+    routing|routing on the async line|k||
+      <cr>||||
+      !
+    !
+  !
+  dynamic|dynamic settings|k||
+    address|addresses given by the user|k||
+      <cr>||||
+      !
+    !
+    routing|routing given by the user|k||
+      <cr>||||
+      !
+    !
+  !
+!
+ssid|radio service set of this radio|k||
+  word|ssid name|k||
+    <cr>||||
+    !
+  !
+!
+encryption|radio encryption|k||
+  vlan|encryption of a vlan|k||
+    <1-4094>|vlan id|k||
+      mode|encryption mode|k||
+        ciphers|cipher suite|k||
+          aes-ccm|aes counter mode with cbc-mac|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          ckip|cisco key integrity protocol|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          ckip-cmic|ckip with message integrity check|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          cmic|cisco message integrity check|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          tkip|temporal key integrity protocol|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          wep128|128-bit wep|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          wep40|40-bit wep|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+        wep|wep|k||
+          mandatory|mandatory|k/o||
+            <cr>||||
+            !
+          !
+          optional|optional|k/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  mode|encryption mode|k||
+    ciphers|cipher suite|k||
+      aes-ccm|aes counter mode with cbc-mac|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      ckip|cisco key integrity protocol|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      ckip-cmic|ckip with message integrity check|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      cmic|cisco message integrity check|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      tkip|temporal key integrity protocol|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      wep128|128-bit wep|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      wep40|40-bit wep|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    wep|wep|k||
+      mandatory|mandatory|k/o||
+        <cr>||||
+        !
+      !
+      optional|optional|k/o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+antenna|antenna|k||
+  gain|antenna gain|k||
+    id|dB|o||
+      <cr>||||
+      !
+    !
+  !
+  receive|receive antenna|k||
+    diversity|diversity|k/o||
+      <cr>||||
+      !
+    !
+    left|left|k/o||
+      <cr>||||
+      !
+    !
+    right|right|k/o||
+      <cr>||||
+      !
+    !
+  !
+  transmit|transmit antenna|k||
+    diversity|diversity|k/o||
+      <cr>||||
+      !
+    !
+    left|left|k/o||
+      <cr>||||
+      !
+    !
+    right|right|k/o||
+      <cr>||||
+      !
+    !
+  !
+!
+stbc|space-time block coding|k||
+  <cr>||||
+  !
+!
+mbssid|multiple bssid|k||
+  <cr>||||
+  !
+!
+peakdetect|peak detection|k||
+  <cr>||||
+  !
+!
+dfs|dynamic frequency selection|k||
+  band|band|k||
+    <1-4>|band|k||
+      block|do not use the band|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+channel|radio channel|k||
+  least-congested|least congested channel|k/o||
+    <cr>||||
+    !
+    id|frequency|lb/le||
+      <cr>||||
+      !
+    !
+  !
+  width|channel width|k||
+    20|20 MHz|k/o||
+      <cr>||||
+      !
+    !
+    40-above|40 MHz above|k/o||
+      <cr>||||
+      !
+    !
+    40-below|40 MHz below|k/o||
+      <cr>||||
+      !
+    !
+    80|80 MHz|k/o||
+      <cr>||||
+      !
+    !
+  !
+  dfs|dynamic frequency selection|k||
+    <cr>||||
+    !
+  !
+  id|channel or frequency|o||
+    <cr>||||
+    !
+  !
+!
+station-role|role of the radio|k||
+  root|access point|k/o||
+    <cr>||||
+    !
+    access-point|access point|k||
+      <cr>||||
+      !
+    !
+    bridge|root bridge|k||
+      <cr>||||
+      !
+    !
+    ap-only|access point only|k||
+      <cr>||||
+      !
+    !
+  !
+  non-root|client|k/o||
+    <cr>||||
+    !
+    bridge|non-root bridge|k||
+      <cr>||||
+      !
+    !
+    wireless-clients|with wireless clients|k||
+      <cr>||||
+      !
+    !
+  !
+  repeater|repeater|k/o||
+    <cr>||||
+    !
+  !
+  workgroup-bridge|workgroup bridge|k/o||
+    <cr>||||
+    !
+  !
+  install|installation mode|k/o||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+world-mode|world mode|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+beacon|beacon|k||
+  period|beacon period|k||
+    <20-4000>|kilomicroseconds|o||
+      <cr>||||
+      !
+    !
+  !
+  dtim-period|dtim period|k||
+    <1-100>|beacon intervals|o||
+      <cr>||||
+      !
+    !
+  !
+!
+bridge-group|transparent bridging|k||
+  <1-255>|bridge group|k||
+    <cr>||||
+    !
+    subscriber-loop-control|loop control|k||
+      <cr>||||
+      !
+    !
+    spanning-disabled|no spanning tree|k||
+      <cr>||||
+      !
+    !
+    block-unknown-source|block unknown sources|k||
+      <cr>||||
+      !
+    !
+    source-learning|learn the sources|k/sn||
+      <cr>||||
+      !
+    !
+    unicast-flooding|flood unknown unicast|k/sn||
+      <cr>||||
+      !
+    !
+    port-protected|protected port|k||
+      <cr>||||
+      !
+    !
+    path-cost|path cost|k||
+      id|cost|o||
+        <cr>||||
+        !
+      !
+    !
+    priority|priority|k||
+      id|priority|o||
+        <cr>||||
+        !
+      !
+    !
+    input-address-list|input address list|k||
+      <700-799>|list|o||
+        <cr>||||
+        !
+      !
+    !
+    output-address-list|output address list|k||
+      <700-799>|list|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!

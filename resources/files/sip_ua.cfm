@@ -1,0 +1,92 @@
+registrar|sip registrar|k||
+  <1-6>|registrar index|k||
+    word|ipv4:A.B.C.D or dns:NAME|o||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  word|ipv4:A.B.C.D or dns:NAME|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+sip-server|sip server|k||
+  word|ipv4:A.B.C.D or dns:NAME|o||
+    <cr>||||
+    !
+  !
+!
+credentials|credentials|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+authentication|authentication|k||
+  username|user name|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+!
+retry|retries|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+timers|timers|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+transport|transport|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+keepalive|keepalive|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+mwi-server|message waiting server|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+nat|nat|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+set|set|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+no-alert|no alert|k||
+  <cr>||||
+  !
+!
+sip-register|register with the registrar|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,126 @@
+allow-connections|connection types allowed|k||
+  h323|h.323|k||
+    to|to|k||
+      h323|h323|k||
+        <cr>||||
+        !
+      !
+      sip|sip|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  sip|sip|k||
+    to|to|k||
+      h323|h323|k||
+        <cr>||||
+        !
+      !
+      sip|sip|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+fax|fax|k||
+  protocol|fax protocol|k||
+    t38|t.38|k/o||
+      <cr>||||
+      !
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    pass-through|pass-through|k/o||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+    none|none|k/o||
+      <cr>||||
+      !
+    !
+    cisco|cisco fax relay|k/o||
+      <cr>||||
+      !
+    !
+  !
+!
+modem|modem|k||
+  passthrough|modem pass-through|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+sip|sip settings|k||
+  <cr>||||@(conf-serv-sip)# generic.cfm
+  !
+!
+h323|h.323 settings|k||
+  <cr>||||@(conf-serv-h323)# generic.cfm
+  !
+!
+shutdown|shut the voice service down|k||
+  <cr>||||
+  !
+  forced|at once|k||
+    <cr>||||
+    !
+  !
+!
+mode|mode|k||
+  border-element|cube|k/o||
+    <cr>||||
+    !
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+media|media settings|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+supplementary-service|supplementary services|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+redirect|redirect settings|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+address-hiding|hide the addresses|k||
+  <cr>||||
+  !
+!
+rtp-port|rtp port range|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+ip|ip settings|k||
+  address|trusted addresses|k||
+    trusted|trusted list|k||
+      <cr>||||@(cfg-iptrust-list)# generic.cfm
+      !
+      authenticate|authenticate|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
