@@ -1,3 +1,7 @@
+pae|port access entity of 802.1x|k||
+  <cr>||||
+  !
+!
 buffers|adjust system buffer pool parameters|k||
   small|small buffers|k||
     permanent|buffers that are never given back|k||
@@ -309,7 +313,7 @@ cts|cisco trustsec|k||
       !
     !
   !
-  cache|cache|k||
+  cache|trustsec cache|k||
     enable|keep the trustsec data over a reload|k/sn||
       <cr>||||
       !
@@ -327,7 +331,7 @@ cts|cisco trustsec|k||
       !
     !
   !
-  logging|logging|k||
+  logging|trustsec logging|k||
     verbose|verbose logging|k||
       <cr>||||
       !
@@ -346,7 +350,7 @@ cts|cisco trustsec|k||
         !
       !
     !
-    reconciliation|reconciliation|k||
+    reconciliation|reconciliation after a restart|k||
       period|reconciliation period|k||
         id|seconds|o||
           <cr>||||
@@ -360,7 +364,7 @@ cts|cisco trustsec|k||
         !
       !
     !
-    mapping|mapping|k||
+    mapping|address to tag mapping|k||
       network-map|network map|k||
         id|bindings|o||
           <cr>||||
@@ -368,7 +372,7 @@ cts|cisco trustsec|k||
         !
       !
     !
-    speaker|speaker|k||
+    speaker|speaker settings|k||
       hold-time|hold time|k||
         <1-65534>|seconds|o||
           <cr>||||
@@ -376,7 +380,7 @@ cts|cisco trustsec|k||
         !
       !
     !
-    listener|listener|k||
+    listener|listener settings|k||
       hold-time|hold time|k||
         <1-65534>|least seconds|o||
           <1-65534>|most seconds|||
@@ -418,8 +422,8 @@ cts|cisco trustsec|k||
         !
       !
     !
-    connection|connection|k||
-      peer|peer|k||
+    connection|sxp connections|k||
+      peer|peer of a connection|k||
         line|line|lb/le/wa||
           <cr>||||
           !
@@ -437,7 +441,7 @@ cts|cisco trustsec|k||
       !
     !
   !
-  authorization|authorization|k||
+  authorization|authorization of trustsec|k||
     list|method list|k||
       word|list|o||
         <cr>||||
@@ -469,7 +473,7 @@ eou|eap over udp|k||
       !
     !
   !
-  allow|allow|k||
+  allow|what is allowed|k||
     ip-station-id|ip address as the station id|k/sn||
       <cr>||||
       !
@@ -504,14 +508,14 @@ eou|eap over udp|k||
         !
       !
     !
-    revalidation|revalidation|k||
+    revalidation|revalidation timer|k||
       <300-86400>|seconds|o||
         <cr>||||
         !
       !
     !
   !
-  logging|logging|k||
+  logging|log eou events|k||
     <cr>||||
     !
   !
@@ -567,7 +571,7 @@ ipc|inter-process communication|k||
       !
     !
   !
-  zone|zone|k||
+  zone|ipc zones|k||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -6082,7 +6086,7 @@ voice|voice configuration|k||
           word|stop string|||
             stream|streams|k||
               id|stream bit map|||
-                duration|duration|k||
+                duration|how long the capture runs|k||
                   id|minutes, 0 without end|||
                     <cr>||||
                     !
@@ -6192,6 +6196,8 @@ dial-peer|dial peer configuration|k||
   no-match|when no dial peer matches|k||
     isdn|isdn calls|k||
       disconnect-cause|disconnect cause|k||
+        <cr>||||
+        !
         <1-127>|cause code|o||
           <cr>||||
           !
@@ -6321,7 +6327,7 @@ ccm-manager|call manager settings|k||
       !
     !
   !
-  fax|fax|k||
+  fax|fax settings of the voice service|k||
     protocol|fax relay protocol|k||
       cisco|cisco fax relay|k/o||
         <cr>||||
@@ -6373,11 +6379,11 @@ ivr|interactive voice response|k||
       !
     !
     streamed|prompts that are streamed|k||
-      none|none|k/o||
+      none|no prompt is streamed|k/o||
         <cr>||||
         !
       !
-      all|all|k/o||
+      all|every prompt is streamed|k/o||
         <cr>||||
         !
       !
@@ -6461,7 +6467,7 @@ call|call settings|k||
           !
         !
       !
-      delay|delay|k||
+      delay|delay threshold|k||
         id|milliseconds|o||
           loss|packet loss|k||
             id|per cent|||
@@ -6625,7 +6631,7 @@ call|call settings|k||
           !
         !
       !
-      memory|memory|k||
+      memory|memory for prompts|k||
         <1-60>|seconds|o||
           <cr>||||
           !
@@ -6719,7 +6725,7 @@ dot11|ieee 802.11 configuration|k||
   !
   vlan-name|name of a vlan|k||
     word|vlan name|k||
-      vlan|vlan|k||
+      vlan|vlan of the name|k||
         <1-4094>|vlan id|o||
           <cr>||||
           !
@@ -6748,7 +6754,7 @@ dot11|ieee 802.11 configuration|k||
   arp-cache|arp cache|k||
     <cr>||||
     !
-    optional|optional|k||
+    optional|optional arp caching|k||
       <cr>||||
       !
     !
@@ -6767,17 +6773,17 @@ bridge|bridge group|k||
   !
   <1-255>|bridge group|k||
     route|route a protocol|k||
-      ip|ip|k||
+      ip|route ip|k||
         <cr>||||
         !
       !
-      ipv6|ipv6|k||
+      ipv6|route ipv6|k||
         <cr>||||
         !
       !
     !
     bridge|bridge a protocol|k||
-      ip|ip|k||
+      ip|bridge ip|k||
         <cr>||||
         !
       !
@@ -6791,7 +6797,7 @@ bridge|bridge group|k||
         <cr>||||
         !
       !
-      dec|dec|k/o||
+      dec|dec spanning tree|k/o||
         <cr>||||
         !
       !

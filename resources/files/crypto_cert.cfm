@@ -1,7 +1,11 @@
+&certdatafile.cfm|certificate data|k/lb/le/wa||
+  <cr>||||
+  !
+!
 certificate|exchange certificates|k||
   self-signed|self signed certificate|k||
     word|certificate serial number|k||
-      <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+      <cr>||||
       !
       word|file that holds the certificate (nvram:NAME.cer)|||
         <cr>||||
@@ -11,7 +15,7 @@ certificate|exchange certificates|k||
   !
   ca|certificate authority certificate|k||
     word|certificate serial number|k||
-      <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+      <cr>||||
       !
       word|file that holds the certificate (nvram:NAME.cer)|||
         <cr>||||
@@ -26,7 +30,7 @@ certificate|exchange certificates|k||
     !
   !
   word|certificate serial number|k||
-    <cr>||||@(config-pubkey)# crypto_cert_data.cfm
+    <cr>||||
     !
     word|file that holds the certificate (nvram:NAME.cer)|||
       <cr>||||

@@ -76,14 +76,14 @@ session|session settings|k||
     !
   !
   transport|session transport|k||
-    udp|udp|k/o||
+    udp|udp transport|k/o||
       <cr>||||
       !
     !
-    tcp|tcp|k/o||
+    tcp|tcp transport|k/o||
       <cr>||||
       !
-      tls|tls|k||
+      tls|tls over tcp|k||
         <cr>||||
         !
       !
@@ -199,18 +199,18 @@ huntstop|stop hunting at this dial peer|k||
 vad|voice activity detection|k||
   <cr>||sn||
   !
-  aggressive|aggressive|k||
+  aggressive|aggressive voice activity detection|k||
     <cr>||||
     !
   !
 !
-dtmf|dtmf|k||
+dtmf|dtmf settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-fax|fax|k||
+fax|fax settings of the dial peer|k||
   rate|fax rate|k||
     line|line|lb/le/wa/o||
       <cr>||||
@@ -266,7 +266,7 @@ playout-delay|playout delay|k||
     !
   !
 !
-media|media|k||
+media|media path|k||
   flow-through|media through this router|k/o||
     <cr>||||
     !
@@ -307,15 +307,15 @@ shutdown|shut the dial peer down|k||
   !
 !
 information-type|information type|k||
-  voice|voice|k/o||
+  voice|voice calls|k/o||
     <cr>||||
     !
   !
-  fax|fax|k/o||
+  fax|fax calls|k/o||
     <cr>||||
     !
   !
-  video|video|k/o||
+  video|video calls|k/o||
     <cr>||||
     !
   !

@@ -8,7 +8,7 @@ band-select|steer dual band clients|k||
   <cr>||||
   !
 !
-authentication|authentication|k||
+authentication|client authentication|k||
   open|open authentication|k||
     <cr>||||
     !
@@ -45,7 +45,7 @@ authentication|authentication|k||
     wpa|wi-fi protected access|k/o||
       <cr>||||
       !
-      version|version|k||
+      version|wpa version|k||
         <1-2>|version|||
           <cr>||||
           !
@@ -55,7 +55,7 @@ authentication|authentication|k||
     cckm|cisco centralized key management|k/o||
       <cr>||||
       !
-      optional|optional|k||
+      optional|cckm is optional|k||
         <cr>||||
         !
       !
@@ -104,13 +104,13 @@ max-associations|most clients|k||
     !
   !
 !
-accounting|accounting|k||
+accounting|accounting of the ssid|k||
   word|method list|o||
     <cr>||||
     !
   !
 !
-mobility|mobility|k||
+mobility|mobility of the ssid|k||
   network-id|network id|k||
     id|network id|o||
       <cr>||||
@@ -121,7 +121,7 @@ mobility|mobility|k||
 infrastructure-ssid|infrastructure ssid|k||
   <cr>||||
   !
-  optional|optional|k||
+  optional|the infrastructure ssid is optional|k||
     <cr>||||
     !
   !

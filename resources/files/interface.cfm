@@ -2799,12 +2799,12 @@ dce-terminal-timing-enable|dce terminal timing|k||
   !
 !
 async|async interface|k||
-  mode|mode|k||
-    interactive|interactive|k/o||
+  mode|mode of the async interface|k||
+    interactive|interactive mode|k/o||
       <cr>||||
       !
     !
-    dedicated|dedicated|k/o||
+    dedicated|dedicated mode|k/o||
       <cr>||||
       !
     !
@@ -3062,12 +3062,12 @@ encryption|radio encryption|k||
             !
           !
         !
-        wep|wep|k||
-          mandatory|mandatory|k/o||
+        wep|wep encryption|k||
+          mandatory|wep is required|k/o||
             <cr>||||
             !
           !
-          optional|optional|k/o||
+          optional|wep is optional|k/o||
             <cr>||||
             !
           !
@@ -3302,19 +3302,19 @@ encryption|radio encryption|k||
         !
       !
     !
-    wep|wep|k||
-      mandatory|mandatory|k/o||
+    wep|wep encryption|k||
+      mandatory|wep is required|k/o||
         <cr>||||
         !
       !
-      optional|optional|k/o||
+      optional|wep is optional|k/o||
         <cr>||||
         !
       !
     !
   !
 !
-antenna|antenna|k||
+antenna|radio antenna settings|k||
   gain|antenna gain|k||
     id|dB|o||
       <cr>||||
@@ -3322,29 +3322,29 @@ antenna|antenna|k||
     !
   !
   receive|receive antenna|k||
-    diversity|diversity|k/o||
+    diversity|antenna diversity|k/o||
       <cr>||||
       !
     !
-    left|left|k/o||
+    left|left antenna|k/o||
       <cr>||||
       !
     !
-    right|right|k/o||
+    right|right antenna|k/o||
       <cr>||||
       !
     !
   !
   transmit|transmit antenna|k||
-    diversity|diversity|k/o||
+    diversity|antenna diversity|k/o||
       <cr>||||
       !
     !
-    left|left|k/o||
+    left|left antenna|k/o||
       <cr>||||
       !
     !
-    right|right|k/o||
+    right|right antenna|k/o||
       <cr>||||
       !
     !
@@ -3363,7 +3363,7 @@ peakdetect|peak detection|k||
   !
 !
 dfs|dynamic frequency selection|k||
-  band|band|k||
+  band|dfs band|k||
     <1-4>|band|k||
       block|do not use the band|k||
         <cr>||||
@@ -3437,7 +3437,7 @@ station-role|role of the radio|k||
       !
     !
   !
-  repeater|repeater|k/o||
+  repeater|repeater access point|k/o||
     <cr>||||
     !
   !
@@ -3458,7 +3458,7 @@ world-mode|world mode|k||
     !
   !
 !
-beacon|beacon|k||
+beacon|radio beacon settings|k||
   period|beacon period|k||
     <20-4000>|kilomicroseconds|o||
       <cr>||||
@@ -3506,7 +3506,7 @@ bridge-group|transparent bridging|k||
         !
       !
     !
-    priority|priority|k||
+    priority|port priority|k||
       id|priority|o||
         <cr>||||
         !

@@ -456,7 +456,7 @@ autohangup|hang up when the last connection closes|k||
     !
   !
 !
-callback|callback|k||
+callback|callback settings of the line|k||
   forced-wait|wait before a callback|k||
     id|seconds|o||
       <cr>||||
@@ -480,7 +480,7 @@ ip|ip settings of the line|k||
       <cr>||||
       !
     !
-    hexadecimal|hexadecimal|k/o||
+    hexadecimal|hexadecimal masks|k/o||
       <cr>||||
       !
     !

@@ -24,13 +24,13 @@ sip-server|sip server|k||
     !
   !
 !
-credentials|credentials|k||
+credentials|registration credentials|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-authentication|authentication|k||
+authentication|digest authentication|k||
   username|user name|k||
     line|line|lb/le/wa/o||
       <cr>||||
@@ -44,19 +44,19 @@ retry|retries|k||
     !
   !
 !
-timers|timers|k||
+timers|sip timers|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-transport|transport|k||
+transport|sip transport|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-keepalive|keepalive|k||
+keepalive|keepalive of the sip server|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -68,13 +68,13 @@ mwi-server|message waiting server|k||
     !
   !
 !
-nat|nat|k||
+nat|nat traversal|k||
   line|line|lb/le/wa||
     <cr>||||
     !
   !
 !
-set|set|k||
+set|sip settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !

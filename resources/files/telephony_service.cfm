@@ -8,7 +8,7 @@ max-dn|most directory numbers|k||
   <1-1500>|directory numbers|o||
     <cr>||||
     !
-    preference|preference|k||
+    preference|preference of the directory numbers|k||
       id|preference|||
         <cr>||||
         !
@@ -25,7 +25,7 @@ ip|ip settings|k||
     a.b.c.d|address|o||
       <cr>||||
       !
-      port|port|k||
+      port|port that the phones register with|k||
         <2000-9999>|port|||
           <cr>||||
           !
@@ -34,7 +34,7 @@ ip|ip settings|k||
     !
   !
 !
-create|create|k||
+create|create files for the phones|k||
   cnf-files|configuration files|k||
     <cr>||||
     !
@@ -93,7 +93,7 @@ date-format|date format|k||
   !
 !
 system|system message|k||
-  message|message|k||
+  message|message shown on the phones|k||
     line|line|lb/le/wa/o||
       <cr>||||
       !
@@ -118,13 +118,13 @@ secondary-dialtone|secondary dial tone|k||
     !
   !
 !
-keepalive|keepalive|k||
+keepalive|keepalive of the phones|k||
   id|seconds|o||
     <cr>||||
     !
   !
 !
-timeouts|timeouts|k||
+timeouts|phone timeouts|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -142,7 +142,7 @@ moh|music on hold|k||
     !
   !
 !
-multicast|multicast|k||
+multicast|multicast music on hold|k||
   line|line|lb/le/wa||
     <cr>||||
     !

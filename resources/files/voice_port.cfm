@@ -47,7 +47,7 @@ connection|private line settings|k||
       !
     !
   !
-  trunk|trunk|k||
+  trunk|trunk connection|k||
     word|number|o||
       <cr>||||
       !
@@ -61,20 +61,20 @@ connection|private line settings|k||
   !
 !
 station-id|caller id of this port|k||
-  name|name|k||
+  name|caller name|k||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  number|number|k||
+  number|caller number|k||
     word|number|o||
       <cr>||||
       !
     !
   !
 !
-timeouts|timeouts|k||
+timeouts|voice port timeouts|k||
   initial|before the first digit|k||
     id|seconds|o||
       <cr>||||
@@ -87,7 +87,7 @@ timeouts|timeouts|k||
       !
     !
   !
-  ringing|ringing|k||
+  ringing|ringing timeout|k||
     id|seconds|o||
       <cr>||||
       !
@@ -106,7 +106,7 @@ timeouts|timeouts|k||
     !
   !
 !
-timing|timing|k||
+timing|signal timing|k||
   line|line|lb/le/wa||
     <cr>||||
     !
@@ -118,7 +118,7 @@ echo-cancel|echo cancellation|k||
     !
   !
 !
-input|input|k||
+input|input settings|k||
   gain|input gain|k||
     line|line|lb/le/wa/o||
       <cr>||||
@@ -126,7 +126,7 @@ input|input|k||
     !
   !
 !
-output|output|k||
+output|output settings|k||
   attenuation|output attenuation|k||
     line|line|lb/le/wa/o||
       <cr>||||
@@ -134,7 +134,7 @@ output|output|k||
     !
   !
 !
-impedance|impedance|k||
+impedance|terminating impedance|k||
   line|line|lb/le/wa/o||
     <cr>||||
     !
@@ -151,16 +151,16 @@ caller-id|caller id|k||
   !
 !
 compand-type|companding|k||
-  u-law|u-law|k/o||
+  u-law|u-law companding|k/o||
     <cr>||||
     !
   !
-  a-law|a-law|k/o||
+  a-law|a-law companding|k/o||
     <cr>||||
     !
   !
 !
-ring|ring|k||
+ring|ring settings|k||
   line|line|lb/le/wa||
     <cr>||||
     !

@@ -1,6 +1,6 @@
 allow-connections|connection types allowed|k||
   h323|h.323|k||
-    to|to|k||
+    to|to h.323 or sip|k||
       h323|h323|k||
         <cr>||||
         !
@@ -11,8 +11,8 @@ allow-connections|connection types allowed|k||
       !
     !
   !
-  sip|sip|k||
-    to|to|k||
+  sip|sip connections|k||
+    to|to h.323 or sip|k||
       h323|h323|k||
         <cr>||||
         !
@@ -24,7 +24,7 @@ allow-connections|connection types allowed|k||
     !
   !
 !
-fax|fax|k||
+fax|fax protocol of the voice service|k||
   protocol|fax protocol|k||
     t38|t.38|k/o||
       <cr>||||
@@ -34,13 +34,13 @@ fax|fax|k||
         !
       !
     !
-    pass-through|pass-through|k/o||
+    pass-through|pass-through of fax|k/o||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    none|none|k/o||
+    none|no fax protocol|k/o||
       <cr>||||
       !
     !
@@ -50,7 +50,7 @@ fax|fax|k||
     !
   !
 !
-modem|modem|k||
+modem|modem settings of the voice service|k||
   passthrough|modem pass-through|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -74,7 +74,7 @@ shutdown|shut the voice service down|k||
     !
   !
 !
-mode|mode|k||
+mode|mode of the voice service|k||
   border-element|cube|k/o||
     <cr>||||
     !
@@ -117,7 +117,7 @@ ip|ip settings|k||
     trusted|trusted list|k||
       <cr>||||@(cfg-iptrust-list)# generic.cfm
       !
-      authenticate|authenticate|k||
+      authenticate|authenticate the trusted addresses|k||
         <cr>||||
         !
       !

@@ -47,6 +47,7 @@ sctp "stream control transmission protocol"
     %SCTPCHUNK
 
 file configuration_mod.cfm
+pae "port access entity of 802.1x" $
 buffers "adjust system buffer pool parameters"
   small :k "small buffers"
     %BUFPARAMS
@@ -93,31 +94,31 @@ cts "cisco trustsec"
           <1-14400> :o "minutes" $
         deadtime "time a server is held dead"
           <1-864000> :o "seconds" $
-  cache "cache"
+  cache "trustsec cache"
     enable :sn "keep the trustsec data over a reload" $
   dot1x-server-timeout "server timeout"
     <1-65535> :o "seconds" $
   dot1x-supp-timeout "supplicant timeout"
     <1-65535> :o "seconds" $
-  logging "logging"
+  logging "trustsec logging"
     verbose "verbose logging" $
   sxp "security group tag exchange protocol"
     enable :sn "run the protocol" $
     retry "retries"
       period "retry period"
         id :o "seconds" $
-    reconciliation "reconciliation"
+    reconciliation "reconciliation after a restart"
       period "reconciliation period"
         id :o "seconds" $
     log "logging"
       binding-changes :sn "log binding changes" $
-    mapping "mapping"
+    mapping "address to tag mapping"
       network-map "network map"
         id :o "bindings" $
-    speaker "speaker"
+    speaker "speaker settings"
       hold-time "hold time"
         <1-65534> :o "seconds" $
-    listener "listener"
+    listener "listener settings"
       hold-time "hold time"
         <1-65534> :o "least seconds"
           <1-65534> "most seconds" $
@@ -132,13 +133,13 @@ cts "cisco trustsec"
         line * :o
       source-ip "default source address"
         a.b.c.d :o "address" $
-    connection "connection"
-      peer "peer"
+    connection "sxp connections"
+      peer "peer of a connection"
         line *
   role-based "role-based access control"
     enforcement "enforce the rules" $
     line *
-  authorization "authorization"
+  authorization "authorization of trustsec"
     list "method list"
       word :o "list" $
 eou "eap over udp"
@@ -149,7 +150,7 @@ eou "eap over udp"
     id :o "sessions" $
   port "udp port"
     <1-65535> :o "port" $
-  allow "allow"
+  allow "what is allowed"
     ip-station-id :sn "ip address as the station id" $
     clientless :sn "clientless hosts" $
   timeout "timers"
@@ -161,9 +162,9 @@ eou "eap over udp"
       <1-60> :o "seconds" $
     aaa "aaa timeout"
       id :o "seconds" $
-    revalidation "revalidation"
+    revalidation "revalidation timer"
       <300-86400> :o "seconds" $
-  logging "logging" $
+  logging "log eou events" $
   default "defaults" $
 ipc "inter-process communication"
   holdq "hold queue"
@@ -183,7 +184,7 @@ ipc "inter-process communication"
       id :o "buffers" $
     permanent "permanent buffers"
       id :o "buffers" $
-  zone "zone"
+  zone "ipc zones"
     line *
 
 file line.cfm
@@ -198,7 +199,7 @@ flush-at-activation :sn "clear pending input when the line starts" $
 domain-lookup :sn "look up names in the domain name system" $
 autohangup "hang up when the last connection closes" $
   session-timeout "also when the session times out" $
-callback "callback"
+callback "callback settings of the line"
   forced-wait "wait before a callback"
     id :o "seconds" $
   nodsr-wait "wait for dsr"
@@ -207,7 +208,7 @@ ip "ip settings of the line"
   netmask-format "form of network masks"
     bit-count :o "bit count" $
     decimal :o "dotted decimal" $
-    hexadecimal :o "hexadecimal" $
+    hexadecimal :o "hexadecimal masks" $
   tcp "tcp settings"
     input-coalesce-threshold "input coalescing"
       <5-255> :o "packets" $
@@ -217,9 +218,9 @@ tx-queue-limit "largest transmit queue"
   id :o "packets" $
 dce-terminal-timing-enable "dce terminal timing" $
 async "async interface"
-  mode "mode"
-    interactive :o "interactive" $
-    dedicated :o "dedicated" $
+  mode "mode of the async interface"
+    interactive :o "interactive mode" $
+    dedicated :o "dedicated mode" $
   default "defaults"
     routing "routing on the async line" $
   dynamic "dynamic settings"

@@ -666,21 +666,19 @@ no-shutdown $
 file crypto_cert.cfm
 certificate "exchange certificates"
   self-signed "self signed certificate"
-    word :k "certificate serial number" @(config-pubkey)#=crypto_cert_data.cfm
+    word :k "certificate serial number" $
       word "file that holds the certificate (nvram:NAME.cer)" $
   ca "certificate authority certificate"
-    word :k "certificate serial number" @(config-pubkey)#=crypto_cert_data.cfm
+    word :k "certificate serial number" $
       word "file that holds the certificate (nvram:NAME.cer)" $
   rollover
     line *
-  word :k "certificate serial number" @(config-pubkey)#=crypto_cert_data.cfm
+  word :k "certificate serial number" $
     word "file that holds the certificate (nvram:NAME.cer)" $
 # The certificate data follows its certificate line as rows of hex words
-# (crypto_cert_data.cfm, a level of its own that holds nothing but the rows)
-# and ends with quit. The data level has no quit: the line leaves it and is
-# read here, at the chain, which keeps the quits of all certificates one
-# level deep. A quit is not kept (sn: read, never stored), as a quit without
-# its data says nothing.
+# (certdata.g) and ends with quit. Rows and quit are read as lines of the
+# chain, which keeps the chain one level deep. A quit is not kept (sn: read,
+# never stored), as a quit without its data says nothing.
 quit "end of certificate data" :sn $
 
 

@@ -129,7 +129,7 @@ voice "voice configuration"
           word "stop string"
             stream "streams"
               id "stream bit map"
-                duration "duration"
+                duration "how long the capture runs"
                   id "minutes, 0 without end" $
   dsp "digital signal processors"
     waitstate "dsp wait states"
@@ -164,7 +164,7 @@ dial-peer "dial peer configuration"
       voip "voip dial peers" $
   no-match "when no dial peer matches"
     isdn "isdn calls"
-      disconnect-cause "disconnect cause"
+      disconnect-cause "disconnect cause" $
         <1-127> :o "cause code" $
   search "dial peer search"
     type "order of the search"
@@ -203,7 +203,7 @@ ccm-manager "call manager settings"
     redundant "redundancy"
       port "port of the redundancy link"
         id :o "port number" $
-  fax "fax"
+  fax "fax settings of the voice service"
     protocol "fax relay protocol"
       cisco :o "cisco fax relay" $
       none :o "no fax relay" $
@@ -221,8 +221,8 @@ ivr "interactive voice response"
     cutoff-threshold "prompt cut-off"
       id :o "milliseconds" $
     streamed "prompts that are streamed"
-      none :o "none" $
-      all :o "all" $
+      none :o "no prompt is streamed" $
+      all :o "every prompt is streamed" $
       flash :o "from flash" $
       http :o "by http" $
       tftp :o "by tftp" $
@@ -251,7 +251,7 @@ call "call settings"
     threshold "fallback thresholds"
       icpif "calculated planning impairment factor"
         id :o "icpif value" $
-      delay "delay"
+      delay "delay threshold"
         id :o "milliseconds"
           loss "packet loss"
             id "per cent" $
@@ -303,7 +303,7 @@ call "call settings"
     poll-interval "poll intervals"
       cpu-avg "average cpu"
         <10-300> :o "seconds" $
-      memory "memory"
+      memory "memory for prompts"
         <1-60> :o "seconds" $
     global "global thresholds"
       line *
@@ -333,29 +333,29 @@ stcapp $ "skinny telephony control application"
 file voice_service.cfm
 allow-connections "connection types allowed"
   h323 :k "h.323"
-    to "to"
+    to "to h.323 or sip"
       h323 :k $
       sip :k $
-  sip :k "sip"
-    to "to"
+  sip :k "sip connections"
+    to "to h.323 or sip"
       h323 :k $
       sip :k $
-fax "fax"
+fax "fax protocol of the voice service"
   protocol "fax protocol"
     t38 :o "t.38" $
       line *
-    pass-through :o "pass-through"
+    pass-through :o "pass-through of fax"
       line *
-    none :o "none" $
+    none :o "no fax protocol" $
     cisco :o "cisco fax relay" $
-modem "modem"
+modem "modem settings of the voice service"
   passthrough "modem pass-through"
     line *
 sip "sip settings" @(conf-serv-sip)#=generic.cfm
 h323 "h.323 settings" @(conf-serv-h323)#=generic.cfm
 shutdown "shut the voice service down" $
   forced "at once" $
-mode "mode"
+mode "mode of the voice service"
   border-element :o "cube" $
   line *
 media "media settings"
@@ -370,7 +370,7 @@ rtp-port "rtp port range"
 ip "ip settings"
   address "trusted addresses"
     trusted "trusted list" @(cfg-iptrust-list)#=generic.cfm
-      authenticate "authenticate" $
+      authenticate "authenticate the trusted addresses" $
 
 file voice_class_codec.cfm
 codec "codec of this list"
@@ -408,9 +408,9 @@ session "session settings"
     sipv2 :o "sip" $
     cisco :o "cisco session protocol" $
   transport "session transport"
-    udp :o "udp" $
-    tcp :o "tcp" $
-      tls "tls" $
+    udp :o "udp transport" $
+    tcp :o "tcp transport" $
+      tls "tls over tcp" $
 codec "codec of this dial peer"
   &codecfile.cfm :-k/o "codec" $
     bytes "bytes per frame"
@@ -446,10 +446,10 @@ preference "preference of this dial peer"
   id :o "preference" $
 huntstop "stop hunting at this dial peer" $
 vad :sn "voice activity detection" $
-  aggressive "aggressive" $
-dtmf "dtmf"
+  aggressive "aggressive voice activity detection" $
+dtmf "dtmf settings"
   line *
-fax "fax"
+fax "fax settings of the dial peer"
   rate "fax rate"
     line * :o
   protocol "fax protocol"
@@ -469,7 +469,7 @@ rtp "real-time transport protocol"
     line *
 playout-delay "playout delay"
   line *
-media "media"
+media "media path"
   flow-through :o "media through this router" $
   flow-around :o "media around this router" $
 no-vad "no voice activity detection" $
@@ -482,9 +482,9 @@ trunkgroup "trunk group"
     <1-64> "preference" $
 shutdown "shut the dial peer down" $
 information-type "information type"
-  voice :o "voice" $
-  fax :o "fax" $
-  video :o "video" $
+  voice :o "voice calls" $
+  fax :o "fax calls" $
+  video :o "video calls" $
 tech-prefix "technology prefix"
   word :o "prefix" $
 call-block "call blocking"
@@ -511,45 +511,45 @@ cptone "call progress tone of a country"
 connection "private line settings"
   plar :k "private line automatic ringdown"
     word :o "number" $
-  trunk :k "trunk"
+  trunk :k "trunk connection"
     word :o "number" $
   tie-line :k "tie line"
     word :o "number" $
 station-id "caller id of this port"
-  name :k "name"
+  name :k "caller name"
     line * :o
-  number :k "number"
+  number :k "caller number"
     word :o "number" $
-timeouts "timeouts"
+timeouts "voice port timeouts"
   initial "before the first digit"
     id :o "seconds" $
   interdigit "between digits"
     id :o "seconds" $
-  ringing "ringing"
+  ringing "ringing timeout"
     id :o "seconds" $
   wait-release "wait before release"
     id :o "seconds" $
   call-disconnect "call disconnect"
     id :o "seconds" $
-timing "timing"
+timing "signal timing"
   line *
 echo-cancel "echo cancellation"
   line *
-input "input"
+input "input settings"
   gain "input gain"
     line * :o
-output "output"
+output "output settings"
   attenuation "output attenuation"
     line * :o
-impedance "impedance"
+impedance "terminating impedance"
   line * :o
 caller-id "caller id"
   enable "caller id on" $
   line *
 compand-type "companding"
-  u-law :o "u-law" $
-  a-law :o "a-law" $
-ring "ring"
+  u-law :o "u-law companding" $
+  a-law :o "a-law companding" $
+ring "ring settings"
   line *
 bearer-cap "bearer capability"
   line *
@@ -571,24 +571,24 @@ registrar "sip registrar"
     line *
 sip-server "sip server"
   word :o "ipv4:A.B.C.D or dns:NAME" $
-credentials "credentials"
+credentials "registration credentials"
   line *
-authentication "authentication"
+authentication "digest authentication"
   username "user name"
     line * :o
 retry "retries"
   line *
-timers "timers"
+timers "sip timers"
   line *
-transport "transport"
+transport "sip transport"
   line *
-keepalive "keepalive"
+keepalive "keepalive of the sip server"
   line *
 mwi-server "message waiting server"
   line *
-nat "nat"
+nat "nat traversal"
   line *
-set "set"
+set "sip settings"
   line *
 no-alert "no alert" $
 sip-register "register with the registrar"
@@ -599,15 +599,15 @@ max-ephones "most ip phones"
   <1-450> :o "ip phones" $
 max-dn "most directory numbers"
   <1-1500> :o "directory numbers" $
-    preference "preference"
+    preference "preference of the directory numbers"
       id "preference" $
     no-reg "do not register" $
 ip "ip settings"
   source-address "address the phones register with"
     a.b.c.d :o "address" $
-      port "port"
+      port "port that the phones register with"
         <2000-9999> "port" $
-create "create"
+create "create files for the phones"
   cnf-files "configuration files" $
     version-stamp "version stamp"
       line *
@@ -627,7 +627,7 @@ time-format "time format"
 date-format "date format"
   line * :o
 system "system message"
-  message "message"
+  message "message shown on the phones"
     line * :o
 transfer-system "transfer method"
   line * :o
@@ -635,15 +635,15 @@ transfer-pattern "transfer pattern"
   line *
 secondary-dialtone "secondary dial tone"
   word :o "digit" $
-keepalive "keepalive"
+keepalive "keepalive of the phones"
   id :o "seconds" $
-timeouts "timeouts"
+timeouts "phone timeouts"
   line *
 url "urls"
   line *
 moh "music on hold"
   word :o "file" $
-multicast "multicast"
+multicast "multicast music on hold"
   line *
 auto "automatic"
   assign "assign directory numbers to phones"

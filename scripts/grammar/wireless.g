@@ -21,7 +21,7 @@ dot11 "ieee 802.11 configuration"
     <1-65535> :o "milliseconds" $
   vlan-name "name of a vlan"
     word :k "vlan name"
-      vlan "vlan"
+      vlan "vlan of the name"
         <1-4094> :o "vlan id" $
   ssid "radio service set"
     word :k "ssid name" @(config-ssid)#=dot11_ssid.cfm
@@ -30,21 +30,21 @@ dot11 "ieee 802.11 configuration"
   activity-timeout "inactivity timeout of a client"
     line *
   arp-cache "arp cache" $
-    optional "optional" $
+    optional "optional arp caching" $
   holdoff-time "hold-off after a failed authentication"
     <1-65555> :o "seconds" $
 bridge "bridge group"
   irb "integrated routing and bridging" $
   <1-255> :k "bridge group"
     route "route a protocol"
-      ip :k "ip" $
-      ipv6 :k "ipv6" $
+      ip :k "route ip" $
+      ipv6 :k "route ipv6" $
     bridge "bridge a protocol"
-      ip :k "ip" $
+      ip :k "bridge ip" $
     protocol "spanning tree protocol"
       ieee :o "ieee 802.1d" $
       vlan-bridge :o "vlan bridge" $
-      dec :o "dec" $
+      dec :o "dec spanning tree" $
     priority "bridge priority"
       id :o "priority" $
     aging-time "aging time"
@@ -54,7 +54,7 @@ file dot11_ssid.cfm
 vlan "vlan of this ssid"
   <1-4094> :o "vlan id" $
 band-select "steer dual band clients" $
-authentication "authentication"
+authentication "client authentication"
   open "open authentication" $
     eap "with eap"
       word "eap method list" $
@@ -67,10 +67,10 @@ authentication "authentication"
     word :o "eap method list" $
   key-management "key management"
     wpa "wi-fi protected access" $ :o
-      version "version"
+      version "wpa version"
         <1-2> "version" $
     cckm "cisco centralized key management" $ :o
-      optional "optional" $
+      optional "cckm is optional" $
 mbssid "multiple bssid"
   guest-mode "announce this ssid in the beacon" $
 guest-mode "announce this ssid in the beacon" $
@@ -85,13 +85,13 @@ wpa-psk "pre-shared key"
     word :o "key" $
 max-associations "most clients"
   <1-255> :o "clients" $
-accounting "accounting"
+accounting "accounting of the ssid"
   word :o "method list" $
-mobility "mobility"
+mobility "mobility of the ssid"
   network-id "network id"
     id :o "network id" $
 infrastructure-ssid "infrastructure ssid" $
-  optional "optional" $
+  optional "the infrastructure ssid is optional" $
 
 file dot11_band_select.cfm
 cycle-count "probe cycles"
@@ -115,32 +115,32 @@ encryption "radio encryption"
         ciphers "cipher suite"
           %CIPHER
             %CIPHER
-        wep "wep"
-          mandatory :o "mandatory" $
-          optional :o "optional" $
+        wep "wep encryption"
+          mandatory :o "wep is required" $
+          optional :o "wep is optional" $
   mode "encryption mode"
     ciphers "cipher suite"
       %CIPHER
         %CIPHER
-    wep "wep"
-      mandatory :o "mandatory" $
-      optional :o "optional" $
-antenna "antenna"
+    wep "wep encryption"
+      mandatory :o "wep is required" $
+      optional :o "wep is optional" $
+antenna "radio antenna settings"
   gain "antenna gain"
     id :o "dB" $
   receive "receive antenna"
-    diversity :o "diversity" $
-    left :o "left" $
-    right :o "right" $
+    diversity :o "antenna diversity" $
+    left :o "left antenna" $
+    right :o "right antenna" $
   transmit "transmit antenna"
-    diversity :o "diversity" $
-    left :o "left" $
-    right :o "right" $
+    diversity :o "antenna diversity" $
+    left :o "left antenna" $
+    right :o "right antenna" $
 stbc "space-time block coding" $
 mbssid "multiple bssid" $
 peakdetect "peak detection" $
 dfs "dynamic frequency selection"
-  band "band"
+  band "dfs band"
     <1-4> :k "band"
       block "do not use the band" $
 channel "radio channel"
@@ -161,13 +161,13 @@ station-role "role of the radio"
   non-root :o "client" $
     bridge "non-root bridge" $
     wireless-clients "with wireless clients" $
-  repeater :o "repeater" $
+  repeater :o "repeater access point" $
   workgroup-bridge :o "workgroup bridge" $
   install :o "installation mode"
     line *
 world-mode "world mode"
   line *
-beacon "beacon"
+beacon "radio beacon settings"
   period "beacon period"
     <20-4000> :o "kilomicroseconds" $
   dtim-period "dtim period"
@@ -182,7 +182,7 @@ bridge-group "transparent bridging"
     port-protected "protected port" $
     path-cost "path cost"
       id :o "cost" $
-    priority "priority"
+    priority "port priority"
       id :o "priority" $
     input-address-list "input address list"
       <700-799> :o "list" $

@@ -1,4 +1,0 @@
-&certdatafile.cfm|certificate data|k/lb/le/wa||
-  <cr>||||
-  !
-!
