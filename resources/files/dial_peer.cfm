@@ -196,6 +196,10 @@ huntstop|stop hunting at this dial peer|k||
   <cr>||||
   !
 !
+sip-register|register the number of this dial peer with the sip registrar|k/sn||
+  <cr>||||
+  !
+!
 vad|voice activity detection|k||
   <cr>||sn||
   !

@@ -2285,8 +2285,16 @@ authentication|authentication manager settings|k||
   !
 !
 dot1x|interface config commands for ieee 802.1x|k||
-  pae|pae|k||
-    line|line|lb/le/wa||
+  pae|port access entity role|k||
+    authenticator|act as the authenticator|k/o||
+      <cr>||||
+      !
+    !
+    supplicant|act as a supplicant|k/o||
+      <cr>||||
+      !
+    !
+    both|act as authenticator and supplicant|k/o||
       <cr>||||
       !
     !

@@ -84,9 +84,3 @@ no-alert|no alert|k||
   <cr>||||
   !
 !
-sip-register|register with the registrar|k||
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!

@@ -445,6 +445,7 @@ translation-profile "translation profile"
 preference "preference of this dial peer"
   id :o "preference" $
 huntstop "stop hunting at this dial peer" $
+sip-register :sn "register the number of this dial peer with the sip registrar" $
 vad :sn "voice activity detection" $
   aggressive "aggressive voice activity detection" $
 dtmf "dtmf settings"
@@ -591,8 +592,6 @@ nat "nat traversal"
 set "sip settings"
   line *
 no-alert "no alert" $
-sip-register "register with the registrar"
-  line *
 
 file telephony_service.cfm
 max-ephones "most ip phones"
