@@ -2834,6 +2834,206 @@ async|async interface|k||
     !
   !
 !
+eou|eap over udp on this interface|k||
+  revalidate|revalidate the clients|k||
+    <cr>||||
+    !
+  !
+  max-retry|most retries|k||
+    <1-3>|retries|o||
+      <cr>||||
+      !
+    !
+  !
+  ratelimit|rate limit|k||
+    id|sessions|o||
+      <cr>||||
+      !
+    !
+  !
+  port|udp port|k||
+    <1-65535>|port|o||
+      <cr>||||
+      !
+    !
+  !
+  allow|what is allowed|k||
+    ip-station-id|ip address as the station id|k/sn||
+      <cr>||||
+      !
+    !
+    clientless|clientless hosts|k/sn||
+      <cr>||||
+      !
+    !
+  !
+  timeout|timers|k||
+    hold-period|hold period|k||
+      <60-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    status-query|status query|k||
+      <30-1800>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    retransmit|retransmission|k||
+      <1-60>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    aaa|aaa timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    revalidation|revalidation timer|k||
+      <300-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  logging|log eou events|k||
+    <cr>||||
+    !
+  !
+  default|defaults|k||
+    <cr>||||
+    !
+  !
+!
+cts|cisco trustsec on this interface|k||
+  role-based|role-based access control|k||
+    enforcement|enforce the rules on this interface|k||
+      <cr>||||
+      !
+    !
+  !
+  manual|manual trustsec settings|k||
+    <cr>||||@(config-if-cts-manual)# interface_cts_manual.cfm
+    !
+  !
+  dot1x|trustsec by 802.1x|k||
+    <cr>||||
+    !
+  !
+!
+isdn|isdn settings of this interface|k||
+  switch-type|isdn switch type|k||
+    basic-1tr6|1tr6 switch type for germany|k/o||
+      <cr>||||
+      !
+    !
+    basic-5ess|at&t 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    basic-dms100|northern dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-net3|net3 switch type for the uk and others|k/o||
+      <cr>||||
+      !
+    !
+    basic-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-ts013|ts013 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-4ess|lucent 4ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-5ess|lucent 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-dms100|northern telecom dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-net5|net5 switch type for the uk, europe, asia and australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ntt|japan switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ts014|ts014 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+  !
+  incoming-voice|treatment of incoming voice calls|k||
+    voice|as voice|k/o||
+      <cr>||||
+      !
+    !
+    modem|as modem calls|k/o||
+      <cr>||||
+      !
+    !
+    data|as data|k/o||
+      <cr>||||
+      !
+    !
+  !
+  protocol-emulate|side of the isdn link|k||
+    network|network side|k/o||
+      <cr>||||
+      !
+    !
+    user|user side|k/o||
+      <cr>||||
+      !
+    !
+  !
+  overlap-receiving|receive the number digit by digit|k||
+    <cr>||||
+    !
+  !
+  send-alerting|send alerting|k||
+    <cr>||||
+    !
+  !
+  sending-complete|send the sending-complete element|k||
+    <cr>||||
+    !
+  !
+  point-to-point-setup|point-to-point link|k||
+    <cr>||||
+    !
+  !
+  bind-l3|layer 3 binding|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+!
 ssid|radio service set of this radio|k||
   word|ssid name|k||
     <cr>||||

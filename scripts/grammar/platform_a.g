@@ -37,6 +37,31 @@ def SCTPCHUNK
   stream-reset "stream reset" $
   <16-255> :k "chunk type" $
 
+def EOU
+  revalidate "revalidate the clients" $
+  max-retry "most retries"
+    <1-3> :o "retries" $
+  ratelimit "rate limit"
+    id :o "sessions" $
+  port "udp port"
+    <1-65535> :o "port" $
+  allow "what is allowed"
+    ip-station-id :sn "ip address as the station id" $
+    clientless :sn "clientless hosts" $
+  timeout "timers"
+    hold-period "hold period"
+      <60-86400> :o "seconds" $
+    status-query "status query"
+      <30-1800> :o "seconds" $
+    retransmit "retransmission"
+      <1-60> :o "seconds" $
+    aaa "aaa timeout"
+      id :o "seconds" $
+    revalidation "revalidation timer"
+      <300-86400> :o "seconds" $
+  logging "log eou events" $
+  default "defaults" $
+
 file ip_global.cfm
 sctp "stream control transmission protocol"
   asconf "address configuration change"
@@ -143,29 +168,7 @@ cts "cisco trustsec"
     list "method list"
       word :o "list" $
 eou "eap over udp"
-  revalidate "revalidate the clients" $
-  max-retry "most retries"
-    <1-3> :o "retries" $
-  ratelimit "rate limit"
-    id :o "sessions" $
-  port "udp port"
-    <1-65535> :o "port" $
-  allow "what is allowed"
-    ip-station-id :sn "ip address as the station id" $
-    clientless :sn "clientless hosts" $
-  timeout "timers"
-    hold-period "hold period"
-      <60-86400> :o "seconds" $
-    status-query "status query"
-      <30-1800> :o "seconds" $
-    retransmit "retransmission"
-      <1-60> :o "seconds" $
-    aaa "aaa timeout"
-      id :o "seconds" $
-    revalidation "revalidation timer"
-      <300-86400> :o "seconds" $
-  logging "log eou events" $
-  default "defaults" $
+  %EOU
 ipc "inter-process communication"
   holdq "hold queue"
     threshold "thresholds"
@@ -226,3 +229,37 @@ async "async interface"
   dynamic "dynamic settings"
     address "addresses given by the user" $
     routing "routing given by the user" $
+eou "eap over udp on this interface"
+  %EOU
+cts "cisco trustsec on this interface"
+  role-based "role-based access control"
+    enforcement "enforce the rules on this interface" $
+  manual "manual trustsec settings" @(config-if-cts-manual)#=interface_cts_manual.cfm
+  dot1x "trustsec by 802.1x" $
+isdn "isdn settings of this interface"
+  %ISDNSWITCH
+  incoming-voice "treatment of incoming voice calls"
+    voice :o "as voice" $
+    modem :o "as modem calls" $
+    data :o "as data" $
+  protocol-emulate "side of the isdn link"
+    network :o "network side" $
+    user :o "user side" $
+  overlap-receiving "receive the number digit by digit" $
+  send-alerting "send alerting" $
+  sending-complete "send the sending-complete element" $
+  point-to-point-setup "point-to-point link" $
+  bind-l3 "layer 3 binding"
+    line * :o
+
+file interface_cts_manual.cfm
+policy "policy"
+  static "static policy"
+    sgt "security group tag"
+      <2-65519> :o "tag" $
+        trusted "trust the tags received" $
+  dynamic "dynamic policy"
+    identity "identity"
+      word :o "peer name" $
+propagate "propagate"
+  sgt :sn "security group tags" $

@@ -36,6 +36,24 @@ def VCALLGROUP
     data-points "number of data points"
       <1-1440> :o "data points" $
 
+def ISDNSWITCH
+  switch-type "isdn switch type"
+    basic-1tr6 :o "1tr6 switch type for germany" $
+    basic-5ess :o "at&t 5ess switch type for the u.s." $
+    basic-dms100 :o "northern dms-100 switch type" $
+    basic-net3 :o "net3 switch type for the uk and others" $
+    basic-ni :o "national isdn switch type" $
+    basic-qsig :o "qsig switch type" $
+    basic-ts013 :o "ts013 switch type for australia" $
+    primary-4ess :o "lucent 4ess switch type for the u.s." $
+    primary-5ess :o "lucent 5ess switch type for the u.s." $
+    primary-dms100 :o "northern telecom dms-100 switch type" $
+    primary-net5 :o "net5 switch type for the uk, europe, asia and australia" $
+    primary-ni :o "national isdn switch type" $
+    primary-ntt :o "japan switch type" $
+    primary-qsig :o "qsig switch type" $
+    primary-ts014 :o "ts014 switch type for australia" $
+
 file configuration_mod.cfm
 voice "voice configuration"
   service "voice service"
@@ -175,22 +193,7 @@ dial-peer "dial peer configuration"
       none :o "no preference" $
 sip-ua "sip user agent configuration" @(config-sip-ua)#=sip_ua.cfm
 isdn "isdn settings"
-  switch-type "isdn switch type"
-    basic-1tr6 :o "1tr6 switch type for germany" $
-    basic-5ess :o "at&t 5ess switch type for the u.s." $
-    basic-dms100 :o "northern dms-100 switch type" $
-    basic-net3 :o "net3 switch type for the uk and others" $
-    basic-ni :o "national isdn switch type" $
-    basic-qsig :o "qsig switch type" $
-    basic-ts013 :o "ts013 switch type for australia" $
-    primary-4ess :o "lucent 4ess switch type for the u.s." $
-    primary-5ess :o "lucent 5ess switch type for the u.s." $
-    primary-dms100 :o "northern telecom dms-100 switch type" $
-    primary-net5 :o "net5 switch type for the uk, europe, asia and australia" $
-    primary-ni :o "national isdn switch type" $
-    primary-ntt :o "japan switch type" $
-    primary-qsig :o "qsig switch type" $
-    primary-ts014 :o "ts014 switch type for australia" $
+  %ISDNSWITCH
   voice-call-failure "cause code for a failed voice call"
     id :o "cause code" $
 ccm-manager "call manager settings"
