@@ -436,8 +436,20 @@ cts|cisco trustsec|k||
       <cr>||||
       !
     !
-    line|line|lb/le/wa||
-      <cr>||||
+    sgt-map|address to tag binding|k||
+      a.b.c.d|address|k||
+        sgt|security group tag|k||
+          <2-65519>|tag|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    permissions|permissions between tags|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !
@@ -6049,7 +6061,11 @@ voice|voice configuration|k||
       !
     !
     type|statistics types|k||
-      line|line|lb/le/wa||
+      csr|call success rate|k||
+        <cr>||||
+        !
+      !
+      iec|internal error codes|k||
         <cr>||||
         !
       !
@@ -6547,8 +6563,40 @@ call|call settings|k||
     icmp-ping|icmp ping probes|k||
       <cr>||||
       !
-      line|line|lb/le/wa/o||
-        <cr>||||
+      codec|codec of the probe|k||
+        &codecfile.cfm|codec|o||
+          <cr>||||
+          !
+          size|probe size|k||
+            id|bytes|||
+              <cr>||||
+              !
+              count|probes|k||
+                id|probes|||
+                  <cr>||||
+                  !
+                  interval|interval between probes|k||
+                    id|seconds|||
+                      <cr>||||
+                      !
+                      loss|loss threshold|k||
+                        id|per cent|||
+                          <cr>||||
+                          !
+                          timeout|probe timeout|k||
+                            id|milliseconds|||
+                              <cr>||||
+                              !
+                            !
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+          !
         !
       !
     !
@@ -6565,8 +6613,26 @@ call|call settings|k||
       !
     !
     map|fallback map|k||
-      line|line|lb/le/wa||
-        <cr>||||
+      <1-16>|map tag|k||
+        target|target of the map|k||
+          a.b.c.d|target address|k||
+            <cr>||||
+            !
+          !
+        !
+        address-list|addresses of the map|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        subnet|subnet of the map|k||
+          a.b.c.d|network|k||
+            a.b.c.d|mask|||
+              <cr>||||
+              !
+            !
+          !
         !
       !
     !
@@ -6639,14 +6705,162 @@ call|call settings|k||
       !
     !
     global|global thresholds|k||
-      line|line|lb/le/wa||
-        <cr>||||
+      cpu-5sec|cpu over five seconds|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      cpu-avg|average cpu|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      io-mem|i/o memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      proc-mem|processor memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      total-calls|all calls|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      total-mem|all memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      voip-calls|voip calls|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
         !
       !
     !
     interface|interface thresholds|k||
-      line|line|lb/le/wa||
-        <cr>||||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          int-calls|calls on the interface|k||
+            low|low water mark|k||
+              id|value|o||
+                high|high water mark|k||
+                  id|value|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
         !
       !
     !
@@ -6660,8 +6874,24 @@ call|call settings|k||
     !
   !
   application|call application|k||
-    line|line|lb/le/wa||
-      <cr>||||
+    voice|voice application|k||
+      word|application name|k||
+        line|line|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    alternate|application used when the dial peer names none|k||
+      word|application name|o||
+        <cr>||||
+        !
+      !
+    !
+    global|global application|k||
+      word|application name|o||
+        <cr>||||
+        !
       !
     !
   !

@@ -78,9 +78,13 @@ mode|mode of the voice service|k||
   border-element|cube|k/o||
     <cr>||||
     !
-  !
-  line|line|lb/le/wa||
-    <cr>||||
+    license|license|k||
+      capacity|capacity|k||
+        id|sessions|||
+          <cr>||||
+          !
+        !
+      !
     !
   !
 !

@@ -163,7 +163,12 @@ cts "cisco trustsec"
         line *
   role-based "role-based access control"
     enforcement "enforce the rules" $
-    line *
+    sgt-map "address to tag binding"
+      a.b.c.d :k "address"
+        sgt "security group tag"
+          <2-65519> :o "tag" $
+    permissions "permissions between tags"
+      line *
   authorization "authorization of trustsec"
     list "method list"
       word :o "list" $

@@ -54,6 +54,30 @@ def ISDNSWITCH
     primary-qsig :o "qsig switch type" $
     primary-ts014 :o "ts014 switch type for australia" $
 
+def CALLTHRESHOLD
+  cpu-5sec :k "cpu over five seconds"
+    %LOWHIGH
+  cpu-avg :k "average cpu"
+    %LOWHIGH
+  io-mem :k "i/o memory"
+    %LOWHIGH
+  proc-mem :k "processor memory"
+    %LOWHIGH
+  total-calls :k "all calls"
+    %LOWHIGH
+  total-mem :k "all memory"
+    %LOWHIGH
+  voip-calls :k "voip calls"
+    %LOWHIGH
+
+def LOWHIGH
+  low "low water mark"
+    id :o "value"
+      high "high water mark"
+        id "value" $
+          busyout "busy out the ports" $
+          treatment "treat the calls" $
+
 file configuration_mod.cfm
 voice "voice configuration"
   service "voice service"
@@ -133,7 +157,8 @@ voice "voice configuration"
         max-file-size "largest file"
           id :o "bytes" $
     type "statistics types"
-      line *
+      csr :k "call success rate" $
+      iec :k "internal error codes" $
   persistent-storage :sn "keep voice data over a reload" $
   pcm "pulse code modulation"
     capture "capture pcm data"
@@ -280,12 +305,30 @@ call "call settings"
       id :o "expect factor" $
     monitor "monitor the destinations without fallback" $
     icmp-ping "icmp ping probes" $
-      line * :o
+      codec "codec of the probe"
+        &codecfile.cfm :-k/o "codec" $
+          size "probe size"
+            id "bytes" $
+              count "probes"
+                id "probes" $
+                  interval "interval between probes"
+                    id "seconds" $
+                      loss "loss threshold"
+                        id "per cent" $
+                          timeout "probe timeout"
+                            id "milliseconds" $
     active "fallback on" $
       icpif :o "by icpif" $
       delay :o "by delay and loss" $
     map "fallback map"
-      line *
+      <1-16> :k "map tag"
+        target "target of the map"
+          a.b.c.d :k "target address" $
+        address-list "addresses of the map"
+          line *
+        subnet "subnet of the map"
+          a.b.c.d :k "network"
+            a.b.c.d "mask" $
   treatment "call treatment"
     on "call treatment on" $
     action "treatment of a call"
@@ -309,14 +352,26 @@ call "call settings"
       memory "memory for prompts"
         <1-60> :o "seconds" $
     global "global thresholds"
-      line *
+      %CALLTHRESHOLD
     interface "interface thresholds"
-      line *
+      &interfacefile.cfm "interface type"
+        <number> :k "interface number"
+          int-calls :k "calls on the interface"
+            low "low water mark"
+              id :o "value"
+                high "high water mark"
+                  id "value" $
   rscmon "resource monitor"
     update-timer "update timer"
       id :o "milliseconds" $
   application "call application"
-    line *
+    voice "voice application"
+      word :k "application name"
+        line * :o
+    alternate "application used when the dial peer names none"
+      word :o "application name" $
+    global "global application"
+      word :o "application name" $
 call-history-mib "call history mib"
   retain-timer "time an entry is kept"
     id :o "minutes" $
@@ -360,7 +415,9 @@ shutdown "shut the voice service down" $
   forced "at once" $
 mode "mode of the voice service"
   border-element :o "cube" $
-  line *
+    license "license"
+      capacity "capacity"
+        id "sessions" $
 media "media settings"
   line *
 supplementary-service "supplementary services"
