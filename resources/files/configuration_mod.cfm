@@ -503,7 +503,7 @@ eou|eap over udp|k||
       !
     !
     status-query|status query|k||
-      <30-1800>|seconds|o||
+      <10-1800>|seconds|o||
         <cr>||||
         !
       !
@@ -521,7 +521,7 @@ eou|eap over udp|k||
       !
     !
     revalidation|revalidation timer|k||
-      <300-86400>|seconds|o||
+      <5-86400>|seconds|o||
         <cr>||||
         !
       !

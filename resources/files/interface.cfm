@@ -2875,7 +2875,7 @@ eou|eap over udp on this interface|k||
       !
     !
     status-query|status query|k||
-      <30-1800>|seconds|o||
+      <10-1800>|seconds|o||
         <cr>||||
         !
       !
@@ -2893,7 +2893,7 @@ eou|eap over udp on this interface|k||
       !
     !
     revalidation|revalidation timer|k||
-      <300-86400>|seconds|o||
+      <5-86400>|seconds|o||
         <cr>||||
         !
       !

@@ -52,13 +52,13 @@ def EOU
     hold-period "hold period"
       <60-86400> :o "seconds" $
     status-query "status query"
-      <30-1800> :o "seconds" $
+      <10-1800> :o "seconds" $
     retransmit "retransmission"
       <1-60> :o "seconds" $
     aaa "aaa timeout"
       id :o "seconds" $
     revalidation "revalidation timer"
-      <300-86400> :o "seconds" $
+      <5-86400> :o "seconds" $
   logging "log eou events" $
   default "defaults" $
 
