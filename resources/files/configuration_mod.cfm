@@ -232,7 +232,7 @@ buffers|adjust system buffer pool parameters|k||
     !
   !
   tune|tuning|k||
-    automatic|tune the buffers automatically|k/sn||
+    automatic|tune the buffers automatically|k/sb/o||
       <cr>||||
       !
     !
@@ -314,7 +314,7 @@ cts|cisco trustsec|k||
     !
   !
   cache|trustsec cache|k||
-    enable|keep the trustsec data over a reload|k/sn||
+    enable|keep the trustsec data over a reload|k/sb/o||
       <cr>||||
       !
     !
@@ -338,7 +338,7 @@ cts|cisco trustsec|k||
     !
   !
   sxp|security group tag exchange protocol|k||
-    enable|run the protocol|k/sn||
+    enable|run the protocol|k/sb/o||
       <cr>||||
       !
     !
@@ -359,7 +359,7 @@ cts|cisco trustsec|k||
       !
     !
     log|logging|k||
-      binding-changes|log binding changes|k/sn||
+      binding-changes|log binding changes|k/sb/o||
         <cr>||||
         !
       !
@@ -486,11 +486,11 @@ eou|eap over udp|k||
     !
   !
   allow|what is allowed|k||
-    ip-station-id|ip address as the station id|k/sn||
+    ip-station-id|ip address as the station id|k/sb/o||
       <cr>||||
       !
     !
-    clientless|clientless hosts|k/sn||
+    clientless|clientless hosts|k/sb/o||
       <cr>||||
       !
     !
@@ -5692,20 +5692,20 @@ voice|voice configuration|k||
         !
       !
     !
-    send-alert|send alert instead of progress|k/sn||
+    send-alert|send alert instead of progress|k/sb/o||
       <cr>||||
       !
     !
-    disc-pi-off|no disconnect with progress indicator|k/sn||
+    disc-pi-off|no disconnect with progress indicator|k/sb/o||
       <cr>||||
       !
     !
-    convert-discpi-to-prog|convert disconnect with progress indicator to progress|k/sn||
+    convert-discpi-to-prog|convert disconnect with progress indicator to progress|k/sb/o||
       <cr>||||
       !
     !
     debug|debug header format|k||
-      full-guid|the whole call identifier|k/sn||
+      full-guid|the whole call identifier|k/sb/o||
         <cr>||||
         !
       !
@@ -5737,11 +5737,11 @@ voice|voice configuration|k||
           !
         !
         reporting|capacity reporting|k||
-          maxima|report the maxima|k/sn||
+          maxima|report the maxima|k/sb/o||
             <cr>||||
             !
           !
-          inflection|report the inflection points|k/sn||
+          inflection|report the inflection points|k/sb/o||
             <cr>||||
             !
           !
@@ -5823,11 +5823,11 @@ voice|voice configuration|k||
           !
         !
         reporting|capacity reporting|k||
-          maxima|report the maxima|k/sn||
+          maxima|report the maxima|k/sb/o||
             <cr>||||
             !
           !
-          inflection|report the inflection points|k/sn||
+          inflection|report the inflection points|k/sb/o||
             <cr>||||
             !
           !
@@ -5909,11 +5909,11 @@ voice|voice configuration|k||
           !
         !
         reporting|capacity reporting|k||
-          maxima|report the maxima|k/sn||
+          maxima|report the maxima|k/sb/o||
             <cr>||||
             !
           !
-          inflection|report the inflection points|k/sn||
+          inflection|report the inflection points|k/sb/o||
             <cr>||||
             !
           !
@@ -5973,7 +5973,7 @@ voice|voice configuration|k||
       !
     !
   !
-  disc-pi-incoming-on|disconnect with progress indicator on incoming calls|k/sn||
+  disc-pi-incoming-on|disconnect with progress indicator on incoming calls|k/sb/o||
     <cr>||||
     !
   !
@@ -6071,29 +6071,29 @@ voice|voice configuration|k||
       !
     !
   !
-  persistent-storage|keep voice data over a reload|k/sn||
+  persistent-storage|keep voice data over a reload|k/sb/o||
     <cr>||||
     !
   !
   pcm|pulse code modulation|k||
     capture|capture pcm data|k||
-      buffer|capture buffer|k||
-        <cr>||sn||
+      buffer|capture buffer|k/sb/o||
+        <cr>||||
         !
         id|buffer size|o||
           <cr>||||
           !
         !
       !
-      destination|capture destination|k||
-        <cr>||sn||
+      destination|capture destination|k/sb/o||
+        <cr>||||
         !
         word|url|o||
           <cr>||||
           !
         !
       !
-      on-demand-trigger|capture on a trigger|k/sn||
+      on-demand-trigger|capture on a trigger|k/sb/o||
         <cr>||||
         !
       !

@@ -2858,11 +2858,11 @@ eou|eap over udp on this interface|k||
     !
   !
   allow|what is allowed|k||
-    ip-station-id|ip address as the station id|k/sn||
+    ip-station-id|ip address as the station id|k/sb/o||
       <cr>||||
       !
     !
-    clientless|clientless hosts|k/sn||
+    clientless|clientless hosts|k/sb/o||
       <cr>||||
       !
     !

@@ -2454,12 +2454,12 @@ sctp|stream control transmission protocol|k||
         !
       !
     !
-    auto|add and remove local addresses automatically|k/sn||
+    auto|add and remove local addresses automatically|k/sb/o||
       <cr>||||
       !
     !
   !
-  authenticate|chunk types that must be authenticated|k/sn||
+  authenticate|chunk types that must be authenticated|k/sb/o||
     abort|abort chunks|k||
       <cr>||||
       !

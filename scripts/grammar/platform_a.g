@@ -2,6 +2,9 @@
 # authentication, the buffer pools, TrustSec (cts), EAP over UDP (eou), the
 # inter-process communication queues, and the async and terminal settings
 # of lines and interfaces.
+# Switches that "show running-config all" prints in either form (no voice
+# call send-alert, no ip sctp authenticate data) are sb/o: both forms are
+# kept, and either replaces the other.
 
 def BUFPARAMS
   permanent "buffers that are never given back"
@@ -46,8 +49,8 @@ def EOU
   port "udp port"
     <1-65535> :o "port" $
   allow "what is allowed"
-    ip-station-id :sn "ip address as the station id" $
-    clientless :sn "clientless hosts" $
+    ip-station-id :sb/o "ip address as the station id" $
+    clientless :sb/o "clientless hosts" $
   timeout "timers"
     hold-period "hold period"
       <60-86400> :o "seconds" $
@@ -67,8 +70,8 @@ sctp "stream control transmission protocol"
   asconf "address configuration change"
     authenticate "authentication of address configuration chunks"
       check "accept only authenticated address configuration chunks" $
-    auto :sn "add and remove local addresses automatically" $
-  authenticate :sn "chunk types that must be authenticated"
+    auto :sb/o "add and remove local addresses automatically" $
+  authenticate :sb/o "chunk types that must be authenticated"
     %SCTPCHUNK
 
 file configuration_mod.cfm
@@ -98,7 +101,7 @@ buffers "adjust system buffer pool parameters"
     minimum "least elements"
       id :o "elements" $
   tune "tuning"
-    automatic :sn "tune the buffers automatically" $
+    automatic :sb/o "tune the buffers automatically" $
   &interfacefile.cfm "buffers of an interface"
     <number> :k "interface number"
       %BUFPARAMS
@@ -120,7 +123,7 @@ cts "cisco trustsec"
         deadtime "time a server is held dead"
           <1-864000> :o "seconds" $
   cache "trustsec cache"
-    enable :sn "keep the trustsec data over a reload" $
+    enable :sb/o "keep the trustsec data over a reload" $
   dot1x-server-timeout "server timeout"
     <1-65535> :o "seconds" $
   dot1x-supp-timeout "supplicant timeout"
@@ -128,7 +131,7 @@ cts "cisco trustsec"
   logging "trustsec logging"
     verbose "verbose logging" $
   sxp "security group tag exchange protocol"
-    enable :sn "run the protocol" $
+    enable :sb/o "run the protocol" $
     retry "retries"
       period "retry period"
         id :o "seconds" $
@@ -136,7 +139,7 @@ cts "cisco trustsec"
       period "reconciliation period"
         id :o "seconds" $
     log "logging"
-      binding-changes :sn "log binding changes" $
+      binding-changes :sb/o "log binding changes" $
     mapping "address to tag mapping"
       network-map "network map"
         id :o "bindings" $

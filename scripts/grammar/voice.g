@@ -3,6 +3,9 @@
 # treatment) and the interactive voice response settings. Numbers where 0 is
 # a valid value are "id"; the counters that the device prints in
 # "show running-config all" are one value each (o).
+# Switches that "show running-config all" prints in either form (no voice
+# call send-alert, no ip sctp authenticate data) are sb/o: both forms are
+# kept, and either replaces the other.
 
 def VCALLGROUP
   capacity "capacity settings"
@@ -14,8 +17,8 @@ def VCALLGROUP
     stw :k "sliding time window"
       id :o "minutes" $
     reporting "capacity reporting"
-      maxima :sn "report the maxima" $
-      inflection :sn "report the inflection points" $
+      maxima :sb/o "report the maxima" $
+      inflection :sb/o "report the inflection points" $
   trigger "capacity triggers"
     percent-change "change in per cent that triggers a report"
       <1-100> :o "per cent" $
@@ -115,11 +118,11 @@ voice "voice configuration"
       deviation "disconnect cause that raises a trap"
         <1-127> :o "cause code" $
           vad "with voice activity detection" $
-    send-alert :sn "send alert instead of progress" $
-    disc-pi-off :sn "no disconnect with progress indicator" $
-    convert-discpi-to-prog :sn "convert disconnect with progress indicator to progress" $
+    send-alert :sb/o "send alert instead of progress" $
+    disc-pi-off :sb/o "no disconnect with progress indicator" $
+    convert-discpi-to-prog :sb/o "convert disconnect with progress indicator to progress" $
     debug "debug header format"
-      full-guid :sn "the whole call identifier" $
+      full-guid :sb/o "the whole call identifier" $
       short-header "the short header" $
     carrier :k "carrier capacity"
       %VCALLGROUP
@@ -127,7 +130,7 @@ voice "voice configuration"
       %VCALLGROUP
     prefix :k "prefix capacity"
       %VCALLGROUP
-  disc-pi-incoming-on :sn "disconnect with progress indicator on incoming calls" $
+  disc-pi-incoming-on :sb/o "disconnect with progress indicator on incoming calls" $
   vad-time "time before voice activity detection silences"
     <250-65536> :o "milliseconds" $
   statistics "voice statistics"
@@ -159,14 +162,14 @@ voice "voice configuration"
     type "statistics types"
       csr :k "call success rate" $
       iec :k "internal error codes" $
-  persistent-storage :sn "keep voice data over a reload" $
+  persistent-storage :sb/o "keep voice data over a reload" $
   pcm "pulse code modulation"
     capture "capture pcm data"
-      buffer :sn "capture buffer" $
+      buffer :sb/o "capture buffer" $
         id :o "buffer size" $
-      destination :sn "capture destination" $
+      destination :sb/o "capture destination" $
         word :o "url" $
-      on-demand-trigger :sn "capture on a trigger" $
+      on-demand-trigger :sb/o "capture on a trigger" $
       user-trigger-string "digit strings that start and stop a capture"
         word :o "start string"
           word "stop string"
