@@ -1,3 +1,595 @@
+pae|port access entity of 802.1x|k||
+  <cr>||||
+  !
+!
+buffers|adjust system buffer pool parameters|k||
+  small|small buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  middle|middle buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  big|big buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  verybig|very big buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  large|large buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  huge|huge buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    size|size of a huge buffer|k||
+      <18024-100000>|bytes|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  header|header buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  fastswitching|fast switching buffers|k||
+    permanent|buffers that are never given back|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    initial|buffers made at start|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  element|buffer elements|k||
+    permanent|elements that are never given back|k||
+      id|elements|o||
+        <cr>||||
+        !
+      !
+    !
+    minimum|least elements|k||
+      id|elements|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  tune|tuning|k||
+    automatic|tune the buffers automatically|k/sb/o||
+      <cr>||||
+      !
+    !
+  !
+  &interfacefile.cfm|buffers of an interface|k||
+    <number>|interface number|k||
+      permanent|buffers that are never given back|k||
+        id|buffers|o||
+          <cr>||||
+          !
+        !
+      !
+      max-free|most free buffers|k||
+        id|buffers|o||
+          <cr>||||
+          !
+        !
+      !
+      min-free|least free buffers|k||
+        id|buffers|o||
+          <cr>||||
+          !
+        !
+      !
+      initial|buffers made at start|k||
+        id|buffers|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+cts|cisco trustsec|k||
+  server|authentication servers|k||
+    deadtime|time a server is held dead|k||
+      <1-864000>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    test|server tests|k||
+      all|all servers|k||
+        enable|test the servers|k||
+          <cr>||||
+          !
+        !
+        idle-time|test interval|k||
+          <1-14400>|minutes|o||
+            <cr>||||
+            !
+          !
+        !
+        deadtime|time a server is held dead|k||
+          <1-864000>|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      a.b.c.d|server address|k||
+        enable|test the server|k||
+          <cr>||||
+          !
+        !
+        idle-time|test interval|k||
+          <1-14400>|minutes|o||
+            <cr>||||
+            !
+          !
+        !
+        deadtime|time a server is held dead|k||
+          <1-864000>|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  cache|trustsec cache|k||
+    enable|keep the trustsec data over a reload|k/sb/o||
+      <cr>||||
+      !
+    !
+  !
+  dot1x-server-timeout|server timeout|k||
+    <1-65535>|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  dot1x-supp-timeout|supplicant timeout|k||
+    <1-65535>|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  logging|trustsec logging|k||
+    verbose|verbose logging|k||
+      <cr>||||
+      !
+    !
+  !
+  sxp|security group tag exchange protocol|k||
+    enable|run the protocol|k/sb/o||
+      <cr>||||
+      !
+    !
+    retry|retries|k||
+      period|retry period|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    reconciliation|reconciliation after a restart|k||
+      period|reconciliation period|k||
+        id|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    log|logging|k||
+      binding-changes|log binding changes|k/sb/o||
+        <cr>||||
+        !
+      !
+    !
+    mapping|address to tag mapping|k||
+      network-map|network map|k||
+        id|bindings|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    speaker|speaker settings|k||
+      hold-time|hold time|k||
+        <1-65534>|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    listener|listener settings|k||
+      hold-time|hold time|k||
+        <1-65534>|least seconds|o||
+          <1-65534>|most seconds|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    node-id|node id|k||
+      a.b.c.d|node address|o||
+        <cr>||||
+        !
+      !
+      id|node number|o||
+        <cr>||||
+        !
+      !
+      interface|from an interface|k||
+        &interfacefile.cfm|interface type|k||
+          <number>|interface number|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    default|defaults|k||
+      password|default password|k||
+        line|line|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+      source-ip|default source address|k||
+        a.b.c.d|address|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    connection|sxp connections|k||
+      peer|peer of a connection|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  role-based|role-based access control|k||
+    enforcement|enforce the rules|k||
+      <cr>||||
+      !
+    !
+    sgt-map|address to tag binding|k||
+      a.b.c.d|address|k||
+        sgt|security group tag|k||
+          <2-65519>|tag|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    permissions|permissions between tags|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
+  authorization|authorization of trustsec|k||
+    list|method list|k||
+      word|list|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+eou|eap over udp|k||
+  revalidate|revalidate the clients|k||
+    <cr>||||
+    !
+  !
+  max-retry|most retries|k||
+    <1-3>|retries|o||
+      <cr>||||
+      !
+    !
+  !
+  ratelimit|rate limit|k||
+    id|sessions|o||
+      <cr>||||
+      !
+    !
+  !
+  port|udp port|k||
+    <1-65535>|port|o||
+      <cr>||||
+      !
+    !
+  !
+  allow|what is allowed|k||
+    ip-station-id|ip address as the station id|k/sb/o||
+      <cr>||||
+      !
+    !
+    clientless|clientless hosts|k/sb/o||
+      <cr>||||
+      !
+    !
+  !
+  timeout|timers|k||
+    hold-period|hold period|k||
+      <60-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    status-query|status query|k||
+      <10-1800>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    retransmit|retransmission|k||
+      <1-60>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    aaa|aaa timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    revalidation|revalidation timer|k||
+      <5-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  logging|log eou events|k||
+    <cr>||||
+    !
+  !
+  default|defaults|k||
+    <cr>||||
+    !
+  !
+!
+ipc|inter-process communication|k||
+  holdq|hold queue|k||
+    threshold|thresholds|k||
+      upper|upper threshold|k||
+        id|messages|o||
+          <cr>||||
+          !
+        !
+      !
+      lower|lower threshold|k||
+        id|messages|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  header-cache|header cache|k||
+    permanent|permanent headers|k||
+      id|headers|o||
+        id|most headers|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  buffers|ipc buffers|k||
+    max-free|most free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    min-free|least free buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+    permanent|permanent buffers|k||
+      id|buffers|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  zone|ipc zones|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
 ^c|end of a banner|k||
   <cr>||||
   !
@@ -1764,32 +2356,6 @@ alias|create command alias|k||
     !
   !
 !
-dial-peer|dial peer configuration|k||
-  cor|cor|k||
-    custom|custom|k||
-      <cr>||||@(config-dp-cor)# generic.cfm
-      !
-    !
-    list|list|k||
-      word|word|k||
-        <cr>||||@(config-dp-corlist)# generic.cfm
-        !
-      !
-    !
-  !
-  voice|voice|k||
-    id|id|k||
-      voip|voip|k||
-        <cr>||||@(config-dial-peer)# generic.cfm
-        !
-      !
-      pots|pots|k||
-        <cr>||||@(config-dial-peer)# generic.cfm
-        !
-      !
-    !
-  !
-!
 dialer-list|dialer list|k||
   id|id|k||
     protocol|protocol|k||
@@ -2298,40 +2864,6 @@ l2tp-class|configure an l2tp class|k||
     !
   !
 !
-voice|voice configuration|k||
-  service|service|k||
-    voip|voip|k||
-      <cr>||||@(config-voi-serv)# generic.cfm
-      !
-    !
-  !
-  class|class|k||
-    codec|codec|k||
-      id|id|k||
-        <cr>||||@(config-class)# generic.cfm
-        !
-      !
-    !
-  !
-  translation-rule|translation-rule|k||
-    id|id|k||
-      <cr>||||@(config-translate)# generic.cfm
-      !
-    !
-  !
-  translation-profile|translation-profile|k||
-    word|word|k||
-      <cr>||||@(config-translate)# generic.cfm
-      !
-    !
-  !
-  rtp|rtp|k||
-    send-recv|send-recv|k||
-      <cr>||||
-      !
-    !
-  !
-!
 voice-card|configure a voice card|k||
   id|id|k||
     <cr>||||@(config-voicecard)# generic.cfm
@@ -2339,14 +2871,6 @@ voice-card|configure a voice card|k||
   !
 !
 sccp|skinny client control protocol|k||
-  <cr>||||
-  !
-  line|line|lb/le/wa||
-    <cr>||||
-    !
-  !
-!
-stcapp|skinny telephony control application|k||
   <cr>||||
   !
   line|line|lb/le/wa||
@@ -5061,6 +5585,1462 @@ parameter-map|parameter map|k||
     umbrella|umbrella|k||
       global|global|k||
         <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+  !
+!
+voice|voice configuration|k||
+  service|voice service|k||
+    voip|voice over ip|k||
+      <cr>||||@(config-voi-serv)# voice_service.cfm
+      !
+    !
+    pots|plain old telephone service|k||
+      <cr>||||@(config-voi-serv)# voice_service.cfm
+      !
+    !
+  !
+  class|voice class|k||
+    codec|codec preference list|k||
+      <1-10000>|voice class tag|k||
+        <cr>||||@(config-class)# voice_class_codec.cfm
+        !
+      !
+    !
+    uri|uniform resource identifier class|k||
+      word|uri class tag|k||
+        sip|sip uri|k||
+          <cr>||||@(config-voice-uri-class)# generic.cfm
+          !
+        !
+        tel|telephone uri|k||
+          <cr>||||@(config-voice-uri-class)# generic.cfm
+          !
+        !
+      !
+      sip|sip uri settings|k||
+        preference|part of the uri matched first|k||
+          user-id|user-id first|k/o||
+            host|then the host|k||
+              <cr>||||
+              !
+            !
+          !
+          host|host first|k/o||
+            user-id|then the user-id|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    h323|h323 voice class|k||
+      <1-10000>|voice class tag|k||
+        <cr>||||@(config-class)# generic.cfm
+        !
+      !
+    !
+    sip-profiles|sip profiles|k||
+      <1-10000>|voice class tag|k||
+        <cr>||||@(config-class)# generic.cfm
+        !
+      !
+    !
+    e164-pattern-map|e164 pattern map|k||
+      <1-10000>|voice class tag|k||
+        <cr>||||@(config-class)# generic.cfm
+        !
+      !
+    !
+    dpg|dial peer group|k||
+      <1-10000>|voice class tag|k||
+        <cr>||||@(config-class)# generic.cfm
+        !
+      !
+    !
+  !
+  translation-rule|translation rule|k||
+    id|id|k||
+      <cr>||||@(config-translate)# generic.cfm
+      !
+    !
+  !
+  translation-profile|translation profile|k||
+    word|word|k||
+      <cr>||||@(config-translate)# generic.cfm
+      !
+    !
+  !
+  rtp|real-time transport protocol|k||
+    send-recv|establish a two-way voice path on connect|k||
+      <cr>||||
+      !
+    !
+  !
+  call|voice call settings|k||
+    trap|voice call traps|k||
+      deviation|disconnect cause that raises a trap|k||
+        <1-127>|cause code|o||
+          <cr>||||
+          !
+          vad|with voice activity detection|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    send-alert|send alert instead of progress|k/sb/o||
+      <cr>||||
+      !
+    !
+    disc-pi-off|no disconnect with progress indicator|k/sb/o||
+      <cr>||||
+      !
+    !
+    convert-discpi-to-prog|convert disconnect with progress indicator to progress|k/sb/o||
+      <cr>||||
+      !
+    !
+    debug|debug header format|k||
+      full-guid|the whole call identifier|k/sb/o||
+        <cr>||||
+        !
+      !
+      short-header|the short header|k||
+        <cr>||||
+        !
+      !
+    !
+    carrier|carrier capacity|k||
+      capacity|capacity settings|k||
+        timer|capacity timer|k||
+          interval|interval between capacity updates|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        mir|maximum update rate|k||
+          id|rate|o||
+            <cr>||||
+            !
+          !
+        !
+        stw|sliding time window|k||
+          id|minutes|o||
+            <cr>||||
+            !
+          !
+        !
+        reporting|capacity reporting|k||
+          maxima|report the maxima|k/sb/o||
+            <cr>||||
+            !
+          !
+          inflection|report the inflection points|k/sb/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      trigger|capacity triggers|k||
+        percent-change|change in per cent that triggers a report|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        lwm|low water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        hwm|high water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      csr|call success rate|k||
+        reporting|call success rate reporting|k||
+          interval|reporting interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        recording|call success rate recording|k||
+          interval|recording interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        growth|call success rate growth|k||
+          interval|growth interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        data-points|number of data points|k||
+          <1-1440>|data points|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    trunkgroup|trunk group capacity|k||
+      capacity|capacity settings|k||
+        timer|capacity timer|k||
+          interval|interval between capacity updates|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        mir|maximum update rate|k||
+          id|rate|o||
+            <cr>||||
+            !
+          !
+        !
+        stw|sliding time window|k||
+          id|minutes|o||
+            <cr>||||
+            !
+          !
+        !
+        reporting|capacity reporting|k||
+          maxima|report the maxima|k/sb/o||
+            <cr>||||
+            !
+          !
+          inflection|report the inflection points|k/sb/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      trigger|capacity triggers|k||
+        percent-change|change in per cent that triggers a report|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        lwm|low water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        hwm|high water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      csr|call success rate|k||
+        reporting|call success rate reporting|k||
+          interval|reporting interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        recording|call success rate recording|k||
+          interval|recording interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        growth|call success rate growth|k||
+          interval|growth interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        data-points|number of data points|k||
+          <1-1440>|data points|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    prefix|prefix capacity|k||
+      capacity|capacity settings|k||
+        timer|capacity timer|k||
+          interval|interval between capacity updates|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        mir|maximum update rate|k||
+          id|rate|o||
+            <cr>||||
+            !
+          !
+        !
+        stw|sliding time window|k||
+          id|minutes|o||
+            <cr>||||
+            !
+          !
+        !
+        reporting|capacity reporting|k||
+          maxima|report the maxima|k/sb/o||
+            <cr>||||
+            !
+          !
+          inflection|report the inflection points|k/sb/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      trigger|capacity triggers|k||
+        percent-change|change in per cent that triggers a report|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        lwm|low water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+        hwm|high water mark|k||
+          <1-100>|per cent|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      csr|call success rate|k||
+        reporting|call success rate reporting|k||
+          interval|reporting interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        recording|call success rate recording|k||
+          interval|recording interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        growth|call success rate growth|k||
+          interval|growth interval|k||
+            <1-1440>|minutes|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        data-points|number of data points|k||
+          <1-1440>|data points|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  disc-pi-incoming-on|disconnect with progress indicator on incoming calls|k/sb/o||
+    <cr>||||
+    !
+  !
+  vad-time|time before voice activity detection silences|k||
+    <250-65536>|milliseconds|o||
+      <cr>||||
+      !
+    !
+  !
+  statistics|voice statistics|k||
+    max-storage-duration|longest time statistics are kept|k||
+      <cr>||||
+      !
+      day|days|k||
+        <1-2>|days|o||
+          <cr>||||
+          !
+        !
+      !
+      hour|hours|k||
+        <1-48>|hours|o||
+          <cr>||||
+          !
+        !
+      !
+      minute|minutes|k||
+        <1-2880>|minutes|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    display-format|display format|k||
+      separator|field separator|k||
+        <cr>||||
+        !
+        comma|comma|k/o||
+          <cr>||||
+          !
+        !
+        semicolon|semicolon|k/o||
+          <cr>||||
+          !
+        !
+        tab|tab|k/o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    field-params|field parameters|k||
+      mcd|media connection drop|k||
+        id|threshold|o||
+          <cr>||||
+          !
+        !
+      !
+      lost-packet|lost packets|k||
+        id|threshold|o||
+          <cr>||||
+          !
+        !
+      !
+      packet-latency|packet latency|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+      packet-jitter|packet jitter|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    push|push statistics to a server|k||
+      ftp|by ftp|k||
+        max-file-size|largest file|k||
+          id|bytes|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    type|statistics types|k||
+      csr|call success rate|k||
+        <cr>||||
+        !
+      !
+      iec|internal error codes|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  persistent-storage|keep voice data over a reload|k/sb/o||
+    <cr>||||
+    !
+  !
+  pcm|pulse code modulation|k||
+    capture|capture pcm data|k||
+      buffer|capture buffer|k/sb/o||
+        <cr>||||
+        !
+        id|buffer size|o||
+          <cr>||||
+          !
+        !
+      !
+      destination|capture destination|k/sb/o||
+        <cr>||||
+        !
+        word|url|o||
+          <cr>||||
+          !
+        !
+      !
+      on-demand-trigger|capture on a trigger|k/sb/o||
+        <cr>||||
+        !
+      !
+      user-trigger-string|digit strings that start and stop a capture|k||
+        word|start string|o||
+          word|stop string|||
+            stream|streams|k||
+              id|stream bit map|||
+                duration|how long the capture runs|k||
+                  id|minutes, 0 without end|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  dsp|digital signal processors|k||
+    waitstate|dsp wait states|k||
+      id|wait states|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  register|voice register|k||
+    global|global sip phone settings|k||
+      <cr>||||@(config-register-global)# generic.cfm
+      !
+    !
+    pool|sip phone pool|k||
+      <1-100>|pool tag|k||
+        <cr>||||@(config-register-pool)# generic.cfm
+        !
+      !
+    !
+    dn|sip directory number|k||
+      <1-720>|directory number tag|k||
+        <cr>||||@(config-register-dn)# generic.cfm
+        !
+      !
+    !
+  !
+!
+voice-port|voice port configuration|k||
+  word|voice port (slot/subunit/port, or slot/port:ds0-group)|k||
+    <cr>||||@(config-voiceport)# voice_port.cfm
+    !
+  !
+!
+dial-peer|dial peer configuration|k||
+  cor|class of restriction|k||
+    custom|custom|k||
+      <cr>||||@(config-dp-cor)# generic.cfm
+      !
+    !
+    list|list|k||
+      word|word|k||
+        <cr>||||@(config-dp-corlist)# generic.cfm
+        !
+      !
+    !
+  !
+  voice|voice dial peer|k||
+    <1-1073741823>|dial peer tag|k||
+      voip|voice over ip|k||
+        <cr>||||@(config-dial-peer)# dial_peer.cfm
+        !
+      !
+      pots|plain old telephone service|k||
+        <cr>||||@(config-dial-peer)# dial_peer.cfm
+        !
+      !
+      vofr|voice over frame relay|k||
+        <cr>||||@(config-dial-peer)# dial_peer.cfm
+        !
+      !
+      voatm|voice over atm|k||
+        <cr>||||@(config-dial-peer)# dial_peer.cfm
+        !
+      !
+      mmoip|multimedia mail over ip|k||
+        <cr>||||@(config-dial-peer)# dial_peer.cfm
+        !
+      !
+    !
+  !
+  hunt|dial peer hunting choice|k||
+    id|hunting choice|o||
+      <cr>||||
+      !
+    !
+  !
+  terminator|end of a dialled number|k||
+    word|terminating character|o||
+      <cr>||||
+      !
+    !
+  !
+  outbound|outbound dial peers|k||
+    status-check|check the status of outbound dial peers|k||
+      pots|pots dial peers|k||
+        <cr>||||
+        !
+      !
+      voip|voip dial peers|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  no-match|when no dial peer matches|k||
+    isdn|isdn calls|k||
+      disconnect-cause|disconnect cause|k||
+        <cr>||||
+        !
+        <1-127>|cause code|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  search|dial peer search|k||
+    type|order of the search|k||
+      data|data dial peers|k/o||
+        voice|then voice dial peers|k||
+          <cr>||||
+          !
+        !
+      !
+      voice|voice dial peers|k/o||
+        data|then data dial peers|k||
+          <cr>||||
+          !
+        !
+      !
+      none|no preference|k/o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+sip-ua|sip user agent configuration|k||
+  <cr>||||@(config-sip-ua)# sip_ua.cfm
+  !
+!
+isdn|isdn settings|k||
+  switch-type|isdn switch type|k||
+    basic-1tr6|1tr6 switch type for germany|k/o||
+      <cr>||||
+      !
+    !
+    basic-5ess|at&t 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    basic-dms100|northern dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-net3|net3 switch type for the uk and others|k/o||
+      <cr>||||
+      !
+    !
+    basic-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-ts013|ts013 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-4ess|lucent 4ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-5ess|lucent 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-dms100|northern telecom dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-net5|net5 switch type for the uk, europe, asia and australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ntt|japan switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ts014|ts014 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+  !
+  voice-call-failure|cause code for a failed voice call|k||
+    id|cause code|o||
+      <cr>||||
+      !
+    !
+  !
+!
+ccm-manager|call manager settings|k||
+  switchback|switchback to the primary call manager|k||
+    graceful|when the calls have ended|k/o||
+      <cr>||||
+      !
+    !
+    immediate|at once|k/o||
+      <cr>||||
+      !
+    !
+    uptime-delay|after the primary has been up|k/o||
+      <1-1440>|minutes|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  application|call manager application|k||
+    redundant|redundancy|k||
+      port|port of the redundancy link|k||
+        id|port number|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  fax|fax settings of the voice service|k||
+    protocol|fax relay protocol|k||
+      cisco|cisco fax relay|k/o||
+        <cr>||||
+        !
+      !
+      none|no fax relay|k/o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  shut-interfaces-tftp-fails|shut the interfaces when the configuration download fails|k||
+    <1-1000>|failed downloads|o||
+      <cr>||||
+      !
+    !
+  !
+  mgcp|media gateway control protocol|k||
+    <cr>||||
+    !
+  !
+  config|download the configuration|k||
+    <cr>||||
+    !
+    server|tftp servers|k||
+      a.b.c.d|server address|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  redundant-host|backup call managers|k||
+    word|host|o||
+      <cr>||||
+      !
+      word|second host|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+ivr|interactive voice response|k||
+  prompt|prompts|k||
+    cutoff-threshold|prompt cut-off|k||
+      id|milliseconds|o||
+        <cr>||||
+        !
+      !
+    !
+    streamed|prompts that are streamed|k||
+      none|no prompt is streamed|k/o||
+        <cr>||||
+        !
+      !
+      all|every prompt is streamed|k/o||
+        <cr>||||
+        !
+      !
+      flash|from flash|k/o||
+        <cr>||||
+        !
+      !
+      http|by http|k/o||
+        <cr>||||
+        !
+      !
+      tftp|by tftp|k/o||
+        <cr>||||
+        !
+      !
+    !
+    memory|prompt memory|k||
+      id|kilobytes|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  record|recording|k||
+    memory|recording memory|k||
+      system|for the whole system|k||
+        id|kilobytes|o||
+          <cr>||||
+          !
+        !
+      !
+      session|for one session|k||
+        id|kilobytes|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    jitter|jitter buffer of a recording|k||
+      tftp:|recordings to tftp|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+      http:|recordings to http|k||
+        id|milliseconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cpu|cpu limit of recording|k||
+      flash|recordings to flash|k||
+        <1-100>|per cent|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+call|call settings|k||
+  fallback|call fallback|k||
+    probe-timeout|probe timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    wait-timeout|wait timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    threshold|fallback thresholds|k||
+      icpif|calculated planning impairment factor|k||
+        id|icpif value|o||
+          <cr>||||
+          !
+        !
+      !
+      delay|delay threshold|k||
+        id|milliseconds|o||
+          loss|packet loss|k||
+            id|per cent|||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    jitter-probe|jitter probes|k||
+      precedence|precedence of the probe|k||
+        id|precedence|o||
+          <cr>||||
+          !
+        !
+      !
+      num-packets|packets in a probe|k||
+        <2-50>|packets|o||
+          <cr>||||
+          !
+        !
+      !
+      priority-queue|use the priority queue|k||
+        <cr>||||
+        !
+      !
+      dscp|dscp of the probe|k||
+        id|dscp value|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cache-size|cache size|k||
+      <1-4096>|entries|o||
+        <cr>||||
+        !
+      !
+    !
+    cache-timeout|cache timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    key-chain|md5 key chain|k||
+      <cr>||||
+      !
+      word|key chain name|o||
+        <cr>||||
+        !
+      !
+    !
+    reject-cause-code|cause code of a rejected call|k||
+      <1-127>|cause code|o||
+        <cr>||||
+        !
+      !
+    !
+    instantaneous-value-weight|weight of the newest value|k||
+      id|per cent|o||
+        <cr>||||
+        !
+      !
+    !
+    expect-factor|expected impairment|k||
+      id|expect factor|o||
+        <cr>||||
+        !
+      !
+    !
+    monitor|monitor the destinations without fallback|k||
+      <cr>||||
+      !
+    !
+    icmp-ping|icmp ping probes|k||
+      <cr>||||
+      !
+      codec|codec of the probe|k||
+        &codecfile.cfm|codec|o||
+          <cr>||||
+          !
+          size|probe size|k||
+            id|bytes|||
+              <cr>||||
+              !
+              count|probes|k||
+                id|probes|||
+                  <cr>||||
+                  !
+                  interval|interval between probes|k||
+                    id|seconds|||
+                      <cr>||||
+                      !
+                      loss|loss threshold|k||
+                        id|per cent|||
+                          <cr>||||
+                          !
+                          timeout|probe timeout|k||
+                            id|milliseconds|||
+                              <cr>||||
+                              !
+                            !
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    active|fallback on|k||
+      <cr>||||
+      !
+      icpif|by icpif|k/o||
+        <cr>||||
+        !
+      !
+      delay|by delay and loss|k/o||
+        <cr>||||
+        !
+      !
+    !
+    map|fallback map|k||
+      <1-16>|map tag|k||
+        target|target of the map|k||
+          a.b.c.d|target address|k||
+            <cr>||||
+            !
+          !
+        !
+        address-list|addresses of the map|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        subnet|subnet of the map|k||
+          a.b.c.d|network|k||
+            a.b.c.d|mask|||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  treatment|call treatment|k||
+    on|call treatment on|k||
+      <cr>||||
+      !
+    !
+    action|treatment of a call|k||
+      reject|reject the call|k/o||
+        <cr>||||
+        !
+      !
+      hangup|hang up|k/o||
+        <cr>||||
+        !
+      !
+      playmsg|play a message|k/o||
+        word|message url|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cause-code|cause code of a treated call|k||
+      busy|user busy|k/o||
+        <cr>||||
+        !
+      !
+      no-qos|no quality of service|k/o||
+        <cr>||||
+        !
+      !
+      no-resource|no resource|k/o||
+        <cr>||||
+        !
+      !
+    !
+    isdn-reject|cause code of a rejected isdn call|k||
+      <34-47>|cause code|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  rsvp-sync|rsvp synchronisation|k||
+    <cr>||||
+    !
+    resv-timer|reservation timer|k||
+      <1-60>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  threshold|call thresholds|k||
+    poll-interval|poll intervals|k||
+      cpu-avg|average cpu|k||
+        <10-300>|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+      memory|memory for prompts|k||
+        <1-60>|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    global|global thresholds|k||
+      cpu-5sec|cpu over five seconds|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      cpu-avg|average cpu|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      io-mem|i/o memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      proc-mem|processor memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      total-calls|all calls|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      total-mem|all memory|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      voip-calls|voip calls|k||
+        low|low water mark|k||
+          id|value|o||
+            high|high water mark|k||
+              id|value|||
+                <cr>||||
+                !
+                busyout|busy out the ports|k||
+                  <cr>||||
+                  !
+                !
+                treatment|treat the calls|k||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    interface|interface thresholds|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          int-calls|calls on the interface|k||
+            low|low water mark|k||
+              id|value|o||
+                high|high water mark|k||
+                  id|value|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  rscmon|resource monitor|k||
+    update-timer|update timer|k||
+      id|milliseconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  application|call application|k||
+    voice|voice application|k||
+      word|application name|k||
+        line|line|lb/le/wa/o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    alternate|application used when the dial peer names none|k||
+      word|application name|o||
+        <cr>||||
+        !
+      !
+    !
+    global|global application|k||
+      word|application name|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+call-history-mib|call history mib|k||
+  retain-timer|time an entry is kept|k||
+    id|minutes|o||
+      <cr>||||
+      !
+    !
+  !
+  max-size|largest table|k||
+    id|entries|o||
+      <cr>||||
+      !
+    !
+  !
+!
+telephony-service|telephony service configuration|k||
+  <cr>||||@(config-telephony)# telephony_service.cfm
+  !
+!
+stcapp|skinny telephony control application|k||
+  <cr>||||
+  !
+  ccm-group|call manager group|k||
+    id|group number|o||
+      <cr>||||
+      !
+    !
+  !
+  feature|stcapp features|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  register|register phones|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  timer|stcapp timers|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+dot11|ieee 802.11 configuration|k||
+  syslog|log the association events|k||
+    <cr>||||
+    !
+  !
+  pause-time|pause after a failed authentication|k||
+    <1-65535>|milliseconds|o||
+      <cr>||||
+      !
+    !
+  !
+  vlan-name|name of a vlan|k||
+    word|vlan name|k||
+      vlan|vlan of the name|k||
+        <1-4094>|vlan id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  ssid|radio service set|k||
+    word|ssid name|k||
+      <cr>||||@(config-ssid)# dot11_ssid.cfm
+      !
+    !
+  !
+  band-select|band select|k||
+    parameters|band select parameters|k||
+      <cr>||||@(config-dot11-band-select)# dot11_band_select.cfm
+      !
+    !
+  !
+  activity-timeout|inactivity timeout of a client|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  arp-cache|arp cache|k||
+    <cr>||||
+    !
+    optional|optional arp caching|k||
+      <cr>||||
+      !
+    !
+  !
+  holdoff-time|hold-off after a failed authentication|k||
+    <1-65555>|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+!
+bridge|bridge group|k||
+  irb|integrated routing and bridging|k||
+    <cr>||||
+    !
+  !
+  <1-255>|bridge group|k||
+    route|route a protocol|k||
+      ip|route ip|k||
+        <cr>||||
+        !
+      !
+      ipv6|route ipv6|k||
+        <cr>||||
+        !
+      !
+    !
+    bridge|bridge a protocol|k||
+      ip|bridge ip|k||
+        <cr>||||
+        !
+      !
+    !
+    protocol|spanning tree protocol|k||
+      ieee|ieee 802.1d|k/o||
+        <cr>||||
+        !
+      !
+      vlan-bridge|vlan bridge|k/o||
+        <cr>||||
+        !
+      !
+      dec|dec spanning tree|k/o||
+        <cr>||||
+        !
+      !
+    !
+    priority|bridge priority|k||
+      id|priority|o||
+        <cr>||||
+        !
+      !
+    !
+    aging-time|aging time|k||
+      <10-1000000>|seconds|o||
+        <cr>||||
         !
       !
     !

@@ -1,13 +1,25 @@
+&certdatafile.cfm|certificate data|k/lb/le/wa||
+  <cr>||||
+  !
+!
 certificate|exchange certificates|k||
   self-signed|self signed certificate|k||
     word|certificate serial number|k||
       <cr>||||
+      !
+      word|file that holds the certificate (nvram:NAME.cer)|||
+        <cr>||||
+        !
       !
     !
   !
   ca|certificate authority certificate|k||
     word|certificate serial number|k||
       <cr>||||
+      !
+      word|file that holds the certificate (nvram:NAME.cer)|||
+        <cr>||||
+        !
       !
     !
   !
@@ -19,6 +31,10 @@ certificate|exchange certificates|k||
   !
   word|certificate serial number|k||
     <cr>||||
+    !
+    word|file that holds the certificate (nvram:NAME.cer)|||
+      <cr>||||
+      !
     !
   !
 !

@@ -2285,8 +2285,16 @@ authentication|authentication manager settings|k||
   !
 !
 dot1x|interface config commands for ieee 802.1x|k||
-  pae|pae|k||
-    line|line|lb/le/wa||
+  pae|port access entity role|k||
+    authenticator|act as the authenticator|k/o||
+      <cr>||||
+      !
+    !
+    supplicant|act as a supplicant|k/o||
+      <cr>||||
+      !
+    !
+    both|act as authenticator and supplicant|k/o||
       <cr>||||
       !
     !
@@ -2785,6 +2793,944 @@ autostate|vlan interface state follows its ports|k/sn||
 mac-address|manually set the interface mac address|k||
   h.h.h|mac address|o||
     <cr>||||
+    !
+  !
+!
+tx-queue-limit|largest transmit queue|k||
+  id|packets|o||
+    <cr>||||
+    !
+  !
+!
+dce-terminal-timing-enable|dce terminal timing|k||
+  <cr>||||
+  !
+!
+async|async interface|k||
+  mode|mode of the async interface|k||
+    interactive|interactive mode|k/o||
+      <cr>||||
+      !
+    !
+    dedicated|dedicated mode|k/o||
+      <cr>||||
+      !
+    !
+  !
+  default|defaults|k||
+    routing|routing on the async line|k||
+      <cr>||||
+      !
+    !
+  !
+  dynamic|dynamic settings|k||
+    address|addresses given by the user|k||
+      <cr>||||
+      !
+    !
+    routing|routing given by the user|k||
+      <cr>||||
+      !
+    !
+  !
+!
+eou|eap over udp on this interface|k||
+  revalidate|revalidate the clients|k||
+    <cr>||||
+    !
+  !
+  max-retry|most retries|k||
+    <1-3>|retries|o||
+      <cr>||||
+      !
+    !
+  !
+  ratelimit|rate limit|k||
+    id|sessions|o||
+      <cr>||||
+      !
+    !
+  !
+  port|udp port|k||
+    <1-65535>|port|o||
+      <cr>||||
+      !
+    !
+  !
+  allow|what is allowed|k||
+    ip-station-id|ip address as the station id|k/sb/o||
+      <cr>||||
+      !
+    !
+    clientless|clientless hosts|k/sb/o||
+      <cr>||||
+      !
+    !
+  !
+  timeout|timers|k||
+    hold-period|hold period|k||
+      <60-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    status-query|status query|k||
+      <10-1800>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    retransmit|retransmission|k||
+      <1-60>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    aaa|aaa timeout|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    revalidation|revalidation timer|k||
+      <5-86400>|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  logging|log eou events|k||
+    <cr>||||
+    !
+  !
+  default|defaults|k||
+    <cr>||||
+    !
+  !
+!
+cts|cisco trustsec on this interface|k||
+  role-based|role-based access control|k||
+    enforcement|enforce the rules on this interface|k||
+      <cr>||||
+      !
+    !
+  !
+  manual|manual trustsec settings|k||
+    <cr>||||@(config-if-cts-manual)# interface_cts_manual.cfm
+    !
+  !
+  dot1x|trustsec by 802.1x|k||
+    <cr>||||
+    !
+  !
+!
+isdn|isdn settings of this interface|k||
+  switch-type|isdn switch type|k||
+    basic-1tr6|1tr6 switch type for germany|k/o||
+      <cr>||||
+      !
+    !
+    basic-5ess|at&t 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    basic-dms100|northern dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-net3|net3 switch type for the uk and others|k/o||
+      <cr>||||
+      !
+    !
+    basic-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    basic-ts013|ts013 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-4ess|lucent 4ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-5ess|lucent 5ess switch type for the u.s.|k/o||
+      <cr>||||
+      !
+    !
+    primary-dms100|northern telecom dms-100 switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-net5|net5 switch type for the uk, europe, asia and australia|k/o||
+      <cr>||||
+      !
+    !
+    primary-ni|national isdn switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ntt|japan switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-qsig|qsig switch type|k/o||
+      <cr>||||
+      !
+    !
+    primary-ts014|ts014 switch type for australia|k/o||
+      <cr>||||
+      !
+    !
+  !
+  incoming-voice|treatment of incoming voice calls|k||
+    voice|as voice|k/o||
+      <cr>||||
+      !
+    !
+    modem|as modem calls|k/o||
+      <cr>||||
+      !
+    !
+    data|as data|k/o||
+      <cr>||||
+      !
+    !
+  !
+  protocol-emulate|side of the isdn link|k||
+    network|network side|k/o||
+      <cr>||||
+      !
+    !
+    user|user side|k/o||
+      <cr>||||
+      !
+    !
+  !
+  overlap-receiving|receive the number digit by digit|k||
+    <cr>||||
+    !
+  !
+  send-alerting|send alerting|k||
+    <cr>||||
+    !
+  !
+  sending-complete|send the sending-complete element|k||
+    <cr>||||
+    !
+  !
+  point-to-point-setup|point-to-point link|k||
+    <cr>||||
+    !
+  !
+  bind-l3|layer 3 binding|k||
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
+    !
+  !
+!
+ssid|radio service set of this radio|k||
+  word|ssid name|k||
+    <cr>||||
+    !
+  !
+!
+encryption|radio encryption|k||
+  vlan|encryption of a vlan|k||
+    <1-4094>|vlan id|k||
+      mode|encryption mode|k||
+        ciphers|cipher suite|k||
+          aes-ccm|aes counter mode with cbc-mac|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          ckip|cisco key integrity protocol|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          ckip-cmic|ckip with message integrity check|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          cmic|cisco message integrity check|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          tkip|temporal key integrity protocol|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          wep128|128-bit wep|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+          wep40|40-bit wep|k||
+            <cr>||||
+            !
+            aes-ccm|aes counter mode with cbc-mac|k||
+              <cr>||||
+              !
+            !
+            ckip|cisco key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            ckip-cmic|ckip with message integrity check|k||
+              <cr>||||
+              !
+            !
+            cmic|cisco message integrity check|k||
+              <cr>||||
+              !
+            !
+            tkip|temporal key integrity protocol|k||
+              <cr>||||
+              !
+            !
+            wep128|128-bit wep|k||
+              <cr>||||
+              !
+            !
+            wep40|40-bit wep|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+        wep|wep encryption|k||
+          mandatory|wep is required|k/o||
+            <cr>||||
+            !
+          !
+          optional|wep is optional|k/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  mode|encryption mode|k||
+    ciphers|cipher suite|k||
+      aes-ccm|aes counter mode with cbc-mac|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      ckip|cisco key integrity protocol|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      ckip-cmic|ckip with message integrity check|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      cmic|cisco message integrity check|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      tkip|temporal key integrity protocol|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      wep128|128-bit wep|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+      wep40|40-bit wep|k||
+        <cr>||||
+        !
+        aes-ccm|aes counter mode with cbc-mac|k||
+          <cr>||||
+          !
+        !
+        ckip|cisco key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        ckip-cmic|ckip with message integrity check|k||
+          <cr>||||
+          !
+        !
+        cmic|cisco message integrity check|k||
+          <cr>||||
+          !
+        !
+        tkip|temporal key integrity protocol|k||
+          <cr>||||
+          !
+        !
+        wep128|128-bit wep|k||
+          <cr>||||
+          !
+        !
+        wep40|40-bit wep|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    wep|wep encryption|k||
+      mandatory|wep is required|k/o||
+        <cr>||||
+        !
+      !
+      optional|wep is optional|k/o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+antenna|radio antenna settings|k||
+  gain|antenna gain|k||
+    id|dB|o||
+      <cr>||||
+      !
+    !
+  !
+  receive|receive antenna|k||
+    diversity|antenna diversity|k/o||
+      <cr>||||
+      !
+    !
+    left|left antenna|k/o||
+      <cr>||||
+      !
+    !
+    right|right antenna|k/o||
+      <cr>||||
+      !
+    !
+  !
+  transmit|transmit antenna|k||
+    diversity|antenna diversity|k/o||
+      <cr>||||
+      !
+    !
+    left|left antenna|k/o||
+      <cr>||||
+      !
+    !
+    right|right antenna|k/o||
+      <cr>||||
+      !
+    !
+  !
+!
+stbc|space-time block coding|k||
+  <cr>||||
+  !
+!
+mbssid|multiple bssid|k||
+  <cr>||||
+  !
+!
+peakdetect|peak detection|k||
+  <cr>||||
+  !
+!
+dfs|dynamic frequency selection|k||
+  band|dfs band|k||
+    <1-4>|band|k||
+      block|do not use the band|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+channel|radio channel|k||
+  least-congested|least congested channel|k/o||
+    <cr>||||
+    !
+    id|frequency|lb/le||
+      <cr>||||
+      !
+    !
+  !
+  width|channel width|k||
+    20|20 MHz|k/o||
+      <cr>||||
+      !
+    !
+    40-above|40 MHz above|k/o||
+      <cr>||||
+      !
+    !
+    40-below|40 MHz below|k/o||
+      <cr>||||
+      !
+    !
+    80|80 MHz|k/o||
+      <cr>||||
+      !
+    !
+  !
+  dfs|dynamic frequency selection|k||
+    <cr>||||
+    !
+  !
+  id|channel or frequency|o||
+    <cr>||||
+    !
+  !
+!
+station-role|role of the radio|k||
+  root|access point|k/o||
+    <cr>||||
+    !
+    access-point|access point|k||
+      <cr>||||
+      !
+    !
+    bridge|root bridge|k||
+      <cr>||||
+      !
+    !
+    ap-only|access point only|k||
+      <cr>||||
+      !
+    !
+  !
+  non-root|client|k/o||
+    <cr>||||
+    !
+    bridge|non-root bridge|k||
+      <cr>||||
+      !
+    !
+    wireless-clients|with wireless clients|k||
+      <cr>||||
+      !
+    !
+  !
+  repeater|repeater access point|k/o||
+    <cr>||||
+    !
+  !
+  workgroup-bridge|workgroup bridge|k/o||
+    <cr>||||
+    !
+  !
+  install|installation mode|k/o||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+world-mode|world mode|k||
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+beacon|radio beacon settings|k||
+  period|beacon period|k||
+    <20-4000>|kilomicroseconds|o||
+      <cr>||||
+      !
+    !
+  !
+  dtim-period|dtim period|k||
+    <1-100>|beacon intervals|o||
+      <cr>||||
+      !
+    !
+  !
+!
+bridge-group|transparent bridging|k||
+  <1-255>|bridge group|k||
+    <cr>||||
+    !
+    subscriber-loop-control|loop control|k||
+      <cr>||||
+      !
+    !
+    spanning-disabled|no spanning tree|k||
+      <cr>||||
+      !
+    !
+    block-unknown-source|block unknown sources|k||
+      <cr>||||
+      !
+    !
+    source-learning|learn the sources|k/sn||
+      <cr>||||
+      !
+    !
+    unicast-flooding|flood unknown unicast|k/sn||
+      <cr>||||
+      !
+    !
+    port-protected|protected port|k||
+      <cr>||||
+      !
+    !
+    path-cost|path cost|k||
+      id|cost|o||
+        <cr>||||
+        !
+      !
+    !
+    priority|port priority|k||
+      id|priority|o||
+        <cr>||||
+        !
+      !
+    !
+    input-address-list|input address list|k||
+      <700-799>|list|o||
+        <cr>||||
+        !
+      !
+    !
+    output-address-list|output address list|k||
+      <700-799>|list|o||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -2446,3 +2446,107 @@ gdoi|gdoi|k||
     !
   !
 !
+sctp|stream control transmission protocol|k||
+  asconf|address configuration change|k||
+    authenticate|authentication of address configuration chunks|k||
+      check|accept only authenticated address configuration chunks|k||
+        <cr>||||
+        !
+      !
+    !
+    auto|add and remove local addresses automatically|k/sb/o||
+      <cr>||||
+      !
+    !
+  !
+  authenticate|chunk types that must be authenticated|k/sb/o||
+    abort|abort chunks|k||
+      <cr>||||
+      !
+    !
+    asconf|address configuration chunks|k||
+      <cr>||||
+      !
+    !
+    asconf-ack|address configuration acknowledgements|k||
+      <cr>||||
+      !
+    !
+    authentication|authentication chunks|k||
+      <cr>||||
+      !
+    !
+    cookie-ack|cookie acknowledgements|k||
+      <cr>||||
+      !
+    !
+    cookie-echo|cookie echo chunks|k||
+      <cr>||||
+      !
+    !
+    cwr|congestion window reduced|k||
+      <cr>||||
+      !
+    !
+    data|data chunks|k||
+      <cr>||||
+      !
+    !
+    ecne|explicit congestion notification echo|k||
+      <cr>||||
+      !
+    !
+    error|operation error chunks|k||
+      <cr>||||
+      !
+    !
+    fwd-tsn|forward transmission sequence number|k||
+      <cr>||||
+      !
+    !
+    heartbeat|heartbeat requests|k||
+      <cr>||||
+      !
+    !
+    heartbeat-ack|heartbeat acknowledgements|k||
+      <cr>||||
+      !
+    !
+    init|initiation chunks|k||
+      <cr>||||
+      !
+    !
+    init-ack|initiation acknowledgements|k||
+      <cr>||||
+      !
+    !
+    packet-drop|packet drop reports|k||
+      <cr>||||
+      !
+    !
+    sack|selective acknowledgements|k||
+      <cr>||||
+      !
+    !
+    shutdown|shutdown chunks|k||
+      <cr>||||
+      !
+    !
+    shutdown-ack|shutdown acknowledgements|k||
+      <cr>||||
+      !
+    !
+    shutdown-complete|shutdown complete|k||
+      <cr>||||
+      !
+    !
+    stream-reset|stream reset|k||
+      <cr>||||
+      !
+    !
+    <16-255>|chunk type|k||
+      <cr>||||
+      !
+    !
+  !
+!

@@ -308,8 +308,8 @@ logout-warning|warning countdown before absolute timeout|k||
     !
   !
 !
-activation-character|define the activation character|k||
-  line|line|lb/le/wa||
+activation-character|define the activation character|k/n||
+  id|ascii value|o||
     <cr>||||
     !
   !
@@ -416,5 +416,81 @@ session-disconnect-warning|set warning countdown for session-timeout|k||
 !
 exit|exit from line configuration mode|k||
   <cr>||||
+  !
+!
+stop-character|stop character|k||
+  id|ascii value|o||
+    <cr>||||
+    !
+  !
+!
+start-character|start character|k||
+  id|ascii value|o||
+    <cr>||||
+    !
+  !
+!
+special-character-bits|size of the escape and other special characters|k||
+  7|7 bits|k/o||
+    <cr>||||
+    !
+  !
+  8|8 bits|k/o||
+    <cr>||||
+    !
+  !
+!
+flush-at-activation|clear pending input when the line starts|k/sn||
+  <cr>||||
+  !
+!
+domain-lookup|look up names in the domain name system|k/sn||
+  <cr>||||
+  !
+!
+autohangup|hang up when the last connection closes|k||
+  <cr>||||
+  !
+  session-timeout|also when the session times out|k||
+    <cr>||||
+    !
+  !
+!
+callback|callback settings of the line|k||
+  forced-wait|wait before a callback|k||
+    id|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  nodsr-wait|wait for dsr|k||
+    id|milliseconds|o||
+      <cr>||||
+      !
+    !
+  !
+!
+ip|ip settings of the line|k||
+  netmask-format|form of network masks|k||
+    bit-count|bit count|k/o||
+      <cr>||||
+      !
+    !
+    decimal|dotted decimal|k/o||
+      <cr>||||
+      !
+    !
+    hexadecimal|hexadecimal masks|k/o||
+      <cr>||||
+      !
+    !
+  !
+  tcp|tcp settings|k||
+    input-coalesce-threshold|input coalescing|k||
+      <5-255>|packets|o||
+        <cr>||||
+        !
+      !
+    !
   !
 !

@@ -699,8 +699,10 @@ authentication "authentication manager settings"
   control-direction
     line *
 dot1x "interface config commands for ieee 802.1x"
-  pae
-    line *
+  pae "port access entity role"
+    authenticator :o "act as the authenticator" $
+    supplicant :o "act as a supplicant" $
+    both :o "act as authenticator and supplicant" $
   timeout
     line *
   port-control

@@ -95,8 +95,8 @@ motd-banner $ "enable the display of the motd banner"
 exec-banner $ "enable the display of the exec and motd banners"
 logout-warning "warning countdown before absolute timeout"
   id $
-activation-character "define the activation character"
-  line *
+activation-character "define the activation character" :n
+  id :o "ascii value" $
 stopbits-character "stop bits of a character"
   line *
 databits "set number of data bits per character"

@@ -667,15 +667,18 @@ file crypto_cert.cfm
 certificate "exchange certificates"
   self-signed "self signed certificate"
     word :k "certificate serial number" $
+      word "file that holds the certificate (nvram:NAME.cer)" $
   ca "certificate authority certificate"
     word :k "certificate serial number" $
+      word "file that holds the certificate (nvram:NAME.cer)" $
   rollover
     line *
   word :k "certificate serial number" $
-# The certificate data follows its certificate line as rows of hex words and
-# ends with quit. The rows have no path and are not kept, and neither is
-# quit (sn: read, never stored), as a quit without its data says nothing. It
-# is read as a line of the chain, which keeps the chain one level deep.
+    word "file that holds the certificate (nvram:NAME.cer)" $
+# The certificate data follows its certificate line as rows of hex words
+# (certdata.g) and ends with quit. Rows and quit are read as lines of the
+# chain, which keeps the chain one level deep. A quit is not kept (sn: read,
+# never stored), as a quit without its data says nothing.
 quit "end of certificate data" :sn $
 
 

@@ -584,15 +584,6 @@ alias "create command alias"
   interface
     word :k
       %TEXT
-dial-peer "dial peer configuration"
-  cor
-    custom @(config-dp-cor)#=generic.cfm
-    list
-      word :k @(config-dp-corlist)#=generic.cfm
-  voice
-    id :k
-      voip @(config-dial-peer)#=generic.cfm
-      pots @(config-dial-peer)#=generic.cfm
 dialer-list "dialer list"
   id :k
     protocol
@@ -763,23 +754,9 @@ pseudowire-class "pseudowire class"
   word :k @(config-pw-class)#=generic.cfm
 l2tp-class "configure an l2tp class"
   word :k @(config-l2tp-class)#=generic.cfm
-voice "voice configuration"
-  service
-    voip @(config-voi-serv)#=generic.cfm
-  class
-    codec
-      id :k @(config-class)#=generic.cfm
-  translation-rule
-    id :k @(config-translate)#=generic.cfm
-  translation-profile
-    word :k @(config-translate)#=generic.cfm
-  rtp
-    send-recv $
 voice-card "configure a voice card"
   id :k @(config-voicecard)#=generic.cfm
 sccp "skinny client control protocol" $
-  line *
-stcapp $ "skinny telephony control application"
   line *
 card "card type"
   type

@@ -57,6 +57,12 @@ bool isShowCommand(const std::string& afterPrompt) {
   return word.size() >= 2 && std::string("show").compare(0, word.size(), word) == 0;
 }
 
+// A line that closes a banner with text before its delimiter.
+bool closesWithText(const std::string& line, char delimiter) {
+  const size_t mark = delimiter == '\0' ? std::string::npos : line.find(delimiter);
+  return mark != std::string::npos && line.find_first_not_of(" \t") < mark;
+}
+
 }  // namespace
 
 bool looksBinary(const std::string& text) {
@@ -185,7 +191,10 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
 
   // Banner text, followed the way the terminal does: a line that begins with
   // "bann" names the delimiter (the character behind its second blank); a
-  // line inside a banner without the delimiter is text.
+  // line inside a banner without the delimiter is text. So is the closing
+  // line when text stands before its delimiter ("*****^C"): the device ends
+  // the banner there and keeps the text, while the terminal hands the line to
+  // the grammar, which cannot take it.
   char delimiter = '\0';
   bool inside = false;
   for (const std::string& line : out.readerLines) {
@@ -199,7 +208,7 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
       out.bannerText.push_back(true);
       continue;
     }
-    out.bannerText.push_back(false);
+    out.bannerText.push_back(inside && closesWithText(line, delimiter));
     for (char c : line) {
       if (delimiter != '\0' && c == delimiter) inside = !inside;
     }

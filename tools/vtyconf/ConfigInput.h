@@ -27,7 +27,7 @@ struct ConfigInput {
   std::string text;                     // the text handed to the library
   std::vector<std::string> leftOut;     // "LINE: text" of every line left out
   std::vector<int> fileLines;           // file line of each non-empty line, in order
-  std::vector<bool> bannerText;         // per non-empty line: inside a banner
+  std::vector<bool> bannerText;         // per non-empty line: banner text (closing line with text too)
   std::vector<std::string> readerLines; // the non-empty lines as the library sees them
 
   // File line of the library's line number `number` (1-based); 0 if unknown.
