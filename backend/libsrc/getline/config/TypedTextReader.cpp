@@ -62,6 +62,7 @@ class Reading {
           std::vector<std::string>* prompts)
       : mVty(hostName, true), mCommands(commands), mRefused(refused), mPrompts(prompts) {
     mVty.setLinkCommands(true);
+    mVty.setRefuseRangeErrors(true);
     mVty.parse("enable\n", true, nullptr);
     mVty.parse("configure terminal \n", true, nullptr);
   }
@@ -82,7 +83,16 @@ class Reading {
       }
     }
     if (mVty.inBanner()) {
-      command(number, text, std::move(record));
+      // Banner text, or the line that closes the banner. The device keeps
+      // what stands before the closing delimiter as the banner's last line
+      // ("*****^C"), which the grammar cannot read: it is text, not refused.
+      if (!mVty.parseRecordLine(text, *record)) {
+        record = std::make_unique<CiscoCommandLine>();
+        record->setLineNo(number);
+        record->setFlag(CMD_TEXT);
+        record->setOriginalStr(text);
+      }
+      mCommands.push_back(record.release());
       return;
     }
     const auto words = wordsOf(text);

@@ -98,6 +98,10 @@ class VTYCONF_API VTY : public std::stringstream {
   // for an ambiguous short interface type (`int Po1`) is walked once more
   // with the type the device prefers (InterfaceTypeOrder). Off by default.
   void setPreferInterfaceTypes(bool prefer) { mPreferInterfaceTypes = prefer; }
+  // vtyconf's own: a line that raises the standard range error (a value of
+  // only zeros in a numeric range) is refused like any other wrong word,
+  // with the levels as they were, instead of letting the error out.
+  void setRefuseRangeErrors(bool refuse) { mRefuseRangeErrors = refuse; }
   // vtyconf's own: switches CLI mode between lines, for every mode's model
   // (the reading of typed text tries whole words first, as a stored
   // configuration is replayed, and abbreviations after that).
@@ -132,6 +136,7 @@ class VTYCONF_API VTY : public std::stringstream {
   bool mCliMode = false;
   bool mLinkCommands = false;
   bool mPreferInterfaceTypes = false;
+  bool mRefuseRangeErrors = false;
   size_t mLastErrorOffset = 0;
   std::string mHostName;
   std::string mAllConfigCmds;

@@ -9,6 +9,7 @@
 
 #include <cctype>
 #include <locale>
+#include <stdexcept>
 
 #include "config/CiscoCommandLine.h"
 #include "grammar/DefinitionLoader.h"
@@ -83,6 +84,20 @@ bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& m
     }
     return status == 0;
   } catch (const ParserException&) {
+    return false;
+  } catch (const std::out_of_range&) {
+    // A value the toolkit cannot take (zeros typed into a range) ends the
+    // walk with the standard range error, which the specified reading lets
+    // out. A terminal of ours that reads typed text refuses the line instead,
+    // as the device does, and puts the levels back.
+    if (!mOwner->mRefuseRangeErrors) throw;
+    clearOptionPairs();
+    std::swap(mLevels, mSavedLevels);
+    mInsideBanner = false;
+    mMajorLevel = mSavedMajorLevel;
+    mNewLevel = mSavedNewLevel;
+    mPrompt = mSavedPrompt;
+    errorText = kInvalidInput;
     return false;
   }
 }
