@@ -180,11 +180,16 @@ TEST_F(ProgramTest, ParseTurnsALibraryExceptionIntoFileAndLine) {
   // out-of-range error from the reader.
   std::string bad = tempFile("zeros.cfg", "hostname R1\n!\n\naccess-list 0 permit any\nhostname R2\n");
   std::string good = tempFile("good.cfg", "hostname R1\n");
-  ProgramRun run = runCli("--resources '" + kShipped + "' parse '" + bad + "' '" + good + "'");
+  ProgramRun run = runCli("--resources '" + kShipped + "' parse --replay '" + bad + "' '" + good + "'");
   EXPECT_EQ(run.exitCode, 2);
   EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: invalid string position\n")
       << "the file's own line, blank lines counted";
   EXPECT_NE(run.out.find("hostname R1"), std::string::npos) << "the next file is still read: " << run.out;
+  // Read as typed, the device refuses the line and the reading goes on.
+  run = runCli("--resources '" + kShipped + "' parse '" + bad + "'");
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: access-list 0 permit any\n");
+  EXPECT_NE(run.out.find("hostname R2"), std::string::npos) << run.out;
 }
 
 TEST_F(ProgramTest, HintListsTheNextWordsOfEveryLevel) {
