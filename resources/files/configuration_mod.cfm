@@ -666,13 +666,17 @@ banner|define a login banner|k||
 !
 router|enable a routing process|k||
   bgp|border gateway protocol|k||
-    <as>|autonomous system number|k||
+    1-4294967295|autonomous system number|k||
+      <cr>||||@(config-router)# router_bgp.cfm
+      !
+    !
+    1.0-65535.65535|autonomous system number|k||
       <cr>||||@(config-router)# router_bgp.cfm
       !
     !
   !
   ospf|open shortest path first|k||
-    id|process id|k||
+    1-65535|process id|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
       vrf|vrf|k||
@@ -684,13 +688,13 @@ router|enable a routing process|k||
     !
   !
   ospfv3|ospf version 3|k||
-    id|id|k||
+    1-65535|process id|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
     !
   !
   eigrp|enhanced interior gateway routing protocol|k||
-    id|autonomous system|k||
+    1-65535|autonomous system number|k||
       <cr>||||@(config-router)# router_eigrp.cfm
       !
     !
@@ -800,12 +804,12 @@ access-list|add an access list entry|k||
 !
 vlan|vlan commands|k||
   configuration|vlan feature configuration mode|k||
-    <vlan>|vlan id or list|k||
+    list/1-4094|vlan ids 1-4094|k||
       <cr>||||@(config-vlan-config)# vlan_config.cfm
       !
     !
   !
-  <vlan>|vlan id or list|k||
+  list/1-4094|isl vlan ids 1-4094|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !
   !

@@ -77,7 +77,7 @@ delay|specify interface throughput delay|k||
   !
 !
 mtu|set the interface maximum transmission unit|k||
-  id|id|o||
+  64-18000|mtu (bytes)|o||
     <cr>||||
     !
   !

@@ -982,7 +982,7 @@ tcp|tcp|k||
 !
 route|establish static routes|k||
   a.b.c.d|destination prefix|k||
-    a.b.c.d|destination prefix mask|k||
+    a.b.c.d/mask|destination prefix mask|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||

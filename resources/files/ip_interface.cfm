@@ -1,6 +1,6 @@
 address|set the ip address of an interface|k/n||
   a.b.c.d|ip address|o/n||
-    a.b.c.d|ip subnet mask|||
+    a.b.c.d/mask|ip subnet mask|||
       <cr>||||
       !
       secondary|secondary|k/a||
@@ -255,7 +255,7 @@ authentication|authentication|k||
   !
 !
 mtu|mtu|k||
-  id|id|o||
+  68-18000|mtu (bytes)|o||
     <cr>||||
     !
   !
@@ -688,7 +688,7 @@ ospf|ospf interface commands|k||
     !
   !
   cost|cost|k||
-    id|id|o||
+    1-65535|cost|o||
       <cr>||||
       !
     !

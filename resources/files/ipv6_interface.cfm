@@ -9,7 +9,7 @@ cef|cef|k||
   !
 !
 address|address|k||
-  <x:x::x/n>|ipv6 prefix, or the name of a general prefix|k||
+  ipv6/prefix|ipv6 prefix|k||
     <cr>||||
     !
     eui-64|eui-64|k||
@@ -24,16 +24,8 @@ address|address|k||
       <cr>||||
       !
     !
-    <x:x::x/n>|sub-prefix bits and length under the general prefix|k||
-      <cr>||||
-      !
-      eui-64|eui-64|k||
-        <cr>||||
-        !
-      !
-    !
   !
-  <x:x::x>|x:x::x|k||
+  ipv6/address|ipv6 link-local address|k||
     link-local|link-local|k||
       <cr>||||
       !
@@ -55,8 +47,8 @@ address|address|k||
       !
     !
   !
-  word|word|k||
-    <x:x::x/n>|x:x::x/n|k||
+  word|general prefix name|k||
+    ipv6/prefix|sub-prefix bits and length|k||
       <cr>||||
       !
       eui-64|eui-64|k||
@@ -264,7 +256,7 @@ ospf|ospf|k||
     !
   !
   cost|cost|k||
-    id|id|||
+    1-65535|cost|||
       <cr>||||
       !
     !
@@ -335,7 +327,7 @@ rip|rip|k||
   !
 !
 mtu|mtu|k||
-  id|id|o||
+  1280-18000|mtu (bytes)|o||
     <cr>||||
     !
   !

@@ -26,7 +26,7 @@ bandwidth "set bandwidth informational parameter"
 delay "specify interface throughput delay"
   id :o $
 mtu "set the interface maximum transmission unit"
-  id :o $
+  64-18000 :o "mtu (bytes)" $
 encapsulation "set encapsulation type for an interface"
   dot1q
     id :o $

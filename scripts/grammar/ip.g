@@ -216,7 +216,7 @@ tcp
     line *
 route "establish static routes"
   a.b.c.d :k "destination prefix"
-    a.b.c.d :k "destination prefix mask"
+    a.b.c.d/mask :k "destination prefix mask"
       %IF
         a.b.c.d :k "forwarding router's address" $
           id "distance metric" $

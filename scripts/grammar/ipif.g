@@ -1,7 +1,7 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
   a.b.c.d :o/n "ip address"
-    a.b.c.d "ip subnet mask" $
+    a.b.c.d/mask "ip subnet mask" $
       secondary :k/a $
         vrf
           word $
@@ -82,7 +82,7 @@ authentication
       id
         word $
 mtu
-  id :o $
+  68-18000 :o "mtu (bytes)" $
 tcp
   adjust-mss
     id :o $
@@ -218,7 +218,7 @@ ospf "ospf interface commands"
           line *
       a.b.c.d :k $
   cost
-    id :o $
+    1-65535 :o "cost" $
   network
     point-to-point :o $
     broadcast :o $
@@ -341,20 +341,18 @@ cef $
   accounting
     line *
 address
-  <x:x::x/n> :k "ipv6 prefix, or the name of a general prefix" $
+  ipv6/prefix :k "ipv6 prefix" $
     eui-64 $
     anycast $
     link-local $
-    <x:x::x/n> :k "sub-prefix bits and length under the general prefix" $
-      eui-64 $
-  <x:x::x> :k
+  ipv6/address :k "ipv6 link-local address"
     link-local $
   autoconfig $
     default $
   dhcp $
     rapid-commit $
-  word :k
-    <x:x::x/n> :k $
+  word :k "general prefix name"
+    ipv6/prefix :k "sub-prefix bits and length" $
       eui-64 $
 enable $
 unreachables $ :sn
@@ -419,7 +417,7 @@ ospf
         instance "instance id"
           id :o "instance" $
   cost
-    id $
+    1-65535 "cost" $
   network
     line *
   mtu-ignore $
@@ -442,7 +440,7 @@ rip
     enable $
     line *
 mtu
-  id :o $
+  1280-18000 :o "mtu (bytes)" $
 traffic-filter
   word :k
     in $

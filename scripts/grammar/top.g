@@ -214,15 +214,16 @@ banner "define a login banner"
     id :k "last line number" @(config-line)#=line.cfm
 router "enable a routing process"
   bgp "border gateway protocol"
-    <as> :k "autonomous system number" @(config-router)#=router_bgp.cfm
+    1-4294967295 :k "autonomous system number" @(config-router)#=router_bgp.cfm
+    1.0-65535.65535 :k "autonomous system number" @(config-router)#=router_bgp.cfm
   ospf "open shortest path first"
-    id :k "process id" @(config-router)#=router_ospf.cfm
+    1-65535 :k "process id" @(config-router)#=router_ospf.cfm
       vrf
         word :k @(config-router)#=router_ospf.cfm
   ospfv3 "ospf version 3"
-    id :k @(config-router)#=router_ospf.cfm
+    1-65535 :k "process id" @(config-router)#=router_ospf.cfm
   eigrp "enhanced interior gateway routing protocol"
-    id :k "autonomous system" @(config-router)#=router_eigrp.cfm
+    1-65535 :k "autonomous system number" @(config-router)#=router_eigrp.cfm
     word :k "virtual instance name" @(config-router)#=router_eigrp.cfm
   rip "routing information protocol" @(config-router)#=router_rip.cfm
   isis "intermediate system to intermediate system" @(config-router)#=router_isis.cfm
@@ -261,8 +262,8 @@ access-list "add an access list entry"
       %TEXT
 vlan "vlan commands"
   configuration "vlan feature configuration mode"
-    <vlan> :k "vlan id or list" @(config-vlan-config)#=vlan_config.cfm
-  <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
+    list/1-4094 :k "vlan ids 1-4094" @(config-vlan-config)#=vlan_config.cfm
+  list/1-4094 :k "isl vlan ids 1-4094" @(config-vlan)#=vlan.cfm
   internal
     allocation
       policy
