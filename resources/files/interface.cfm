@@ -1000,6 +1000,10 @@ tunnel|protocol-over-protocol tunneling|k||
       <cr>||||
       !
     !
+    ipv6/address|ipv6/address|o||
+      <cr>||||
+      !
+    !
     dynamic|dynamic|k||
       <cr>||||
       !
@@ -1214,6 +1218,8 @@ service-policy|configure qos service policy|k||
 !
 channel-group|etherchannel/port bundling configuration|k||
   id|id|o||
+    <cr>||||
+    !
     mode|mode|k||
       active|active|k||
         <cr>||||
@@ -1381,6 +1387,10 @@ mpls|configure mpls interface parameters|k||
         line|line|lb/le/wa||
           <cr>||||
           !
+        !
+      !
+      autoconfig|ldp autoconfiguration|k||
+        <cr>||||
         !
       !
     !
@@ -2601,6 +2611,22 @@ lacp|lacp interface subcommands|k||
       !
     !
   !
+  fast-switchover|fast switchover of the port channel|k||
+    <cr>||||
+    !
+  !
+  max-bundle|max-bundle|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  min-bundle|min-bundle|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
   rate|rate|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2769,6 +2795,22 @@ medium|interface medium|k||
   !
   broadcast|broadcast|k||
     <cr>||||
+    !
+  !
+!
+tx-queue-limit|transmit queue size|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+dot1q|dot1q settings|k||
+  tunneling|tunneling|k||
+    ethertype|ethertype|k||
+      word|ethertype|o||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -196,6 +196,14 @@ split-horizon|split-horizon|k||
     !
   !
 !
+next-hop-self|use this router as the next hop|k||
+  eigrp|eigrp|k||
+    1-65535|autonomous system number|k/sn||
+      <cr>||||
+      !
+    !
+  !
+!
 summary-address|summary-address|k||
   line|line|lb/le/wa||
     <cr>||||
@@ -331,6 +339,10 @@ verify|verify|k||
           !
           allow-default|allow-default|k||
             <cr>||||
+            !
+            id|id|||
+              <cr>||||
+              !
             !
           !
           id|id|||

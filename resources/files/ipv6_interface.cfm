@@ -207,6 +207,20 @@ nd|nd|k||
       !
     !
   !
+  raguard|router advertisement guard|k||
+    attach-policy|attach-policy|k||
+      word|policy name|o||
+        <cr>||||
+        !
+        vlan|vlan|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
 !
 mfib|mfib|k||
   forwarding|forwarding|k||
@@ -455,6 +469,36 @@ virtual-reassembly|virtual-reassembly|k||
   !
   line|line|lb/le/wa||
     <cr>||||
+    !
+  !
+!
+inspect|apply an inspection rule|k||
+  word|rule name|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+source-guard|ipv6 source guard|k||
+  attach-policy|attach-policy|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+!
+snooping|ipv6 snooping|k||
+  <cr>||||
+  !
+  attach-policy|attach-policy|k||
+    word|word|o||
+      <cr>||||
+      !
     !
   !
 !

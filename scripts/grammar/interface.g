@@ -317,6 +317,7 @@ tunnel "protocol-over-protocol tunneling"
   source
     %IF
     a.b.c.d :o $
+    ipv6/address :o $
     dynamic $
   destination
     a.b.c.d :o $
@@ -383,7 +384,7 @@ service-policy "configure qos service policy"
     line *
   word $
 channel-group "etherchannel/port bundling configuration"
-  id :o
+  id :o $
     mode
       active $
       passive $
@@ -437,6 +438,7 @@ mpls "configure mpls interface parameters"
     igp
       sync $
         line *
+      autoconfig "ldp autoconfiguration" $
     discovery
       transport-address
         line *
@@ -801,6 +803,11 @@ l2tp "l2tp interface settings"
 lacp "lacp interface subcommands"
   port-priority
     id $
+  fast-switchover "fast switchover of the port channel" $
+  max-bundle
+    id :o $
+  min-bundle
+    id :o $
   rate
     line *
 pagp "pagp interface subcommands"
@@ -857,6 +864,12 @@ routing "routing on the interface"
 medium "interface medium"
   p2p $
   broadcast $
+tx-queue-limit "transmit queue size"
+  id :o $
+dot1q "dot1q settings"
+  tunneling
+    ethertype
+      word :o "ethertype" $
 tx-ring-limit "transmit ring size"
   id :o "packets" $
 autostate "vlan interface state follows its ports" $ :sn

@@ -58,6 +58,9 @@ mroute-cache $ :sn
 split-horizon $ :sn
   eigrp
     id $
+next-hop-self "use this router as the next hop"
+  eigrp
+    1-65535 :k/sn "autonomous system number" $
 summary-address
   line *
 hello-interval
@@ -107,6 +110,7 @@ verify
       reachable-via
         rx $
           allow-default $
+            id $
           id $
         any $
           allow-default $
@@ -400,6 +404,11 @@ nd
     id $
   prefix-advertisement
     line *
+  raguard "router advertisement guard"
+    attach-policy
+      word :o "policy name" $
+        vlan
+          line *
 mfib
   forwarding
     input $
@@ -481,6 +490,16 @@ flowspec "flow specification" $ :sn
   line *
 virtual-reassembly $
   line *
+inspect "apply an inspection rule"
+  word :k "rule name"
+    in $
+    out $
+source-guard "ipv6 source guard"
+  attach-policy
+    word :o $
+snooping "ipv6 snooping" $
+  attach-policy
+    word :o $
 nat $
   line *
 access-list

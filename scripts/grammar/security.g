@@ -114,6 +114,14 @@ ntp "configure ntp"
           prefer :-k $
       version :-k
         id $
+      maxpoll :-k
+        4-17
+          minpoll
+            4-17
+              version
+                2-4 $
+                  burst $
+                    iburst $
       burst :-k $
       iburst :-k $
         line *
@@ -149,6 +157,15 @@ ntp "configure ntp"
     id $
   max-associations
     id $
+  allow "allow ntp packets"
+    mode "ntp mode"
+      control "control messages"
+        id :o "delay in seconds" $
+      private "private messages" $
+  mindistance "minimum distance"
+    1-16 :o $
+  maxdistance "maximum distance"
+    1-16 :o $
 logging "modify message logging facilities"
   a.b.c.d :k "ip address of the logging host" $
     line *
@@ -178,7 +195,7 @@ logging "modify message logging facilities"
     line * :o
   trap $
     line * :o
-  source-interface
+  source-interface :n
     %IF
       vrf
         word $
@@ -190,15 +207,15 @@ logging "modify message logging facilities"
     line *
   snmp-authfail $
   userinfo $
-  origin-id
+  origin-id :n
     line *
-  discriminator
+  discriminator :n
     word :k
       line *
   event
     line *
   count $
-  persistent
+  persistent :n
     line *
   queue-limit
     line *
@@ -226,6 +243,15 @@ logging "modify message logging facilities"
   server-arp $
   hostname
     line *
+  esm "event streaming"
+    config "log configuration changes" $
+  btrace "binary trace logging" $
+  buginf "debug messages through logging" $
+  policy-firewall "firewall logging"
+    rate-limit
+      id :o "seconds" $
+  delimiter "message delimiter"
+    tcp $
 snmp-server "modify snmp engine parameters"
   community
     word :k

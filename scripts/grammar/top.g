@@ -91,7 +91,20 @@ service "modify use of network based services"
       uptime $
   password-encryption $ :sb/o
   pad $ :sn
+    to-xot "accept outgoing pad connections over x.25 over tcp" $
+    from-xot "accept xot to pad connections" $
+    cmns "enable pad over cmns connections" $
   config $ :sn
+  log "log settings"
+    backtrace "provide backtrace information" $
+  exec-callback "enable exec callback" $
+  slave-coredump "core dump of the standby processor" $
+  telnet-zeroidle "set the tcp window to zero when the vty is idle" $
+  exec-wait "delay the exec startup on noisy lines" $
+  scripting "enable the scripting prompt" $
+  old-slip-prompts "allow old-style slip prompts" $
+  pt-vty-logging "log the protocol translation vty connections" $
+  disable-ip-fast-frag "disable ip fast fragmentation" $
   tcp-keepalives-in $
   tcp-keepalives-out $
   tcp-small-servers $
@@ -419,6 +432,10 @@ virtual-service "virtual service"
   word :k @(config-virt-serv)#=generic.cfm
 archive "archive configuration" @(config-archive)#=archive.cfm
 cdp "global cdp configuration"
+  tlv "cdp type-length-values"
+    app $
+    location $
+    server-location $
   run $ :sn
   advertise-v2 $ :sn
   timer
@@ -479,6 +496,14 @@ memory "memory configuration"
     critical
       id $
   lite $
+  check-interval "free memory check interval"
+    id :o "seconds" $
+  validate-checksum "text segment checksum validation"
+    id :o "seconds" $
+  chunk "chunk manager settings"
+    siblings
+      threshold
+        id :o $
 memory-size "adjust memory size by percentage"
   iomem
     id $
@@ -572,10 +597,15 @@ security "security commands"
 spd "selective packet discard"
   headroom
     id :o $
+  extended-headroom "extended headroom for priority packets"
+    id :o $
   enable $
   mode
     aggressive $
 alias "create command alias"
+  atm-vc-config "atm virtual circuit mode"
+    word :k
+      line *
   exec
     word :k
       %TEXT
@@ -621,13 +651,40 @@ bba-group "bba group"
     word :k @(config-bba-group)#=generic.cfm
 mpls "mpls configuration"
   ldp
+    logging "ldp logging"
+      neighbor-changes "log neighbor state changes" $
+      password "log password events"
+        configuration "password configuration changes" $
+          rate-limit
+            1-60 $
+        rollover "password rollover events" $
+          rate-limit
+            1-60 $
+    graceful-restart $
+      timers "graceful restart timers"
+        neighbor-liveness
+          5-300 :o "seconds" $
+        max-recovery
+          15-600 :o "seconds" $
+        forwarding-holding
+          30-600 :o "seconds" $
+    holdtime "ldp session holdtime"
+      15-2147483 :o "seconds" $
+    advertise-labels "advertise label bindings" $
+      for
+        word :k $
+          to
+            word $
+      interface
+        %IF
+    maxhops "limit hop count for ldp loop detection"
+      1-255 :o "hop count" $
     router-id
       %IF
         force $
       a.b.c.d $
         force $
     explicit-null $
-    graceful-restart $
     session
       protection $
     discovery
@@ -655,6 +712,48 @@ mpls "mpls configuration"
     protocol
       ldp $
       tdp $
+    mode "label allocation mode"
+      all-vrfs "all vrfs"
+        protocol
+          all-afs "all address families"
+            per-prefix "a label for each prefix" $
+            per-vrf "one label for the vrf" $
+            per-ce "a label for each ce" $
+          bgp-vpnv4
+            per-prefix $
+            per-vrf $
+            per-ce $
+          bgp-vpnv6
+            per-prefix $
+            per-vrf $
+            per-ce $
+      vrf
+        word :k
+          protocol
+            all-afs
+              per-prefix $
+              per-vrf $
+              per-ce $
+  mldp "multipoint ldp" $
+    forwarding "mldp forwarding"
+      recursive "recursive forwarding" $
+    path "path selection"
+      multipath "load balancing over paths"
+        upstream $
+        downstream $
+    logging "mldp logging"
+      notifications "mldp notifications" $
+  export "export mpls vpn information"
+    vpnv4 "vpnv4 information"
+      prefixes $
+    interval "export interval"
+      0-1440 :o "minutes" $
+  discovery "mpls discovery"
+    vpn "vpn discovery"
+      interval
+        30-86400 :o "seconds" $
+      next-hop $
+      edgerouter $
   traffic-eng
     tunnels $
     line *
@@ -698,6 +797,11 @@ tacacs-server "tacacs server configuration"
     id $
   directed-request $
   administration $
+  cache "tacacs server cache"
+    expiry "cache expiry"
+      id :o "hours" $
+        enforce "do not use expired entries" $
+          hours $
 tacacs "tacacs server"
   server
     word :k @(config-server-tacacs)#=server.cfm
@@ -795,6 +899,11 @@ network-clock "configure network clock"
 network-clock-select "select a network clock source"
   line *
 scheduler "scheduler parameters"
+  process-watchdog "action for looping processes"
+    hang $
+    normal $
+    reload $
+    terminate $
   allocate $
     id
       id $
@@ -807,3 +916,4 @@ ip "global ip configuration" &ip_global.cfm
 %SECTOP
 %SWTOP
 %MISCTOP
+%WIDETOP
