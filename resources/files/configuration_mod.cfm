@@ -3877,7 +3877,31 @@ crypto|encryption module|k||
       !
     !
     key|key|k||
-      id|id|||
+      0|an unencrypted key follows|||
+        word|word|||
+          address|address|k||
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+              a.b.c.d|a.b.c.d|||
+                <cr>||||
+                !
+              !
+              no-xauth|no-xauth|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+          hostname|hostname|k||
+            word|word|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      6|an encrypted key follows|||
         word|word|||
           address|address|k||
             a.b.c.d|a.b.c.d|k||
@@ -4247,6 +4271,14 @@ crypto|encryption module|k||
     profile|profile|k||
       word|word|k||
         <cr>||||@(config-ikev2-profile)# crypto_ikev2.cfm
+        !
+      !
+    !
+    authorization|authorization policies|k||
+      policy|policy|k||
+        word|word|k||
+          <cr>||||@(config-ikev2-author-policy)# crypto_ikev2.cfm
+          !
         !
       !
     !

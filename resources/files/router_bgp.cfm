@@ -38,6 +38,10 @@ bgp|bgp specific commands|k||
       <cr>||||
       !
     !
+    ipv6-nexthop|ipv6 next hops for ipv4 prefixes|k||
+      <cr>||||
+      !
+    !
     local-preference|local-preference|k||
       id|id|||
         <cr>||||
@@ -157,6 +161,50 @@ bgp|bgp specific commands|k||
     reflection|reflection|k||
       <cr>||||
       !
+      intra-cluster|reflection inside the cluster|k||
+        cluster-id|cluster-id|k||
+          any|any|k||
+            <cr>||||
+            !
+          !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  route-map-cache|cache route-map results|k||
+    <cr>||||
+    !
+  !
+  dynamic-med-interval|interval of dynamic med changes|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  refresh|route refresh settings|k||
+    stalepath-time|stalepath-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    max-eor-time|max-eor-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  update-group|update group settings|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
+      !
     !
   !
   suppress-inactive|suppress-inactive|k||
@@ -175,7 +223,7 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  consistency-checker|consistency-checker|k||
+  consistency-checker|consistency-checker|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -2323,6 +2371,20 @@ bgp|bgp specific commands|k||
   !
   scan-time|scan-time|k||
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  update-group|update-group|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  aggregate-timer|aggregate-timer|k||
+    id|id|||
       <cr>||||
       !
     !

@@ -907,6 +907,20 @@ bgp|bgp specific commands|k||
       !
     !
   !
+  update-group|update-group|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  aggregate-timer|aggregate-timer|k||
+    id|id|||
+      <cr>||||
+      !
+    !
+  !
 !
 distance|define an administrative distance|k||
   line|line|lb/le/wa||

@@ -616,9 +616,29 @@ limit|limit a specific ospf feature|k||
       id|retransmission limit|o||
         <cr>||||
         !
+        non-dc|non-demand-circuit retransmissions|k||
+          id|retransmission limit|o||
+            <cr>||||
+            !
+          !
+          disable|disable the feature|k||
+            <cr>||||
+            !
+          !
+        !
       !
       disable|disable the feature|k||
         <cr>||||
+        !
+        non-dc|non-demand-circuit retransmissions|k||
+          id|retransmission limit|o||
+            <cr>||||
+            !
+          !
+          disable|disable the feature|k||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -631,6 +651,12 @@ limit|limit a specific ospf feature|k||
         <cr>||||
         !
       !
+    !
+  !
+!
+priority|priority of the ospf process|k||
+  0-127|0-127|o||
+    <cr>||||
     !
   !
 !

@@ -209,6 +209,11 @@ def AFBODY
       line *
     scan-time
       line *
+    update-group
+      split
+        as-override $
+    aggregate-timer
+      id $
   distance "define an administrative distance"
     line *
   table-map "map external entry attributes into routing table"
@@ -244,6 +249,7 @@ bgp "bgp specific commands"
       auto-assign $
   default
     ipv4-unicast $ :sn
+    ipv6-nexthop "ipv6 next hops for ipv4 prefixes" $
     local-preference
       id $
     route-target
@@ -281,12 +287,27 @@ bgp "bgp specific commands"
     line *
   client-to-client
     reflection $
+      intra-cluster "reflection inside the cluster"
+        cluster-id
+          any $
+          a.b.c.d :k $
+  route-map-cache "cache route-map results" $
+  dynamic-med-interval "interval of dynamic med changes"
+    id :o $
+  refresh "route refresh settings"
+    stalepath-time
+      id :o $
+    max-eor-time
+      id :o $
+  update-group "update group settings"
+    split
+      as-override $
   suppress-inactive $
   recursion
     host $
   nexthop
     line *
-  consistency-checker
+  consistency-checker :n
     line *
   inject-map
     line *
@@ -525,10 +546,18 @@ def OSPFBODY
     retransmissions "ospf retransmission limits"
       dc "demand circuit retransmissions"
         id :o "retransmission limit" $
+          non-dc "non-demand-circuit retransmissions"
+            id :o "retransmission limit" $
+            disable "disable the feature" $
         disable "disable the feature" $
+          non-dc "non-demand-circuit retransmissions"
+            id :o "retransmission limit" $
+            disable "disable the feature" $
       non-dc "non-demand-circuit retransmissions"
         id :o "retransmission limit" $
         disable "disable the feature" $
+  priority "priority of the ospf process"
+    0-127 :o $
   traffic-share "how to compute traffic share over alternate paths"
     min "all traffic shared among min metric paths"
       across-interfaces "use different interfaces for equal-cost paths" $
@@ -671,6 +700,17 @@ address-family "enter address family command mode"
         id @(config-router-af)#=router_eigrp_af.cfm
     autonomous-system
       id @(config-router-af)#=router_eigrp_af.cfm
+service-family "enter service family command mode"
+  ipv4 "ipv4 service family"
+    autonomous-system
+      1-65535 @(config-router-sf)#=router_eigrp_af.cfm
+    vrf
+      word :k
+        autonomous-system
+          1-65535 @(config-router-sf)#=router_eigrp_af.cfm
+  ipv6 "ipv6 service family"
+    autonomous-system
+      1-65535 @(config-router-sf)#=router_eigrp_af.cfm
 no-shutdown $ "bring the routing process up"
 shutdown $ "shutdown the eigrp process"
 nsf $ "non-stop forwarding"
@@ -692,6 +732,7 @@ topology
   base @(config-router-af-topology)#=router_eigrp_topo.cfm
   word @(config-router-af-topology)#=router_eigrp_topo.cfm
 exit-address-family $
+exit-service-family "exit from service family configuration mode" $
 metric
   line *
 shutdown $
@@ -740,6 +781,7 @@ traffic-share
 timers
   line *
 exit-af-topology $
+exit-sf-topology "exit from service family topology mode" $
 
 file router_rip.cfm
 version
@@ -778,6 +820,12 @@ output-delay
 file router_isis.cfm
 net
   <value> :k $
+distribute "distribute routing information"
+  link-state "distribute link-state information to bgp" $
+    instance-id
+      id :o $
+    level-1 $
+    level-2 $
 is-type
   line * :o
 metric-style

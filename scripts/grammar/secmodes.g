@@ -62,6 +62,12 @@ match "classification criteria"
     id :k $
     name
       word :k $
+    input "input access group"
+      name
+        word :k $
+    output "output access group"
+      name
+        word :k $
   any $
   class-map
     word $
@@ -680,6 +686,23 @@ quit "end of certificate data" :sn $
 
 
 file crypto_ikev2.cfm
+pki "pki settings"
+  trustpoint
+    word :k $
+      sign $
+      verify $
+route "route settings"
+  set
+    interface $
+      %IF
+    access-list
+      word $
+  accept
+    any $
+      tag
+        id $
+      distance
+        id $
 encryption
   line *
 integrity

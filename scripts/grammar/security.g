@@ -365,7 +365,15 @@ crypto "encryption module"
     profile
       word :k @(conf-isa-prof)#=crypto_isakmp_prof.cfm
     key
-      id
+      0 :-k "an unencrypted key follows"
+        word
+          address
+            a.b.c.d :k $
+              a.b.c.d $
+              no-xauth $
+          hostname
+            word :k $
+      6 :-k "an encrypted key follows"
         word
           address
             a.b.c.d :k $
@@ -488,6 +496,9 @@ crypto "encryption module"
       word :k @(config-ikev2-keyring)#=crypto_ikev2.cfm
     profile
       word :k @(config-ikev2-profile)#=crypto_ikev2.cfm
+    authorization "authorization policies"
+      policy
+        word :k @(config-ikev2-author-policy)#=crypto_ikev2.cfm
     line *
   call
     admission
