@@ -385,6 +385,12 @@ redundancy|redundancy configuration|k||
   !
 !
 multilink|ppp multilink|k||
+  virtual-template|virtual template for multilink bundles|k||
+    0-25|0-25|o||
+      <cr>||||
+      !
+    !
+  !
   bundle-name|bundle-name|k||
     authenticated|authenticated|k||
       <cr>||||
@@ -2264,7 +2270,7 @@ mpls|mpls configuration|k||
         !
       !
     !
-    interval|export interval|k||
+    interval|export interval|k/n||
       0-1440|minutes|o||
         <cr>||||
         !
@@ -2273,7 +2279,7 @@ mpls|mpls configuration|k||
   !
   discovery|mpls discovery|k||
     vpn|vpn discovery|k||
-      interval|interval|k||
+      interval|interval|k/n||
         30-86400|seconds|o||
           <cr>||||
           !
@@ -2893,7 +2899,35 @@ aaa|authentication, authorization and accounting|k||
       !
     !
   !
+  memory|aaa memory settings|k||
+    threshold|threshold|k||
+      authentication|authentication|k||
+        reject|reject|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      accounting|accounting|k||
+        disable|disable|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
   accounting|accounting|k||
+    jitter|jitter of periodic accounting|k||
+      maximum|maximum|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
     exec|exec|k||
       word|word|k||
         line|line|lb/le/wa||
@@ -3954,6 +3988,14 @@ crypto|encryption module|k||
         !
       !
     !
+    diagnose|diagnostics|k||
+      error|error|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
     keepalive|keepalive|k||
       id|id|o||
         <cr>||||
@@ -4102,6 +4144,12 @@ crypto|encryption module|k||
     !
     optional|optional|k||
       <cr>||||
+      !
+      retry|retry interval|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -5642,6 +5690,12 @@ parameter-map|parameter map|k||
         !
       !
     !
+    ooo|out-of-order packet handling|k||
+      global|global|k||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
   !
 !
 parser|configure parser|k||
@@ -6927,6 +6981,20 @@ mac-address-table|mac address table|k||
 config-register|define the configuration register|k||
   word|configuration register value|o||
     <cr>||||
+    !
+  !
+!
+auto|automatic settings|k||
+  qos|automatic quality of service|k||
+    srnd4|the srnd4 model|k||
+      <cr>||||
+      !
+    !
+    global|global|k||
+      compact|compact|k||
+        <cr>||||
+        !
+      !
     !
   !
 !

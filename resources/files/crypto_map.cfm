@@ -78,6 +78,50 @@ set|set values for encryption/decryption|k||
         !
       !
     !
+    dfbit|df bit of the outer header|k||
+      clear|clear|k||
+        <cr>||||
+        !
+      !
+      copy|copy|k||
+        <cr>||||
+        !
+      !
+      set|set|k||
+        <cr>||||
+        !
+      !
+    !
+    idle-time|idle time|k||
+      id|id|o||
+        <cr>||||
+        !
+        default|default|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    dummy|dummy packets|k||
+      pps|pps|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    ecn|explicit congestion notification|k||
+      <cr>||||
+      !
+      discard|discard|k||
+        <cr>||||
+        !
+      !
+      propagate|propagate|k||
+        <cr>||||
+        !
+      !
+    !
     idle-time|idle-time|k||
       line|line|lb/le/wa||
         <cr>||||

@@ -315,7 +315,9 @@ http|http|k||
       !
     !
   !
-  path|path|k/n||
+  path|path|k||
+    <cr>||||
+    !
     line|line|lb/le/wa||
       <cr>||||
       !

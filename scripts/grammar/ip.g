@@ -100,7 +100,7 @@ http
           id
             requests
               id $
-  path :n
+  path $
     line *
   upload "file upload"
     overwrite $

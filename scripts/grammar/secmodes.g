@@ -559,6 +559,19 @@ set "set values for encryption/decryption"
         disable $
     level
       line *
+    dfbit "df bit of the outer header"
+      clear $
+      copy $
+      set $
+    idle-time "idle time"
+      id :o $
+        default $
+    dummy "dummy packets"
+      pps
+        id :o $
+    ecn "explicit congestion notification" $
+      discard $
+      propagate $
     idle-time
       line *
     replay

@@ -45,7 +45,18 @@ aaa "authentication, authorization and accounting"
       line *
     reverse-access
       line *
+  memory "aaa memory settings"
+    threshold
+      authentication
+        reject
+          id :o $
+      accounting
+        disable
+          id :o $
   accounting
+    jitter "jitter of periodic accounting"
+      maximum
+        id :o $
     exec
       word :k
         line *
@@ -390,6 +401,9 @@ crypto "encryption module"
             line *
         hostname
           word :k $
+    diagnose "diagnostics"
+      error
+        id :o $
     keepalive
       id :o $
         id $
@@ -438,6 +452,8 @@ crypto "encryption module"
     fragmentation
       line *
     optional $
+      retry "retry interval"
+        id :o $
   map
     word :k
       id :k

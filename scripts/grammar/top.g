@@ -130,6 +130,8 @@ control-plane "control plane configuration" @(config-cp)#=control_plane.cfm
   host @(config-cp-host)#=control_plane.cfm
 redundancy "redundancy configuration" @(config-red)#=redundancy.cfm
 multilink "ppp multilink"
+  virtual-template "virtual template for multilink bundles"
+    0-25 :o $
   bundle-name
     authenticated $
     endpoint $
@@ -746,11 +748,11 @@ mpls "mpls configuration"
   export "export mpls vpn information"
     vpnv4 "vpnv4 information"
       prefixes $
-    interval "export interval"
+    interval "export interval" :n
       0-1440 :o "minutes" $
   discovery "mpls discovery"
     vpn "vpn discovery"
-      interval
+      interval :n
         30-86400 :o "seconds" $
       next-hop $
       edgerouter $

@@ -404,6 +404,11 @@ mac-address-table "mac address table"
     id :o $
 config-register "define the configuration register"
   word :o "configuration register value" $
+auto "automatic settings"
+  qos "automatic quality of service"
+    srnd4 "the srnd4 model" $
+    global
+      compact $
 service-routing "service routing"
   capabilities-manager $
 "file" "file settings"
