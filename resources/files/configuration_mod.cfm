@@ -722,17 +722,17 @@ banner|define a login banner|k||
 !
 router|enable a routing process|k||
   bgp|border gateway protocol|k||
-    1-4294967295|autonomous system number|k||
+    1-4294967295|Autonomous system number|k||
       <cr>||||@(config-router)# router_bgp.cfm
       !
     !
-    1.0-65535.65535|autonomous system number|k||
+    1.0-65535.65535|Autonomous system number|k||
       <cr>||||@(config-router)# router_bgp.cfm
       !
     !
   !
   ospf|open shortest path first|k||
-    1-65535|process id|k||
+    1-65535|Process ID|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
       vrf|vrf|k||
@@ -744,17 +744,17 @@ router|enable a routing process|k||
     !
   !
   ospfv3|ospf version 3|k||
-    1-65535|process id|k||
+    1-65535|Process ID|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
     !
   !
   eigrp|enhanced interior gateway routing protocol|k||
-    1-65535|autonomous system number|k||
+    1-65535|Autonomous System|k||
       <cr>||||@(config-router)# router_eigrp.cfm
       !
     !
-    word|virtual instance name|k||
+    word|EIGRP Virtual-Instance Name|k||
       <cr>||||@(config-router)# router_eigrp.cfm
       !
     !
@@ -777,7 +777,7 @@ router|enable a routing process|k||
   !
 !
 access-list|add an access list entry|k||
-  <1-99>|ip standard access list|k/n||
+  1-99|IP standard access list|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -791,7 +791,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <1300-1999>|ip standard access list (expanded range)|k/n||
+  1300-1999|IP standard access list (expanded range)|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -805,7 +805,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <100-199>|ip extended access list|k/n||
+  100-199|IP extended access list|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm
@@ -825,7 +825,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <700-799>|48-bit mac address access list|k/n||
+  700-799|48-bit MAC address access list|k/n||
     permit|specify addresses to forward|||
       h.h.h|48-bit mac address|||
         h.h.h|mask of bits to ignore|||
@@ -843,7 +843,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <2000-2699>|ip extended access list (expanded range)|k/n||
+  2000-2699|IP extended access list (expanded range)|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm
@@ -860,12 +860,12 @@ access-list|add an access list entry|k||
 !
 vlan|vlan commands|k||
   configuration|vlan feature configuration mode|k||
-    list/1-4094|vlan ids 1-4094|k||
+    list/1-4094|VLAN IDs 1-4094|k||
       <cr>||||@(config-vlan-config)# vlan_config.cfm
       !
     !
   !
-  list/1-4094|isl vlan ids 1-4094|k||
+  list/1-4094|ISL VLAN IDs 1-4094|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !
   !
@@ -1135,26 +1135,26 @@ spanning-tree|spanning tree subsystem|k||
   !
 !
 route-map|create route-map or enter route-map command mode|k||
-  word|route map tag|k||
+  word|Route map tag|k||
     <cr>||||@(config-route-map)# route_map.cfm
     !
-    permit|route map permits set operations|k||
+    permit|Route map permits set operations|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
-      id|sequence to insert to/delete from existing route-map entry|k||
+      0-65535|Sequence to insert to/delete from existing route-map entry|k||
         <cr>||||@(config-route-map)# route_map.cfm
         !
       !
     !
-    deny|route map denies set operations|k||
+    deny|Route map denies set operations|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
-      id|sequence to insert to/delete from existing route-map entry|k||
+      0-65535|Sequence to insert to/delete from existing route-map entry|k||
         <cr>||||@(config-route-map)# route_map.cfm
         !
       !
     !
-    id|id|k||
+    0-65535|Sequence to insert to/delete from existing route-map entry|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
     !
@@ -3803,8 +3803,8 @@ snmp|modify snmp engine parameters|k||
   !
 !
 key|key management|k||
-  chain|chain|k||
-    word|word|k||
+  chain|Key-chain management|k||
+    word|Key-chain name|k||
       <cr>||||@(config-keychain)# key_chain.cfm
       !
     !
@@ -3817,14 +3817,14 @@ key|key management|k||
   !
 !
 class-map|configure class map|k||
-  match-all|match-all|k||
-    word|word|k||
+  match-all|Logical-AND all matching statements under this classmap|k||
+    word|class-map name|k||
       <cr>||||@(config-cmap)# class_map.cfm
       !
     !
   !
-  match-any|match-any|k||
-    word|word|k||
+  match-any|Logical-OR all matching statements under this classmap|k||
+    word|class-map name|k||
       <cr>||||@(config-cmap)# class_map.cfm
       !
     !
@@ -3855,7 +3855,7 @@ class-map|configure class map|k||
       !
     !
   !
-  word|word|k||
+  word|class-map name|k||
     <cr>||||@(config-cmap)# class_map.cfm
     !
   !
@@ -3883,14 +3883,14 @@ policy-map|configure qos service policy|k||
       !
     !
   !
-  word|word|k||
+  word|policy-map name|k||
     <cr>||||@(config-pmap)# policy_map.cfm
     !
   !
 !
 vrf|vrf commands|k||
-  definition|definition|k||
-    word|word|k||
+  definition|VRF definition|k||
+    word|VRF name|k||
       <cr>||||@(config-vrf)# vrf.cfm
       !
     !
@@ -3898,8 +3898,8 @@ vrf|vrf commands|k||
 !
 crypto|encryption module|k||
   isakmp|isakmp|k||
-    policy|policy|k||
-      id|id|k||
+    policy|Set policy for an ISAKMP protection suite|k||
+      1-10000|Priority of protection suite|k||
         <cr>||||@(config-isakmp)# crypto_isakmp.cfm
         !
       !
@@ -4153,9 +4153,9 @@ crypto|encryption module|k||
       !
     !
   !
-  map|map|k||
-    word|word|k||
-      id|id|k||
+  map|Enter a crypto map|k||
+    word|Crypto map tag|k||
+      1-65535|Sequence to insert into crypto map entry|k||
         ipsec-isakmp|ipsec-isakmp|k||
           <cr>||||@(config-crypto-map)# crypto_map.cfm
           !

@@ -1979,8 +1979,8 @@ nat|nat configuration|k||
   !
 !
 dhcp|configure dhcp server and relay parameters|k||
-  pool|pool|k||
-    word|word|k||
+  pool|Configure DHCP address pools|k||
+    word|Pool name|k||
       <cr>||||@(dhcp-config)# dhcp_pool.cfm
       !
     !

@@ -53,6 +53,50 @@ area|ospf area parameters|k||
         <cr>||||
         !
       !
+      ipsec|use ipsec authentication|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            md5|md5|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+            sha1|sha1|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    encryption|enable encryption|k||
+      ipsec|use ipsec encryption|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            esp|esp|k||
+              word|encryption algorithm|||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              null|null|k||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      null|null|k||
+        <cr>||||
+        !
+      !
     !
     stub|specify a stub area|k||
       <cr>||||
@@ -220,6 +264,50 @@ area|ospf area parameters|k||
         !
       !
       null|use no authentication|k||
+        <cr>||||
+        !
+      !
+      ipsec|use ipsec authentication|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            md5|md5|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+            sha1|sha1|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    encryption|enable encryption|k||
+      ipsec|use ipsec encryption|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            esp|esp|k||
+              word|encryption algorithm|||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              null|null|k||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      null|null|k||
         <cr>||||
         !
       !

@@ -456,8 +456,8 @@ nat "nat configuration"
   service
     line *
 dhcp "configure dhcp server and relay parameters"
-  pool
-    word :k @(dhcp-config)#=dhcp_pool.cfm
+  pool "Configure DHCP address pools"
+    word :k "Pool name" @(dhcp-config)#=dhcp_pool.cfm
   class "configure a dhcp class"
     word :k "class name" @(config-dhcp-class)#=dhcp_class.cfm
   excluded-address

@@ -402,6 +402,23 @@ def OSPFAREA
   authentication "enable authentication" $
     message-digest "use message-digest authentication" $
     null "use no authentication" $
+    ipsec "use ipsec authentication"
+      spi
+        256-4294967295 :k "security policy index"
+          md5
+            word :o "authentication key" $
+          sha1
+            word :o "authentication key" $
+  encryption "enable encryption"
+    ipsec "use ipsec encryption"
+      spi
+        256-4294967295 :k "security policy index"
+          esp
+            word "encryption algorithm"
+              line * :o
+            null
+              line * :o
+    null $
   stub "specify a stub area" $
     no-summary "do not send summary lsa into stub area" $
     no-ext-capability "do not send domain specific capabilities into stub area" $

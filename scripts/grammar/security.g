@@ -337,15 +337,15 @@ snmp "modify snmp engine parameters"
   mib
     line *
 key "key management"
-  chain
-    word :k @(config-keychain)#=key_chain.cfm
+  chain "Key-chain management"
+    word :k "Key-chain name" @(config-keychain)#=key_chain.cfm
   config-key
     line *
 class-map "configure class map"
-  match-all
-    word :k @(config-cmap)#=class_map.cfm
-  match-any
-    word :k @(config-cmap)#=class_map.cfm
+  match-all "Logical-AND all matching statements under this classmap"
+    word :k "class-map name" @(config-cmap)#=class_map.cfm
+  match-any "Logical-OR all matching statements under this classmap"
+    word :k "class-map name" @(config-cmap)#=class_map.cfm
   type
     inspect
       match-all
@@ -355,7 +355,7 @@ class-map "configure class map"
       word :k @(config-cmap)#=class_map.cfm
     word
       line * @(config-cmap)#=class_map.cfm
-  word :k @(config-cmap)#=class_map.cfm
+  word :k "class-map name" @(config-cmap)#=class_map.cfm
 policy-map "configure qos service policy"
   type
     inspect
@@ -365,14 +365,14 @@ policy-map "configure qos service policy"
         word :k "policy map name" @(config-event-control-policymap)#=policy_ctrl.cfm
     word
       line * @(config-pmap)#=policy_map.cfm
-  word :k @(config-pmap)#=policy_map.cfm
+  word :k "policy-map name" @(config-pmap)#=policy_map.cfm
 vrf "vrf commands"
-  definition
-    word :k @(config-vrf)#=vrf.cfm
+  definition "VRF definition"
+    word :k "VRF name" @(config-vrf)#=vrf.cfm
 crypto "encryption module"
   isakmp
-    policy
-      id :k @(config-isakmp)#=crypto_isakmp.cfm
+    policy "Set policy for an ISAKMP protection suite"
+      1-10000 :k "Priority of protection suite" @(config-isakmp)#=crypto_isakmp.cfm
     profile
       word :k @(conf-isa-prof)#=crypto_isakmp_prof.cfm
     key
@@ -454,9 +454,9 @@ crypto "encryption module"
     optional $
       retry "retry interval"
         id :o $
-  map
-    word :k
-      id :k
+  map "Enter a crypto map"
+    word :k "Crypto map tag"
+      1-65535 :k "Sequence to insert into crypto map entry"
         ipsec-isakmp @(config-crypto-map)#=crypto_map.cfm
           dynamic
             word $

@@ -229,33 +229,33 @@ banner "define a login banner"
     id :k "last line number" @(config-line)#=line.cfm
 router "enable a routing process"
   bgp "border gateway protocol"
-    1-4294967295 :k "autonomous system number" @(config-router)#=router_bgp.cfm
-    1.0-65535.65535 :k "autonomous system number" @(config-router)#=router_bgp.cfm
+    1-4294967295 :k "Autonomous system number" @(config-router)#=router_bgp.cfm
+    1.0-65535.65535 :k "Autonomous system number" @(config-router)#=router_bgp.cfm
   ospf "open shortest path first"
-    1-65535 :k "process id" @(config-router)#=router_ospf.cfm
+    1-65535 :k "Process ID" @(config-router)#=router_ospf.cfm
       vrf
         word :k @(config-router)#=router_ospf.cfm
   ospfv3 "ospf version 3"
-    1-65535 :k "process id" @(config-router)#=router_ospf.cfm
+    1-65535 :k "Process ID" @(config-router)#=router_ospf.cfm
   eigrp "enhanced interior gateway routing protocol"
-    1-65535 :k "autonomous system number" @(config-router)#=router_eigrp.cfm
-    word :k "virtual instance name" @(config-router)#=router_eigrp.cfm
+    1-65535 :k "Autonomous System" @(config-router)#=router_eigrp.cfm
+    word :k "EIGRP Virtual-Instance Name" @(config-router)#=router_eigrp.cfm
   rip "routing information protocol" @(config-router)#=router_rip.cfm
   isis "intermediate system to intermediate system" @(config-router)#=router_isis.cfm
     word :k @(config-router)#=router_isis.cfm
   lisp @(config-router-lisp)#=router_rip.cfm
 access-list "add an access list entry"
-  <1-99> :k/n "ip standard access list"
+  1-99 :k/n "IP standard access list"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <1300-1999> :k/n "ip standard access list (expanded range)"
+  1300-1999 :k/n "IP standard access list (expanded range)"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <100-199> :k/n "ip extended access list"
+  100-199 :k/n "IP extended access list"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     dynamic :-k
@@ -263,22 +263,22 @@ access-list "add an access list entry"
         permit :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <700-799> :k/n "48-bit mac address access list"
+  700-799 :k/n "48-bit MAC address access list"
     permit :-k "specify addresses to forward"
       h.h.h "48-bit mac address"
         h.h.h "mask of bits to ignore" $
     deny :-k "specify addresses to drop"
       h.h.h "48-bit mac address"
         h.h.h "mask of bits to ignore" $
-  <2000-2699> :k/n "ip extended access list (expanded range)"
+  2000-2699 :k/n "IP extended access list (expanded range)"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
   configuration "vlan feature configuration mode"
-    list/1-4094 :k "vlan ids 1-4094" @(config-vlan-config)#=vlan_config.cfm
-  list/1-4094 :k "isl vlan ids 1-4094" @(config-vlan)#=vlan.cfm
+    list/1-4094 :k "VLAN IDs 1-4094" @(config-vlan-config)#=vlan_config.cfm
+  list/1-4094 :k "ISL VLAN IDs 1-4094" @(config-vlan)#=vlan.cfm
   internal
     allocation
       policy
@@ -368,12 +368,12 @@ spanning-tree "spanning tree subsystem"
       pvst $
         global $
 route-map "create route-map or enter route-map command mode"
-  word :k "route map tag" @(config-route-map)#=route_map.cfm
-    permit "route map permits set operations" @(config-route-map)#=route_map.cfm
-      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    deny "route map denies set operations" @(config-route-map)#=route_map.cfm
-      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    id :k @(config-route-map)#=route_map.cfm
+  word :k "Route map tag" @(config-route-map)#=route_map.cfm
+    permit "Route map permits set operations" @(config-route-map)#=route_map.cfm
+      0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    deny "Route map denies set operations" @(config-route-map)#=route_map.cfm
+      0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
 control-plane-policing $ "control plane policing settings"
 platform "platform configuration"
   console "console selection"
