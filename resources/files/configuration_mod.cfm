@@ -859,7 +859,7 @@ access-list|add an access list entry|k||
   !
 !
 vlan|vlan commands|k||
-  configuration|vlan feature configuration mode|k||
+  configuration|Vlan feature configuration mode|k||
     list/1-4094|VLAN IDs 1-4094|k||
       <cr>||||@(config-vlan-config)# vlan_config.cfm
       !
@@ -869,7 +869,7 @@ vlan|vlan commands|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !
   !
-  internal|internal|k||
+  internal|internal VLAN|k||
     allocation|allocation|k||
       policy|policy|k||
         ascending|ascending|k||
@@ -883,7 +883,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  access-log|access-log|k||
+  access-log|Configure VACL logging|k||
     ratelimit|ratelimit|k||
       id|id|||
         <cr>||||
@@ -903,7 +903,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  access-map|access-map|k||
+  access-map|Create vlan access-map or enter vlan access-map command mode|k||
     word|word|k||
       <cr>||||@(config-access-map)# vlan.cfm
       !
@@ -913,7 +913,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  filter|filter|k||
+  filter|Apply a VLAN Map|k||
     word|word|k||
       vlan-list|vlan-list|k||
         <vlan>|vlan|||
@@ -923,7 +923,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  dot1q|dot1q|k||
+  dot1q|dot1q parameters|k||
     tag|tag|k||
       native|native|k||
         <cr>||||
@@ -4181,7 +4181,7 @@ crypto|encryption module|k||
           !
         !
       !
-      local-address|local-address|k||
+      local-address|Interface to use for local address for this crypto map|k||
         &interfacefile.cfm|interface type|k||
           <number>|interface number|k||
             <cr>||||
@@ -4189,25 +4189,25 @@ crypto|encryption module|k||
           !
         !
       !
-      client|client|k||
+      client|Specify client configuration settings|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
-      isakmp|isakmp|k||
+      isakmp|Specify isakmp configuration settings|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
-      isakmp-profile|isakmp-profile|k||
+      isakmp-profile|Specify isakmp profile to use|k||
         word|word|||
           <cr>||||
           !
         !
       !
-      redundancy|redundancy|k||
+      redundancy|High availability options for this map|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !

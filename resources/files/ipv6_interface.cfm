@@ -9,7 +9,7 @@ cef|cef|k||
   !
 !
 address|address|k||
-  ipv6/prefix|ipv6 prefix|k||
+  ipv6/prefix|IPv6 prefix|k||
     <cr>||||
     !
     eui-64|eui-64|k||
@@ -25,13 +25,13 @@ address|address|k||
       !
     !
   !
-  ipv6/address|ipv6 link-local address|k||
+  ipv6/address|IPv6 link-local address|k||
     link-local|link-local|k||
       <cr>||||
       !
     !
   !
-  autoconfig|autoconfig|k||
+  autoconfig|Obtain address using autoconfiguration|k||
     <cr>||||
     !
     default|default|k||
@@ -39,7 +39,7 @@ address|address|k||
       !
     !
   !
-  dhcp|dhcp|k||
+  dhcp|Obtain a ipv6 address using dhcp|k||
     <cr>||||
     !
     rapid-commit|rapid-commit|k||
@@ -47,7 +47,7 @@ address|address|k||
       !
     !
   !
-  word|general prefix name|k||
+  word|General prefix name|k||
     ipv6/prefix|sub-prefix bits and length|k||
       <cr>||||
       !

@@ -345,17 +345,17 @@ cef $
   accounting
     line *
 address
-  ipv6/prefix :k "ipv6 prefix" $
+  ipv6/prefix :k "IPv6 prefix" $
     eui-64 $
     anycast $
     link-local $
-  ipv6/address :k "ipv6 link-local address"
+  ipv6/address :k "IPv6 link-local address"
     link-local $
-  autoconfig $
+  autoconfig "Obtain address using autoconfiguration" $
     default $
-  dhcp $
+  dhcp "Obtain a ipv6 address using dhcp" $
     rapid-commit $
-  word :k "general prefix name"
+  word :k "General prefix name"
     ipv6/prefix :k "sub-prefix bits and length" $
       eui-64 $
 enable $

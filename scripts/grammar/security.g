@@ -464,15 +464,15 @@ crypto "encryption module"
             word @(config-crypto-map)#=crypto_map.cfm
         ipsec-manual @(config-crypto-map)#=crypto_map.cfm
         gdoi @(config-crypto-map)#=crypto_map.cfm
-      local-address
+      local-address "Interface to use for local address for this crypto map"
         %IF
-      client
+      client "Specify client configuration settings"
         line :k *
-      isakmp
+      isakmp "Specify isakmp configuration settings"
         line :k *
-      isakmp-profile
+      isakmp-profile "Specify isakmp profile to use"
         word $
-      redundancy
+      redundancy "High availability options for this map"
         line :k *
   dynamic-map
     word :k

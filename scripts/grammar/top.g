@@ -276,29 +276,29 @@ access-list "add an access list entry"
     remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
-  configuration "vlan feature configuration mode"
+  configuration "Vlan feature configuration mode"
     list/1-4094 :k "VLAN IDs 1-4094" @(config-vlan-config)#=vlan_config.cfm
   list/1-4094 :k "ISL VLAN IDs 1-4094" @(config-vlan)#=vlan.cfm
-  internal
+  internal "internal VLAN"
     allocation
       policy
         ascending $
         descending $
-  access-log
+  access-log "Configure VACL logging"
     ratelimit
       id $
     maxflow
       id $
     threshold
       id $
-  access-map
+  access-map "Create vlan access-map or enter vlan access-map command mode"
     word :k @(config-access-map)#=vlan.cfm
       id :k @(config-access-map)#=vlan.cfm
-  filter
+  filter "Apply a VLAN Map"
     word :k
       vlan-list
         <vlan> $
-  dot1q
+  dot1q "dot1q parameters"
     tag
       native $
 spanning-tree "spanning tree subsystem"
