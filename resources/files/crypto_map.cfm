@@ -78,7 +78,7 @@ set|set values for encryption/decryption|k||
         !
       !
     !
-    dfbit|df bit of the outer header|k||
+    dfbit|df bit of the outer header|k/n||
       clear|clear|k||
         <cr>||||
         !
@@ -92,17 +92,9 @@ set|set values for encryption/decryption|k||
         !
       !
     !
-    idle-time|idle time|k||
-      id|id|o||
-        <cr>||||
-        !
-        default|default|k||
-          <cr>||||
-          !
-        !
-      !
-    !
     dummy|dummy packets|k||
+      <cr>||||
+      !
       pps|pps|k||
         id|id|o||
           <cr>||||
@@ -122,7 +114,7 @@ set|set values for encryption/decryption|k||
         !
       !
     !
-    idle-time|idle-time|k||
+    idle-time|idle time|k/n||
       line|line|lb/le/wa||
         <cr>||||
         !

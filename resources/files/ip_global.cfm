@@ -462,6 +462,12 @@ ssh|configure secure shell|k||
     !
   !
   server|server|k||
+    certificate|server certificate settings|k||
+      profile|certificate profile|k||
+        <cr>||||@(ssh-server-cert-profile)# ssh_cert_profile.cfm
+        !
+      !
+    !
     algorithm|algorithms the server offers|k||
       encryption|encryption algorithms, in order of preference|k||
         aes128-ctr|aes128-ctr|o||

@@ -148,6 +148,8 @@ ssh "configure secure shell"
     keypair-name
       word $
   server
+    certificate "server certificate settings"
+      profile "certificate profile" @(ssh-server-cert-profile)#=ssh_cert_profile.cfm
     algorithm "algorithms the server offers"
       encryption "encryption algorithms, in order of preference"
         %SSHENC

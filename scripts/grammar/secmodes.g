@@ -559,20 +559,17 @@ set "set values for encryption/decryption"
         disable $
     level
       line *
-    dfbit "df bit of the outer header"
+    dfbit "df bit of the outer header" :n
       clear $
       copy $
       set $
-    idle-time "idle time"
-      id :o $
-        default $
-    dummy "dummy packets"
+    dummy "dummy packets" $
       pps
         id :o $
     ecn "explicit congestion notification" $
       discard $
       propagate $
-    idle-time
+    idle-time "idle time" :n
       line *
     replay
       line *

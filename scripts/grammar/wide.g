@@ -758,3 +758,19 @@ sticky
   id :o $
 description
   %TEXT
+
+# The certificate profile of the SSH server: the certificates it presents
+# (server) and those it takes from users (user).
+file ssh_cert_profile.cfm
+server "server certificate settings" @(ssh-server-cert-profile-server)#=ssh_cert_side.cfm
+user "user certificate settings" @(ssh-server-cert-profile-user)#=ssh_cert_side.cfm
+
+file ssh_cert_side.cfm
+ocsp-response "ocsp response settings"
+  include "include the ocsp response" $
+  required "require an ocsp response" $
+trustpoint "trustpoint"
+  sign
+    word :o $
+  verify
+    word :o $
