@@ -2197,8 +2197,34 @@ source|get config from another source|k||
   !
 !
 member|member interface settings|k||
+  vni|vxlan network identifiers of the nve interface|k||
+    list/4096-16777215|vni or a range of vnis|k||
+      <cr>||||@(config-if-nve-vni)# nve_vni.cfm
+      !
+      associate-vrf|the vni of a vrf|k||
+        <cr>||||
+        !
+      !
+    !
+  !
   line|line|lb/le/wa||
     <cr>||||
+    !
+  !
+!
+source-interface|source interface of the nve interface|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+host-reachability|host reachability of the nve interface|k||
+  protocol|protocol|k||
+    bgp|bgp|k||
+      <cr>||||
+      !
     !
   !
 !

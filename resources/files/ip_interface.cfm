@@ -517,11 +517,23 @@ igmp|igmp|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
       !
+      source|the source of the group|k||
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
+      !
     !
   !
   static-group|static-group|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
+      !
+      source|the source of the group|k||
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
       !
     !
   !

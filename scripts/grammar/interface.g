@@ -670,7 +670,15 @@ virtual-template "virtual template of the interface"
 source "get config from another source"
   line *
 member "member interface settings"
+  vni "vxlan network identifiers of the nve interface"
+    list/4096-16777215 :k "vni or a range of vnis" @(config-if-nve-vni)#=nve_vni.cfm
+      associate-vrf "the vni of a vrf" $
   line *
+source-interface "source interface of the nve interface"
+  %IF
+host-reachability "host reachability of the nve interface"
+  protocol
+    bgp $
 wlan "wireless lan settings"
   line *
 macsec $ "enable macsec on the interface"

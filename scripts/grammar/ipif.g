@@ -164,8 +164,12 @@ igmp
         id $
   join-group
     a.b.c.d :k $
+      source "the source of the group"
+        a.b.c.d :k $
   static-group
     a.b.c.d :k $
+      source "the source of the group"
+        a.b.c.d :k $
   access-group
     word $
   helper-address

@@ -774,3 +774,16 @@ trustpoint "trustpoint"
     word :o $
   verify
     word :o $
+
+# A VNI of an nve interface: how its broadcast and unknown traffic is
+# replicated.
+file nve_vni.cfm
+ingress-replication "ingress replication" $
+  a.b.c.d :k "remote peer" $
+mcast-group "multicast group"
+  a.b.c.d :o $
+    a.b.c.d $
+suppress-arp "suppress arp" $
+replication-type "replication type"
+  ingress $
+  static $
