@@ -2319,8 +2319,8 @@ mpls|mpls configuration|k||
       !
     !
   !
-  oam|oam|k||
-    <cr>||||
+  oam|mpls operation and maintenance|k||
+    <cr>||||@(config-mpls)# mpls_oam.cfm
     !
   !
   ipv6|ipv6|k||
@@ -6208,18 +6208,6 @@ isis|global is-is settings|k||
     !
   !
 !
-echo|echo settings|k||
-  revision|revision|k||
-    id|id|o||
-      <cr>||||
-      !
-    !
-  !
-  vendor-extension|vendor-extension|k||
-    <cr>||||
-    !
-  !
-!
 media-proxy|media proxy|k||
   services|services|k||
     rate-limit|rate-limit|k||
@@ -6396,10 +6384,6 @@ scripting|scripting settings|k||
         !
       !
     !
-  !
-!
-maintenance-mode|maintenance mode|k||
-  <cr>||||
   !
 !
 csdb|conversation state database|k||

@@ -513,6 +513,14 @@ igmp|igmp|k||
       !
     !
   !
+  mroute-proxy|forward igmp reports to a proxy interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
   join-group|join-group|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||

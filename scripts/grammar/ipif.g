@@ -162,6 +162,8 @@ igmp
         id $
       interval
         id $
+  mroute-proxy "forward igmp reports to a proxy interface"
+    %IF
   join-group
     a.b.c.d :k $
       source "the source of the group"

@@ -317,6 +317,7 @@ management-interface
   line *
 
 file redundancy.cfm
+maintenance-mode "maintenance mode of the standby" $
 mode
   sso :o $
   rpr :o $

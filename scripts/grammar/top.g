@@ -763,7 +763,7 @@ mpls "mpls configuration"
     line *
   mtu
     id $
-  oam $
+  oam "mpls operation and maintenance" @(config-mpls)#=mpls_oam.cfm
   ipv6
     line *
 kron "command scheduler"

@@ -137,10 +137,6 @@ isis "global is-is settings"
     delimiter
       return
         id :o $
-echo "echo settings"
-  revision
-    id :o $
-  vendor-extension $
 media-proxy "media proxy"
   services
     rate-limit
@@ -203,7 +199,6 @@ scripting "scripting settings"
       word :o $
     encdir
       word :o $
-maintenance-mode "maintenance mode" $
 csdb "conversation state database"
   tcp
     synwait-time
@@ -787,3 +782,10 @@ suppress-arp "suppress arp" $
 replication-type "replication type"
   ingress $
   static $
+
+# MPLS operation and maintenance: the echo packets of LSP pings.
+file mpls_oam.cfm
+echo "echo packet settings"
+  revision "echo packet revision"
+    1-4 :o $
+  vendor-extension "send the vendor extension" $
