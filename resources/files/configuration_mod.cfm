@@ -2094,15 +2094,119 @@ mpls|mpls configuration|k||
         !
       !
     !
-    discovery|discovery|k||
-      line|line|lb/le/wa||
-        <cr>||||
+    discovery|ldp discovery|k||
+      hello|link hellos|k||
+        holdtime|holdtime|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        interval|interval|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      targeted-hello|targeted hellos|k||
+        holdtime|holdtime|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        interval|interval|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        accept|accept targeted hellos|k||
+          <cr>||||
+          !
+          from|from|k||
+            word|access list|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      transport-address|address of the tcp connection|k||
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+        !
+        interface|interface|k||
+          <cr>||||
+          !
         !
       !
     !
-    neighbor|neighbor|k||
-      line|line|lb/le/wa||
-        <cr>||||
+    neighbor|ldp neighbor settings|k||
+      vrf|vrf|k||
+        word|word|k||
+          a.b.c.d|a.b.c.d|k||
+            password|password|k||
+              0|0|||
+                word|word|o||
+                  <cr>||||
+                  !
+                !
+              !
+              7|7|||
+                word|word|o||
+                  <cr>||||
+                  !
+                !
+              !
+              word|word|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      a.b.c.d|a.b.c.d|k||
+        password|md5 password of the session|k||
+          0|0|||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+          7|7|||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+          word|word|o||
+            <cr>||||
+            !
+          !
+        !
+        targeted|a targeted session|k||
+          <cr>||||
+          !
+          ldp|ldp|k||
+            <cr>||||
+            !
+          !
+        !
+        labels|labels|k||
+          accept|accept|k||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        implicit-withdraw|implicit-withdraw|k||
+          <cr>||||
+          !
         !
       !
     !

@@ -689,10 +689,46 @@ mpls "mpls configuration"
     explicit-null $
     session
       protection $
-    discovery
-      line *
-    neighbor
-      line *
+    discovery "ldp discovery"
+      hello "link hellos"
+        holdtime
+          1-65535 :o "seconds" $
+        interval
+          1-65535 :o "seconds" $
+      targeted-hello "targeted hellos"
+        holdtime
+          1-65535 :o "seconds" $
+        interval
+          1-65535 :o "seconds" $
+        accept "accept targeted hellos" $
+          from
+            word :o "access list" $
+      transport-address "address of the tcp connection"
+        a.b.c.d :o $
+        interface $
+    neighbor "ldp neighbor settings"
+      vrf
+        word :k
+          a.b.c.d :k
+            password
+              0 :-k
+                word :o $
+              7 :-k
+                word :o $
+              word :o $
+      a.b.c.d :k
+        password "md5 password of the session"
+          0 :-k
+            word :o $
+          7 :-k
+            word :o $
+          word :o $
+        targeted "a targeted session" $
+          ldp $
+        labels
+          accept
+            word :o $
+        implicit-withdraw $
     label "ldp label settings" @(config-ldp-lbl)#=mpls_ldp_label.cfm
       line *
     password
