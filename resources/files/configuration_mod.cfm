@@ -990,11 +990,11 @@ spanning-tree|spanning tree subsystem|k||
     !
   !
   vlan|vlan|k||
-    <vlan>|vlan|k||
+    list/1-4094|vlan id list|k||
       <cr>||||
       !
       priority|priority|k||
-        id|id|o||
+        0-61440|bridge priority in increments of 4096|o||
           <cr>||||
           !
         !

@@ -84,7 +84,7 @@ mtu|set the interface maximum transmission unit|k||
 !
 encapsulation|set encapsulation type for an interface|k||
   dot1q|dot1q|k||
-    id|id|o||
+    1-4094|ieee 802.1q vlan id|o||
       <cr>||||
       !
       native|native|k||
@@ -217,7 +217,7 @@ switchport|set switching mode characteristics|k||
   !
   access|access|k/n||
     vlan|vlan|k||
-      id|id|o||
+      1-4094|vlan id of the vlan when this port is in access mode|o||
         <cr>||||
         !
       !
@@ -231,7 +231,7 @@ switchport|set switching mode characteristics|k||
   !
   voice|voice|k/n||
     vlan|vlan|k||
-      id|id|o||
+      1-4094|vlan for voice traffic|o||
         <cr>||||
         !
       !
@@ -300,7 +300,7 @@ switchport|set switching mode characteristics|k||
     !
     native|native|k||
       vlan|vlan|k||
-        id|id|o||
+        1-4094|vlan id of the native vlan when this port is in trunking mode|o||
           <cr>||||
           !
         !
@@ -597,7 +597,7 @@ standby|hot standby router protocol|k||
       !
     !
     priority|priority level|k/n||
-      id|priority value|o||
+      0-255|priority value|o||
         <cr>||||
         !
       !

@@ -752,19 +752,19 @@ ospf|ospf interface commands|k||
     !
   !
   priority|priority|k||
-    id|id|o||
+    0-255|priority|o||
       <cr>||||
       !
     !
   !
   hello-interval|hello-interval|k||
-    id|id|o||
+    1-65535|seconds|o||
       <cr>||||
       !
     !
   !
   dead-interval|dead-interval|k||
-    id|id|o||
+    1-65535|seconds|o||
       <cr>||||
       !
     !

@@ -63,7 +63,7 @@ multicast|multicast|k||
   !
 !
 route|establish static routes|k||
-  word|ipv6 prefix|k||
+  ipv6/prefix|ipv6 prefix|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
@@ -469,7 +469,7 @@ route|establish static routes|k||
   !
   vrf|vrf of the route|k||
     word|vrf name|k||
-      word|ipv6 prefix|k||
+      ipv6/prefix|ipv6 prefix|k||
         &interfacefile.cfm|interface type|k||
           <number>|interface number|k||
             <cr>||||

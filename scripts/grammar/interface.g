@@ -29,7 +29,7 @@ mtu "set the interface maximum transmission unit"
   64-18000 :o "mtu (bytes)" $
 encapsulation "set encapsulation type for an interface"
   dot1q
-    id :o $
+    1-4094 :o "ieee 802.1q vlan id" $
       native $
       second-dot1q
         id $
@@ -68,12 +68,12 @@ switchport "set switching mode characteristics" $ :sn
     dot1q-tunnel $
   access :n
     vlan
-      id :o $
+      1-4094 :o "vlan id of the vlan when this port is in access mode" $
       name "vlan name"
         word :o "vlan name" $
   voice :n
     vlan
-      id :o $
+      1-4094 :o "vlan for voice traffic" $
       dot1p $
       untagged $
       none $
@@ -95,7 +95,7 @@ switchport "set switching mode characteristics" $ :sn
         none $
     native
       vlan
-        id :o $
+        1-4094 :o "vlan id of the native vlan when this port is in trunking mode" $
         tag $
     pruning
       vlan
@@ -188,7 +188,7 @@ standby "hot standby router protocol"
       delay
         line *
     priority :n "priority level"
-      id :o "priority value" $
+      0-255 :o "priority value" $
     authentication
       md5
         key-string

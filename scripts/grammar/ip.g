@@ -727,11 +727,11 @@ multicast-routing $
 multicast
   line *
 route "establish static routes"
-  word :k "ipv6 prefix"
+  ipv6/prefix :k "ipv6 prefix"
     %V6ROUTE
   vrf "vrf of the route"
     word :k "vrf name"
-      word :k "ipv6 prefix"
+      ipv6/prefix :k "ipv6 prefix"
         %V6ROUTE
   static
     line *

@@ -237,11 +237,11 @@ ospf "ospf interface commands"
       non-broadcast $
   mtu-ignore $
   priority
-    id :o $
+    0-255 :o "priority" $
   hello-interval
-    id :o $
+    1-65535 :o "seconds" $
   dead-interval
-    id :o $
+    1-65535 :o "seconds" $
     minimal
       hello-multiplier
         id $

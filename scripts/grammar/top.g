@@ -321,9 +321,9 @@ spanning-tree "spanning tree subsystem"
     bpdufilter
       default $
   vlan
-    <vlan> :k $
+    list/1-4094 :k "vlan id list" $
       priority
-        id :o $
+        0-61440 :o "bridge priority in increments of 4096" $
       forward-time
         id $
       hello-time
