@@ -55,35 +55,139 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  additional-paths|additional-paths|k||
-    line|line|lb/le/wa||
+  additional-paths|bgp additional paths|k||
+    send|send|k||
+      <cr>||||
+      !
+      receive|receive|k||
+        <cr>||||
+        !
+      !
+    !
+    receive|receive|k||
       <cr>||||
       !
     !
+    install|install|k||
+      <cr>||||
+      !
+    !
+    select|select|k||
+      all|all|k||
+        <cr>||||
+        !
+        best|best|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      best|best|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      group-best|group-best|k||
+        <cr>||||
+        !
+        all|all|k||
+          <cr>||||
+          !
+        !
+      !
+    !
   !
-  dampening|dampening|k||
+  dampening|route flap dampening|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    1-45|half-life time in minutes|||
+      <cr>||||
+      !
+      1-20000|value to start reusing a route|||
+        1-20000|value to start suppressing a route|||
+          1-255|maximum duration to suppress a route|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  bestpath|best path selection|k||
+    as-path|as-path|k||
+      multipath-relax|multipath-relax|k||
+        <cr>||||
+        !
+      !
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+    compare-routerid|compare-routerid|k||
+      <cr>||||
+      !
+    !
+    med|med|k||
+      confed|confed|k||
+        <cr>||||
+        !
+        missing-as-worst|missing-as-worst|k||
+          <cr>||||
+          !
+        !
+      !
+      missing-as-worst|missing-as-worst|k||
+        <cr>||||
+        !
+      !
+    !
+    cost-community|cost-community|k||
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+    igp-metric|igp-metric|k||
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  cluster-id|route reflector cluster id|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+    1-4294967295|1-4294967295|o||
       <cr>||||
       !
     !
   !
-  bestpath|bestpath|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  confederation|as confederation|k||
+    identifier|identifier|k||
+      1-4294967295|1-4294967295|o||
+        <cr>||||
+        !
+      !
+      1.0-65535.65535|1.0-65535.65535|o||
+        <cr>||||
+        !
       !
     !
-  !
-  cluster-id|cluster-id|k||
-    line|line|lb/le/wa||
-      <cr>||||
-      !
-    !
-  !
-  confederation|confederation|k||
-    line|line|lb/le/wa||
-      <cr>||||
+    peers|peers|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !
@@ -95,10 +199,22 @@ bgp|bgp specific commands|k||
     <cr>||||
     !
   !
-  graceful-restart|graceful-restart|k||
+  graceful-restart|graceful restart|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    restart-time|restart-time|k||
+      1-3600|1-3600|o||
+        <cr>||||
+        !
+      !
+    !
+    stalepath-time|stalepath-time|k||
+      1-3600|1-3600|o||
+        <cr>||||
+        !
+      !
+    !
+    extended|extended|k||
       <cr>||||
       !
     !
@@ -117,9 +233,21 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  listen|listen|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  listen|dynamic neighbors|k||
+    range|range|k||
+      a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        peer-group|peer-group|k||
+          word|word|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    limit|limit|k||
+      1-5000|1-5000|o||
+        <cr>||||
+        !
       !
     !
   !
@@ -151,9 +279,13 @@ bgp|bgp specific commands|k||
     <cr>||||
     !
   !
-  transport|transport|k||
-    line|line|lb/le/wa||
+  transport|transport settings|k||
+    path-mtu-discovery|path-mtu-discovery|k||
       <cr>||||
+      !
+      disable|disable|k||
+        <cr>||||
+        !
       !
     !
   !
@@ -217,9 +349,23 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  nexthop|nexthop|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  nexthop|next hop tracking|k||
+    trigger|trigger|k||
+      enable|enable|k||
+        <cr>||||
+        !
+      !
+      delay|delay|k||
+        0-100|0-100|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
       !
     !
   !
@@ -235,8 +381,8 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  regexp|regexp|k||
-    line|line|lb/le/wa||
+  regexp|regular expressions|k||
+    deterministic|deterministic|k||
       <cr>||||
       !
     !

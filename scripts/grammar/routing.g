@@ -254,26 +254,67 @@ bgp "bgp specific commands"
       id $
     route-target
       filter $ :sn
-  additional-paths
-    line *
-  dampening $
-    line *
-  bestpath
-    line *
-  cluster-id
-    line *
-  confederation
-    line *
+  additional-paths "bgp additional paths"
+    send $
+      receive $
+    receive $
+    install $
+    select
+      all $
+        best
+          id $
+      best
+        id $
+      group-best $
+        all $
+  dampening "route flap dampening" $
+    1-45 "half-life time in minutes" $
+      1-20000 "value to start reusing a route"
+        1-20000 "value to start suppressing a route"
+          1-255 "maximum duration to suppress a route" $
+    route-map
+      word :o $
+  bestpath "best path selection"
+    as-path
+      multipath-relax $
+      ignore $
+    compare-routerid $
+    med
+      confed $
+        missing-as-worst $
+      missing-as-worst $
+    cost-community
+      ignore $
+    igp-metric
+      ignore $
+  cluster-id "route reflector cluster id"
+    a.b.c.d :o $
+    1-4294967295 :o $
+  confederation "as confederation"
+    identifier
+      1-4294967295 :o $
+      1.0-65535.65535 :o $
+    peers
+      line *
   deterministic-med $
   always-compare-med $
-  graceful-restart $
-    line *
+  graceful-restart "graceful restart" $
+    restart-time
+      1-3600 :o $
+    stalepath-time
+      1-3600 :o $
+    extended $
   fast-external-fallover $
   enforce-first-as $
   maxas-limit
     id $
-  listen
-    line *
+  listen "dynamic neighbors"
+    range
+      a.b.c.d/<1-32> :k
+        peer-group
+          word :o $
+    limit
+      1-5000 :o $
   asnotation
     dot $
   update-delay
@@ -283,8 +324,9 @@ bgp "bgp specific commands"
   nopeerup-delay
     line *
   redistribute-internal $
-  transport
-    line *
+  transport "transport settings"
+    path-mtu-discovery $
+      disable $
   client-to-client
     reflection $
       intra-cluster "reflection inside the cluster"
@@ -305,14 +347,19 @@ bgp "bgp specific commands"
   suppress-inactive $
   recursion
     host $
-  nexthop
-    line *
+  nexthop "next hop tracking"
+    trigger
+      enable $
+      delay
+        0-100 :o $
+    route-map
+      word :o $
   consistency-checker :n
     line *
   inject-map
     line *
-  regexp
-    line *
+  regexp "regular expressions"
+    deterministic $
   aggregate-timer
     id $
   soft-reconfig-backup $
