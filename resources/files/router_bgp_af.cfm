@@ -873,17 +873,69 @@ default-information|control distribution of default information|k||
   !
 !
 bgp|bgp specific commands|k||
-  dampening|dampening|k||
+  dampening|route flap dampening|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    1-45|half-life time in minutes|||
       <cr>||||
+      !
+      1-20000|value to start reusing a route|||
+        1-20000|value to start suppressing a route|||
+          1-255|maximum duration to suppress a route|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
       !
     !
   !
-  additional-paths|additional-paths|k||
-    line|line|lb/le/wa||
+  additional-paths|bgp additional paths|k||
+    send|send|k||
       <cr>||||
+      !
+      receive|receive|k||
+        <cr>||||
+        !
+      !
+    !
+    receive|receive|k||
+      <cr>||||
+      !
+    !
+    install|install|k||
+      <cr>||||
+      !
+    !
+    select|select|k||
+      all|all|k||
+        <cr>||||
+        !
+        best|best|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      best|best|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      group-best|group-best|k||
+        <cr>||||
+        !
+        all|all|k||
+          <cr>||||
+          !
+        !
       !
     !
   !

@@ -199,10 +199,26 @@ def AFBODY
   default-information "control distribution of default information"
     originate $
   bgp "bgp specific commands"
-    dampening $
-      line *
-    additional-paths
-      line *
+    dampening "route flap dampening" $
+      1-45 "half-life time in minutes" $
+        1-20000 "value to start reusing a route"
+          1-20000 "value to start suppressing a route"
+            1-255 "maximum duration to suppress a route" $
+      route-map
+        word :o $
+    additional-paths "bgp additional paths"
+      send $
+        receive $
+      receive $
+      install $
+      select
+        all $
+          best
+            id $
+        best
+          id $
+        group-best $
+          all $
     dmzlink-bw "use dmz link bandwidth" $
     redistribute-internal $
     nexthop
