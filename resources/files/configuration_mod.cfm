@@ -5802,7 +5802,7 @@ parameter-map|parameter map|k||
     !
   !
 !
-parser|configure parser|k||
+parser|Configure parser|k||
   view|view commands|k||
     word|view name|k||
       <cr>||||@(config-view)# parser_view.cfm
@@ -5852,13 +5852,13 @@ parser|configure parser|k||
     !
   !
 !
-downward-compatible-config|generate a configuration compatible with an older release|k||
+downward-compatible-config|Generate a configuration compatible with older software|k||
   word|version|o||
     <cr>||||
     !
   !
 !
-shell|shell commands|k||
+shell|Configure shell command|k||
   processing|shell processing|k||
     <cr>||||
     !
@@ -5926,7 +5926,7 @@ process|process settings|k||
     !
   !
 !
-process-max-time|maximum time of a process|k||
+process-max-time|Maximum time for process to run before voluntarily relinquishing processor|k||
   20-200|milliseconds|o||
     <cr>||||
     !
@@ -6130,7 +6130,7 @@ cef|cisco express forwarding|k||
     !
   !
 !
-location|location settings|k||
+location|Global location configuration commands|k||
   prefer|location source preference|k||
     static|static locations|k||
       weight|weight|k||
@@ -6158,7 +6158,7 @@ location|location settings|k||
     !
   !
 !
-nmsp|network mobility services protocol|k||
+nmsp|NMSP Commands|k||
   notification|notifications|k||
     interval|notification interval|k||
       location|location|k||
@@ -6178,7 +6178,7 @@ nmsp|network mobility services protocol|k||
     !
   !
 !
-prompt|system prompt|k||
+prompt|Set system's prompt|k||
   config|configuration prompt|k||
     hostname-length|host name characters shown|k||
       0-20|0-20|o||
@@ -6188,7 +6188,7 @@ prompt|system prompt|k||
     !
   !
 !
-device-sensor|device sensor|k||
+device-sensor|IOS Sensor Commands|k||
   notify|notification|k||
     all-changes|all-changes|k||
       <cr>||||
@@ -6200,7 +6200,7 @@ device-sensor|device sensor|k||
     !
   !
 !
-kerberos|kerberos settings|k||
+kerberos|Configure Kerberos|k||
   timeout|timeout|k||
     id|id|o||
       <cr>||||
@@ -6220,7 +6220,7 @@ kerberos|kerberos settings|k||
     !
   !
 !
-frame-relay|global frame relay|k||
+frame-relay|global frame relay configuration commands|k||
   address|addresses|k||
     registration|address registration|k||
       auto-address|auto-address|k||
@@ -6260,7 +6260,7 @@ mab|mac authentication bypass|k||
     !
   !
 !
-clns|clns settings|k||
+clns|Global CLNS configuration subcommands|k||
   configuration-time|configuration time|k||
     id|seconds|o||
       <cr>||||
@@ -6300,7 +6300,7 @@ clns|clns settings|k||
     !
   !
 !
-isis|global is-is settings|k||
+isis|Global ISIS configuration subcommands|k||
   display|display options|k||
     delimiter|delimiter|k||
       return|return|k||
@@ -6442,7 +6442,7 @@ http|http settings|k||
     !
   !
 !
-scripting|scripting settings|k||
+scripting|scripting conf commands|k||
   tcl|tcl scripts|k||
     low-memory|low-memory|k||
       id|id|o||
@@ -6570,7 +6570,7 @@ route-tag|route tag settings|k||
     !
   !
 !
-mop|maintenance operation protocol|k||
+mop|Configure the DEC MOP Server|k||
   device-code|device-code|k||
     cisco|cisco|k||
       <cr>||||
@@ -6634,7 +6634,7 @@ diameter|diameter settings|k||
     !
   !
 !
-default-value|default values of line settings|k||
+default-value|Default character-bits values|k||
   exec-character-bits|exec-character-bits|k||
     7|7|k||
       <cr>||||
@@ -6666,7 +6666,7 @@ default-value|default values of line settings|k||
     !
   !
 !
-configuration|configuration settings|k||
+configuration|Configuration access|k||
   mode|configuration mode|k||
     exclusive|exclusive|k||
       <cr>||||
@@ -6682,7 +6682,7 @@ configuration|configuration settings|k||
     !
   !
 !
-exception|exception settings|k||
+exception|Exception handling|k||
   crashinfo|crash information|k||
     file|file|k||
       word|word|o||
@@ -6764,7 +6764,7 @@ exception|exception settings|k||
     !
   !
 !
-wsma|web services management agent|k||
+wsma|Configure Web Services Management Agents|k||
   id|identity|||
     hostname|hostname|k||
       <cr>||||
@@ -6842,7 +6842,7 @@ bulkstat|bulk statistics|k||
     !
   !
 !
-webvpn|ssl vpn|k||
+webvpn|WebVPN commands|k||
   sslvpn-vif|ssl vpn virtual interface|k||
     nat|nat|k||
       inside|inside|k||
@@ -6860,7 +6860,7 @@ webvpn|ssl vpn|k||
     !
   !
 !
-cns|cns settings|k||
+cns|CNS agents|k||
   id|id|||
     hostname|hostname|k||
       <cr>||||
@@ -6972,19 +6972,19 @@ l2vpn|layer 2 vpn|k||
     !
   !
 !
-bridge-domain|bridge domain|k||
+bridge-domain|Bridge-domain configuration|k||
   1-16000|bridge domain number|k||
     <cr>||||@(config-bdomain)# bridge_domain.cfm
     !
   !
 !
-segment-routing|segment routing|k||
+segment-routing|Segment Routing|k||
   mpls|segment routing over mpls|k||
     <cr>||||@(config-srmpls)# segment_routing.cfm
     !
   !
 !
-identity|identity settings|k||
+identity|Identity Configuration commands|k||
   profile|identity profile|k||
     default|default|k||
       <cr>||||@(config-identity-prof)# generic.cfm
@@ -7028,7 +7028,7 @@ policy-manager|policy manager|k||
     !
   !
 !
-mac-address-table|mac address table|k||
+mac-address-table|Configure the MAC address table|k||
   static|static entries|k||
     h.h.h|h.h.h|k||
       interface|interface|k||
@@ -7066,13 +7066,13 @@ mac-address-table|mac address table|k||
     !
   !
 !
-config-register|define the configuration register|k||
+config-register|Define the configuration register|k||
   word|configuration register value|o||
     <cr>||||
     !
   !
 !
-auto|automatic settings|k||
+auto|Configure Automation|k||
   qos|automatic quality of service|k||
     srnd4|the srnd4 model|k||
       <cr>||||
@@ -7086,13 +7086,13 @@ auto|automatic settings|k||
     !
   !
 !
-service-routing|service routing|k||
+service-routing|Configure service-routing|k||
   capabilities-manager|capabilities-manager|k||
     <cr>||||
     !
   !
 !
-file|file settings|k||
+file|Adjust file system parameters|k||
   privilege|privilege|k||
     0-15|0-15|o||
       <cr>||||

@@ -3,7 +3,7 @@
 # cef tables, platform, process and client settings, layer-2 VPN contexts,
 # bridge domains, segment routing and load balancing.
 def WIDETOP
-parser "configure parser"
+parser "Configure parser"
   view "view commands" :k
     word :k "view name" @(config-view)#=parser_view.cfm
       superview "superview" @(config-view)#=parser_view.cfm
@@ -19,9 +19,9 @@ parser "configure parser"
       1-100 :o "percent" $
     latency "latency"
       1-10000 :o "milliseconds" $
-downward-compatible-config "generate a configuration compatible with an older release"
+downward-compatible-config "Generate a configuration compatible with older software"
   word :o "version" $
-shell "shell commands"
+shell "Configure shell command"
   processing "shell processing" $
     full $
 bsd-client "bsd client"
@@ -48,7 +48,7 @@ process "process settings"
             id
               interval
                 id :o $
-process-max-time "maximum time of a process"
+process-max-time "Maximum time for process to run before voluntarily relinquishing processor"
   20-200 :o "milliseconds" $
 cef "cisco express forwarding"
   table "cef tables"
@@ -71,7 +71,7 @@ cef "cisco express forwarding"
           memory-utilization $
     rate-monitor-period "rate monitoring period"
       id :o "seconds" $
-location "location settings"
+location "Global location configuration commands"
   prefer "location source preference"
     static "static locations"
       weight
@@ -82,7 +82,7 @@ location "location settings"
     cdp "locations learned by cdp"
       weight
         0-255 :o $
-nmsp "network mobility services protocol"
+nmsp "NMSP Commands"
   notification "notifications"
     interval "notification interval"
       location
@@ -90,22 +90,22 @@ nmsp "network mobility services protocol"
       rssi
         word
           1-30 :o $
-prompt "system prompt"
+prompt "Set system's prompt"
   config "configuration prompt"
     hostname-length "host name characters shown"
       0-20 :o $
-device-sensor "device sensor"
+device-sensor "IOS Sensor Commands"
   notify "notification"
     all-changes $
     new-tlvs $
-kerberos "kerberos settings"
+kerberos "Configure Kerberos"
   timeout
     id :o $
   retry
     id :o $
   processes
     id :o $
-frame-relay "global frame relay"
+frame-relay "global frame relay configuration commands"
   address "addresses"
     registration "address registration"
       auto-address $
@@ -119,7 +119,7 @@ mab "mac authentication bypass"
           line *
   logging "mab logging"
     verbose $
-clns "clns settings"
+clns "Global CLNS configuration subcommands"
   configuration-time "configuration time"
     id :o "seconds" $
   holding-time "holding time"
@@ -132,7 +132,7 @@ clns "clns settings"
   routing "clns routing" $
   net
     word :k $
-isis "global is-is settings"
+isis "Global ISIS configuration subcommands"
   display "display options"
     delimiter
       return
@@ -183,7 +183,7 @@ http "http settings"
       word :o $
     source-interface
       %IF
-scripting "scripting settings"
+scripting "scripting conf commands"
   tcl "tcl scripts"
     low-memory
       id :o $
@@ -228,7 +228,7 @@ terminal-queue "terminal queue settings"
 route-tag "route tag settings"
   notation "notation"
     dotted-decimal $
-mop "maintenance operation protocol"
+mop "Configure the DEC MOP Server"
   device-code
     cisco $
     ds200 $
@@ -250,7 +250,7 @@ diameter "diameter settings"
       word :o $
     host
       word :o $
-default-value "default values of line settings"
+default-value "Default character-bits values"
   exec-character-bits
     7 $
     8 $
@@ -260,12 +260,12 @@ default-value "default values of line settings"
   data-character-bits
     7 $
     8 $
-configuration "configuration settings"
+configuration "Configuration access"
   mode "configuration mode"
     exclusive $
       auto $
       manual $
-exception "exception settings"
+exception "Exception handling"
   crashinfo "crash information"
     file
       word :o $
@@ -293,7 +293,7 @@ exception "exception settings"
     rcp $
   region-size
     id :o $
-wsma "web services management agent"
+wsma "Configure Web Services Management Agents"
   id "identity"
     hostname $
   agent "agent"
@@ -320,13 +320,13 @@ bulkstat "bulk statistics"
     limit
       memory
         id :o $
-webvpn "ssl vpn"
+webvpn "WebVPN commands"
   sslvpn-vif "ssl vpn virtual interface"
     nat
       inside $
       outside $
       enable $
-cns "cns settings"
+cns "CNS agents"
   id
     hostname $
       event $
@@ -365,11 +365,11 @@ l2vpn "layer 2 vpn"
       word :k @(config-xconnect)#=l2vpn_xconnect.cfm
   router-id
     a.b.c.d :o $
-bridge-domain "bridge domain"
+bridge-domain "Bridge-domain configuration"
   1-16000 :k "bridge domain number" @(config-bdomain)#=bridge_domain.cfm
-segment-routing "segment routing"
+segment-routing "Segment Routing"
   mpls "segment routing over mpls" @(config-srmpls)#=segment_routing.cfm
-identity "identity settings"
+identity "Identity Configuration commands"
   profile "identity profile"
     default @(config-identity-prof)#=generic.cfm
     dot1x @(config-identity-prof)#=generic.cfm
@@ -384,7 +384,7 @@ cpd "cable phone discovery"
 policy-manager "policy manager"
   policy
     enable $
-mac-address-table "mac address table"
+mac-address-table "Configure the MAC address table"
   static "static entries"
     h.h.h :k
       interface
@@ -397,16 +397,16 @@ mac-address-table "mac address table"
             %IF
   aging-time
     id :o $
-config-register "define the configuration register"
+config-register "Define the configuration register"
   word :o "configuration register value" $
-auto "automatic settings"
+auto "Configure Automation"
   qos "automatic quality of service"
     srnd4 "the srnd4 model" $
     global
       compact $
-service-routing "service routing"
+service-routing "Configure service-routing"
   capabilities-manager $
-"file" "file settings"
+"file" "Adjust file system parameters"
   privilege
     0-15 :o $
   prompt
