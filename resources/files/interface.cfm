@@ -2205,6 +2205,30 @@ member|member interface settings|k||
         <cr>||||
         !
       !
+      vrf|the vrf of a layer-3 vni|k||
+        word|word|o||
+          <cr>||||
+          !
+        !
+      !
+      ingress-replication|ingress replication|k||
+        <cr>||||
+        !
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+        !
+      !
+      mcast-group|multicast group|k||
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+          a.b.c.d|a.b.c.d|||
+            <cr>||||
+            !
+          !
+        !
+      !
     !
   !
   line|line|lb/le/wa||

@@ -673,6 +673,13 @@ member "member interface settings"
   vni "vxlan network identifiers of the nve interface"
     list/4096-16777215 :k "vni or a range of vnis" @(config-if-nve-vni)#=nve_vni.cfm
       associate-vrf "the vni of a vrf" $
+      vrf "the vrf of a layer-3 vni"
+        word :o $
+      ingress-replication "ingress replication" $
+        a.b.c.d :o $
+      mcast-group "multicast group"
+        a.b.c.d :o $
+          a.b.c.d $
   line *
 source-interface "source interface of the nve interface"
   %IF
