@@ -5223,6 +5223,8 @@ power|power configuration|k||
   !
 !
 system|system settings|k||
+  <cr>||||@(config-system)# sdwan_system.cfm
+  !
   mtu|system mtu|k||
     id|mtu size|o||
       <cr>||||
@@ -6976,6 +6978,10 @@ bridge-domain|Bridge-domain configuration|k||
   1-16000|bridge domain number|k||
     <cr>||||@(config-bdomain)# bridge_domain.cfm
     !
+  !
+!
+sdwan|sd-wan configuration|k||
+  <cr>||||@(config-sdwan)# sdwan.cfm
   !
 !
 segment-routing|Segment Routing|k||

@@ -229,7 +229,7 @@ power "power configuration"
   supply "power supply"
     line *
   main-cpu $
-system "system settings"
+system "system settings" @(config-system)#=sdwan_system.cfm
   mtu "system mtu"
     id :o "mtu size" $
     jumbo "jumbo mtu"

@@ -367,6 +367,7 @@ l2vpn "layer 2 vpn"
     a.b.c.d :o $
 bridge-domain "Bridge-domain configuration"
   1-16000 :k "bridge domain number" @(config-bdomain)#=bridge_domain.cfm
+sdwan "sd-wan configuration" @(config-sdwan)#=sdwan.cfm
 segment-routing "Segment Routing"
   mpls "segment routing over mpls" @(config-srmpls)#=segment_routing.cfm
 identity "Identity Configuration commands"
@@ -789,3 +790,115 @@ echo "echo packet settings"
   revision "echo packet revision"
     1-4 :o $
   vendor-extension "send the vendor extension" $
+
+# SD-WAN on IOS-XE in controller mode: the system identity, the transport
+# interfaces with their tunnels, and the overlay management protocol.
+file sdwan_system.cfm
+system-ip "system ip address"
+  a.b.c.d :o $
+site-id "site identifier"
+  1-4294967295 :o $
+organization-name "organization name"
+  word :o $
+  line * :o
+vbond "orchestrator address"
+  a.b.c.d :o $
+    port
+      1-65535 :o $
+  word :o $
+    port
+      1-65535 :o $
+admin-tech-on-failure "collect admin-tech on failure" $
+sp-organization-name "service provider organization name"
+  word :o $
+  line * :o
+host-name "host name"
+  word :o $
+console-baud-rate "console baud rate"
+  id :o $
+track-transport "track the transport" $
+overlay-id "overlay identifier"
+  1-4294967295 :o $
+
+file sdwan.cfm
+interface "a transport interface"
+  &interfacefile.cfm "interface type"
+    <number> :k "interface number" @(config-interface)#=sdwan_if.cfm
+omp "overlay management protocol" @(config-omp)#=sdwan_omp.cfm
+appqoe "application quality of experience" @(config-appqoe)#=generic.cfm
+
+file sdwan_if.cfm
+tunnel-interface "a tunnel over this interface" @(config-tunnel-interface)#=sdwan_tunnel.cfm
+exit "leave the interface" $
+
+file sdwan_tunnel.cfm
+encapsulation "tunnel encapsulation"
+  ipsec :k $
+    weight
+      1-255 :o $
+    preference
+      0-4294967295 :o $
+  gre :k $
+    weight
+      1-255 :o $
+    preference
+      0-4294967295 :o $
+color "color of the transport"
+  word :o $
+    restrict $
+allow-service "services allowed on the tunnel"
+  all $
+  bgp $
+  dhcp $
+  dns $
+  icmp $
+  sshd $
+  netconf $
+  ntp $
+  ospf $
+  stun $
+  https $
+  snmp $
+max-control-connections "maximum control connections"
+  0-100 :o $
+vmanage-connection-preference "preference for the management connection"
+  0-8 :o $
+nat-refresh-interval "nat refresh interval"
+  1-60 :o $
+hello-interval "hello interval"
+  100-600000 :o $
+hello-tolerance "hello tolerance"
+  12-6000 :o $
+low-bandwidth-link "a low bandwidth link" $
+exit "leave the tunnel interface" $
+
+file sdwan_omp.cfm
+shutdown "shut down omp" $
+graceful-restart "graceful restart" $
+send-path-limit "paths advertised for a prefix"
+  1-16 :o $
+ecmp-limit "equal cost paths installed"
+  1-16 :o $
+timers "omp timers"
+  holdtime
+    id :o $
+  advertisement-interval
+    id :o $
+  graceful-restart-timer
+    id :o $
+address-family "omp address family"
+  ipv4 @(config-omp-af)#=sdwan_omp_af.cfm
+  ipv6 @(config-omp-af)#=sdwan_omp_af.cfm
+
+file sdwan_omp_af.cfm
+advertise "routes advertised into omp"
+  connected $
+  static $
+  ospf $
+    external $
+  bgp $
+  eigrp $
+  lisp $
+  isis $
+  aggregate
+    a.b.c.d/<1-32> :k $
