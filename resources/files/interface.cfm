@@ -51,7 +51,7 @@ negotiation|select autonegotiation mode|k||
   !
 !
 bandwidth|set bandwidth informational parameter|k||
-  id|id|o||
+  1-100000000|bandwidth in kilobits|o||
     <cr>||||
     !
   !

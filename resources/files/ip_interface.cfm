@@ -701,7 +701,7 @@ ips|ips|k||
   !
 !
 ospf|ospf interface commands|k||
-  id|process id|k||
+  1-65535|process id|k||
     area|area|k||
       id|id|k||
         <cr>||||

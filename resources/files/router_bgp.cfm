@@ -413,7 +413,15 @@ bgp|bgp specific commands|k||
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -757,7 +765,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -1105,7 +1121,15 @@ neighbor|specify a neighbor router|k||
       !
     !
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -1615,7 +1639,15 @@ timers|adjust routing timers|k||
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -1959,7 +1991,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||

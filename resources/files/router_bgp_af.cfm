@@ -1,7 +1,15 @@
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -345,7 +353,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||

@@ -18,7 +18,7 @@ speed "configure speed operation"
 negotiation "select autonegotiation mode"
   auto :o $
 bandwidth "set bandwidth informational parameter"
-  id :o $
+  1-100000000 :o "bandwidth in kilobits" $
   inherit $
     id $
   receive

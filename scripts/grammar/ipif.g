@@ -221,7 +221,7 @@ ips
     in $
     out $
 ospf "ospf interface commands"
-  id :k "process id"
+  1-65535 :k "process id"
     area
       id :k $
         secondary

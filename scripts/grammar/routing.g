@@ -26,7 +26,9 @@ def IGPMPLS
 # the lines of a peer-session template as well.
 def BGPSESSION
   remote-as "specify a bgp neighbor"
-    <as> :o $
+    1-4294967295 :o "AS of remote neighbor" $
+      line *
+    1.0-65535.65535 :o "AS of remote neighbor" $
       line *
   update-source "source of routing updates"
     %IF
