@@ -1,3 +1,9 @@
+evaluate|evaluate an access list of reflexive entries|||
+  word|reflexive list name|k||
+    <cr>||||
+    !
+  !
+!
 permit|forward packets|||&acl6_entry.cfm
 !
 deny|drop packets|||&acl6_entry.cfm

@@ -42,6 +42,22 @@ match|classification criteria|k||
         !
       !
     !
+    input|input access group|k||
+      name|name|k||
+        word|word|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    output|output access group|k||
+      name|name|k||
+        word|word|k||
+          <cr>||||
+          !
+        !
+      !
+    !
   !
   any|any|k||
     <cr>||||

@@ -829,11 +829,61 @@ service|modify use of network based services|k||
     <cr>||||
     !
   !
-  pad|pad|k/sn||
-    <cr>||||
+  pad|pad|k||
+    <cr>||sn||
+    !
+    to-xot|accept outgoing pad connections over x.25 over tcp|k||
+      <cr>||||
+      !
+    !
+    from-xot|accept xot to pad connections|k||
+      <cr>||||
+      !
+    !
+    cmns|enable pad over cmns connections|k||
+      <cr>||||
+      !
     !
   !
   config|config|k/sn||
+    <cr>||||
+    !
+  !
+  log|log settings|k||
+    backtrace|provide backtrace information|k||
+      <cr>||||
+      !
+    !
+  !
+  exec-callback|enable exec callback|k||
+    <cr>||||
+    !
+  !
+  slave-coredump|core dump of the standby processor|k||
+    <cr>||||
+    !
+  !
+  telnet-zeroidle|set the tcp window to zero when the vty is idle|k||
+    <cr>||||
+    !
+  !
+  exec-wait|delay the exec startup on noisy lines|k||
+    <cr>||||
+    !
+  !
+  scripting|enable the scripting prompt|k||
+    <cr>||||
+    !
+  !
+  old-slip-prompts|allow old-style slip prompts|k||
+    <cr>||||
+    !
+  !
+  pt-vty-logging|log the protocol translation vty connections|k||
+    <cr>||||
+    !
+  !
+  disable-ip-fast-frag|disable ip fast fragmentation|k||
     <cr>||||
     !
   !
@@ -927,6 +977,12 @@ redundancy|redundancy configuration|k||
   !
 !
 multilink|ppp multilink|k||
+  virtual-template|virtual template for multilink bundles|k||
+    0-25|0-25|o||
+      <cr>||||
+      !
+    !
+  !
   bundle-name|bundle-name|k||
     authenticated|authenticated|k||
       <cr>||||
@@ -1258,13 +1314,17 @@ banner|define a login banner|k||
 !
 router|enable a routing process|k||
   bgp|border gateway protocol|k||
-    <as>|autonomous system number|k||
+    1-4294967295|Autonomous system number|k||
+      <cr>||||@(config-router)# router_bgp.cfm
+      !
+    !
+    1.0-65535.65535|Autonomous system number|k||
       <cr>||||@(config-router)# router_bgp.cfm
       !
     !
   !
   ospf|open shortest path first|k||
-    id|process id|k||
+    1-65535|Process ID|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
       vrf|vrf|k||
@@ -1276,17 +1336,17 @@ router|enable a routing process|k||
     !
   !
   ospfv3|ospf version 3|k||
-    id|id|k||
+    1-65535|Process ID|k||
       <cr>||||@(config-router)# router_ospf.cfm
       !
     !
   !
   eigrp|enhanced interior gateway routing protocol|k||
-    id|autonomous system|k||
+    1-65535|Autonomous System|k||
       <cr>||||@(config-router)# router_eigrp.cfm
       !
     !
-    word|virtual instance name|k||
+    word|EIGRP Virtual-Instance Name|k||
       <cr>||||@(config-router)# router_eigrp.cfm
       !
     !
@@ -1309,7 +1369,7 @@ router|enable a routing process|k||
   !
 !
 access-list|add an access list entry|k||
-  <1-99>|ip standard access list|k/n||
+  1-99|IP standard access list|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -1323,7 +1383,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <1300-1999>|ip standard access list (expanded range)|k/n||
+  1300-1999|IP standard access list (expanded range)|k/n||
     permit|permit|||&acl_std_entry.cfm
     !
     deny|deny|||&acl_std_entry.cfm
@@ -1337,7 +1397,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <100-199>|ip extended access list|k/n||
+  100-199|IP extended access list|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm
@@ -1357,7 +1417,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <700-799>|48-bit mac address access list|k/n||
+  700-799|48-bit MAC address access list|k/n||
     permit|specify addresses to forward|||
       h.h.h|48-bit mac address|||
         h.h.h|mask of bits to ignore|||
@@ -1375,7 +1435,7 @@ access-list|add an access list entry|k||
       !
     !
   !
-  <2000-2699>|ip extended access list (expanded range)|k/n||
+  2000-2699|IP extended access list (expanded range)|k/n||
     permit|permit|||&acl_ext_entry.cfm
     !
     deny|deny|||&acl_ext_entry.cfm
@@ -1391,17 +1451,17 @@ access-list|add an access list entry|k||
   !
 !
 vlan|vlan commands|k||
-  configuration|vlan feature configuration mode|k||
-    <vlan>|vlan id or list|k||
+  configuration|Vlan feature configuration mode|k||
+    list/1-4094|VLAN IDs 1-4094|k||
       <cr>||||@(config-vlan-config)# vlan_config.cfm
       !
     !
   !
-  <vlan>|vlan id or list|k||
+  list/1-4094|ISL VLAN IDs 1-4094|k||
     <cr>||||@(config-vlan)# vlan.cfm
     !
   !
-  internal|internal|k||
+  internal|internal VLAN|k||
     allocation|allocation|k||
       policy|policy|k||
         ascending|ascending|k||
@@ -1415,7 +1475,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  access-log|access-log|k||
+  access-log|Configure VACL logging|k||
     ratelimit|ratelimit|k||
       id|id|||
         <cr>||||
@@ -1435,7 +1495,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  access-map|access-map|k||
+  access-map|Create vlan access-map or enter vlan access-map command mode|k||
     word|word|k||
       <cr>||||@(config-access-map)# vlan.cfm
       !
@@ -1445,7 +1505,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  filter|filter|k||
+  filter|Apply a VLAN Map|k||
     word|word|k||
       vlan-list|vlan-list|k||
         <vlan>|vlan|||
@@ -1455,7 +1515,7 @@ vlan|vlan commands|k||
       !
     !
   !
-  dot1q|dot1q|k||
+  dot1q|dot1q parameters|k||
     tag|tag|k||
       native|native|k||
         <cr>||||
@@ -1522,11 +1582,11 @@ spanning-tree|spanning tree subsystem|k||
     !
   !
   vlan|vlan|k||
-    <vlan>|vlan|k||
+    list/1-4094|vlan id list|k||
       <cr>||||
       !
       priority|priority|k||
-        id|id|o||
+        0-61440|bridge priority in increments of 4096|o||
           <cr>||||
           !
         !
@@ -1667,26 +1727,26 @@ spanning-tree|spanning tree subsystem|k||
   !
 !
 route-map|create route-map or enter route-map command mode|k||
-  word|route map tag|k||
+  word|Route map tag|k||
     <cr>||||@(config-route-map)# route_map.cfm
     !
-    permit|route map permits set operations|k||
+    permit|Route map permits set operations|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
-      id|sequence to insert to/delete from existing route-map entry|k||
+      0-65535|Sequence to insert to/delete from existing route-map entry|k||
         <cr>||||@(config-route-map)# route_map.cfm
         !
       !
     !
-    deny|route map denies set operations|k||
+    deny|Route map denies set operations|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
-      id|sequence to insert to/delete from existing route-map entry|k||
+      0-65535|Sequence to insert to/delete from existing route-map entry|k||
         <cr>||||@(config-route-map)# route_map.cfm
         !
       !
     !
-    id|id|k||
+    0-65535|Sequence to insert to/delete from existing route-map entry|k||
       <cr>||||@(config-route-map)# route_map.cfm
       !
     !
@@ -1867,6 +1927,20 @@ archive|archive configuration|k||
   !
 !
 cdp|global cdp configuration|k||
+  tlv|cdp type-length-values|k||
+    app|app|k||
+      <cr>||||
+      !
+    !
+    location|location|k||
+      <cr>||||
+      !
+    !
+    server-location|server-location|k||
+      <cr>||||
+      !
+    !
+  !
   run|run|k/sn||
     <cr>||||
     !
@@ -2037,6 +2111,28 @@ memory|memory configuration|k||
   !
   lite|lite|k||
     <cr>||||
+    !
+  !
+  check-interval|free memory check interval|k||
+    id|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  validate-checksum|text segment checksum validation|k||
+    id|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  chunk|chunk manager settings|k||
+    siblings|siblings|k||
+      threshold|threshold|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
     !
   !
 !
@@ -2319,6 +2415,12 @@ spd|selective packet discard|k||
       !
     !
   !
+  extended-headroom|extended headroom for priority packets|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
   enable|enable|k||
     <cr>||||
     !
@@ -2331,6 +2433,14 @@ spd|selective packet discard|k||
   !
 !
 alias|create command alias|k||
+  atm-vc-config|atm virtual circuit mode|k||
+    word|word|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
+      !
+    !
+  !
   exec|exec|k||
     word|word|k||
       line|text|lb/le/wa||
@@ -2432,6 +2542,94 @@ bba-group|bba group|k||
 !
 mpls|mpls configuration|k||
   ldp|ldp|k||
+    logging|ldp logging|k||
+      neighbor-changes|log neighbor state changes|k||
+        <cr>||||
+        !
+      !
+      password|log password events|k||
+        configuration|password configuration changes|k||
+          <cr>||||
+          !
+          rate-limit|rate-limit|k||
+            1-60|1-60|||
+              <cr>||||
+              !
+            !
+          !
+        !
+        rollover|password rollover events|k||
+          <cr>||||
+          !
+          rate-limit|rate-limit|k||
+            1-60|1-60|||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    graceful-restart|graceful-restart|k||
+      <cr>||||
+      !
+      timers|graceful restart timers|k||
+        neighbor-liveness|neighbor-liveness|k||
+          5-300|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        max-recovery|max-recovery|k||
+          15-600|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        forwarding-holding|forwarding-holding|k||
+          30-600|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    holdtime|ldp session holdtime|k||
+      15-2147483|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+    advertise-labels|advertise label bindings|k||
+      <cr>||||
+      !
+      for|for|k||
+        word|word|k||
+          <cr>||||
+          !
+          to|to|k||
+            word|word|||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      interface|interface|k||
+        &interfacefile.cfm|interface type|k||
+          <number>|interface number|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    maxhops|limit hop count for ldp loop detection|k||
+      1-255|hop count|o||
+        <cr>||||
+        !
+      !
+    !
     router-id|router-id|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
@@ -2456,25 +2654,125 @@ mpls|mpls configuration|k||
       <cr>||||
       !
     !
-    graceful-restart|graceful-restart|k||
-      <cr>||||
-      !
-    !
     session|session|k||
       protection|protection|k||
         <cr>||||
         !
       !
     !
-    discovery|discovery|k||
-      line|line|lb/le/wa||
-        <cr>||||
+    discovery|ldp discovery|k||
+      hello|link hellos|k||
+        holdtime|holdtime|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        interval|interval|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      targeted-hello|targeted hellos|k||
+        holdtime|holdtime|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        interval|interval|k||
+          1-65535|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+        accept|accept targeted hellos|k||
+          <cr>||||
+          !
+          from|from|k||
+            word|access list|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      transport-address|address of the tcp connection|k||
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+        !
+        interface|interface|k||
+          <cr>||||
+          !
         !
       !
     !
-    neighbor|neighbor|k||
-      line|line|lb/le/wa||
-        <cr>||||
+    neighbor|ldp neighbor settings|k||
+      vrf|vrf|k||
+        word|word|k||
+          a.b.c.d|a.b.c.d|k||
+            password|password|k||
+              0|0|||
+                word|word|o||
+                  <cr>||||
+                  !
+                !
+              !
+              7|7|||
+                word|word|o||
+                  <cr>||||
+                  !
+                !
+              !
+              word|word|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      a.b.c.d|a.b.c.d|k||
+        password|md5 password of the session|k||
+          0|0|||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+          7|7|||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+          word|word|o||
+            <cr>||||
+            !
+          !
+        !
+        targeted|a targeted session|k||
+          <cr>||||
+          !
+          ldp|ldp|k||
+            <cr>||||
+            !
+          !
+        !
+        labels|labels|k||
+          accept|accept|k||
+            word|word|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        implicit-withdraw|implicit-withdraw|k||
+          <cr>||||
+          !
         !
       !
     !
@@ -2538,6 +2836,134 @@ mpls|mpls configuration|k||
         !
       !
     !
+    mode|label allocation mode|k||
+      all-vrfs|all vrfs|k||
+        protocol|protocol|k||
+          all-afs|all address families|k||
+            per-prefix|a label for each prefix|k||
+              <cr>||||
+              !
+            !
+            per-vrf|one label for the vrf|k||
+              <cr>||||
+              !
+            !
+            per-ce|a label for each ce|k||
+              <cr>||||
+              !
+            !
+          !
+          bgp-vpnv4|bgp-vpnv4|k||
+            per-prefix|per-prefix|k||
+              <cr>||||
+              !
+            !
+            per-vrf|per-vrf|k||
+              <cr>||||
+              !
+            !
+            per-ce|per-ce|k||
+              <cr>||||
+              !
+            !
+          !
+          bgp-vpnv6|bgp-vpnv6|k||
+            per-prefix|per-prefix|k||
+              <cr>||||
+              !
+            !
+            per-vrf|per-vrf|k||
+              <cr>||||
+              !
+            !
+            per-ce|per-ce|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      vrf|vrf|k||
+        word|word|k||
+          protocol|protocol|k||
+            all-afs|all-afs|k||
+              per-prefix|per-prefix|k||
+                <cr>||||
+                !
+              !
+              per-vrf|per-vrf|k||
+                <cr>||||
+                !
+              !
+              per-ce|per-ce|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  mldp|multipoint ldp|k||
+    <cr>||||
+    !
+    forwarding|mldp forwarding|k||
+      recursive|recursive forwarding|k||
+        <cr>||||
+        !
+      !
+    !
+    path|path selection|k||
+      multipath|load balancing over paths|k||
+        upstream|upstream|k||
+          <cr>||||
+          !
+        !
+        downstream|downstream|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    logging|mldp logging|k||
+      notifications|mldp notifications|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  export|export mpls vpn information|k||
+    vpnv4|vpnv4 information|k||
+      prefixes|prefixes|k||
+        <cr>||||
+        !
+      !
+    !
+    interval|export interval|k/n||
+      0-1440|minutes|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  discovery|mpls discovery|k||
+    vpn|vpn discovery|k||
+      interval|interval|k/n||
+        30-86400|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+      next-hop|next-hop|k||
+        <cr>||||
+        !
+      !
+      edgerouter|edgerouter|k||
+        <cr>||||
+        !
+      !
+    !
   !
   traffic-eng|traffic-eng|k||
     tunnels|tunnels|k||
@@ -2563,8 +2989,8 @@ mpls|mpls configuration|k||
       !
     !
   !
-  oam|oam|k||
-    <cr>||||
+  oam|mpls operation and maintenance|k||
+    <cr>||||@(config-mpls)# mpls_oam.cfm
     !
   !
   ipv6|ipv6|k||
@@ -2663,6 +3089,22 @@ tacacs-server|tacacs server configuration|k||
   !
   administration|administration|k||
     <cr>||||
+    !
+  !
+  cache|tacacs server cache|k||
+    expiry|cache expiry|k||
+      id|hours|o||
+        <cr>||||
+        !
+        enforce|do not use expired entries|k||
+          <cr>||||
+          !
+          hours|hours|k||
+            <cr>||||
+            !
+          !
+        !
+      !
     !
   !
 !
@@ -2913,6 +3355,24 @@ network-clock-select|select a network clock source|k||
   !
 !
 scheduler|scheduler parameters|k||
+  process-watchdog|action for looping processes|k||
+    hang|hang|k||
+      <cr>||||
+      !
+    !
+    normal|normal|k||
+      <cr>||||
+      !
+    !
+    reload|reload|k||
+      <cr>||||
+      !
+    !
+    terminate|terminate|k||
+      <cr>||||
+      !
+    !
+  !
   allocate|allocate|k||
     <cr>||||
     !
@@ -3067,7 +3527,35 @@ aaa|authentication, authorization and accounting|k||
       !
     !
   !
+  memory|aaa memory settings|k||
+    threshold|threshold|k||
+      authentication|authentication|k||
+        reject|reject|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      accounting|accounting|k||
+        disable|disable|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
   accounting|accounting|k||
+    jitter|jitter of periodic accounting|k||
+      maximum|maximum|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
     exec|exec|k||
       word|word|k||
         line|line|lb/le/wa||
@@ -3269,6 +3757,28 @@ ntp|configure ntp|k||
           !
         !
       !
+      maxpoll|maxpoll|||
+        4-17|4-17|||
+          minpoll|minpoll|k||
+            4-17|4-17|||
+              version|version|k||
+                2-4|2-4|||
+                  <cr>||||
+                  !
+                  burst|burst|k||
+                    <cr>||||
+                    !
+                    iburst|iburst|k||
+                      <cr>||||
+                      !
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
       burst|burst|||
         <cr>||||
         !
@@ -3385,6 +3895,32 @@ ntp|configure ntp|k||
       !
     !
   !
+  allow|allow ntp packets|k||
+    mode|ntp mode|k||
+      control|control messages|k||
+        id|delay in seconds|o||
+          <cr>||||
+          !
+        !
+      !
+      private|private messages|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  mindistance|minimum distance|k||
+    1-16|1-16|o||
+      <cr>||||
+      !
+    !
+  !
+  maxdistance|maximum distance|k||
+    1-16|1-16|o||
+      <cr>||||
+      !
+    !
+  !
 !
 logging|modify message logging facilities|k||
   a.b.c.d|ip address of the logging host|k||
@@ -3491,7 +4027,7 @@ logging|modify message logging facilities|k||
       !
     !
   !
-  source-interface|source-interface|k||
+  source-interface|source-interface|k/n||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
@@ -3531,13 +4067,13 @@ logging|modify message logging facilities|k||
     <cr>||||
     !
   !
-  origin-id|origin-id|k||
+  origin-id|origin-id|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
     !
   !
-  discriminator|discriminator|k||
+  discriminator|discriminator|k/n||
     word|word|k||
       line|line|lb/le/wa||
         <cr>||||
@@ -3555,7 +4091,7 @@ logging|modify message logging facilities|k||
     <cr>||||
     !
   !
-  persistent|persistent|k||
+  persistent|persistent|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -3637,6 +4173,34 @@ logging|modify message logging facilities|k||
   !
   hostname|hostname|k||
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  esm|event streaming|k||
+    config|log configuration changes|k||
+      <cr>||||
+      !
+    !
+  !
+  btrace|binary trace logging|k||
+    <cr>||||
+    !
+  !
+  buginf|debug messages through logging|k||
+    <cr>||||
+    !
+  !
+  policy-firewall|firewall logging|k||
+    rate-limit|rate-limit|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  delimiter|message delimiter|k||
+    tcp|tcp|k||
       <cr>||||
       !
     !
@@ -3867,8 +4431,8 @@ snmp|modify snmp engine parameters|k||
   !
 !
 key|key management|k||
-  chain|chain|k||
-    word|word|k||
+  chain|Key-chain management|k||
+    word|Key-chain name|k||
       <cr>||||@(config-keychain)# key_chain.cfm
       !
     !
@@ -3881,14 +4445,14 @@ key|key management|k||
   !
 !
 class-map|configure class map|k||
-  match-all|match-all|k||
-    word|word|k||
+  match-all|Logical-AND all matching statements under this classmap|k||
+    word|class-map name|k||
       <cr>||||@(config-cmap)# class_map.cfm
       !
     !
   !
-  match-any|match-any|k||
-    word|word|k||
+  match-any|Logical-OR all matching statements under this classmap|k||
+    word|class-map name|k||
       <cr>||||@(config-cmap)# class_map.cfm
       !
     !
@@ -3919,7 +4483,7 @@ class-map|configure class map|k||
       !
     !
   !
-  word|word|k||
+  word|class-map name|k||
     <cr>||||@(config-cmap)# class_map.cfm
     !
   !
@@ -3947,14 +4511,14 @@ policy-map|configure qos service policy|k||
       !
     !
   !
-  word|word|k||
+  word|policy-map name|k||
     <cr>||||@(config-pmap)# policy_map.cfm
     !
   !
 !
 vrf|vrf commands|k||
-  definition|definition|k||
-    word|word|k||
+  definition|VRF definition|k||
+    word|VRF name|k||
       <cr>||||@(config-vrf)# vrf.cfm
       !
     !
@@ -3962,8 +4526,8 @@ vrf|vrf commands|k||
 !
 crypto|encryption module|k||
   isakmp|isakmp|k||
-    policy|policy|k||
-      id|id|k||
+    policy|Set policy for an ISAKMP protection suite|k||
+      1-10000|Priority of protection suite|k||
         <cr>||||@(config-isakmp)# crypto_isakmp.cfm
         !
       !
@@ -3975,7 +4539,31 @@ crypto|encryption module|k||
       !
     !
     key|key|k||
-      id|id|||
+      0|an unencrypted key follows|||
+        word|word|||
+          address|address|k||
+            a.b.c.d|a.b.c.d|k||
+              <cr>||||
+              !
+              a.b.c.d|a.b.c.d|||
+                <cr>||||
+                !
+              !
+              no-xauth|no-xauth|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+          hostname|hostname|k||
+            word|word|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+      6|an encrypted key follows|||
         word|word|||
           address|address|k||
             a.b.c.d|a.b.c.d|k||
@@ -4024,6 +4612,14 @@ crypto|encryption module|k||
           word|word|k||
             <cr>||||
             !
+          !
+        !
+      !
+    !
+    diagnose|diagnostics|k||
+      error|error|k||
+        id|id|o||
+          <cr>||||
           !
         !
       !
@@ -4177,11 +4773,17 @@ crypto|encryption module|k||
     optional|optional|k||
       <cr>||||
       !
+      retry|retry interval|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
     !
   !
-  map|map|k||
-    word|word|k||
-      id|id|k||
+  map|Enter a crypto map|k||
+    word|Crypto map tag|k||
+      1-65535|Sequence to insert into crypto map entry|k||
         ipsec-isakmp|ipsec-isakmp|k||
           <cr>||||@(config-crypto-map)# crypto_map.cfm
           !
@@ -4207,7 +4809,7 @@ crypto|encryption module|k||
           !
         !
       !
-      local-address|local-address|k||
+      local-address|Interface to use for local address for this crypto map|k||
         &interfacefile.cfm|interface type|k||
           <number>|interface number|k||
             <cr>||||
@@ -4215,25 +4817,25 @@ crypto|encryption module|k||
           !
         !
       !
-      client|client|k||
+      client|Specify client configuration settings|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
-      isakmp|isakmp|k||
+      isakmp|Specify isakmp configuration settings|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !
         !
       !
-      isakmp-profile|isakmp-profile|k||
+      isakmp-profile|Specify isakmp profile to use|k||
         word|word|||
           <cr>||||
           !
         !
       !
-      redundancy|redundancy|k||
+      redundancy|High availability options for this map|k||
         line|line|lb/le/wa/k||
           <cr>||||
           !
@@ -4345,6 +4947,14 @@ crypto|encryption module|k||
     profile|profile|k||
       word|word|k||
         <cr>||||@(config-ikev2-profile)# crypto_ikev2.cfm
+        !
+      !
+    !
+    authorization|authorization policies|k||
+      policy|policy|k||
+        word|word|k||
+          <cr>||||@(config-ikev2-author-policy)# crypto_ikev2.cfm
+          !
         !
       !
     !
@@ -5137,6 +5747,8 @@ power|power configuration|k||
   !
 !
 system|system settings|k||
+  <cr>||||@(config-system)# sdwan_system.cfm
+  !
   mtu|system mtu|k||
     id|mtu size|o||
       <cr>||||
@@ -5207,6 +5819,126 @@ lacp|lacp settings|k||
   !
 !
 monitor|monitor sessions|k||
+  event-trace|tracing of system events|k||
+    stacktrace|trace call stack at tracepoints|k||
+      <cr>||||
+      !
+    !
+    sequence-number|sequence numbers on trace entries|k||
+      <cr>||||
+      !
+    !
+    timestamps|timestamps on trace entries|k||
+      <cr>||||
+      !
+      datetime|date and time|k||
+        msec|msec|k||
+          <cr>||||
+          !
+          localtime|localtime|k||
+            <cr>||||
+            !
+          !
+        !
+        localtime|localtime|k||
+          <cr>||||
+          !
+        !
+      !
+      uptime|uptime|k||
+        <cr>||||
+        !
+      !
+    !
+    eigrp|eigrp events|k||
+      perf-events|perf-events|k||
+        rate-limiting|rate-limiting|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    voip|voice events|k||
+      ccsip|sip events|k||
+        msg|msg|k||
+          <cr>||||
+          !
+        !
+        fsm|fsm|k||
+          <cr>||||
+          !
+        !
+        api|api|k||
+          <cr>||||
+          !
+        !
+        misc|misc|k||
+          <cr>||||
+          !
+        !
+        global|global|k||
+          <cr>||||
+          !
+        !
+        stacktrace|stacktrace|k||
+          <cr>||||
+          !
+        !
+        limit|limit|k||
+          connections|connections|k||
+            id|id|o||
+              <cr>||||
+              !
+            !
+          !
+          memory|memory|k||
+            id|id|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+        dump|dump on failure|k||
+          none|none|k||
+            <cr>||||
+            !
+          !
+          all|all|k||
+            <cr>||||
+            !
+          !
+        !
+        dump-file|dump into a file|k||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+        dump-folder|dump folder limits|k||
+          size|size|k||
+            id|id|||
+              time|time|k||
+                id|id|o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+        max-dump-limit|number of dumps|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
   session|span session|k||
     id|session number|k||
       source|span source|k||
@@ -5586,6 +6318,1334 @@ parameter-map|parameter map|k||
       global|global|k||
         <cr>||||@(config-profile)# param_map.cfm
         !
+      !
+    !
+    ooo|out-of-order packet handling|k||
+      global|global|k||
+        <cr>||||@(config-profile)# param_map.cfm
+        !
+      !
+    !
+  !
+!
+parser|Configure parser|k||
+  view|view commands|k||
+    word|view name|k||
+      <cr>||||@(config-view)# parser_view.cfm
+      !
+      superview|superview|k||
+        <cr>||||@(config-view)# parser_view.cfm
+        !
+      !
+    !
+  !
+  cache|parser cache|k||
+    <cr>||||
+    !
+  !
+  config|parser configuration|k||
+    partition|partition the configuration|k||
+      <cr>||||
+      !
+    !
+    cache|configuration cache|k||
+      <cr>||||
+      !
+      interface|interface|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  command|parser command settings|k||
+    serializer|serialize the configuration commands|k||
+      <cr>||||
+      !
+    !
+  !
+  maximum|parser limits|k||
+    utilization|cpu utilization|k||
+      1-100|percent|o||
+        <cr>||||
+        !
+      !
+    !
+    latency|latency|k||
+      1-10000|milliseconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+downward-compatible-config|Generate a configuration compatible with older software|k||
+  word|version|o||
+    <cr>||||
+    !
+  !
+!
+shell|Configure shell command|k||
+  processing|shell processing|k||
+    <cr>||||
+    !
+    full|full|k||
+      <cr>||||
+      !
+    !
+  !
+!
+bsd-client|bsd client|k||
+  server|server settings|k||
+    url|server url|k||
+      word|url|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+process|process settings|k||
+  cpu|cpu usage|k||
+    extended|extended cpu usage|k||
+      history|history size|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    autoprofile|automatic profiling|k||
+      hog|profile cpu hogs|k||
+        <cr>||||
+        !
+      !
+    !
+    statistics|statistics|k||
+      limit|limit|k||
+        entry-percentage|entry-percentage|k||
+          id|id|||
+            size|size|k||
+              id|id|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    threshold|threshold|k||
+      type|type|k||
+        total|total|k||
+          rising|rising|k||
+            id|id|||
+              interval|interval|k||
+                id|id|o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+!
+process-max-time|Maximum time for process to run before voluntarily relinquishing processor|k||
+  20-200|milliseconds|o||
+    <cr>||||
+    !
+  !
+!
+cef|cisco express forwarding|k||
+  table|cef tables|k||
+    consistency-check|consistency checks|k||
+      ipv4|ipv4 tables|k||
+        type|type|k||
+          scan-rib-ios|scan-rib-ios|k||
+            count|count|k||
+              id|id|||
+                period|period|k||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+          scan-ios-rib|scan-ios-rib|k||
+            count|count|k||
+              id|id|||
+                period|period|k||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+        data-checking|data-checking|k||
+          <cr>||||
+          !
+        !
+        error-message|error-message|k||
+          <cr>||||
+          !
+        !
+        auto-repair|auto-repair|k||
+          <cr>||||
+          !
+          delay|delay|k||
+            id|id|||
+              holddown|holddown|k||
+                id|id|o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      ipv6|ipv6 tables|k||
+        type|type|k||
+          scan-rib-ios|scan-rib-ios|k||
+            count|count|k||
+              id|id|||
+                period|period|k||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+          scan-ios-rib|scan-ios-rib|k||
+            count|count|k||
+              id|id|||
+                period|period|k||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+          !
+        !
+        data-checking|data-checking|k||
+          <cr>||||
+          !
+        !
+        error-message|error-message|k||
+          <cr>||||
+          !
+        !
+        auto-repair|auto-repair|k||
+          <cr>||||
+          !
+          delay|delay|k||
+            id|id|||
+              holddown|holddown|k||
+                id|id|o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    vrf|vrf tables|k||
+      tree|table tree|k||
+        ipv4|ipv4|k||
+          type|type|k||
+            mtrie|mtrie|k||
+              <cr>||||
+              !
+              short-mask-protection|short-mask-protection|k||
+                id|id|||
+                  stride-pattern|stride-pattern|k||
+                    word|word|||
+                      <cr>||||
+                      !
+                      hardware-api-notify|hardware-api-notify|k||
+                        on|on|k||
+                          <cr>||||
+                          !
+                        !
+                        off|off|k||
+                          <cr>||||
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+            rtree|rtree|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+        ipv6|ipv6|k||
+          type|type|k||
+            mtrie|mtrie|k||
+              <cr>||||
+              !
+              short-mask-protection|short-mask-protection|k||
+                id|id|||
+                  stride-pattern|stride-pattern|k||
+                    word|word|||
+                      <cr>||||
+                      !
+                      hardware-api-notify|hardware-api-notify|k||
+                        on|on|k||
+                          <cr>||||
+                          !
+                        !
+                        off|off|k||
+                          <cr>||||
+                          !
+                        !
+                      !
+                    !
+                  !
+                !
+              !
+            !
+            rtree|rtree|k||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+    output-chain|output chain|k||
+      build|building of the chain|k||
+        favor|what to favor|k||
+          default|default|k||
+            <cr>||||
+            !
+          !
+          convergence-speed|convergence-speed|k||
+            <cr>||||
+            !
+          !
+          memory-utilization|memory-utilization|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    rate-monitor-period|rate monitoring period|k||
+      id|seconds|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+location|Global location configuration commands|k||
+  prefer|location source preference|k||
+    static|static locations|k||
+      weight|weight|k||
+        0-255|0-255|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    lldp-med|locations learned by lldp-med|k||
+      weight|weight|k||
+        0-255|0-255|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    cdp|locations learned by cdp|k||
+      weight|weight|k||
+        0-255|0-255|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+nmsp|NMSP Commands|k||
+  notification|notifications|k||
+    interval|notification interval|k||
+      location|location|k||
+        1-30|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+      rssi|rssi|k||
+        word|word|||
+          1-30|1-30|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+!
+prompt|Set system's prompt|k||
+  config|configuration prompt|k||
+    hostname-length|host name characters shown|k||
+      0-20|0-20|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+device-sensor|IOS Sensor Commands|k||
+  notify|notification|k||
+    all-changes|all-changes|k||
+      <cr>||||
+      !
+    !
+    new-tlvs|new-tlvs|k||
+      <cr>||||
+      !
+    !
+  !
+!
+kerberos|Configure Kerberos|k||
+  timeout|timeout|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  retry|retry|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  processes|processes|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+frame-relay|global frame relay configuration commands|k||
+  address|addresses|k||
+    registration|address registration|k||
+      auto-address|auto-address|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+mab|mac authentication bypass|k||
+  request|request settings|k||
+    format|request format|k||
+      attribute|radius attribute|k||
+        1|called station id|k||
+          <cr>||||
+          !
+        !
+        2|user password|k||
+          <cr>||||
+          !
+        !
+        32|nas identifier|k||
+          <cr>||||
+          !
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  logging|mab logging|k||
+    verbose|verbose|k||
+      <cr>||||
+      !
+    !
+  !
+!
+clns|Global CLNS configuration subcommands|k||
+  configuration-time|configuration time|k||
+    id|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  holding-time|holding time|k||
+    id|seconds|o||
+      <cr>||||
+      !
+    !
+  !
+  packet-lifetime|packet lifetime|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  security|security option|k||
+    pass-through|pass-through|k||
+      <cr>||||
+      !
+    !
+  !
+  want-erpdu|send error pdus|k||
+    <cr>||||
+    !
+  !
+  routing|clns routing|k||
+    <cr>||||
+    !
+  !
+  net|net|k||
+    word|word|k||
+      <cr>||||
+      !
+    !
+  !
+!
+isis|Global ISIS configuration subcommands|k||
+  display|display options|k||
+    delimiter|delimiter|k||
+      return|return|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+media-proxy|media proxy|k||
+  services|services|k||
+    rate-limit|rate-limit|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+metadata|metadata settings|k||
+  source|metadata source|k||
+    nbar|nbar|k||
+      <cr>||||
+      !
+    !
+  !
+  flow|flow metadata|k||
+    transmit|transmit|k||
+      <cr>||||
+      !
+    !
+  !
+!
+per-call|per-call settings|k||
+  export|export targets|k||
+    primary|primary|k||
+      word|word|||
+        secondary|secondary|k||
+          word|word|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  shutdown|shutdown|k||
+    <cr>||||
+    !
+  !
+!
+virtual-template|virtual template settings|k||
+  subinterface|subinterfaces for virtual templates|k||
+    <cr>||||
+    !
+  !
+  snmp|snmp for virtual access interfaces|k||
+    <cr>||||
+    !
+  !
+!
+http|http settings|k||
+  client|http client|k||
+    cache|cache|k||
+      memory|memory|k||
+        pool|pool|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+        file|file|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      query|query|k||
+        <cr>||||
+        !
+      !
+      ager|ager|k||
+        interval|interval|k||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    cookie|enable cookies|k||
+      <cr>||||
+      !
+    !
+    connection|connection settings|k||
+      persistent|persistent|k||
+        <cr>||||
+        !
+      !
+      timeout|timeout|k||
+        1-60|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+      idle|idle|k||
+        timeout|timeout|k||
+          1-600|seconds|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    response|response settings|k||
+      timeout|timeout|k||
+        1-300|seconds|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    secure-trustpoint|secure-trustpoint|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    source-interface|source-interface|k||
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+scripting|scripting conf commands|k||
+  tcl|tcl scripts|k||
+    low-memory|low-memory|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    trustpoint|trustpoint|k||
+      untrusted|untrusted|k||
+        execute|execute|k||
+          <cr>||||
+          !
+        !
+        safe-execute|safe-execute|k||
+          <cr>||||
+          !
+        !
+        terminate|terminate|k||
+          <cr>||||
+          !
+        !
+      !
+      name|name|k||
+        word|word|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    secure-mode|secure-mode|k||
+      <cr>||||
+      !
+    !
+    init|init|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    encdir|encdir|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+csdb|conversation state database|k||
+  tcp|tcp|k||
+    synwait-time|synwait-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    idle-time|idle-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    finwait-time|finwait-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    reassembly|reassembly|k||
+      max-memory|max-memory|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+      max-queue-length|max-queue-length|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  udp|udp|k||
+    idle-time|idle-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  icmp|icmp|k||
+    idle-time|idle-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  session|session|k||
+    max-session|max-session|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  alarm|alarm|k||
+    <cr>||||
+    !
+  !
+!
+terminal-queue|terminal queue settings|k||
+  entry-retry-interval|entry-retry-interval|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+route-tag|route tag settings|k||
+  notation|notation|k||
+    dotted-decimal|dotted-decimal|k||
+      <cr>||||
+      !
+    !
+  !
+!
+mop|Configure the DEC MOP Server|k||
+  device-code|device-code|k||
+    cisco|cisco|k||
+      <cr>||||
+      !
+    !
+    ds200|ds200|k||
+      <cr>||||
+      !
+    !
+  !
+  retransmit-timer|retransmit-timer|k||
+    1-20|1-20|o||
+      <cr>||||
+      !
+    !
+  !
+  retries|retries|k||
+    3-24|3-24|o||
+      <cr>||||
+      !
+    !
+  !
+!
+diameter|diameter settings|k||
+  timer|timer|k||
+    connection|connection|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    watchdog|watchdog|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    transaction|transaction|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  redundancy|redundancy|k||
+    <cr>||||
+    !
+  !
+  origin|origin|k||
+    realm|realm|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    host|host|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+default-value|Default character-bits values|k||
+  exec-character-bits|exec-character-bits|k||
+    7|7|k||
+      <cr>||||
+      !
+    !
+    8|8|k||
+      <cr>||||
+      !
+    !
+  !
+  special-character-bits|special-character-bits|k||
+    7|7|k||
+      <cr>||||
+      !
+    !
+    8|8|k||
+      <cr>||||
+      !
+    !
+  !
+  data-character-bits|data-character-bits|k||
+    7|7|k||
+      <cr>||||
+      !
+    !
+    8|8|k||
+      <cr>||||
+      !
+    !
+  !
+!
+configuration|Configuration access|k||
+  mode|configuration mode|k||
+    exclusive|exclusive|k||
+      <cr>||||
+      !
+      auto|auto|k||
+        <cr>||||
+        !
+      !
+      manual|manual|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+exception|Exception handling|k||
+  crashinfo|crash information|k||
+    file|file|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    buffersize|buffersize|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    maximum|maximum|k||
+      files|files|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    dump|dump|k||
+      garbage-detector|garbage-detector|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  data-corruption|data-corruption|k||
+    buffer|buffer|k||
+      truncate|truncate|k||
+        <cr>||||
+        !
+      !
+      log|log|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  memory|memory|k||
+    ignore|ignore|k||
+      overflow|overflow|k||
+        io|io|k||
+          <cr>||||
+          !
+        !
+        processor|processor|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  dump|dump|k||
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+  !
+  protocol|protocol|k||
+    ftp|ftp|k||
+      <cr>||||
+      !
+    !
+    tftp|tftp|k||
+      <cr>||||
+      !
+    !
+    rcp|rcp|k||
+      <cr>||||
+      !
+    !
+  !
+  region-size|region-size|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+wsma|Configure Web Services Management Agents|k||
+  id|identity|||
+    hostname|hostname|k||
+      <cr>||||
+      !
+    !
+  !
+  agent|agent|k||
+    exec|exec|k||
+      <cr>||||
+      !
+      profile|profile|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    config|config|k||
+      <cr>||||
+      !
+      profile|profile|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    filesys|filesys|k||
+      <cr>||||
+      !
+      profile|profile|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+    notify|notify|k||
+      <cr>||||
+      !
+      profile|profile|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  profile|profile|k||
+    listener|listener|k||
+      word|word|k||
+        <cr>||||@(config-wsma-listen)# generic.cfm
+        !
+      !
+    !
+  !
+!
+xmpp|xmpp settings|k||
+  id|id|||
+    hostname|hostname|k||
+      <cr>||||
+      !
+    !
+  !
+!
+bulkstat|bulk statistics|k||
+  resource|resource|k||
+    limit|limit|k||
+      memory|memory|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+webvpn|WebVPN commands|k||
+  sslvpn-vif|ssl vpn virtual interface|k||
+    nat|nat|k||
+      inside|inside|k||
+        <cr>||||
+        !
+      !
+      outside|outside|k||
+        <cr>||||
+        !
+      !
+      enable|enable|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+cns|CNS agents|k||
+  id|id|||
+    hostname|hostname|k||
+      <cr>||||
+      !
+      event|event|k||
+        <cr>||||
+        !
+      !
+      image|image|k||
+        <cr>||||
+        !
+      !
+    !
+    string|string|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+    a.b.c.d|a.b.c.d|||
+      <cr>||||
+      !
+    !
+  !
+  image|image|k||
+    retry|retry|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  trusted-server|trusted-server|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+ppp|ppp settings|k||
+  hold-queue|hold-queue|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  packet|packet|k||
+    throttle|throttle|k||
+      id|id|||
+        id|id|||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+!
+l2|layer 2 settings|k||
+  router-id|layer 2 router id|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+  !
+!
+l2vpn|layer 2 vpn|k||
+  vfi|virtual forwarding instance|k||
+    context|vfi context|k||
+      word|vfi name|k||
+        <cr>||||@(config-vfi)# l2vpn_vfi.cfm
+        !
+      !
+    !
+  !
+  evpn|ethernet vpn|k||
+    <cr>||||@(config-evpn)# l2vpn_evpn.cfm
+    !
+    instance|instance|k||
+      1-65535|1-65535|k||
+        vlan-based|vlan-based|k||
+          <cr>||||@(config-evpn-evi)# l2vpn_evpn.cfm
+          !
+        !
+        vlan-bundle|vlan-bundle|k||
+          <cr>||||@(config-evpn-evi)# l2vpn_evpn.cfm
+          !
+        !
+        vlan-aware|vlan-aware|k||
+          <cr>||||@(config-evpn-evi)# l2vpn_evpn.cfm
+          !
+        !
+      !
+    !
+  !
+  xconnect|cross connect|k||
+    context|context|k||
+      word|word|k||
+        <cr>||||@(config-xconnect)# l2vpn_xconnect.cfm
+        !
+      !
+    !
+  !
+  router-id|router-id|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+  !
+!
+bridge-domain|Bridge-domain configuration|k||
+  1-16000|bridge domain number|k||
+    <cr>||||@(config-bdomain)# bridge_domain.cfm
+    !
+  !
+!
+sdwan|sd-wan configuration|k||
+  <cr>||||@(config-sdwan)# sdwan.cfm
+  !
+!
+segment-routing|Segment Routing|k||
+  mpls|segment routing over mpls|k||
+    <cr>||||@(config-srmpls)# segment_routing.cfm
+    !
+  !
+!
+identity|Identity Configuration commands|k||
+  profile|identity profile|k||
+    default|default|k||
+      <cr>||||@(config-identity-prof)# generic.cfm
+      !
+    !
+    dot1x|dot1x|k||
+      <cr>||||@(config-identity-prof)# generic.cfm
+      !
+    !
+    eapoudp|eapoudp|k||
+      <cr>||||@(config-identity-prof)# generic.cfm
+      !
+    !
+    word|word|k||
+      <cr>||||@(config-identity-prof)# generic.cfm
+      !
+    !
+  !
+!
+nls|network location settings|k||
+  resp-timeout|resp-timeout|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+cpd|cable phone discovery|k||
+  cr-id|cr-id|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+policy-manager|policy manager|k||
+  policy|policy|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+mac-address-table|Configure the MAC address table|k||
+  static|static entries|k||
+    h.h.h|h.h.h|k||
+      interface|interface|k||
+        &interfacefile.cfm|interface type|k||
+          <number>|interface number|k||
+            <cr>||||
+            !
+            vlan|vlan|k||
+              1-4094|1-4094|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+      vlan|vlan|k||
+        1-4094|1-4094|k||
+          interface|interface|k||
+            &interfacefile.cfm|interface type|k||
+              <number>|interface number|k||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  aging-time|aging-time|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+config-register|Define the configuration register|k||
+  word|configuration register value|o||
+    <cr>||||
+    !
+  !
+!
+auto|Configure Automation|k||
+  qos|automatic quality of service|k||
+    srnd4|the srnd4 model|k||
+      <cr>||||
+      !
+    !
+    global|global|k||
+      compact|compact|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+service-routing|Configure service-routing|k||
+  capabilities-manager|capabilities-manager|k||
+    <cr>||||
+    !
+  !
+!
+file|Adjust file system parameters|k||
+  privilege|privilege|k||
+    0-15|0-15|o||
+      <cr>||||
+      !
+    !
+  !
+  prompt|prompt|k||
+    alert|alert|k||
+      <cr>||||
+      !
+    !
+    noisy|noisy|k||
+      <cr>||||
+      !
+    !
+    quiet|quiet|k||
+      <cr>||||
+      !
+    !
+  !
+  verify|verify|k||
+    auto|auto|k||
+      <cr>||||
       !
     !
   !

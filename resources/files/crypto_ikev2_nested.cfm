@@ -1,3 +1,57 @@
+pki|pki settings|k||
+  trustpoint|trustpoint|k||
+    word|word|k||
+      <cr>||||
+      !
+      sign|sign|k||
+        <cr>||||
+        !
+      !
+      verify|verify|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+route|route settings|k||
+  set|set|k||
+    interface|interface|k||
+      <cr>||||
+      !
+      &interfacefile.cfm|interface type|k||
+        <number>|interface number|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+    access-list|access-list|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+  accept|accept|k||
+    any|any|k||
+      <cr>||||
+      !
+      tag|tag|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      distance|distance|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
 encryption|encryption|k||
   line|line|lb/le/wa||
     <cr>||||

@@ -78,7 +78,43 @@ set|set values for encryption/decryption|k||
         !
       !
     !
-    idle-time|idle-time|k||
+    dfbit|df bit of the outer header|k/n||
+      clear|clear|k||
+        <cr>||||
+        !
+      !
+      copy|copy|k||
+        <cr>||||
+        !
+      !
+      set|set|k||
+        <cr>||||
+        !
+      !
+    !
+    dummy|dummy packets|k||
+      <cr>||||
+      !
+      pps|pps|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    ecn|explicit congestion notification|k||
+      <cr>||||
+      !
+      discard|discard|k||
+        <cr>||||
+        !
+      !
+      propagate|propagate|k||
+        <cr>||||
+        !
+      !
+    !
+    idle-time|idle time|k/n||
       line|line|lb/le/wa||
         <cr>||||
         !

@@ -51,7 +51,7 @@ negotiation|select autonegotiation mode|k||
   !
 !
 bandwidth|set bandwidth informational parameter|k||
-  id|id|o||
+  1-100000000|bandwidth in kilobits|o||
     <cr>||||
     !
   !
@@ -77,14 +77,14 @@ delay|specify interface throughput delay|k||
   !
 !
 mtu|set the interface maximum transmission unit|k||
-  id|id|o||
+  64-18000|mtu (bytes)|o||
     <cr>||||
     !
   !
 !
 encapsulation|set encapsulation type for an interface|k||
   dot1q|dot1q|k||
-    id|id|o||
+    1-4094|ieee 802.1q vlan id|o||
       <cr>||||
       !
       native|native|k||
@@ -217,7 +217,7 @@ switchport|set switching mode characteristics|k||
   !
   access|access|k/n||
     vlan|vlan|k||
-      id|id|o||
+      1-4094|vlan id of the vlan when this port is in access mode|o||
         <cr>||||
         !
       !
@@ -231,7 +231,7 @@ switchport|set switching mode characteristics|k||
   !
   voice|voice|k/n||
     vlan|vlan|k||
-      id|id|o||
+      1-4094|vlan for voice traffic|o||
         <cr>||||
         !
       !
@@ -300,7 +300,7 @@ switchport|set switching mode characteristics|k||
     !
     native|native|k||
       vlan|vlan|k||
-        id|id|o||
+        1-4094|vlan id of the native vlan when this port is in trunking mode|o||
           <cr>||||
           !
         !
@@ -597,7 +597,7 @@ standby|hot standby router protocol|k||
       !
     !
     priority|priority level|k/n||
-      id|priority value|o||
+      0-255|priority value|o||
         <cr>||||
         !
       !
@@ -1000,6 +1000,10 @@ tunnel|protocol-over-protocol tunneling|k||
       <cr>||||
       !
     !
+    ipv6/address|ipv6/address|o||
+      <cr>||||
+      !
+    !
     dynamic|dynamic|k||
       <cr>||||
       !
@@ -1214,6 +1218,8 @@ service-policy|configure qos service policy|k||
 !
 channel-group|etherchannel/port bundling configuration|k||
   id|id|o||
+    <cr>||||
+    !
     mode|mode|k||
       active|active|k||
         <cr>||||
@@ -1381,6 +1387,10 @@ mpls|configure mpls interface parameters|k||
         line|line|lb/le/wa||
           <cr>||||
           !
+        !
+      !
+      autoconfig|ldp autoconfiguration|k||
+        <cr>||||
         !
       !
     !
@@ -2187,8 +2197,58 @@ source|get config from another source|k||
   !
 !
 member|member interface settings|k||
+  vni|vxlan network identifiers of the nve interface|k||
+    list/4096-16777215|vni or a range of vnis|k||
+      <cr>||||@(config-if-nve-vni)# nve_vni.cfm
+      !
+      associate-vrf|the vni of a vrf|k||
+        <cr>||||
+        !
+      !
+      vrf|the vrf of a layer-3 vni|k||
+        word|word|o||
+          <cr>||||
+          !
+        !
+      !
+      ingress-replication|ingress replication|k||
+        <cr>||||
+        !
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+        !
+      !
+      mcast-group|multicast group|k||
+        a.b.c.d|a.b.c.d|o||
+          <cr>||||
+          !
+          a.b.c.d|a.b.c.d|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
   line|line|lb/le/wa||
     <cr>||||
+    !
+  !
+!
+source-interface|source interface of the nve interface|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+host-reachability|host reachability of the nve interface|k||
+  protocol|protocol|k||
+    bgp|bgp|k||
+      <cr>||||
+      !
     !
   !
 !
@@ -2609,6 +2669,22 @@ lacp|lacp interface subcommands|k||
       !
     !
   !
+  fast-switchover|fast switchover of the port channel|k||
+    <cr>||||
+    !
+  !
+  max-bundle|max-bundle|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  min-bundle|min-bundle|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
   rate|rate|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -2777,6 +2853,22 @@ medium|interface medium|k||
   !
   broadcast|broadcast|k||
     <cr>||||
+    !
+  !
+!
+tx-queue-limit|transmit queue size|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+dot1q|dot1q settings|k||
+  tunneling|tunneling|k||
+    ethertype|ethertype|k||
+      word|ethertype|o||
+        <cr>||||
+        !
+      !
     !
   !
 !

@@ -5,7 +5,7 @@ cef|cisco express forwarding|k/sb/o||
     <cr>||||
     !
   !
-  accounting|accounting|k||
+  accounting|accounting|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -48,8 +48,12 @@ source-route|source-route|k/sn||
   <cr>||||
   !
 !
-gratuitous-arps|gratuitous-arps|k/sn||
-  <cr>||||
+gratuitous-arps|gratuitous-arps|k||
+  <cr>||sn||
+  !
+  non-local|gratuitous arps for addresses of other subnets|k||
+    <cr>||||
+    !
   !
 !
 finger|finger|k/sn||
@@ -84,6 +88,10 @@ domain|domain name system|k||
           <cr>||||
           !
         !
+      !
+    !
+    nsap|nsap lookups|k||
+      <cr>||||
       !
     !
   !
@@ -230,6 +238,8 @@ forward-protocol|forward-protocol|k||
     !
   !
   udp|udp|k||
+    <cr>||||
+    !
     &portfile.cfm|&portfile.cfm|k||
       <cr>||||
       !
@@ -284,6 +294,12 @@ http|http|k||
     !
   !
   timeout-policy|timeout-policy|k||
+    linger|linger|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
     idle|idle|k||
       id|id|||
         life|life|k||
@@ -300,7 +316,43 @@ http|http|k||
     !
   !
   path|path|k||
+    <cr>||||
+    !
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  upload|file upload|k||
+    overwrite|overwrite|k||
+      <cr>||||
+      !
+    !
+    enable|enable|k||
+      <cr>||||
+      !
+      path|path|k||
+        word|word|||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  digest|digest authentication|k||
+    algorithm|algorithm|k||
+      md5|md5|k||
+        <cr>||||
+        !
+      !
+      sha-256|sha-256|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  help-path|help page path|k||
+    word|word|o||
       <cr>||||
       !
     !
@@ -410,6 +462,12 @@ ssh|configure secure shell|k||
     !
   !
   server|server|k||
+    certificate|server certificate settings|k||
+      profile|certificate profile|k||
+        <cr>||||@(ssh-server-cert-profile)# ssh_cert_profile.cfm
+        !
+      !
+    !
     algorithm|algorithms the server offers|k||
       encryption|encryption algorithms, in order of preference|k||
         aes128-ctr|aes128-ctr|o||
@@ -857,6 +915,16 @@ scp|scp|k||
   !
 !
 tftp|tftp|k||
+  min-timeout|minimum timeout|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  claim-netascii|claim netascii transfers|k||
+    <cr>||||
+    !
+  !
   source-interface|source-interface|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
@@ -905,6 +973,48 @@ ftp|ftp|k||
   !
 !
 telnet|telnet|k||
+  timeout|telnet timeouts|k||
+    retransmit|retransmit|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  quiet|no telnet banners|k||
+    <cr>||||
+    !
+  !
+  comport|telnet com port control|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+    flow|flow|k||
+      level|level|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    receive|receive|k||
+      window|window|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    disconnect|disconnect|k||
+      delay|delay|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
   source-interface|source-interface|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
@@ -979,10 +1089,50 @@ tcp|tcp|k||
       !
     !
   !
+  delayed-ack|delayed acknowledgements|k||
+    <cr>||||
+    !
+  !
+  chunk-size|tcp chunk size|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  keepalive|tcp keepalives|k||
+    retries|retries|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    interval|interval|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  async-mobility|asynchronous mobility|k||
+    server|server|k||
+      <cr>||||
+      !
+    !
+  !
+  rst-count|reset count|k||
+    id|id|||
+      rst-window|rst-window|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
 !
 route|establish static routes|k||
   a.b.c.d|destination prefix|k||
-    a.b.c.d|destination prefix mask|k||
+    a.b.c.d/mask|destination prefix mask|k||
       &interfacefile.cfm|interface type|k||
         <number>|interface number|k||
           <cr>||||
@@ -1124,6 +1274,14 @@ access-list|named access list|k||
   role-based|role-based|k||
     word|word|k||
       <cr>||||@(config-rb-acl)# acl_ext.cfm
+      !
+    !
+  !
+  helper|access list helpers|k||
+    egress|egress|k||
+      check|check|k||
+        <cr>||||
+        !
       !
     !
   !
@@ -1827,8 +1985,8 @@ nat|nat configuration|k||
   !
 !
 dhcp|configure dhcp server and relay parameters|k||
-  pool|pool|k||
-    word|word|k||
+  pool|Configure DHCP address pools|k||
+    word|Pool name|k||
       <cr>||||@(dhcp-config)# dhcp_pool.cfm
       !
     !
@@ -1899,6 +2057,16 @@ dhcp|configure dhcp server and relay parameters|k||
       !
     !
   !
+  binding|dhcp bindings|k||
+    cleanup|cleanup|k||
+      interval|interval|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
   use|use|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -1943,6 +2111,22 @@ sla|ip service level agreement|k||
   !
   responder|responder|k||
     <cr>||||
+    !
+    twamp|twamp responder|k||
+      <cr>||||@(config-twamp-srvr)# generic.cfm
+      !
+    !
+  !
+  server|sla servers|k||
+    twamp|twamp server|k||
+      <cr>||||@(config-twamp-srvr)# generic.cfm
+      !
+    !
+  !
+  low-memory|memory reserve|k||
+    id|id|o||
+      <cr>||||
+      !
     !
   !
   logging|logging|k||
@@ -2020,6 +2204,10 @@ inspect|context-based access control|k||
     !
   !
   alert-off|alert-off|k||
+    <cr>||||
+    !
+  !
+  fast|fast path inspection|k||
     <cr>||||
     !
   !
@@ -2546,6 +2734,184 @@ sctp|stream control transmission protocol|k||
     !
     <16-255>|chunk type|k||
       <cr>||||
+      !
+    !
+  !
+!
+spd|selective packet discard|k||
+  queue|queue|k||
+    threshold|threshold|k||
+      minimum|minimum|k||
+        id|id|||
+          maximum|maximum|k||
+            id|id|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  mode|mode|k||
+    aggressive|aggressive|k||
+      <cr>||||
+      !
+    !
+  !
+  headroom|headroom|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+ttl|time to live settings|k||
+  decrement|decrement|k||
+    <cr>||||
+    !
+  !
+!
+verify|unicast reverse path forwarding|k||
+  drop-rate|drop-rate|k||
+    compute|compute|k||
+      window|window|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+      interval|interval|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    notify|notify|k||
+      hold-down|hold-down|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+nbar|network based application recognition|k||
+  resources|resources|k||
+    system|system|k||
+      id|id|||
+        id|id|||
+          id|id|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  protocol-discovery|protocol-discovery|k||
+    <cr>||||
+    !
+  !
+  custom|custom|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+!
+sap|session announcement protocol|k||
+  cache-timeout|cache-timeout|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+pgm|pragmatic general multicast|k||
+  router|router|k||
+    elimination-interval|elimination-interval|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+dhcp-server|dhcp server settings|k||
+  query|query|k||
+    lease|lease|k||
+      retries|retries|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+      timeout|timeout|k||
+        id|id|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+!
+dhcp-client|dhcp client settings|k||
+  broadcast-flag|broadcast-flag|k||
+    <cr>||||
+    !
+  !
+  default-router|default-router|k||
+    distance|distance|k||
+      1-255|1-255|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+rtcp|rtp control protocol|k||
+  report|report|k||
+    interval|interval|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  sub-rtcp|sub-rtcp|k||
+    message-type|message-type|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+identd|ident protocol|k||
+  <cr>||||
+  !
+!
+mux|ip mux|k||
+  cache|cache|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+slb|server load balancing|k||
+  serverfarm|server farm|k||
+    word|word|k||
+      <cr>||||@(config-slb-sfarm)# slb_serverfarm.cfm
+      !
+    !
+  !
+  vserver|virtual server|k||
+    word|word|k||
+      <cr>||||@(config-slb-vserver)# slb_vserver.cfm
       !
     !
   !

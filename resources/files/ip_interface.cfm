@@ -1,6 +1,6 @@
 address|set the ip address of an interface|k/n||
   a.b.c.d|ip address|o/n||
-    a.b.c.d|ip subnet mask|||
+    a.b.c.d/mask|ip subnet mask|||
       <cr>||||
       !
       secondary|secondary|k/a||
@@ -196,6 +196,14 @@ split-horizon|split-horizon|k||
     !
   !
 !
+next-hop-self|use this router as the next hop|k||
+  eigrp|eigrp|k||
+    1-65535|autonomous system number|k/sn||
+      <cr>||||
+      !
+    !
+  !
+!
 summary-address|summary-address|k||
   line|line|lb/le/wa||
     <cr>||||
@@ -255,7 +263,7 @@ authentication|authentication|k||
   !
 !
 mtu|mtu|k||
-  id|id|o||
+  68-18000|mtu (bytes)|o||
     <cr>||||
     !
   !
@@ -331,6 +339,10 @@ verify|verify|k||
           !
           allow-default|allow-default|k||
             <cr>||||
+            !
+            id|id|||
+              <cr>||||
+              !
             !
           !
           id|id|||
@@ -501,15 +513,35 @@ igmp|igmp|k||
       !
     !
   !
+  mroute-proxy|forward igmp reports to a proxy interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
   join-group|join-group|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
+      !
+      source|the source of the group|k||
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
       !
     !
   !
   static-group|static-group|k||
     a.b.c.d|a.b.c.d|k||
       <cr>||||
+      !
+      source|the source of the group|k||
+        a.b.c.d|a.b.c.d|k||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -669,7 +701,7 @@ ips|ips|k||
   !
 !
 ospf|ospf interface commands|k||
-  id|process id|k||
+  1-65535|process id|k||
     area|area|k||
       id|id|k||
         <cr>||||
@@ -688,7 +720,7 @@ ospf|ospf interface commands|k||
     !
   !
   cost|cost|k||
-    id|id|o||
+    1-65535|cost|o||
       <cr>||||
       !
     !
@@ -720,19 +752,19 @@ ospf|ospf interface commands|k||
     !
   !
   priority|priority|k||
-    id|id|o||
+    0-255|priority|o||
       <cr>||||
       !
     !
   !
   hello-interval|hello-interval|k||
-    id|id|o||
+    1-65535|seconds|o||
       <cr>||||
       !
     !
   !
   dead-interval|dead-interval|k||
-    id|id|o||
+    1-65535|seconds|o||
       <cr>||||
       !
     !

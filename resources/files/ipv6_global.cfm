@@ -9,6 +9,44 @@ cef|cef|k/sb/o||
     <cr>||||
     !
   !
+  optimize|cef optimizations|k||
+    neighbor|neighbor|k||
+      resolution|resolution|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  load-sharing|load sharing|k||
+    algorithm|algorithm|k||
+      original|original|k||
+        <cr>||||
+        !
+      !
+      universal|universal|k||
+        <cr>||||
+        !
+        word|fixed identifier|o||
+          <cr>||||
+          !
+        !
+      !
+      include-ports|include-ports|k||
+        source|source|k||
+          <cr>||||
+          !
+          destination|destination|k||
+            <cr>||||
+            !
+          !
+        !
+        destination|destination|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
 !
 multicast-routing|multicast-routing|k||
   <cr>||||
@@ -25,7 +63,7 @@ multicast|multicast|k||
   !
 !
 route|establish static routes|k||
-  word|ipv6 prefix|k||
+  ipv6/prefix|ipv6 prefix|k||
     &interfacefile.cfm|interface type|k||
       <number>|interface number|k||
         <cr>||||
@@ -431,7 +469,7 @@ route|establish static routes|k||
   !
   vrf|vrf of the route|k||
     word|vrf name|k||
-      word|ipv6 prefix|k||
+      ipv6/prefix|ipv6 prefix|k||
         &interfacefile.cfm|interface type|k||
           <number>|interface number|k||
             <cr>||||
@@ -875,6 +913,10 @@ access-list|access-list|k||
   !
 !
 prefix-list|prefix-list|k||
+  sequence-number|sequence numbers in prefix lists|k||
+    <cr>||||
+    !
+  !
   word|word|k||
     line|line|lb/le/wa||
       <cr>||||
@@ -884,6 +926,184 @@ prefix-list|prefix-list|k||
 !
 source-route|source-route|k/sn||
   <cr>||||
+  !
+!
+traffic|ipv6 traffic|k||
+  interface-statistics|per-interface statistics|k||
+    <cr>||||
+    !
+  !
+!
+mfib|ipv6 multicast forwarding|k||
+  <cr>||||
+  !
+  line|line|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
+dhcp-relay|dhcpv6 relay settings|k||
+  option|option|k||
+    vpn|vpn|k||
+      <cr>||||
+      !
+    !
+    remote-id|remote-id|k||
+      format|format|k||
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  source-interface|source-interface|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+inspect|ipv6 inspection|k||
+  name|inspection rule|k||
+    word|word|k||
+      &protocolfile.cfm|&protocolfile.cfm|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      word|word|k||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  max-incomplete|max-incomplete|k||
+    low|low|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    high|high|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  one-minute|one-minute|k||
+    low|low|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    high|high|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  udp|udp|k||
+    idle-time|idle-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  tcp|tcp|k||
+    idle-time|idle-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    finwait-time|finwait-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    synwait-time|synwait-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    max-incomplete|max-incomplete|k||
+      host|host|k||
+        id|id|||
+          block-time|block-time|k||
+            id|id|o||
+              <cr>||||
+              !
+            !
+          !
+        !
+      !
+    !
+  !
+  hashtable-size|hashtable-size|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  alert-off|alert-off|k||
+    <cr>||||
+    !
+  !
+  audit-trail|audit-trail|k||
+    <cr>||||
+    !
+  !
+  routing-header|routing-header|k||
+    <cr>||||
+    !
+  !
+!
+rip|ipv6 rip|k||
+  vrf-mode|vrf-mode|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+spd|ipv6 selective packet discard|k||
+  queue|queue|k||
+    min-threshold|min-threshold|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    max-threshold|max-threshold|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+mux|ipv6 mux|k||
+  cache|cache|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
   !
 !
 icmp|icmp|k||

@@ -9,7 +9,7 @@ cef|cef|k||
   !
 !
 address|address|k||
-  <x:x::x/n>|ipv6 prefix, or the name of a general prefix|k||
+  ipv6/prefix|IPv6 prefix|k||
     <cr>||||
     !
     eui-64|eui-64|k||
@@ -24,22 +24,14 @@ address|address|k||
       <cr>||||
       !
     !
-    <x:x::x/n>|sub-prefix bits and length under the general prefix|k||
-      <cr>||||
-      !
-      eui-64|eui-64|k||
-        <cr>||||
-        !
-      !
-    !
   !
-  <x:x::x>|x:x::x|k||
+  ipv6/address|IPv6 link-local address|k||
     link-local|link-local|k||
       <cr>||||
       !
     !
   !
-  autoconfig|autoconfig|k||
+  autoconfig|Obtain address using autoconfiguration|k||
     <cr>||||
     !
     default|default|k||
@@ -47,7 +39,7 @@ address|address|k||
       !
     !
   !
-  dhcp|dhcp|k||
+  dhcp|Obtain a ipv6 address using dhcp|k||
     <cr>||||
     !
     rapid-commit|rapid-commit|k||
@@ -55,8 +47,8 @@ address|address|k||
       !
     !
   !
-  word|word|k||
-    <x:x::x/n>|x:x::x/n|k||
+  word|General prefix name|k||
+    ipv6/prefix|sub-prefix bits and length|k||
       <cr>||||
       !
       eui-64|eui-64|k||
@@ -215,6 +207,20 @@ nd|nd|k||
       !
     !
   !
+  raguard|router advertisement guard|k||
+    attach-policy|attach-policy|k||
+      word|policy name|o||
+        <cr>||||
+        !
+        vlan|vlan|k||
+          line|line|lb/le/wa||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
 !
 mfib|mfib|k||
   forwarding|forwarding|k||
@@ -264,7 +270,7 @@ ospf|ospf|k||
     !
   !
   cost|cost|k||
-    id|id|||
+    1-65535|cost|||
       <cr>||||
       !
     !
@@ -335,7 +341,7 @@ rip|rip|k||
   !
 !
 mtu|mtu|k||
-  id|id|o||
+  1280-18000|mtu (bytes)|o||
     <cr>||||
     !
   !
@@ -463,6 +469,36 @@ virtual-reassembly|virtual-reassembly|k||
   !
   line|line|lb/le/wa||
     <cr>||||
+    !
+  !
+!
+inspect|apply an inspection rule|k||
+  word|rule name|k||
+    in|in|k||
+      <cr>||||
+      !
+    !
+    out|out|k||
+      <cr>||||
+      !
+    !
+  !
+!
+source-guard|ipv6 source guard|k||
+  attach-policy|attach-policy|k||
+    word|word|o||
+      <cr>||||
+      !
+    !
+  !
+!
+snooping|ipv6 snooping|k||
+  <cr>||||
+  !
+  attach-policy|attach-policy|k||
+    word|word|o||
+      <cr>||||
+      !
     !
   !
 !

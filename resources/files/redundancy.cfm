@@ -1,3 +1,7 @@
+maintenance-mode|maintenance mode of the standby|k||
+  <cr>||||
+  !
+!
 mode|mode|k||
   sso|sso|k/o||
     <cr>||||

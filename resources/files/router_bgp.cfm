@@ -38,6 +38,10 @@ bgp|bgp specific commands|k||
       <cr>||||
       !
     !
+    ipv6-nexthop|ipv6 next hops for ipv4 prefixes|k||
+      <cr>||||
+      !
+    !
     local-preference|local-preference|k||
       id|id|||
         <cr>||||
@@ -51,35 +55,139 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  additional-paths|additional-paths|k||
-    line|line|lb/le/wa||
+  additional-paths|bgp additional paths|k||
+    send|send|k||
+      <cr>||||
+      !
+      receive|receive|k||
+        <cr>||||
+        !
+      !
+    !
+    receive|receive|k||
       <cr>||||
       !
     !
+    install|install|k||
+      <cr>||||
+      !
+    !
+    select|select|k||
+      all|all|k||
+        <cr>||||
+        !
+        best|best|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      best|best|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      group-best|group-best|k||
+        <cr>||||
+        !
+        all|all|k||
+          <cr>||||
+          !
+        !
+      !
+    !
   !
-  dampening|dampening|k||
+  dampening|route flap dampening|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    1-45|half-life time in minutes|||
+      <cr>||||
+      !
+      1-20000|value to start reusing a route|||
+        1-20000|value to start suppressing a route|||
+          1-255|maximum duration to suppress a route|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  bestpath|best path selection|k||
+    as-path|as-path|k||
+      multipath-relax|multipath-relax|k||
+        <cr>||||
+        !
+      !
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+    compare-routerid|compare-routerid|k||
+      <cr>||||
+      !
+    !
+    med|med|k||
+      confed|confed|k||
+        <cr>||||
+        !
+        missing-as-worst|missing-as-worst|k||
+          <cr>||||
+          !
+        !
+      !
+      missing-as-worst|missing-as-worst|k||
+        <cr>||||
+        !
+      !
+    !
+    cost-community|cost-community|k||
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+    igp-metric|igp-metric|k||
+      ignore|ignore|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  cluster-id|route reflector cluster id|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+    1-4294967295|1-4294967295|o||
       <cr>||||
       !
     !
   !
-  bestpath|bestpath|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  confederation|as confederation|k||
+    identifier|identifier|k||
+      1-4294967295|1-4294967295|o||
+        <cr>||||
+        !
+      !
+      1.0-65535.65535|1.0-65535.65535|o||
+        <cr>||||
+        !
       !
     !
-  !
-  cluster-id|cluster-id|k||
-    line|line|lb/le/wa||
-      <cr>||||
-      !
-    !
-  !
-  confederation|confederation|k||
-    line|line|lb/le/wa||
-      <cr>||||
+    peers|peers|k||
+      line|line|lb/le/wa||
+        <cr>||||
+        !
       !
     !
   !
@@ -91,10 +199,22 @@ bgp|bgp specific commands|k||
     <cr>||||
     !
   !
-  graceful-restart|graceful-restart|k||
+  graceful-restart|graceful restart|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    restart-time|restart-time|k||
+      1-3600|1-3600|o||
+        <cr>||||
+        !
+      !
+    !
+    stalepath-time|stalepath-time|k||
+      1-3600|1-3600|o||
+        <cr>||||
+        !
+      !
+    !
+    extended|extended|k||
       <cr>||||
       !
     !
@@ -113,9 +233,21 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  listen|listen|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  listen|dynamic neighbors|k||
+    range|range|k||
+      a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        peer-group|peer-group|k||
+          word|word|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    limit|limit|k||
+      1-5000|1-5000|o||
+        <cr>||||
+        !
       !
     !
   !
@@ -147,15 +279,63 @@ bgp|bgp specific commands|k||
     <cr>||||
     !
   !
-  transport|transport|k||
-    line|line|lb/le/wa||
+  transport|transport settings|k||
+    path-mtu-discovery|path-mtu-discovery|k||
       <cr>||||
+      !
+      disable|disable|k||
+        <cr>||||
+        !
       !
     !
   !
   client-to-client|client-to-client|k||
     reflection|reflection|k||
       <cr>||||
+      !
+      intra-cluster|reflection inside the cluster|k||
+        cluster-id|cluster-id|k||
+          any|any|k||
+            <cr>||||
+            !
+          !
+          a.b.c.d|a.b.c.d|k||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
+  route-map-cache|cache route-map results|k||
+    <cr>||||
+    !
+  !
+  dynamic-med-interval|interval of dynamic med changes|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+  refresh|route refresh settings|k||
+    stalepath-time|stalepath-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    max-eor-time|max-eor-time|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  update-group|update group settings|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
       !
     !
   !
@@ -169,13 +349,27 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  nexthop|nexthop|k||
-    line|line|lb/le/wa||
-      <cr>||||
+  nexthop|next hop tracking|k||
+    trigger|trigger|k||
+      enable|enable|k||
+        <cr>||||
+        !
+      !
+      delay|delay|k||
+        0-100|0-100|o||
+          <cr>||||
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
       !
     !
   !
-  consistency-checker|consistency-checker|k||
+  consistency-checker|consistency-checker|k/n||
     line|line|lb/le/wa||
       <cr>||||
       !
@@ -187,8 +381,8 @@ bgp|bgp specific commands|k||
       !
     !
   !
-  regexp|regexp|k||
-    line|line|lb/le/wa||
+  regexp|regular expressions|k||
+    deterministic|deterministic|k||
       <cr>||||
       !
     !
@@ -219,7 +413,15 @@ bgp|bgp specific commands|k||
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -563,7 +765,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -911,7 +1121,15 @@ neighbor|specify a neighbor router|k||
       !
     !
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -1421,7 +1639,15 @@ timers|adjust routing timers|k||
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -1765,7 +1991,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -2293,17 +2527,69 @@ default-information|control distribution of default information|k||
   !
 !
 bgp|bgp specific commands|k||
-  dampening|dampening|k||
+  dampening|route flap dampening|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    1-45|half-life time in minutes|||
       <cr>||||
+      !
+      1-20000|value to start reusing a route|||
+        1-20000|value to start suppressing a route|||
+          1-255|maximum duration to suppress a route|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
       !
     !
   !
-  additional-paths|additional-paths|k||
-    line|line|lb/le/wa||
+  additional-paths|bgp additional paths|k||
+    send|send|k||
       <cr>||||
+      !
+      receive|receive|k||
+        <cr>||||
+        !
+      !
+    !
+    receive|receive|k||
+      <cr>||||
+      !
+    !
+    install|install|k||
+      <cr>||||
+      !
+    !
+    select|select|k||
+      all|all|k||
+        <cr>||||
+        !
+        best|best|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      best|best|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      group-best|group-best|k||
+        <cr>||||
+        !
+        all|all|k||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -2323,6 +2609,20 @@ bgp|bgp specific commands|k||
   !
   scan-time|scan-time|k||
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  update-group|update-group|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  aggregate-timer|aggregate-timer|k||
+    id|id|||
       <cr>||||
       !
     !

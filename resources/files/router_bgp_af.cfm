@@ -1,7 +1,15 @@
 neighbor|specify a neighbor router|k||
   a.b.c.d|a.b.c.d|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -345,7 +353,15 @@ neighbor|specify a neighbor router|k||
   !
   word|word|k||
     remote-as|specify a bgp neighbor|k||
-      <as>|as|o||
+      1-4294967295|AS of remote neighbor|o||
+        <cr>||||
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
+      !
+      1.0-65535.65535|AS of remote neighbor|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -873,17 +889,69 @@ default-information|control distribution of default information|k||
   !
 !
 bgp|bgp specific commands|k||
-  dampening|dampening|k||
+  dampening|route flap dampening|k||
     <cr>||||
     !
-    line|line|lb/le/wa||
+    1-45|half-life time in minutes|||
       <cr>||||
+      !
+      1-20000|value to start reusing a route|||
+        1-20000|value to start suppressing a route|||
+          1-255|maximum duration to suppress a route|||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+    route-map|route-map|k||
+      word|word|o||
+        <cr>||||
+        !
       !
     !
   !
-  additional-paths|additional-paths|k||
-    line|line|lb/le/wa||
+  additional-paths|bgp additional paths|k||
+    send|send|k||
       <cr>||||
+      !
+      receive|receive|k||
+        <cr>||||
+        !
+      !
+    !
+    receive|receive|k||
+      <cr>||||
+      !
+    !
+    install|install|k||
+      <cr>||||
+      !
+    !
+    select|select|k||
+      all|all|k||
+        <cr>||||
+        !
+        best|best|k||
+          id|id|||
+            <cr>||||
+            !
+          !
+        !
+      !
+      best|best|k||
+        id|id|||
+          <cr>||||
+          !
+        !
+      !
+      group-best|group-best|k||
+        <cr>||||
+        !
+        all|all|k||
+          <cr>||||
+          !
+        !
       !
     !
   !
@@ -903,6 +971,20 @@ bgp|bgp specific commands|k||
   !
   scan-time|scan-time|k||
     line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  update-group|update-group|k||
+    split|split|k||
+      as-override|as-override|k||
+        <cr>||||
+        !
+      !
+    !
+  !
+  aggregate-timer|aggregate-timer|k||
+    id|id|||
       <cr>||||
       !
     !

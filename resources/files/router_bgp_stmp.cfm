@@ -1,5 +1,13 @@
 remote-as|specify a bgp neighbor|k||
-  <as>|as|o||
+  1-4294967295|AS of remote neighbor|o||
+    <cr>||||
+    !
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  1.0-65535.65535|AS of remote neighbor|o||
     <cr>||||
     !
     line|line|lb/le/wa||

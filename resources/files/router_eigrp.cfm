@@ -234,6 +234,34 @@ address-family|enter address family command mode|k||
     !
   !
 !
+service-family|enter service family command mode|k||
+  ipv4|ipv4 service family|k||
+    autonomous-system|autonomous-system|k||
+      1-65535|1-65535|||
+        <cr>||||@(config-router-sf)# router_eigrp_af.cfm
+        !
+      !
+    !
+    vrf|vrf|k||
+      word|word|k||
+        autonomous-system|autonomous-system|k||
+          1-65535|1-65535|||
+            <cr>||||@(config-router-sf)# router_eigrp_af.cfm
+            !
+          !
+        !
+      !
+    !
+  !
+  ipv6|ipv6 service family|k||
+    autonomous-system|autonomous-system|k||
+      1-65535|1-65535|||
+        <cr>||||@(config-router-sf)# router_eigrp_af.cfm
+        !
+      !
+    !
+  !
+!
 no-shutdown|bring the routing process up|k||
   <cr>||||
   !

@@ -52,6 +52,10 @@ exit-address-family|exit-address-family|k||
   <cr>||||
   !
 !
+exit-service-family|exit from service family configuration mode|k||
+  <cr>||||
+  !
+!
 metric|metric|k||
   line|line|lb/le/wa||
     <cr>||||

@@ -66,3 +66,7 @@ exit-af-topology|exit-af-topology|k||
   <cr>||||
   !
 !
+exit-sf-topology|exit from service family topology mode|k||
+  <cr>||||
+  !
+!

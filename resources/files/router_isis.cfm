@@ -4,6 +4,26 @@ net|net|k||
     !
   !
 !
+distribute|distribute routing information|k||
+  link-state|distribute link-state information to bgp|k||
+    <cr>||||
+    !
+    instance-id|instance-id|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+    level-1|level-1|k||
+      <cr>||||
+      !
+    !
+    level-2|level-2|k||
+      <cr>||||
+      !
+    !
+  !
+!
 is-type|is-type|k||
   line|line|lb/le/wa/o||
     <cr>||||

@@ -53,6 +53,50 @@ area|ospf area parameters|k||
         <cr>||||
         !
       !
+      ipsec|use ipsec authentication|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            md5|md5|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+            sha1|sha1|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    encryption|enable encryption|k||
+      ipsec|use ipsec encryption|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            esp|esp|k||
+              word|encryption algorithm|||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              null|null|k||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      null|null|k||
+        <cr>||||
+        !
+      !
     !
     stub|specify a stub area|k||
       <cr>||||
@@ -220,6 +264,50 @@ area|ospf area parameters|k||
         !
       !
       null|use no authentication|k||
+        <cr>||||
+        !
+      !
+      ipsec|use ipsec authentication|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            md5|md5|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+            sha1|sha1|k||
+              word|authentication key|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
+    encryption|enable encryption|k||
+      ipsec|use ipsec encryption|k||
+        spi|spi|k||
+          256-4294967295|security policy index|k||
+            esp|esp|k||
+              word|encryption algorithm|||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+              null|null|k||
+                line|line|lb/le/wa/o||
+                  <cr>||||
+                  !
+                !
+              !
+            !
+          !
+        !
+      !
+      null|null|k||
         <cr>||||
         !
       !
@@ -616,9 +704,29 @@ limit|limit a specific ospf feature|k||
       id|retransmission limit|o||
         <cr>||||
         !
+        non-dc|non-demand-circuit retransmissions|k||
+          id|retransmission limit|o||
+            <cr>||||
+            !
+          !
+          disable|disable the feature|k||
+            <cr>||||
+            !
+          !
+        !
       !
       disable|disable the feature|k||
         <cr>||||
+        !
+        non-dc|non-demand-circuit retransmissions|k||
+          id|retransmission limit|o||
+            <cr>||||
+            !
+          !
+          disable|disable the feature|k||
+            <cr>||||
+            !
+          !
         !
       !
     !
@@ -631,6 +739,12 @@ limit|limit a specific ospf feature|k||
         <cr>||||
         !
       !
+    !
+  !
+!
+priority|priority of the ospf process|k||
+  0-127|0-127|o||
+    <cr>||||
     !
   !
 !

@@ -129,7 +129,7 @@ match|match criteria of a vlan access map|k||
 instance|map vlans to an mst instance|k||
   id|id|k||
     vlan|vlan|k||
-      <vlan>|vlan|||
+      <vlan>|vlan|lb/le/wa||
         <cr>||||
         !
       !

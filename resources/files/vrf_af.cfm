@@ -52,6 +52,14 @@ mdt|backbone multicast distribution tree|k||
       <cr>||||
       !
     !
+    mpls|an mpls tree|k||
+      mldp|a multipoint ldp tree|k||
+        a.b.c.d|root address|||
+          <cr>||||
+          !
+        !
+      !
+    !
   !
   data|data multicast distribution trees|k||
     line|line|lb/le/wa||

@@ -74,6 +74,7 @@ object-group "destination network object group"
 # IPv6 entries: a source or destination is any, a host address or a prefix.
 file acl6_entry.cfm -allk
 &protocolfile.cfm "protocol" &acl6_src.cfm
+icmpv6 "internet control message protocol for ipv6" &acl6_src.cfm
 object-group "service object group"
   word "service object group name" &acl6_src.cfm
 
@@ -149,6 +150,8 @@ id :k "sequence number"
     %TEXT
 
 file acl_ipv6.cfm -k
+evaluate "evaluate an access list of reflexive entries"
+  word :k "reflexive list name" $
 permit "forward packets" &acl6_entry.cfm
 deny "drop packets" &acl6_entry.cfm
 remark "access list entry comment"

@@ -88,9 +88,14 @@ BARE = {"a.b.c.d", "a.b.c.d/<1-32>", "aa:nn", "asn:nn or ip-address:nn", "oui:vp
         "line", "+/-<metric>", "+/-<delay>", "<cr>"}
 
 
+# Checked value kinds (toolkit/ValueKinds): "1-65535", "1.0-65535.65535",
+# "list/1-4094", "a.b.c.d/mask", "ipv6/address", "ipv6/prefix".
+VALUE_KIND = re.compile(r"^(list/)?\d+(\.\d+)?-\d+(\.\d+)?$|^a\.b\.c\.d/mask$|^ipv6/(address|prefix)$")
+
+
 def is_keyword(token):
     """Literal keywords and key tables name the command: they carry k."""
-    if token.startswith("%") or token.startswith("<") or token in BARE:
+    if token.startswith("%") or token.startswith("<") or token in BARE or VALUE_KIND.match(token):
         return False
     return True
 

@@ -18,7 +18,7 @@ speed "configure speed operation"
 negotiation "select autonegotiation mode"
   auto :o $
 bandwidth "set bandwidth informational parameter"
-  id :o $
+  1-100000000 :o "bandwidth in kilobits" $
   inherit $
     id $
   receive
@@ -26,10 +26,10 @@ bandwidth "set bandwidth informational parameter"
 delay "specify interface throughput delay"
   id :o $
 mtu "set the interface maximum transmission unit"
-  id :o $
+  64-18000 :o "mtu (bytes)" $
 encapsulation "set encapsulation type for an interface"
   dot1q
-    id :o $
+    1-4094 :o "ieee 802.1q vlan id" $
       native $
       second-dot1q
         id $
@@ -68,12 +68,12 @@ switchport "set switching mode characteristics" $ :sn
     dot1q-tunnel $
   access :n
     vlan
-      id :o $
+      1-4094 :o "vlan id of the vlan when this port is in access mode" $
       name "vlan name"
         word :o "vlan name" $
   voice :n
     vlan
-      id :o $
+      1-4094 :o "vlan for voice traffic" $
       dot1p $
       untagged $
       none $
@@ -95,7 +95,7 @@ switchport "set switching mode characteristics" $ :sn
         none $
     native
       vlan
-        id :o $
+        1-4094 :o "vlan id of the native vlan when this port is in trunking mode" $
         tag $
     pruning
       vlan
@@ -188,7 +188,7 @@ standby "hot standby router protocol"
       delay
         line *
     priority :n "priority level"
-      id :o "priority value" $
+      0-255 :o "priority value" $
     authentication
       md5
         key-string
@@ -317,6 +317,7 @@ tunnel "protocol-over-protocol tunneling"
   source
     %IF
     a.b.c.d :o $
+    ipv6/address :o $
     dynamic $
   destination
     a.b.c.d :o $
@@ -383,7 +384,7 @@ service-policy "configure qos service policy"
     line *
   word $
 channel-group "etherchannel/port bundling configuration"
-  id :o
+  id :o $
     mode
       active $
       passive $
@@ -437,6 +438,7 @@ mpls "configure mpls interface parameters"
     igp
       sync $
         line *
+      autoconfig "ldp autoconfiguration" $
     discovery
       transport-address
         line *
@@ -668,7 +670,22 @@ virtual-template "virtual template of the interface"
 source "get config from another source"
   line *
 member "member interface settings"
+  vni "vxlan network identifiers of the nve interface"
+    list/4096-16777215 :k "vni or a range of vnis" @(config-if-nve-vni)#=nve_vni.cfm
+      associate-vrf "the vni of a vrf" $
+      vrf "the vrf of a layer-3 vni"
+        word :o $
+      ingress-replication "ingress replication" $
+        a.b.c.d :o $
+      mcast-group "multicast group"
+        a.b.c.d :o $
+          a.b.c.d $
   line *
+source-interface "source interface of the nve interface"
+  %IF
+host-reachability "host reachability of the nve interface"
+  protocol
+    bgp $
 wlan "wireless lan settings"
   line *
 macsec $ "enable macsec on the interface"
@@ -803,6 +820,11 @@ l2tp "l2tp interface settings"
 lacp "lacp interface subcommands"
   port-priority
     id $
+  fast-switchover "fast switchover of the port channel" $
+  max-bundle
+    id :o $
+  min-bundle
+    id :o $
   rate
     line *
 pagp "pagp interface subcommands"
@@ -859,6 +881,12 @@ routing "routing on the interface"
 medium "interface medium"
   p2p $
   broadcast $
+tx-queue-limit "transmit queue size"
+  id :o $
+dot1q "dot1q settings"
+  tunneling
+    ethertype
+      word :o "ethertype" $
 tx-ring-limit "transmit ring size"
   id :o "packets" $
 autostate "vlan interface state follows its ports" $ :sn

@@ -3,7 +3,7 @@
 file ip_global.cfm
 cef "cisco express forwarding" $ :sb/o
   distributed $
-  accounting
+  accounting :n
     line *
   load-sharing
     line *
@@ -17,6 +17,7 @@ classless $ :sn
 subnet-zero $ :sn
 source-route $ :sn
 gratuitous-arps $ :sn
+  non-local "gratuitous arps for addresses of other subnets" $
 finger $ :sn
 bootp
   server $ :sn
@@ -27,6 +28,7 @@ domain "domain name system"
   lookup $ :sn
     source-interface
       %IF
+    nsap "nsap lookups" $
   name :o
     word :o $
     vrf
@@ -72,7 +74,7 @@ host
       a.b.c.d $
 forward-protocol
   nd $ :sb/o
-  udp
+  udp $
     &portfile.cfm :k $
 http
   server $ :sb/o
@@ -90,14 +92,27 @@ http
   max-connections
     id $
   timeout-policy
+    linger
+      id :o $
     idle
       id
         life
           id
             requests
               id $
-  path
+  path $
     line *
+  upload "file upload"
+    overwrite $
+    enable $
+      path
+        word $
+  digest "digest authentication"
+    algorithm
+      md5 $
+      sha-256 $
+  help-path "help page path"
+    word :o $
   client
     source-interface
       %IF
@@ -133,6 +148,8 @@ ssh "configure secure shell"
     keypair-name
       word $
   server
+    certificate "server certificate settings"
+      profile "certificate profile" @(ssh-server-cert-profile)#=ssh_cert_profile.cfm
     algorithm "algorithms the server offers"
       encryption "encryption algorithms, in order of preference"
         %SSHENC
@@ -176,6 +193,9 @@ scp
   server
     enable $
 tftp
+  min-timeout "minimum timeout"
+    id :o $
+  claim-netascii "claim netascii transfers" $
   source-interface
     %IF
   blocksize
@@ -191,6 +211,21 @@ ftp
     word $
   passive $
 telnet
+  timeout "telnet timeouts"
+    retransmit
+      id :o $
+  quiet "no telnet banners" $
+  comport "telnet com port control"
+    enable $
+    flow
+      level
+        id :o $
+    receive
+      window
+        id :o $
+    disconnect
+      delay
+        id :o $
   source-interface
     %IF
   tos
@@ -214,9 +249,23 @@ tcp
   ecn $
   intercept
     line *
+  delayed-ack "delayed acknowledgements" $
+  chunk-size "tcp chunk size"
+    id :o $
+  keepalive "tcp keepalives"
+    retries
+      id :o $
+    interval
+      id :o $
+  async-mobility "asynchronous mobility"
+    server $
+  rst-count "reset count"
+    id
+      rst-window
+        id :o $
 route "establish static routes"
   a.b.c.d :k "destination prefix"
-    a.b.c.d :k "destination prefix mask"
+    a.b.c.d/mask :k "destination prefix mask"
       %IF
         a.b.c.d :k "forwarding router's address" $
           id "distance metric" $
@@ -258,6 +307,9 @@ access-list "named access list"
     line *
   role-based
     word :k @(config-rb-acl)#=acl_ext.cfm
+  helper "access list helpers"
+    egress
+      check $
 prefix-list "build a prefix list"
   word :k
     seq
@@ -406,8 +458,8 @@ nat "nat configuration"
   service
     line *
 dhcp "configure dhcp server and relay parameters"
-  pool
-    word :k @(dhcp-config)#=dhcp_pool.cfm
+  pool "Configure DHCP address pools"
+    word :k "Pool name" @(dhcp-config)#=dhcp_pool.cfm
   class "configure a dhcp class"
     word :k "class name" @(config-dhcp-class)#=dhcp_class.cfm
   excluded-address
@@ -429,6 +481,10 @@ dhcp "configure dhcp server and relay parameters"
     line *
   bootp
     ignore $
+  binding "dhcp bindings"
+    cleanup
+      interval
+        id :o $
   use
     line *
   compatibility
@@ -444,6 +500,11 @@ sla "ip service level agreement"
     id :k/n/o "operation number"
       line * $
   responder $
+    twamp "twamp responder" @(config-twamp-srvr)#=generic.cfm
+  server "sla servers"
+    twamp "twamp server" @(config-twamp-srvr)#=generic.cfm
+  low-memory "memory reserve"
+    id :o $
   logging
     traps $
   enable
@@ -470,6 +531,7 @@ inspect "context-based access control"
   dns-timeout
     id $
   alert-off $
+  fast "fast path inspection" $
   audit-trail $
   max-incomplete
     line *
@@ -648,16 +710,28 @@ file ipv6_global.cfm
 unicast-routing $
 cef $ :sb/o
   distributed $
+  optimize "cef optimizations"
+    neighbor
+      resolution $
+  load-sharing "load sharing"
+    algorithm
+      original $
+      universal $
+        word :o "fixed identifier" $
+      include-ports
+        source $
+          destination $
+        destination $
 multicast-routing $
   line *
 multicast
   line *
 route "establish static routes"
-  word :k "ipv6 prefix"
+  ipv6/prefix :k "ipv6 prefix"
     %V6ROUTE
   vrf "vrf of the route"
     word :k "vrf name"
-      word :k "ipv6 prefix"
+      ipv6/prefix :k "ipv6 prefix"
         %V6ROUTE
   static
     line *
@@ -672,9 +746,71 @@ router
 access-list
   word :k @(config-ipv6-acl)#=acl_ipv6.cfm
 prefix-list
+  sequence-number "sequence numbers in prefix lists" $
   word :k
     line *
 source-route $ :sn
+traffic "ipv6 traffic"
+  interface-statistics "per-interface statistics" $
+mfib "ipv6 multicast forwarding" $
+  line *
+dhcp-relay "dhcpv6 relay settings"
+  option
+    vpn $
+    remote-id
+      format
+        line *
+  source-interface
+    %IF
+inspect "ipv6 inspection"
+  name "inspection rule"
+    word :k
+      &protocolfile.cfm :k $
+        line *
+      word :k $
+        line *
+  max-incomplete
+    low
+      id :o $
+    high
+      id :o $
+  one-minute
+    low
+      id :o $
+    high
+      id :o $
+  udp
+    idle-time
+      id :o $
+  tcp
+    idle-time
+      id :o $
+    finwait-time
+      id :o $
+    synwait-time
+      id :o $
+    max-incomplete
+      host
+        id
+          block-time
+            id :o $
+  hashtable-size
+    id :o $
+  alert-off $
+  audit-trail $
+  routing-header $
+rip "ipv6 rip"
+  vrf-mode
+    enable $
+spd "ipv6 selective packet discard"
+  queue
+    min-threshold
+      id :o $
+    max-threshold
+      id :o $
+mux "ipv6 mux"
+  cache
+    id :o $
 icmp
   error-interval
     id $

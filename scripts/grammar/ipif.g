@@ -1,7 +1,7 @@
 file ip_interface.cfm
 address "set the ip address of an interface" :n
   a.b.c.d :o/n "ip address"
-    a.b.c.d "ip subnet mask" $
+    a.b.c.d/mask "ip subnet mask" $
       secondary :k/a $
         vrf
           word $
@@ -58,6 +58,9 @@ mroute-cache $ :sn
 split-horizon $ :sn
   eigrp
     id $
+next-hop-self "use this router as the next hop"
+  eigrp
+    1-65535 :k/sn "autonomous system number" $
 summary-address
   line *
 hello-interval
@@ -82,7 +85,7 @@ authentication
       id
         word $
 mtu
-  id :o $
+  68-18000 :o "mtu (bytes)" $
 tcp
   adjust-mss
     id :o $
@@ -107,6 +110,7 @@ verify
       reachable-via
         rx $
           allow-default $
+            id $
           id $
         any $
           allow-default $
@@ -158,10 +162,16 @@ igmp
         id $
       interval
         id $
+  mroute-proxy "forward igmp reports to a proxy interface"
+    %IF
   join-group
     a.b.c.d :k $
+      source "the source of the group"
+        a.b.c.d :k $
   static-group
     a.b.c.d :k $
+      source "the source of the group"
+        a.b.c.d :k $
   access-group
     word $
   helper-address
@@ -211,14 +221,14 @@ ips
     in $
     out $
 ospf "ospf interface commands"
-  id :k "process id"
+  1-65535 :k "process id"
     area
       id :k $
         secondary
           line *
       a.b.c.d :k $
   cost
-    id :o $
+    1-65535 :o "cost" $
   network
     point-to-point :o $
     broadcast :o $
@@ -227,11 +237,11 @@ ospf "ospf interface commands"
       non-broadcast $
   mtu-ignore $
   priority
-    id :o $
+    0-255 :o "priority" $
   hello-interval
-    id :o $
+    1-65535 :o "seconds" $
   dead-interval
-    id :o $
+    1-65535 :o "seconds" $
     minimal
       hello-multiplier
         id $
@@ -341,20 +351,18 @@ cef $
   accounting
     line *
 address
-  <x:x::x/n> :k "ipv6 prefix, or the name of a general prefix" $
+  ipv6/prefix :k "IPv6 prefix" $
     eui-64 $
     anycast $
     link-local $
-    <x:x::x/n> :k "sub-prefix bits and length under the general prefix" $
-      eui-64 $
-  <x:x::x> :k
+  ipv6/address :k "IPv6 link-local address"
     link-local $
-  autoconfig $
+  autoconfig "Obtain address using autoconfiguration" $
     default $
-  dhcp $
+  dhcp "Obtain a ipv6 address using dhcp" $
     rapid-commit $
-  word :k
-    <x:x::x/n> :k $
+  word :k "General prefix name"
+    ipv6/prefix :k "sub-prefix bits and length" $
       eui-64 $
 enable $
 unreachables $ :sn
@@ -402,6 +410,11 @@ nd
     id $
   prefix-advertisement
     line *
+  raguard "router advertisement guard"
+    attach-policy
+      word :o "policy name" $
+        vlan
+          line *
 mfib
   forwarding
     input $
@@ -419,7 +432,7 @@ ospf
         instance "instance id"
           id :o "instance" $
   cost
-    id $
+    1-65535 "cost" $
   network
     line *
   mtu-ignore $
@@ -442,7 +455,7 @@ rip
     enable $
     line *
 mtu
-  id :o $
+  1280-18000 :o "mtu (bytes)" $
 traffic-filter
   word :k
     in $
@@ -483,6 +496,16 @@ flowspec "flow specification" $ :sn
   line *
 virtual-reassembly $
   line *
+inspect "apply an inspection rule"
+  word :k "rule name"
+    in $
+    out $
+source-guard "ipv6 source guard"
+  attach-policy
+    word :o $
+snooping "ipv6 snooping" $
+  attach-policy
+    word :o $
 nat $
   line *
 access-list

@@ -16,6 +16,8 @@ parameter-map "parameter map"
       line * @(config-profile)#=param_map.cfm
     umbrella "umbrella"
       global @(config-profile)#=param_map.cfm
+    ooo "out-of-order packet handling"
+      global @(config-profile)#=param_map.cfm
 
 file time_range.cfm
 periodic "periodic time and date"

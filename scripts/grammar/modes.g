@@ -177,7 +177,7 @@ match "match criteria of a vlan access map"
 instance "map vlans to an mst instance"
   id :k
     vlan
-      <vlan> $
+      <vlan> :lb/le/wa $
 revision "set the configuration revision number"
   id $
 exit $ "apply changes, bump revision number, and exit mode"
@@ -317,6 +317,7 @@ management-interface
   line *
 
 file redundancy.cfm
+maintenance-mode "maintenance mode of the standby" $
 mode
   sso :o $
   rpr :o $

@@ -213,6 +213,9 @@ def VRFAF
   mdt "backbone multicast distribution tree"
     default "the default group"
       a.b.c.d "ip multicast group address" $
+      mpls "an mpls tree"
+        mldp "a multipoint ldp tree"
+          a.b.c.d "root address" $
     data "data multicast distribution trees"
       line *
     line *

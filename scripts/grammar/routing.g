@@ -26,7 +26,9 @@ def IGPMPLS
 # the lines of a peer-session template as well.
 def BGPSESSION
   remote-as "specify a bgp neighbor"
-    <as> :o $
+    1-4294967295 :o "AS of remote neighbor" $
+      line *
+    1.0-65535.65535 :o "AS of remote neighbor" $
       line *
   update-source "source of routing updates"
     %IF
@@ -199,16 +201,37 @@ def AFBODY
   default-information "control distribution of default information"
     originate $
   bgp "bgp specific commands"
-    dampening $
-      line *
-    additional-paths
-      line *
+    dampening "route flap dampening" $
+      1-45 "half-life time in minutes" $
+        1-20000 "value to start reusing a route"
+          1-20000 "value to start suppressing a route"
+            1-255 "maximum duration to suppress a route" $
+      route-map
+        word :o $
+    additional-paths "bgp additional paths"
+      send $
+        receive $
+      receive $
+      install $
+      select
+        all $
+          best
+            id $
+        best
+          id $
+        group-best $
+          all $
     dmzlink-bw "use dmz link bandwidth" $
     redistribute-internal $
     nexthop
       line *
     scan-time
       line *
+    update-group
+      split
+        as-override $
+    aggregate-timer
+      id $
   distance "define an administrative distance"
     line *
   table-map "map external entry attributes into routing table"
@@ -244,30 +267,72 @@ bgp "bgp specific commands"
       auto-assign $
   default
     ipv4-unicast $ :sn
+    ipv6-nexthop "ipv6 next hops for ipv4 prefixes" $
     local-preference
       id $
     route-target
       filter $ :sn
-  additional-paths
-    line *
-  dampening $
-    line *
-  bestpath
-    line *
-  cluster-id
-    line *
-  confederation
-    line *
+  additional-paths "bgp additional paths"
+    send $
+      receive $
+    receive $
+    install $
+    select
+      all $
+        best
+          id $
+      best
+        id $
+      group-best $
+        all $
+  dampening "route flap dampening" $
+    1-45 "half-life time in minutes" $
+      1-20000 "value to start reusing a route"
+        1-20000 "value to start suppressing a route"
+          1-255 "maximum duration to suppress a route" $
+    route-map
+      word :o $
+  bestpath "best path selection"
+    as-path
+      multipath-relax $
+      ignore $
+    compare-routerid $
+    med
+      confed $
+        missing-as-worst $
+      missing-as-worst $
+    cost-community
+      ignore $
+    igp-metric
+      ignore $
+  cluster-id "route reflector cluster id"
+    a.b.c.d :o $
+    1-4294967295 :o $
+  confederation "as confederation"
+    identifier
+      1-4294967295 :o $
+      1.0-65535.65535 :o $
+    peers
+      line *
   deterministic-med $
   always-compare-med $
-  graceful-restart $
-    line *
+  graceful-restart "graceful restart" $
+    restart-time
+      1-3600 :o $
+    stalepath-time
+      1-3600 :o $
+    extended $
   fast-external-fallover $
   enforce-first-as $
   maxas-limit
     id $
-  listen
-    line *
+  listen "dynamic neighbors"
+    range
+      a.b.c.d/<1-32> :k
+        peer-group
+          word :o $
+    limit
+      1-5000 :o $
   asnotation
     dot $
   update-delay
@@ -277,21 +342,42 @@ bgp "bgp specific commands"
   nopeerup-delay
     line *
   redistribute-internal $
-  transport
-    line *
+  transport "transport settings"
+    path-mtu-discovery $
+      disable $
   client-to-client
     reflection $
+      intra-cluster "reflection inside the cluster"
+        cluster-id
+          any $
+          a.b.c.d :k $
+  route-map-cache "cache route-map results" $
+  dynamic-med-interval "interval of dynamic med changes"
+    id :o $
+  refresh "route refresh settings"
+    stalepath-time
+      id :o $
+    max-eor-time
+      id :o $
+  update-group "update group settings"
+    split
+      as-override $
   suppress-inactive $
   recursion
     host $
-  nexthop
-    line *
-  consistency-checker
+  nexthop "next hop tracking"
+    trigger
+      enable $
+      delay
+        0-100 :o $
+    route-map
+      word :o $
+  consistency-checker :n
     line *
   inject-map
     line *
-  regexp
-    line *
+  regexp "regular expressions"
+    deterministic $
   aggregate-timer
     id $
   soft-reconfig-backup $
@@ -381,6 +467,23 @@ def OSPFAREA
   authentication "enable authentication" $
     message-digest "use message-digest authentication" $
     null "use no authentication" $
+    ipsec "use ipsec authentication"
+      spi
+        256-4294967295 :k "security policy index"
+          md5
+            word :o "authentication key" $
+          sha1
+            word :o "authentication key" $
+  encryption "enable encryption"
+    ipsec "use ipsec encryption"
+      spi
+        256-4294967295 :k "security policy index"
+          esp
+            word "encryption algorithm"
+              line * :o
+            null
+              line * :o
+    null $
   stub "specify a stub area" $
     no-summary "do not send summary lsa into stub area" $
     no-ext-capability "do not send domain specific capabilities into stub area" $
@@ -525,10 +628,18 @@ def OSPFBODY
     retransmissions "ospf retransmission limits"
       dc "demand circuit retransmissions"
         id :o "retransmission limit" $
+          non-dc "non-demand-circuit retransmissions"
+            id :o "retransmission limit" $
+            disable "disable the feature" $
         disable "disable the feature" $
+          non-dc "non-demand-circuit retransmissions"
+            id :o "retransmission limit" $
+            disable "disable the feature" $
       non-dc "non-demand-circuit retransmissions"
         id :o "retransmission limit" $
         disable "disable the feature" $
+  priority "priority of the ospf process"
+    0-127 :o $
   traffic-share "how to compute traffic share over alternate paths"
     min "all traffic shared among min metric paths"
       across-interfaces "use different interfaces for equal-cost paths" $
@@ -671,6 +782,17 @@ address-family "enter address family command mode"
         id @(config-router-af)#=router_eigrp_af.cfm
     autonomous-system
       id @(config-router-af)#=router_eigrp_af.cfm
+service-family "enter service family command mode"
+  ipv4 "ipv4 service family"
+    autonomous-system
+      1-65535 @(config-router-sf)#=router_eigrp_af.cfm
+    vrf
+      word :k
+        autonomous-system
+          1-65535 @(config-router-sf)#=router_eigrp_af.cfm
+  ipv6 "ipv6 service family"
+    autonomous-system
+      1-65535 @(config-router-sf)#=router_eigrp_af.cfm
 no-shutdown $ "bring the routing process up"
 shutdown $ "shutdown the eigrp process"
 nsf $ "non-stop forwarding"
@@ -692,6 +814,7 @@ topology
   base @(config-router-af-topology)#=router_eigrp_topo.cfm
   word @(config-router-af-topology)#=router_eigrp_topo.cfm
 exit-address-family $
+exit-service-family "exit from service family configuration mode" $
 metric
   line *
 shutdown $
@@ -740,6 +863,7 @@ traffic-share
 timers
   line *
 exit-af-topology $
+exit-sf-topology "exit from service family topology mode" $
 
 file router_rip.cfm
 version
@@ -778,6 +902,12 @@ output-delay
 file router_isis.cfm
 net
   <value> :k $
+distribute "distribute routing information"
+  link-state "distribute link-state information to bgp" $
+    instance-id
+      id :o $
+    level-1 $
+    level-2 $
 is-type
   line * :o
 metric-style

@@ -62,6 +62,12 @@ match "classification criteria"
     id :k $
     name
       word :k $
+    input "input access group"
+      name
+        word :k $
+    output "output access group"
+      name
+        word :k $
   any $
   class-map
     word $
@@ -553,7 +559,17 @@ set "set values for encryption/decryption"
         disable $
     level
       line *
-    idle-time
+    dfbit "df bit of the outer header" :n
+      clear $
+      copy $
+      set $
+    dummy "dummy packets" $
+      pps
+        id :o $
+    ecn "explicit congestion notification" $
+      discard $
+      propagate $
+    idle-time "idle time" :n
       line *
     replay
       line *
@@ -683,6 +699,23 @@ quit "end of certificate data" :sn $
 
 
 file crypto_ikev2.cfm
+pki "pki settings"
+  trustpoint
+    word :k $
+      sign $
+      verify $
+route "route settings"
+  set
+    interface $
+      %IF
+    access-list
+      word $
+  accept
+    any $
+      tag
+        id $
+      distance
+        id $
 encryption
   line *
 integrity

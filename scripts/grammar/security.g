@@ -45,7 +45,18 @@ aaa "authentication, authorization and accounting"
       line *
     reverse-access
       line *
+  memory "aaa memory settings"
+    threshold
+      authentication
+        reject
+          id :o $
+      accounting
+        disable
+          id :o $
   accounting
+    jitter "jitter of periodic accounting"
+      maximum
+        id :o $
     exec
       word :k
         line *
@@ -114,6 +125,14 @@ ntp "configure ntp"
           prefer :-k $
       version :-k
         id $
+      maxpoll :-k
+        4-17
+          minpoll
+            4-17
+              version
+                2-4 $
+                  burst $
+                    iburst $
       burst :-k $
       iburst :-k $
         line *
@@ -149,6 +168,15 @@ ntp "configure ntp"
     id $
   max-associations
     id $
+  allow "allow ntp packets"
+    mode "ntp mode"
+      control "control messages"
+        id :o "delay in seconds" $
+      private "private messages" $
+  mindistance "minimum distance"
+    1-16 :o $
+  maxdistance "maximum distance"
+    1-16 :o $
 logging "modify message logging facilities"
   a.b.c.d :k "ip address of the logging host" $
     line *
@@ -178,7 +206,7 @@ logging "modify message logging facilities"
     line * :o
   trap $
     line * :o
-  source-interface
+  source-interface :n
     %IF
       vrf
         word $
@@ -190,15 +218,15 @@ logging "modify message logging facilities"
     line *
   snmp-authfail $
   userinfo $
-  origin-id
+  origin-id :n
     line *
-  discriminator
+  discriminator :n
     word :k
       line *
   event
     line *
   count $
-  persistent
+  persistent :n
     line *
   queue-limit
     line *
@@ -226,6 +254,15 @@ logging "modify message logging facilities"
   server-arp $
   hostname
     line *
+  esm "event streaming"
+    config "log configuration changes" $
+  btrace "binary trace logging" $
+  buginf "debug messages through logging" $
+  policy-firewall "firewall logging"
+    rate-limit
+      id :o "seconds" $
+  delimiter "message delimiter"
+    tcp $
 snmp-server "modify snmp engine parameters"
   community
     word :k
@@ -300,15 +337,15 @@ snmp "modify snmp engine parameters"
   mib
     line *
 key "key management"
-  chain
-    word :k @(config-keychain)#=key_chain.cfm
+  chain "Key-chain management"
+    word :k "Key-chain name" @(config-keychain)#=key_chain.cfm
   config-key
     line *
 class-map "configure class map"
-  match-all
-    word :k @(config-cmap)#=class_map.cfm
-  match-any
-    word :k @(config-cmap)#=class_map.cfm
+  match-all "Logical-AND all matching statements under this classmap"
+    word :k "class-map name" @(config-cmap)#=class_map.cfm
+  match-any "Logical-OR all matching statements under this classmap"
+    word :k "class-map name" @(config-cmap)#=class_map.cfm
   type
     inspect
       match-all
@@ -318,7 +355,7 @@ class-map "configure class map"
       word :k @(config-cmap)#=class_map.cfm
     word
       line * @(config-cmap)#=class_map.cfm
-  word :k @(config-cmap)#=class_map.cfm
+  word :k "class-map name" @(config-cmap)#=class_map.cfm
 policy-map "configure qos service policy"
   type
     inspect
@@ -328,18 +365,26 @@ policy-map "configure qos service policy"
         word :k "policy map name" @(config-event-control-policymap)#=policy_ctrl.cfm
     word
       line * @(config-pmap)#=policy_map.cfm
-  word :k @(config-pmap)#=policy_map.cfm
+  word :k "policy-map name" @(config-pmap)#=policy_map.cfm
 vrf "vrf commands"
-  definition
-    word :k @(config-vrf)#=vrf.cfm
+  definition "VRF definition"
+    word :k "VRF name" @(config-vrf)#=vrf.cfm
 crypto "encryption module"
   isakmp
-    policy
-      id :k @(config-isakmp)#=crypto_isakmp.cfm
+    policy "Set policy for an ISAKMP protection suite"
+      1-10000 :k "Priority of protection suite" @(config-isakmp)#=crypto_isakmp.cfm
     profile
       word :k @(conf-isa-prof)#=crypto_isakmp_prof.cfm
     key
-      id
+      0 :-k "an unencrypted key follows"
+        word
+          address
+            a.b.c.d :k $
+              a.b.c.d $
+              no-xauth $
+          hostname
+            word :k $
+      6 :-k "an encrypted key follows"
         word
           address
             a.b.c.d :k $
@@ -356,6 +401,9 @@ crypto "encryption module"
             line *
         hostname
           word :k $
+    diagnose "diagnostics"
+      error
+        id :o $
     keepalive
       id :o $
         id $
@@ -404,9 +452,11 @@ crypto "encryption module"
     fragmentation
       line *
     optional $
-  map
-    word :k
-      id :k
+      retry "retry interval"
+        id :o $
+  map "Enter a crypto map"
+    word :k "Crypto map tag"
+      1-65535 :k "Sequence to insert into crypto map entry"
         ipsec-isakmp @(config-crypto-map)#=crypto_map.cfm
           dynamic
             word $
@@ -414,15 +464,15 @@ crypto "encryption module"
             word @(config-crypto-map)#=crypto_map.cfm
         ipsec-manual @(config-crypto-map)#=crypto_map.cfm
         gdoi @(config-crypto-map)#=crypto_map.cfm
-      local-address
+      local-address "Interface to use for local address for this crypto map"
         %IF
-      client
+      client "Specify client configuration settings"
         line :k *
-      isakmp
+      isakmp "Specify isakmp configuration settings"
         line :k *
-      isakmp-profile
+      isakmp-profile "Specify isakmp profile to use"
         word $
-      redundancy
+      redundancy "High availability options for this map"
         line :k *
   dynamic-map
     word :k
@@ -462,6 +512,9 @@ crypto "encryption module"
       word :k @(config-ikev2-keyring)#=crypto_ikev2.cfm
     profile
       word :k @(config-ikev2-profile)#=crypto_ikev2.cfm
+    authorization "authorization policies"
+      policy
+        word :k @(config-ikev2-author-policy)#=crypto_ikev2.cfm
     line *
   call
     admission

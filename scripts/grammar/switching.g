@@ -229,7 +229,7 @@ power "power configuration"
   supply "power supply"
     line *
   main-cpu $
-system "system settings"
+system "system settings" @(config-system)#=sdwan_system.cfm
   mtu "system mtu"
     id :o "mtu size" $
     jumbo "jumbo mtu"
@@ -254,6 +254,44 @@ lacp "lacp settings"
   system-priority "lacp system priority"
     id :o "priority value" $
 monitor "monitor sessions"
+  event-trace "tracing of system events"
+    stacktrace "trace call stack at tracepoints" $
+    sequence-number "sequence numbers on trace entries" $
+    timestamps "timestamps on trace entries" $
+      datetime "date and time"
+        msec $
+          localtime $
+        localtime $
+      uptime $
+    eigrp "eigrp events"
+      perf-events
+        rate-limiting
+          id :o $
+    voip "voice events"
+      ccsip "sip events"
+        msg $
+        fsm $
+        api $
+        misc $
+        global $
+        stacktrace $
+        limit
+          connections
+            id :o $
+          memory
+            id :o $
+        dump "dump on failure"
+          none $
+          all $
+        dump-file "dump into a file" $
+          line *
+        dump-folder "dump folder limits"
+          size
+            id
+              time
+                id :o $
+        max-dump-limit "number of dumps"
+          id :o $
   session "span session"
     id :k "session number"
       source "span source"

@@ -91,7 +91,20 @@ service "modify use of network based services"
       uptime $
   password-encryption $ :sb/o
   pad $ :sn
+    to-xot "accept outgoing pad connections over x.25 over tcp" $
+    from-xot "accept xot to pad connections" $
+    cmns "enable pad over cmns connections" $
   config $ :sn
+  log "log settings"
+    backtrace "provide backtrace information" $
+  exec-callback "enable exec callback" $
+  slave-coredump "core dump of the standby processor" $
+  telnet-zeroidle "set the tcp window to zero when the vty is idle" $
+  exec-wait "delay the exec startup on noisy lines" $
+  scripting "enable the scripting prompt" $
+  old-slip-prompts "allow old-style slip prompts" $
+  pt-vty-logging "log the protocol translation vty connections" $
+  disable-ip-fast-frag "disable ip fast fragmentation" $
   tcp-keepalives-in $
   tcp-keepalives-out $
   tcp-small-servers $
@@ -117,6 +130,8 @@ control-plane "control plane configuration" @(config-cp)#=control_plane.cfm
   host @(config-cp-host)#=control_plane.cfm
 redundancy "redundancy configuration" @(config-red)#=redundancy.cfm
 multilink "ppp multilink"
+  virtual-template "virtual template for multilink bundles"
+    0-25 :o $
   bundle-name
     authenticated $
     endpoint $
@@ -214,32 +229,33 @@ banner "define a login banner"
     id :k "last line number" @(config-line)#=line.cfm
 router "enable a routing process"
   bgp "border gateway protocol"
-    <as> :k "autonomous system number" @(config-router)#=router_bgp.cfm
+    1-4294967295 :k "Autonomous system number" @(config-router)#=router_bgp.cfm
+    1.0-65535.65535 :k "Autonomous system number" @(config-router)#=router_bgp.cfm
   ospf "open shortest path first"
-    id :k "process id" @(config-router)#=router_ospf.cfm
+    1-65535 :k "Process ID" @(config-router)#=router_ospf.cfm
       vrf
         word :k @(config-router)#=router_ospf.cfm
   ospfv3 "ospf version 3"
-    id :k @(config-router)#=router_ospf.cfm
+    1-65535 :k "Process ID" @(config-router)#=router_ospf.cfm
   eigrp "enhanced interior gateway routing protocol"
-    id :k "autonomous system" @(config-router)#=router_eigrp.cfm
-    word :k "virtual instance name" @(config-router)#=router_eigrp.cfm
+    1-65535 :k "Autonomous System" @(config-router)#=router_eigrp.cfm
+    word :k "EIGRP Virtual-Instance Name" @(config-router)#=router_eigrp.cfm
   rip "routing information protocol" @(config-router)#=router_rip.cfm
   isis "intermediate system to intermediate system" @(config-router)#=router_isis.cfm
     word :k @(config-router)#=router_isis.cfm
   lisp @(config-router-lisp)#=router_rip.cfm
 access-list "add an access list entry"
-  <1-99> :k/n "ip standard access list"
+  1-99 :k/n "IP standard access list"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <1300-1999> :k/n "ip standard access list (expanded range)"
+  1300-1999 :k/n "IP standard access list (expanded range)"
     permit :-k &acl_std_entry.cfm
     deny :-k &acl_std_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <100-199> :k/n "ip extended access list"
+  100-199 :k/n "IP extended access list"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     dynamic :-k
@@ -247,42 +263,42 @@ access-list "add an access list entry"
         permit :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
-  <700-799> :k/n "48-bit mac address access list"
+  700-799 :k/n "48-bit MAC address access list"
     permit :-k "specify addresses to forward"
       h.h.h "48-bit mac address"
         h.h.h "mask of bits to ignore" $
     deny :-k "specify addresses to drop"
       h.h.h "48-bit mac address"
         h.h.h "mask of bits to ignore" $
-  <2000-2699> :k/n "ip extended access list (expanded range)"
+  2000-2699 :k/n "IP extended access list (expanded range)"
     permit :-k &acl_ext_entry.cfm
     deny :-k &acl_ext_entry.cfm
     remark :-k "access list entry comment" $
       %TEXT
 vlan "vlan commands"
-  configuration "vlan feature configuration mode"
-    <vlan> :k "vlan id or list" @(config-vlan-config)#=vlan_config.cfm
-  <vlan> :k "vlan id or list" @(config-vlan)#=vlan.cfm
-  internal
+  configuration "Vlan feature configuration mode"
+    list/1-4094 :k "VLAN IDs 1-4094" @(config-vlan-config)#=vlan_config.cfm
+  list/1-4094 :k "ISL VLAN IDs 1-4094" @(config-vlan)#=vlan.cfm
+  internal "internal VLAN"
     allocation
       policy
         ascending $
         descending $
-  access-log
+  access-log "Configure VACL logging"
     ratelimit
       id $
     maxflow
       id $
     threshold
       id $
-  access-map
+  access-map "Create vlan access-map or enter vlan access-map command mode"
     word :k @(config-access-map)#=vlan.cfm
       id :k @(config-access-map)#=vlan.cfm
-  filter
+  filter "Apply a VLAN Map"
     word :k
       vlan-list
         <vlan> $
-  dot1q
+  dot1q "dot1q parameters"
     tag
       native $
 spanning-tree "spanning tree subsystem"
@@ -305,9 +321,9 @@ spanning-tree "spanning tree subsystem"
     bpdufilter
       default $
   vlan
-    <vlan> :k $
+    list/1-4094 :k "vlan id list" $
       priority
-        id :o $
+        0-61440 :o "bridge priority in increments of 4096" $
       forward-time
         id $
       hello-time
@@ -352,12 +368,12 @@ spanning-tree "spanning tree subsystem"
       pvst $
         global $
 route-map "create route-map or enter route-map command mode"
-  word :k "route map tag" @(config-route-map)#=route_map.cfm
-    permit "route map permits set operations" @(config-route-map)#=route_map.cfm
-      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    deny "route map denies set operations" @(config-route-map)#=route_map.cfm
-      id :k "sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    id :k @(config-route-map)#=route_map.cfm
+  word :k "Route map tag" @(config-route-map)#=route_map.cfm
+    permit "Route map permits set operations" @(config-route-map)#=route_map.cfm
+      0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    deny "Route map denies set operations" @(config-route-map)#=route_map.cfm
+      0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
+    0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
 control-plane-policing $ "control plane policing settings"
 platform "platform configuration"
   console "console selection"
@@ -418,6 +434,10 @@ virtual-service "virtual service"
   word :k @(config-virt-serv)#=generic.cfm
 archive "archive configuration" @(config-archive)#=archive.cfm
 cdp "global cdp configuration"
+  tlv "cdp type-length-values"
+    app $
+    location $
+    server-location $
   run $ :sn
   advertise-v2 $ :sn
   timer
@@ -478,6 +498,14 @@ memory "memory configuration"
     critical
       id $
   lite $
+  check-interval "free memory check interval"
+    id :o "seconds" $
+  validate-checksum "text segment checksum validation"
+    id :o "seconds" $
+  chunk "chunk manager settings"
+    siblings
+      threshold
+        id :o $
 memory-size "adjust memory size by percentage"
   iomem
     id $
@@ -571,10 +599,15 @@ security "security commands"
 spd "selective packet discard"
   headroom
     id :o $
+  extended-headroom "extended headroom for priority packets"
+    id :o $
   enable $
   mode
     aggressive $
 alias "create command alias"
+  atm-vc-config "atm virtual circuit mode"
+    word :k
+      line *
   exec
     word :k
       %TEXT
@@ -611,19 +644,82 @@ bba-group "bba group"
     word :k @(config-bba-group)#=generic.cfm
 mpls "mpls configuration"
   ldp
+    logging "ldp logging"
+      neighbor-changes "log neighbor state changes" $
+      password "log password events"
+        configuration "password configuration changes" $
+          rate-limit
+            1-60 $
+        rollover "password rollover events" $
+          rate-limit
+            1-60 $
+    graceful-restart $
+      timers "graceful restart timers"
+        neighbor-liveness
+          5-300 :o "seconds" $
+        max-recovery
+          15-600 :o "seconds" $
+        forwarding-holding
+          30-600 :o "seconds" $
+    holdtime "ldp session holdtime"
+      15-2147483 :o "seconds" $
+    advertise-labels "advertise label bindings" $
+      for
+        word :k $
+          to
+            word $
+      interface
+        %IF
+    maxhops "limit hop count for ldp loop detection"
+      1-255 :o "hop count" $
     router-id
       %IF
         force $
       a.b.c.d $
         force $
     explicit-null $
-    graceful-restart $
     session
       protection $
-    discovery
-      line *
-    neighbor
-      line *
+    discovery "ldp discovery"
+      hello "link hellos"
+        holdtime
+          1-65535 :o "seconds" $
+        interval
+          1-65535 :o "seconds" $
+      targeted-hello "targeted hellos"
+        holdtime
+          1-65535 :o "seconds" $
+        interval
+          1-65535 :o "seconds" $
+        accept "accept targeted hellos" $
+          from
+            word :o "access list" $
+      transport-address "address of the tcp connection"
+        a.b.c.d :o $
+        interface $
+    neighbor "ldp neighbor settings"
+      vrf
+        word :k
+          a.b.c.d :k
+            password
+              0 :-k
+                word :o $
+              7 :-k
+                word :o $
+              word :o $
+      a.b.c.d :k
+        password "md5 password of the session"
+          0 :-k
+            word :o $
+          7 :-k
+            word :o $
+          word :o $
+        targeted "a targeted session" $
+          ldp $
+        labels
+          accept
+            word :o $
+        implicit-withdraw $
     label "ldp label settings" @(config-ldp-lbl)#=mpls_ldp_label.cfm
       line *
     password
@@ -645,6 +741,48 @@ mpls "mpls configuration"
     protocol
       ldp $
       tdp $
+    mode "label allocation mode"
+      all-vrfs "all vrfs"
+        protocol
+          all-afs "all address families"
+            per-prefix "a label for each prefix" $
+            per-vrf "one label for the vrf" $
+            per-ce "a label for each ce" $
+          bgp-vpnv4
+            per-prefix $
+            per-vrf $
+            per-ce $
+          bgp-vpnv6
+            per-prefix $
+            per-vrf $
+            per-ce $
+      vrf
+        word :k
+          protocol
+            all-afs
+              per-prefix $
+              per-vrf $
+              per-ce $
+  mldp "multipoint ldp" $
+    forwarding "mldp forwarding"
+      recursive "recursive forwarding" $
+    path "path selection"
+      multipath "load balancing over paths"
+        upstream $
+        downstream $
+    logging "mldp logging"
+      notifications "mldp notifications" $
+  export "export mpls vpn information"
+    vpnv4 "vpnv4 information"
+      prefixes $
+    interval "export interval" :n
+      0-1440 :o "minutes" $
+  discovery "mpls discovery"
+    vpn "vpn discovery"
+      interval :n
+        30-86400 :o "seconds" $
+      next-hop $
+      edgerouter $
   traffic-eng
     tunnels $
     line *
@@ -652,7 +790,7 @@ mpls "mpls configuration"
     line *
   mtu
     id $
-  oam $
+  oam "mpls operation and maintenance" @(config-mpls)#=mpls_oam.cfm
   ipv6
     line *
 kron "command scheduler"
@@ -688,6 +826,11 @@ tacacs-server "tacacs server configuration"
     id $
   directed-request $
   administration $
+  cache "tacacs server cache"
+    expiry "cache expiry"
+      id :o "hours" $
+        enforce "do not use expired entries" $
+          hours $
 tacacs "tacacs server"
   server
     word :k @(config-server-tacacs)#=server.cfm
@@ -771,6 +914,11 @@ network-clock "configure network clock"
 network-clock-select "select a network clock source"
   line *
 scheduler "scheduler parameters"
+  process-watchdog "action for looping processes"
+    hang $
+    normal $
+    reload $
+    terminate $
   allocate $
     id
       id $
@@ -783,3 +931,4 @@ ip "global ip configuration" &ip_global.cfm
 %SECTOP
 %SWTOP
 %MISCTOP
+%WIDETOP

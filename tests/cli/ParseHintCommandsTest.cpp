@@ -178,7 +178,7 @@ TEST_F(ProgramTest, ParseJsonNestsChildren) {
 TEST_F(ProgramTest, ParseTurnsALibraryExceptionIntoFileAndLine) {
   // A numeric range value made only of zeros raises the library's
   // out-of-range error from the reader.
-  std::string bad = tempFile("zeros.cfg", "hostname R1\n!\n\naccess-list 0 permit any\nhostname R2\n");
+  std::string bad = tempFile("zeros.cfg", "hostname R1\n!\n\ncts server deadtime 0\nhostname R2\n");
   std::string good = tempFile("good.cfg", "hostname R1\n");
   ProgramRun run = runCli("--resources '" + kShipped + "' parse --replay '" + bad + "' '" + good + "'");
   EXPECT_EQ(run.exitCode, 2);
@@ -188,7 +188,7 @@ TEST_F(ProgramTest, ParseTurnsALibraryExceptionIntoFileAndLine) {
   // Read as typed, the device refuses the line and the reading goes on.
   run = runCli("--resources '" + kShipped + "' parse '" + bad + "'");
   EXPECT_EQ(run.exitCode, 0);
-  EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: access-list 0 permit any\n");
+  EXPECT_EQ(run.err, "vtyconf: zeros.cfg:4: cts server deadtime 0\n");
   EXPECT_NE(run.out.find("hostname R2"), std::string::npos) << run.out;
 }
 

@@ -234,13 +234,13 @@ TEST(ConsoleProgramTest, LibraryErrorOnALineIsShownAndTheSessionGoesOn) {
   testsupport::CliRun run = runScripted("--hostname R6",
                                "enable\n"
                                "conf t\n"
-                               "access-list 0 permit any\n"
-                               "access-list 0 ?\x15"
+                               "cts server deadtime 0\n"
+                               "cts server deadtime 0 ?\x15"
                                "hostname R7\n");
   EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_NE(run.out.find(
-                "R6(config)#access-list 0 permit any\n% invalid string position\nR6(config)#access-list 0 ?\n"
-                "% invalid string position\nR6(config)#access-list 0 ?"),
+                "R6(config)#cts server deadtime 0\n% invalid string position\nR6(config)#cts server deadtime 0 ?\n"
+                "% invalid string position\nR6(config)#cts server deadtime 0 ?"),
             std::string::npos)
       << run.out;
   EXPECT_NE(run.out.find("hostname R7\nR6(config)#\n"), std::string::npos) << run.out;

@@ -9,6 +9,7 @@
 #include "grammar/DefinitionLoader.h"
 #include "grammar/NodePool.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/ValueKinds.h"
 
 namespace qxparser {
 
@@ -55,7 +56,7 @@ void markVisited(ParserTreeNode* at, const std::string& token, const ParserTreeN
 bool matchesOtherTokens(const std::string& word) {
   static const std::set<std::string> kPatterns = {"a.b.c.d", "a.b.c.d/<1-32>", "oui:vpn-index", "id",
                                                   "+/-<metric>", "+/-<delay>", "h.h.h"};
-  return kPatterns.count(word) > 0 || word.find(':') != std::string::npos;
+  return kPatterns.count(word) > 0 || word.find(':') != std::string::npos || ValueKinds::isKind(word);
 }
 
 bool isCatchAll(const std::string& word) { return word == "hostname or a.b.c.d" || word == "word" || word == "line"; }

@@ -11,6 +11,7 @@
 #include "grammar/NodeLookup.h"
 #include "terminal/VTYModel.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/ValueKinds.h"
 
 namespace qxparser {
 
@@ -63,7 +64,9 @@ bool printHelp(ParserTreeNode* node, std::ostream& out, const std::string& prefi
   }
   if (table.empty()) return false;
   size_t tabs = 0;
-  for (const auto& entry : table) tabs = std::max(tabs, entry.first.size() / 8 + 1);
+  // A checked value kind is shown, and so measured, in the device's form.
+  auto shown = [](const std::string& word) { return ValueKinds::isKind(word) ? ValueKinds::label(word) : word; };
+  for (const auto& entry : table) tabs = std::max(tabs, shown(entry.first).size() / 8 + 1);
   const size_t width = tabs * 8 < 79 ? 79 - tabs * 8 : 1;
   const bool signedPrefix = !prefix.empty() && (prefix[0] == '+' || prefix[0] == '-');
   bool printed = false;
@@ -79,9 +82,12 @@ bool printHelp(ParserTreeNode* node, std::ostream& out, const std::string& prefi
       label = "<1-4294967295>";
     } else if (word == "+/-<metric>" && signedPrefix) {
       label = "<0-4294967295>";
+    } else if (ValueKinds::isKind(word)) {
+      label = shown(word);
     }
-    // The tab count is taken from the word, not from the label shown.
-    out << label << std::string(tabs - word.size() / 8, '\t');
+    // The tab count is taken from the word, not from the label shown; a
+    // checked value kind counts in its device form.
+    out << label << std::string(tabs - shown(word).size() / 8, '\t');
     const std::string& help = entry.second;
     size_t pos = 0;
     do {

@@ -13,6 +13,7 @@
 #include "platform/IpAddress.h"
 #include "toolkit/ParserToolCase.h"
 #include "toolkit/ToolkitText.h"
+#include "toolkit/ValueKinds.h"
 
 namespace qxparser {
 
@@ -219,7 +220,9 @@ bool ParserToolCase::isNewValidInput(const std::string& token, const std::string
     return isStringNum(rest) && isValidNumber(rest, kLimit32) && isValidNumber("1", rest);
   }
   if (token == "h.h.h") return isMAC(input);
-  return false;
+  // Tokens that no rule above names accept nothing, except the checked kinds
+  // of ValueKinds, which no older definition spells.
+  return ValueKinds::accepts(token, input);
 }
 
 bool ParserToolCase::isAnyValidInput(const std::string& token, const std::string& input) {

@@ -1,0 +1,70 @@
+member|bridge domain members|k||
+  vfi|a vfi|k||
+    word|word|k||
+      <cr>||||
+      !
+    !
+  !
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+      service-instance|an ethernet service instance|k||
+        1-8000|1-8000|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  evpn-instance|evpn-instance|k||
+    1-65535|1-65535|k||
+      <cr>||||
+      !
+      ethernet-tag|ethernet-tag|k||
+        id|id|k||
+          <cr>||||
+          !
+        !
+      !
+    !
+  !
+  vni|vni|k||
+    1-16777215|1-16777215|k||
+      <cr>||||
+      !
+    !
+  !
+!
+mac|mac settings|k||
+  limit|limit|k||
+    maximum|maximum|k||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  learning|learning|k||
+    <cr>||||
+    !
+  !
+  aging-time|aging-time|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+flooding|flooding|k||
+  <cr>||||
+  !
+  disable|disable|k||
+    <cr>||||
+    !
+  !
+!
+shutdown|shutdown|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,134 @@
+replication-type|replication type|k||
+  ingress|ingress|k||
+    <cr>||||
+    !
+  !
+  static|static|k||
+    <cr>||||
+    !
+  !
+  mp2mp|mp2mp|k||
+    <cr>||||
+    !
+  !
+!
+router-id|evpn router id|k||
+  &interfacefile.cfm|interface type|k||
+    <number>|interface number|k||
+      <cr>||||
+      !
+    !
+  !
+!
+default-gateway|default gateway settings|k||
+  advertise|advertise|k||
+    <cr>||||
+    !
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+    disable|disable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+logging|evpn logging|k||
+  peer|peer|k||
+    state|state|k||
+      <cr>||||
+      !
+    !
+  !
+  duplicate|duplicate|k||
+    address|address|k||
+      <cr>||||
+      !
+    !
+  !
+!
+route-target|route target|k||
+  auto|auto|k||
+    <cr>||||
+    !
+    vni|vni|k||
+      <cr>||||
+      !
+    !
+  !
+  export|export|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+  import|import|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+  both|both|k||
+    aa:nn|aa:nn|k||
+      <cr>||||
+      !
+    !
+  !
+!
+rd|route distinguisher|k||
+  aa:nn|aa:nn|o||
+    <cr>||||
+    !
+  !
+!
+encapsulation|encapsulation|k||
+  vxlan|vxlan|k||
+    <cr>||||
+    !
+  !
+  mpls|mpls|k||
+    <cr>||||
+    !
+  !
+!
+ip|ip settings|k||
+  duplicate-detection|duplicate-detection|k||
+    line|line|lb/le/wa||
+      <cr>||||
+      !
+    !
+  !
+  local-learning|local-learning|k||
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+    disable|disable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+multicast|multicast settings|k||
+  advertise|advertise|k||
+    <cr>||||
+    !
+    enable|enable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+flooding-suppression|flooding-suppression|k||
+  address-resolution|address-resolution|k||
+    disable|disable|k||
+      <cr>||||
+      !
+    !
+  !
+!
+auto-route-target|auto-route-target|k||
+  <cr>||||
+  !
+!

@@ -1,0 +1,132 @@
+encapsulation|tunnel encapsulation|k||
+  ipsec|ipsec|k||
+    <cr>||||
+    !
+    weight|weight|k||
+      1-255|1-255|o||
+        <cr>||||
+        !
+      !
+    !
+    preference|preference|k||
+      0-4294967295|0-4294967295|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+  gre|gre|k||
+    <cr>||||
+    !
+    weight|weight|k||
+      1-255|1-255|o||
+        <cr>||||
+        !
+      !
+    !
+    preference|preference|k||
+      0-4294967295|0-4294967295|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+color|color of the transport|k||
+  word|word|o||
+    <cr>||||
+    !
+    restrict|restrict|k||
+      <cr>||||
+      !
+    !
+  !
+!
+allow-service|services allowed on the tunnel|k||
+  all|all|k||
+    <cr>||||
+    !
+  !
+  bgp|bgp|k||
+    <cr>||||
+    !
+  !
+  dhcp|dhcp|k||
+    <cr>||||
+    !
+  !
+  dns|dns|k||
+    <cr>||||
+    !
+  !
+  icmp|icmp|k||
+    <cr>||||
+    !
+  !
+  sshd|sshd|k||
+    <cr>||||
+    !
+  !
+  netconf|netconf|k||
+    <cr>||||
+    !
+  !
+  ntp|ntp|k||
+    <cr>||||
+    !
+  !
+  ospf|ospf|k||
+    <cr>||||
+    !
+  !
+  stun|stun|k||
+    <cr>||||
+    !
+  !
+  https|https|k||
+    <cr>||||
+    !
+  !
+  snmp|snmp|k||
+    <cr>||||
+    !
+  !
+!
+max-control-connections|maximum control connections|k||
+  0-100|0-100|o||
+    <cr>||||
+    !
+  !
+!
+vmanage-connection-preference|preference for the management connection|k||
+  0-8|0-8|o||
+    <cr>||||
+    !
+  !
+!
+nat-refresh-interval|nat refresh interval|k||
+  1-60|1-60|o||
+    <cr>||||
+    !
+  !
+!
+hello-interval|hello interval|k||
+  100-600000|100-600000|o||
+    <cr>||||
+    !
+  !
+!
+hello-tolerance|hello tolerance|k||
+  12-6000|12-6000|o||
+    <cr>||||
+    !
+  !
+!
+low-bandwidth-link|a low bandwidth link|k||
+  <cr>||||
+  !
+!
+exit|leave the tunnel interface|k||
+  <cr>||||
+  !
+!

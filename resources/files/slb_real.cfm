@@ -1,0 +1,36 @@
+inservice|enable the real server|k||
+  <cr>||||
+  !
+!
+weight|weight|k||
+  1-255|1-255|o||
+    <cr>||||
+    !
+  !
+!
+maxconns|maximum connections|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+reassign|reassign|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+faildetect|faildetect|k||
+  numconns|numconns|k||
+    id|id|o||
+      <cr>||||
+      !
+    !
+  !
+!
+retry|retry|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!

@@ -1,0 +1,64 @@
+virtual|the virtual server address|k||
+  a.b.c.d|a.b.c.d|o||
+    tcp|tcp|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    udp|udp|k||
+      word|word|o||
+        <cr>||||
+        !
+      !
+    !
+    id|id|||
+      id|id|o||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+serverfarm|the server farm|k||
+  word|word|o||
+    <cr>||||
+    !
+    backup|backup|k||
+      word|word|||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
+inservice|enable the virtual server|k||
+  <cr>||||
+  !
+!
+client|allowed clients|k||
+  a.b.c.d|a.b.c.d|||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+  !
+!
+idle|idle timeout|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+sticky|sticky|k||
+  id|id|o||
+    <cr>||||
+    !
+  !
+!
+description|description|k||
+  line|text|lb/le/wa||
+    <cr>||||
+    !
+  !
+!
