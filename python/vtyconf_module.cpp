@@ -30,6 +30,7 @@
 #include "config/QxParserUtil.h"
 #include "config/ReaderLineMap.h"
 #include "config/RefusedRecord.h"
+#include "config/SortedText.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
 #include "notes/NoteStaging.h"
@@ -203,6 +204,15 @@ std::string rollback(const std::string& first, const std::string& second, bool d
   LibraryCall call;
   try {
     return blankNuls(QxParserUtil::fallbackConfigCmdsAllLevels(first, second, delta ? 0 : 1));
+  } catch (const std::exception& e) {
+    raiseError(e.what());
+  }
+}
+
+std::string sorted(const std::string& config) {
+  LibraryCall call;
+  try {
+    return qxparser::sortedConfigText(config);
   } catch (const std::exception& e) {
     raiseError(e.what());
   }
@@ -387,6 +397,7 @@ PYBIND11_MODULE(_core, m) {
   m.def("check", &checkChanges, py::arg("changes"), py::arg("config"), py::arg("name"));
   m.def("merge", &merge, py::arg("changes"), py::arg("config"));
   m.def("rollback", &rollback, py::arg("first"), py::arg("second"), py::arg("delta"));
+  m.def("sort", &sorted, py::arg("config"));
   m.def("query", &query, py::arg("path"), py::arg("what"), py::arg("keys"));
   m.def("hint", &hint, py::arg("config"), py::arg("line"));
   m.def("check_note", &checkNote, py::arg("script"));

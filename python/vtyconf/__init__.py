@@ -28,7 +28,7 @@ from ._core import Config, Error, Record, Refusal
 
 __all__ = [
     "Config", "Error", "Record", "Refusal", "HintLevel", "HintWord", "NoteLine", "NoteTree",
-    "parse", "parse_file", "merge", "rollback", "diff", "check", "query", "hint",
+    "parse", "parse_file", "merge", "sort", "rollback", "diff", "check", "query", "hint",
     "check_note", "translate_note", "run_note", "QUERIES",
 ]
 
@@ -101,10 +101,15 @@ def rollback(first: Text, second: Text, delta: bool = False) -> str:
     return _core.rollback(_text(first), _text(second), delta)
 
 
+def sort(config: Text) -> str:
+    """The commands of the configuration in device order (``vtyconf sort``)."""
+    return _core.sort(_text(config))
+
+
 def diff(first: Text, second: Text, context: int = 3) -> str:
     """A unified line diff of both configurations, each put in device order."""
-    before = _core.merge("", _text(first)).splitlines(keepends=True)
-    after = _core.merge("", _text(second)).splitlines(keepends=True)
+    before = [line.rstrip() + "\n" for line in _core.sort(_text(first)).splitlines()]
+    after = [line.rstrip() + "\n" for line in _core.sort(_text(second)).splitlines()]
     return "".join(difflib.unified_diff(before, after, _name(first, "first"), _name(second, "second"),
                                         n=context))
 
