@@ -54,7 +54,8 @@ py::object& errorType() {
   return type;
 }
 
-[[noreturn]] void raiseError(const std::string& message, const std::string& file = std::string(), int line = 0) {
+[[noreturn]] void raiseError(const std::string& message, const std::string& file = std::string(),
+                             int line = 0) {
   py::object error = errorType()(message);
   error.attr("file") = file.empty() ? py::object(py::none()) : py::object(py::str(file));
   error.attr("line") = line > 0 ? py::object(py::int_(line)) : py::object(py::none());
@@ -222,7 +223,8 @@ py::object query(const std::string& path, const std::string& what, const std::ve
   const qxparser::NamedQueryKind* kind = qxparser::namedQuery(what);
   if (kind == nullptr) {
     std::string names;
-    for (const auto& known : qxparser::namedQueries()) names += (names.empty() ? "" : ", ") + std::string(known.name);
+    for (const auto& known : qxparser::namedQueries())
+      names += (names.empty() ? "" : ", ") + std::string(known.name);
     raiseError("unknown query '" + what + "'; queries are " + names);
   }
   if (kind->needsKey && keys.empty()) raiseError("query " + what + " needs a key");
@@ -259,7 +261,8 @@ std::vector<py::tuple> hint(std::string config, std::string line) {
 // ------------------------------------------------------------- notes
 
 void requireReadable(const std::string& path) {
-  if (platform::access(path, 4) != 0 || Pathname(path).isDirectory()) raiseError("cannot read the script", path);
+  if (platform::access(path, 4) != 0 || Pathname(path).isDirectory())
+    raiseError("cannot read the script", path);
 }
 
 std::vector<std::string> messageLines(const std::string& messages) {
@@ -301,7 +304,9 @@ py::list treeLines(const DRResultTree& tree) {
   py::list lines;
   for (const LineFormat* line : tree.getLines()) {
     if (line == nullptr) continue;
-    const char* tag = line->mTagKind == LineTagOpen ? "open" : line->mTagKind == LineTagClose ? "close" : "none";
+    const char* tag = line->mTagKind == LineTagOpen    ? "open"
+                      : line->mTagKind == LineTagClose ? "close"
+                                                       : "none";
     py::list children = line->mChildren != nullptr ? treeLines(*line->mChildren) : py::list();
     lines.append(py::make_tuple(line->mLineNumber, line->mText, tag, line->mLineCount, children));
   }
@@ -347,9 +352,9 @@ std::string recordRepr(const Record& r) {
 
 PYBIND11_MODULE(_core, m) {
   m.doc() = "The native part of vtyconf; use the package `vtyconf`.";
-  errorType() = py::reinterpret_steal<py::object>(
-      PyErr_NewExceptionWithDoc("vtyconf.Error", "An error of vtyconf; `file` and `line` say where (or None).",
-                                PyExc_Exception, nullptr));
+  errorType() = py::reinterpret_steal<py::object>(PyErr_NewExceptionWithDoc(
+      "vtyconf.Error", "An error of vtyconf; `file` and `line` say where (or None).", PyExc_Exception,
+      nullptr));
   m.attr("Error") = errorType();
 
   py::class_<Refusal>(m, "Refusal", "A line the device refused: file, line (the file's own), text, message.")
@@ -357,23 +362,28 @@ PYBIND11_MODULE(_core, m) {
       .def_readonly("line", &Refusal::line)
       .def_readonly("text", &Refusal::text)
       .def_readonly("message", &Refusal::message)
-      .def("__eq__", [](const Refusal& a, const Refusal& b) {
-        return a.file == b.file && a.line == b.line && a.text == b.text && a.message == b.message;
-      })
+      .def("__eq__",
+           [](const Refusal& a, const Refusal& b) {
+             return a.file == b.file && a.line == b.line && a.text == b.text && a.message == b.message;
+           })
       .def("__repr__", [](const Refusal& r) {
-        return "Refusal(" + r.file + ":" + std::to_string(r.line) + ": " + py::repr(py::str(r.text)).cast<std::string>() +
-               ", " + r.message + ")";
+        return "Refusal(" + r.file + ":" + std::to_string(r.line) + ": " +
+               py::repr(py::str(r.text)).cast<std::string>() + ", " + r.message + ")";
       });
 
   py::class_<Record>(m, "Record", "One command as the device read it, with its child commands.")
       .def_property_readonly("text", &Record::text, "the command's text, without indent")
-      .def_property_readonly("level", [](const Record& r) { return r.record->getLevel(); }, "0 at the top")
+      .def_property_readonly(
+          "level", [](const Record& r) { return r.record->getLevel(); }, "0 at the top")
       .def_property_readonly("line", &Record::line, "the file's own line number")
-      .def_property_readonly("order", [](const Record& r) { return r.record->getOrderNo(); }, "device order")
-      .def_property_readonly("flag", [](const Record& r) { return CommandDump::flagName(r.record->getFlag()); },
-                             "how a merge treats it: overwrite, additive, negated, ...")
-      .def_property_readonly("flags", [](const Record& r) { return CommandDump::markNames(*r.record); },
-                             "the names of the set marks: no, stored, mode, ...")
+      .def_property_readonly(
+          "order", [](const Record& r) { return r.record->getOrderNo(); }, "device order")
+      .def_property_readonly(
+          "flag", [](const Record& r) { return CommandDump::flagName(r.record->getFlag()); },
+          "how a merge treats it: overwrite, additive, negated, ...")
+      .def_property_readonly(
+          "flags", [](const Record& r) { return CommandDump::markNames(*r.record); },
+          "the names of the set marks: no, stored, mode, ...")
       .def_property_readonly("children", &Record::children, "the commands inside this one")
       .def("to_dict", &Record::toDict, "the record as `vtyconf parse --json` writes it")
       .def("__repr__", &recordRepr);
@@ -383,14 +393,16 @@ PYBIND11_MODULE(_core, m) {
       .def_readonly("text", &ConfigData::text, "the text that was read (a terminal capture cleaned)")
       .def_readonly("left_out", &ConfigData::leftOut, "capture lines left out, as 'LINE: text'")
       .def_readonly("refused", &ConfigData::refused, "the refused lines, in file order")
-      .def_property_readonly("lines", [](const ConfigData& d) { return d.records.size(); }, "lines read")
-      .def_property_readonly("records", [](const std::shared_ptr<ConfigData>& d) { return topRecords(d); },
-                             "the top-level commands (refused lines and comments left out)")
+      .def_property_readonly(
+          "lines", [](const ConfigData& d) { return d.records.size(); }, "lines read")
+      .def_property_readonly(
+          "records", [](const std::shared_ptr<ConfigData>& d) { return topRecords(d); },
+          "the top-level commands (refused lines and comments left out)")
       .def("__len__", [](const std::shared_ptr<ConfigData>& d) { return topRecords(d).size(); })
       .def("__iter__", [](const std::shared_ptr<ConfigData>& d) { return py::iter(py::cast(topRecords(d))); })
       .def("__repr__", [](const ConfigData& d) {
-        return "Config(" + py::repr(py::str(d.name)).cast<std::string>() + ", " + std::to_string(d.records.size()) +
-               " lines, " + std::to_string(d.refused.size()) + " refused)";
+        return "Config(" + py::repr(py::str(d.name)).cast<std::string>() + ", " +
+               std::to_string(d.records.size()) + " lines, " + std::to_string(d.refused.size()) + " refused)";
       });
 
   m.def("parse", &parseText, py::arg("text"), py::arg("name"), py::arg("clean"));
@@ -403,6 +415,7 @@ PYBIND11_MODULE(_core, m) {
   m.def("check_note", &checkNote, py::arg("script"));
   m.def("translate_note", &translateNote, py::arg("script"));
   m.def("run_note", &runNote, py::arg("script"), py::arg("config"), py::arg("config_name"), py::arg("ui"));
-  m.def("set_resources", [](const std::string& folder) { QXFileSystem::SetSystemResourceFolder(folder); },
-        py::arg("folder"));
+  m.def(
+      "set_resources", [](const std::string& folder) { QXFileSystem::SetSystemResourceFolder(folder); },
+      py::arg("folder"));
 }

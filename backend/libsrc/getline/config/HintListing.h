@@ -21,9 +21,9 @@ struct HintWord {
 };
 
 struct HintLevel {
-  std::string prompt;            // the prompt suffix of the level, "(config-if)#"
-  std::string text;              // the level's own listing, as the terminal wrote it
-  std::vector<HintWord> words;   // the listing, entry by entry
+  std::string prompt;           // the prompt suffix of the level, "(config-if)#"
+  std::string text;             // the level's own listing, as the terminal wrote it
+  std::vector<HintWord> words;  // the listing, entry by entry
 };
 
 VTYCONF_API std::vector<HintLevel> hintLevels(const std::vector<ConfigHint>& hints);

@@ -9,9 +9,9 @@ namespace qxparser {
 
 const std::vector<NamedQueryKind>& namedQueries() {
   static const std::vector<NamedQueryKind> kQueries = {
-      {"vrfs", false},      {"vrf", true},        {"protocols", false}, {"protocol", true},
-      {"interface", true},  {"interfaces", true}, {"acls", false},      {"acl", true},
-      {"nat", true},        {"route-map", true},  {"section", true},    {"lines", true},
+      {"vrfs", false},     {"vrf", true},        {"protocols", false}, {"protocol", true},
+      {"interface", true}, {"interfaces", true}, {"acls", false},      {"acl", true},
+      {"nat", true},       {"route-map", true},  {"section", true},    {"lines", true},
   };
   return kQueries;
 }

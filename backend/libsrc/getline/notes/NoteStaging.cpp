@@ -9,7 +9,8 @@
 #include "platform/QX128Guid.h"
 #include "platform/QXFileSystem.h"
 
-NoteStaging::NoteStaging() : mFolder(QXFileSystem::GetTempFolder() + "run-" + QX128Guid(true).ToUUIDString(false)) {
+NoteStaging::NoteStaging()
+    : mFolder(QXFileSystem::GetTempFolder() + "run-" + QX128Guid(true).ToUUIDString(false)) {
   platform::makeDir(mFolder);
 }
 

@@ -10,10 +10,14 @@ int uiVariableKindNamed(std::string name) {
     const char* name;
     int kind;
   } kKinds[] = {
-      {"interface", UIVariableType::InterfaceList},   {"protocol", UIVariableType::ProtocolList},
-      {"address", UIVariableType::IPAddressList},     {"ip", UIVariableType::IPAddressList},
-      {"interface-name", UIVariableType::InterfaceNameList}, {"vrf", UIVariableType::VrfNameList},
-      {"route-map", UIVariableType::RouteMapNameList}, {"nat", UIVariableType::NATList},
+      {"interface", UIVariableType::InterfaceList},
+      {"protocol", UIVariableType::ProtocolList},
+      {"address", UIVariableType::IPAddressList},
+      {"ip", UIVariableType::IPAddressList},
+      {"interface-name", UIVariableType::InterfaceNameList},
+      {"vrf", UIVariableType::VrfNameList},
+      {"route-map", UIVariableType::RouteMapNameList},
+      {"nat", UIVariableType::NATList},
   };
   for (const auto& entry : kKinds) {
     if (name == entry.name) return entry.kind;
