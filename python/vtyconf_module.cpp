@@ -405,16 +405,24 @@ PYBIND11_MODULE(_core, m) {
                std::to_string(d.records.size()) + " lines, " + std::to_string(d.refused.size()) + " refused)";
       });
 
-  m.def("parse", &parseText, py::arg("text"), py::arg("name"), py::arg("clean"));
-  m.def("check", &checkChanges, py::arg("changes"), py::arg("config"), py::arg("name"));
-  m.def("merge", &merge, py::arg("changes"), py::arg("config"));
-  m.def("rollback", &rollback, py::arg("first"), py::arg("second"), py::arg("delta"));
-  m.def("sort", &sorted, py::arg("config"));
-  m.def("query", &query, py::arg("path"), py::arg("what"), py::arg("keys"));
-  m.def("hint", &hint, py::arg("config"), py::arg("line"));
-  m.def("check_note", &checkNote, py::arg("script"));
-  m.def("translate_note", &translateNote, py::arg("script"));
-  m.def("run_note", &runNote, py::arg("script"), py::arg("config"), py::arg("config_name"), py::arg("ui"));
+  m.def("parse", &parseText, py::arg("text"), py::arg("name"), py::arg("clean"),
+        "Reads a configuration text; `clean` leaves out the lines of a terminal capture.");
+  m.def("check", &checkChanges, py::arg("changes"), py::arg("config"), py::arg("name"),
+        "The refused lines of a change set meant for `config`.");
+  m.def("merge", &merge, py::arg("changes"), py::arg("config"),
+        "The configuration after the changes, in device order (NUL indent bytes as blanks).");
+  m.def("rollback", &rollback, py::arg("first"), py::arg("second"), py::arg("delta"),
+        "The commands that lead back, compared over every level (NUL indent bytes as blanks).");
+  m.def("sort", &sorted, py::arg("config"), "The commands in device order.");
+  m.def("query", &query, py::arg("path"), py::arg("what"), py::arg("keys"),
+        "A named query of the file at `path`: text, or a list for interfaces and acls.");
+  m.def("hint", &hint, py::arg("config"), py::arg("line"),
+        "The next words after `line` at the end of `config`: [(prompt, [(word, help)])].");
+  m.def("check_note", &checkNote, py::arg("script"),
+        "The check and trial translation messages of a note file.");
+  m.def("translate_note", &translateNote, py::arg("script"), "The Perl program of a note file.");
+  m.def("run_note", &runNote, py::arg("script"), py::arg("config"), py::arg("config_name"), py::arg("ui"),
+        "Runs a note over a configuration text: [(line, text, tag, count, children)].");
   m.def(
       "set_resources", [](const std::string& folder) { QXFileSystem::SetSystemResourceFolder(folder); },
       py::arg("folder"));

@@ -47,10 +47,11 @@ def test_note_fleet_equals_the_program(corpus, client, program):
     assert not table.failed
 
 
-def test_query_and_check_fleets_keep_the_order_of_the_inputs(client):
-    configs = [ROOT / "examples/branch-router.cfg", ROOT / "examples/notes"]
-    table = fleet.query(configs, "protocols", client=client)
-    assert [row.file for row in table] == fleet.expand(configs)
-    assert all(isinstance(row.findings, str) for row in table)
+def test_query_fleet_equals_the_program_and_keeps_the_order_of_the_inputs(client, program):
+    configs = [str(ROOT / "examples/branch-router.cfg"), str(ROOT / "examples/notes")]
+    for what in (["protocols"], ["interfaces", "Gi0/1", "Loopback0"]):
+        table = fleet.query(configs, *what, client=client)
+        theirs = json.loads(program("query", "-j", "2", *configs, *what, "--json").stdout)
+        assert [(row.file, row.findings) for row in table] == [(item["file"], item["result"]) for item in theirs]
     checked = fleet.check([ROOT / "python/tests/data/unclosed.note"], client=client)
     assert [item.line for item in checked[0].refused] and checked.refused()
