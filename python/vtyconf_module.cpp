@@ -4,9 +4,10 @@
 // use; this file only carries values across. The grammar is loaded once per
 // process, on the first call that needs it. The library allows one operation
 // at a time in a process, so every call takes one module-wide lock and keeps
-// the interpreter lock for its whole length: a second thread waits, it never
-// runs beside. Records of a parsed configuration stay in C++ and are wrapped
-// on access, so reading costs what the library costs.
+// the interpreter lock for its whole length: a second thread waits (letting
+// the interpreter go while it does), it never runs beside. Records of a parsed
+// configuration stay in C++ and are wrapped on access, so reading costs what
+// the library costs.
 //
 // Errors of every kind come back as one exception type, vtyconf.Error, with
 // `file` and `line` attributes (None where unknown).
@@ -63,10 +64,16 @@ py::object& errorType() {
   throw py::error_already_set();
 }
 
-// Held for the whole of every call into the library.
+// Held for the whole of every call into the library. A thread that finds the
+// lock taken lets the interpreter go while it waits: the holder may need the
+// interpreter to finish (a collection that runs Python code can hand it over).
 class LibraryCall {
  public:
-  explicit LibraryCall(bool needsGrammar = true) : mLock(mutex()) {
+  explicit LibraryCall(bool needsGrammar = true) : mLock(mutex(), std::try_to_lock) {
+    if (!mLock.owns_lock()) {
+      py::gil_scoped_release waiting;
+      mLock.lock();
+    }
     if (needsGrammar) loadGrammarOnce();
   }
 
@@ -85,7 +92,7 @@ class LibraryCall {
     }
     loaded = true;
   }
-  std::lock_guard<std::mutex> mLock;
+  std::unique_lock<std::mutex> mLock;
 };
 
 // ------------------------------------------------------------ parse
