@@ -1,6 +1,5 @@
 """The examples of docs/python.md run as they are written."""
 import os
-import pathlib
 import subprocess
 import sys
 

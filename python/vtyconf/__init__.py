@@ -21,7 +21,7 @@ from __future__ import annotations
 import difflib
 import os
 import tempfile
-from typing import List, NamedTuple, Optional, Sequence, Union
+from typing import List, NamedTuple, Optional, Union
 
 from . import _core
 from ._core import Config, Error, Record, Refusal
