@@ -116,7 +116,15 @@ struct ConfigData {
   ConfigData(const ConfigData&) = delete;
   ConfigData& operator=(const ConfigData&) = delete;
   // Records hold pointers into the grammar, which lives as long as the process.
-  ~ConfigData() { QxParserUtil::deleteCommands(records); }
+  // When the interpreter ends, the process's memory goes back as a whole:
+  // deleting a large configuration record by record would only delay the exit.
+  ~ConfigData() {
+    if (!interpreterEnding()) QxParserUtil::deleteCommands(records);
+  }
+  static bool& interpreterEnding() {
+    static bool ending = false;
+    return ending;
+  }
 
   bool isShown(const CiscoCommandLine& record) const {
     if (record.getFlag() == qxparser::CMD_TEXT) return false;
@@ -363,6 +371,8 @@ PYBIND11_MODULE(_core, m) {
       "vtyconf.Error", "An error of vtyconf; `file` and `line` say where (or None).", PyExc_Exception,
       nullptr));
   m.attr("Error") = errorType();
+  py::module_::import("atexit").attr("register")(
+      py::cpp_function([]() { ConfigData::interpreterEnding() = true; }));
 
   py::class_<Refusal>(m, "Refusal", "A line the device refused: file, line (the file's own), text, message.")
       .def_readonly("file", &Refusal::file)
