@@ -17,4 +17,10 @@ for program in "$build"/bench/*_bench; do
     status=1
   fi
 done
+# The Python module against the program (skips itself where the build has no module).
+echo "== python_parse"
+if ! /usr/bin/python3 "$(dirname "$0")/python_parse.py" "$build"; then
+  echo "python_parse failed" >&2
+  status=1
+fi
 exit $status

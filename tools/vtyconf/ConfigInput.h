@@ -16,23 +16,18 @@
 #include <string>
 #include <vector>
 
-namespace qxparser {
-class CiscoCommandLine;
-}
+#include "config/CaptureCleaner.h"
+#include "config/ReaderLineMap.h"
+#include "config/RefusedRecord.h"
 
 namespace vtycli {
 
-struct ConfigInput {
+// The line map (fileLineOf, isBannerText, readerLines) is the library's.
+struct ConfigInput : qxparser::ReaderLineMap {
   std::string path;                     // as given ("-" for standard input)
   std::string text;                     // the text handed to the library
   std::vector<std::string> leftOut;     // "LINE: text" of every line left out
-  std::vector<int> fileLines;           // file line of each non-empty line, in order
-  std::vector<bool> bannerText;         // per non-empty line: banner text (closing line with text too)
-  std::vector<std::string> readerLines; // the non-empty lines as the library sees them
 
-  // File line of the library's line number `number` (1-based); 0 if unknown.
-  int fileLineOf(int number) const;
-  bool isBannerText(int number) const;
   // The name used in messages: the file name without its folders.
   std::string displayName() const;
 };
@@ -47,8 +42,8 @@ bool looksBinary(const std::string& text);
 // --quiet: readInput leaves out its notes on capture lines.
 void setQuietInput(bool quiet);
 
-// Cleans a capture in place (exposed for tests and other subcommands).
-void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
+using qxparser::cleanCapture;
+using qxparser::isRefusedRecord;
 
 // Reads `path` for a subcommand that needs only the text: the capture is
 // cleaned (unless `keepCapture`) and every left-out line is reported on
@@ -57,12 +52,6 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut);
 bool readInput(const std::string& path, std::string& text, bool keepCapture = false);
 // The same, keeping what the reader learnt (line numbers of the file).
 bool readInput(const std::string& path, ConfigInput& input, bool keepCapture = false);
-
-// A refused line: its walk found no path, or a path that never reached the
-// end of a command (a "no" line may stop early where the grammar allows it,
-// and is refused where the grammar does not). Comment records
-// are never refused; banner text is the caller's to leave out.
-bool isRefusedRecord(const qxparser::CiscoCommandLine& record);
 
 // Loads the definition files; false, after a message, when they cannot be
 // loaded.

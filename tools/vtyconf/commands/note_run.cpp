@@ -8,7 +8,6 @@
 // array of {line, text, tag, count, children[]}. KIND is one of interface,
 // protocol, address, interface-name, vrf, route-map, nat (or its number 1-7).
 // Exit 0 when the note ran, found something or not; 2 when it could not run.
-#include <cctype>
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -22,6 +21,7 @@
 #include "notes/DesignNoteParser.h"
 #include "results/DRResultTree.h"
 #include "results/UIVariableForDR.h"
+#include "results/UIVariableKind.h"
 
 namespace {
 
@@ -33,24 +33,6 @@ struct RunOptions {
   bool raw = false;
   bool json = false;
 };
-
-int uiKindOf(std::string kind) {
-  for (char& c : kind) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  static const struct {
-    const char* name;
-    int kind;
-  } kKinds[] = {
-      {"interface", UIVariableType::InterfaceList},   {"protocol", UIVariableType::ProtocolList},
-      {"address", UIVariableType::IPAddressList},     {"ip", UIVariableType::IPAddressList},
-      {"interface-name", UIVariableType::InterfaceNameList}, {"vrf", UIVariableType::VrfNameList},
-      {"route-map", UIVariableType::RouteMapNameList}, {"nat", UIVariableType::NATList},
-  };
-  for (const auto& entry : kKinds) {
-    if (kind == entry.name) return entry.kind;
-  }
-  if (kind.size() == 1 && kind[0] >= '1' && kind[0] <= '7') return kind[0] - '0';
-  return 0;
-}
 
 nlohmann::json toJson(const DRResultTree& tree) {
   nlohmann::json lines = nlohmann::json::array();
@@ -75,7 +57,7 @@ int runNote(const RunOptions& options, const std::string& config) {
   std::unique_ptr<UIVariableForDR> ui;
   for (const std::string& item : options.ui) {
     std::size_t eq = item.find('=');
-    int kind = eq == std::string::npos ? 0 : uiKindOf(item.substr(0, eq));
+    int kind = eq == std::string::npos ? 0 : uiVariableKindNamed(item.substr(0, eq));
     if (kind == 0) {
       std::cerr << "vtyconf: --ui " << item
                 << ": expected KIND=VALUE with KIND one of interface, protocol, address, interface-name, vrf, "

@@ -16,8 +16,8 @@
 #include "ConfigInput.h"
 #include "ManyFiles.h"
 #include "config/CommandDump.h"
+#include "config/FailingLine.h"
 #include "config/QxParserUtil.h"
-#include "terminal/VTY.h"
 
 namespace vtycli {
 namespace {
@@ -53,29 +53,6 @@ bool isRefused(const CiscoCommandLine& record, const ConfigInput& input, const s
   if (refusedLines.count(record.getLineNo())) return true;
   if (input.isBannerText(record.getLineNo())) return false;
   return isRefusedRecord(record);
-}
-
-// The file line at which the reading of `input` raises an exception: the
-// lines are replayed one at a time on a terminal of their own, brought into
-// configuration mode as the reader's is. 0 when no single line raises one.
-int failingLine(const ConfigInput& input) {
-  qxparser::VTY vty("hostName", false);
-  vty.parse("enable\n", true, nullptr);
-  vty.parse("configure terminal \n", true, nullptr);
-  for (size_t i = 0; i < input.readerLines.size(); ++i) {
-    std::vector<CiscoCommandLine*> records;
-    std::string errorText;
-    int errorLine = 0;
-    bool raised = false;
-    try {
-      vty.getComLineInfo(input.readerLines[i] + "\r\n", records, errorText, errorLine, true);
-    } catch (const std::exception&) {
-      raised = true;
-    }
-    QxParserUtil::deleteCommands(records);
-    if (raised) return input.fileLineOf(static_cast<int>(i) + 1);
-  }
-  return 0;
 }
 
 nlohmann::json toJson(const CiscoCommandLine& record, const ConfigInput& input) {
@@ -134,7 +111,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   }
   if (!exceptionText.empty()) {
     QxParserUtil::deleteCommands(records);
-    const int line = failingLine(input);
+    const int line = qxparser::failingLine(input);
     std::cerr << "vtyconf: " << input.displayName() << ":";
     if (line > 0) std::cerr << line << ":";
     std::cerr << " " << exceptionText << "\n";
@@ -153,7 +130,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
       ++summary.refused;
       const std::string shown = CommandDump::commandText(*record);
       summary.groups[groupKey(shown)]++;
-      if (!options.stats) std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
+      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
       continue;
     }
     if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;

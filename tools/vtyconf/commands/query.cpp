@@ -15,39 +15,19 @@
 #include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <list>
 #include <memory>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "ManyFiles.h"
 #include "config/QxParserUtil.h"
-#include "config/QXParserGetConfig.h"
+#include "config/NamedQuery.h"
 #include "platform/QXFileSystem.h"
 
 namespace vtycli {
 namespace {
 
-using qxparser::QXParserGetConfig;
-using qxparser::QxParserUtil;
-
-// The queries, and whether each needs at least one key word.
-struct QueryKind {
-  const char* name;
-  bool needsKey;
-};
-constexpr QueryKind kQueries[] = {
-    {"vrfs", false},      {"vrf", true},        {"protocols", false}, {"protocol", true},
-    {"interface", true},  {"interfaces", true}, {"acls", false},      {"acl", true},
-    {"nat", true},        {"route-map", true},  {"section", true},    {"lines", true},
-};
-
-const QueryKind* queryNamed(const std::string& word) {
-  for (const QueryKind& kind : kQueries) {
-    if (word == kind.name) return &kind;
-  }
-  return nullptr;
-}
+using qxparser::namedQuery;
 
 struct QueryOptions {
   std::vector<std::string> arguments;  // CONFIG... WHAT [KEY...], as given
@@ -58,18 +38,12 @@ struct QueryOptions {
   unsigned jobs = 0;
 };
 
-std::string joined(const std::vector<std::string>& keys) {
-  std::string text;
-  for (const std::string& key : keys) text += (text.empty() ? "" : " ") + key;
-  return text;
-}
-
 // Splits the arguments into configurations, WHAT and keys; false after a
 // message when there is no query among them or its key is missing.
 bool splitArguments(QueryOptions& o) {
   const auto& args = o.arguments;
   size_t at = 1;
-  while (at < args.size() && queryNamed(args[at]) == nullptr) ++at;
+  while (at < args.size() && namedQuery(args[at]) == nullptr) ++at;
   if (at >= args.size()) {
     // The first argument after a configuration that is no file is most
     // likely a misspelt query.
@@ -90,49 +64,11 @@ bool splitArguments(QueryOptions& o) {
   o.configs.assign(args.begin(), args.begin() + static_cast<std::ptrdiff_t>(at));
   o.what = args[at];
   o.keys.assign(args.begin() + static_cast<std::ptrdiff_t>(at) + 1, args.end());
-  if (queryNamed(o.what)->needsKey && o.keys.empty()) {
+  if (namedQuery(o.what)->needsKey && o.keys.empty()) {
     std::cerr << "vtyconf: query " << o.what << " needs a key\n";
     return false;
   }
   return true;
-}
-
-// Runs the query on the file at `path`. Results that are a list go to
-// `items`, all others to `text`.
-void runQuery(const QueryOptions& o, const std::string& path, std::string& text, std::vector<std::string>& items,
-              bool& isList) {
-  const std::string& w = o.what;
-  const std::string key = joined(o.keys);
-  isList = false;
-  if (w == "vrfs") {
-    QXParserGetConfig::GetAllVrfs(path, 0, text);
-  } else if (w == "vrf") {
-    QXParserGetConfig::GetVrfCmds(path, 0, "ip vrf " + key, text);
-  } else if (w == "protocols") {
-    QXParserGetConfig::GetRoutingProtocols(path, 0, text);
-  } else if (w == "protocol") {
-    QXParserGetConfig::GetRoutingProtocolConfig(path, 0, o.keys, text);
-  } else if (w == "interface") {
-    QXParserGetConfig::getInterfaceConfig(path, 0, key, text);
-  } else if (w == "interfaces") {
-    QXParserGetConfig::getInterfacesConfig(path, 0, o.keys, items);
-    isList = true;
-  } else if (w == "acls") {
-    std::list<std::string> acls;
-    QXParserGetConfig::getAcls(path, 0, acls);
-    items.assign(acls.begin(), acls.end());
-    isList = true;
-  } else if (w == "acl") {
-    QXParserGetConfig::getAclConfig(path, 0, key, text);
-  } else if (w == "nat") {
-    QXParserGetConfig::getIpNatConfig(path, 0, key, text);
-  } else if (w == "route-map") {
-    QXParserGetConfig::getRouteMapConfig(path, 0, key, text);
-  } else if (w == "section") {
-    QxParserUtil::GetCmdsFromConfig(path, text, key, qxparser::SEARCH_SECTION);
-  } else if (w == "lines") {
-    QxParserUtil::GetCmdsFromConfig(path, text, key, qxparser::SEARCH_LINE);
-  }
 }
 
 // Removes the temporary copy of standard input when it goes.
@@ -169,7 +105,7 @@ void queryOne(const QueryOptions& o, const std::string& config, bool heading, pl
   std::vector<std::string> items;
   bool isList = false;
   try {
-    runQuery(o, path, text, items, isList);
+    isList = qxparser::runNamedQuery(o.what, o.keys, path, text, items);
   } catch (const std::exception& e) {
     std::cerr << "vtyconf: " << config << ": " << e.what() << "\n";
     result.exitCode = 2;

@@ -4,7 +4,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
-#include "config/QxParserUtil.h"
+#include "config/SortedText.h"
 
 namespace vtycli {
 namespace {
@@ -19,28 +19,7 @@ CommandRegistration registration{CommandSpec{
         std::string text;
         if (!readInput(*config, text)) return 2;
         if (!loadResources()) return 2;
-        std::vector<qxparser::CiscoCommandLine*> all;
-        std::string errorText;
-        int errorLine = 0;
-        qxparser::QxParserUtil::getCmdInfo(text, all, errorText, errorLine);
-        std::vector<qxparser::CiscoCommandLine*> top;
-        for (qxparser::CiscoCommandLine* record : all) {
-          if (record->getLevel() == 0) top.push_back(record);
-        }
-        // Device order of the configuration's own commands comes from the
-        // order table, not from where they stood.
-        for (qxparser::CiscoCommandLine* record : top) record->setLineNo(0);
-        qxparser::QxParserUtil::SortCiscoCommands(top);
-        std::string out;
-        for (const qxparser::CiscoCommandLine* record : top) {
-          out += record->getOriginalCmd();
-          std::vector<qxparser::CiscoCommandLine*> below;
-          record->getAllChildCommands(below);
-          for (const qxparser::CiscoCommandLine* child : below) {
-            out += std::string(static_cast<size_t>(child->getLevel()), ' ') + child->getOriginalCmd();
-          }
-        }
-        qxparser::QxParserUtil::deleteCommands(all);
+        const std::string out = qxparser::sortedConfigText(text);
         std::cout << out;
         return 0;
       };

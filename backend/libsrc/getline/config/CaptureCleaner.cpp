@@ -1,0 +1,88 @@
+#include "config/CaptureCleaner.h"
+
+#include <cctype>
+#include <regex>
+
+namespace qxparser {
+
+namespace {
+
+std::vector<std::string> splitLines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::string current;
+  for (char c : text) {
+    if (c == '\n') {
+      lines.push_back(current);
+      current.clear();
+    } else {
+      current += c;
+    }
+  }
+  if (!current.empty()) lines.push_back(current);
+  return lines;
+}
+
+std::string trimmed(const std::string& line) {
+  size_t start = line.find_first_not_of(" \t\r");
+  if (start == std::string::npos) return std::string();
+  size_t end = line.find_last_not_of(" \t\r");
+  return line.substr(start, end - start + 1);
+}
+
+// A device prompt, alone or followed by a command: "R1#", "R1#show run".
+const std::regex& promptPattern() {
+  static const std::regex pattern(R"(^[A-Za-z0-9][A-Za-z0-9._-]*(\([a-z-]+\))?[#>].*$)");
+  return pattern;
+}
+
+bool isShowCommand(const std::string& afterPrompt) {
+  std::string word;
+  for (char c : afterPrompt) {
+    if (std::isspace(static_cast<unsigned char>(c))) {
+      if (!word.empty()) break;
+      continue;
+    }
+    word += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  }
+  return word.size() >= 2 && std::string("show").compare(0, word.size(), word) == 0;
+}
+
+}  // namespace
+
+void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
+  if (text.compare(0, 3, "\xEF\xBB\xBF") == 0) {
+    text.erase(0, 3);
+    leftOut.push_back("1: byte-order mark");
+  }
+  std::vector<std::string> lines = splitLines(text);
+  static const std::regex current(R"(^Current configuration\s*:\s*\d+\s*bytes$)");
+  size_t lastContent = lines.size();
+  while (lastContent > 0 && trimmed(lines[lastContent - 1]).empty()) --lastContent;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string line = trimmed(lines[i]);
+    if (line.empty()) continue;
+    bool drop = false;
+    if (line == "Building configuration...") {
+      drop = true;
+    } else if (std::regex_match(line, current)) {
+      drop = true;
+    } else if (std::regex_match(line, promptPattern())) {
+      size_t mark = line.find_first_of("#>");
+      const std::string rest = trimmed(line.substr(mark + 1));
+      // A prompt that asks for a configuration, or the prompt left at the end.
+      if ((!rest.empty() && isShowCommand(rest)) || (rest.empty() && i + 1 == lastContent)) drop = true;
+    }
+    if (drop) {
+      leftOut.push_back(std::to_string(i + 1) + ": " + line);
+      lines[i].clear();
+    }
+  }
+  std::string out;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    out += lines[i];
+    out += '\n';
+  }
+  text.swap(out);
+}
+
+}  // namespace qxparser

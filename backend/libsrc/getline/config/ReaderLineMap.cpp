@@ -1,0 +1,82 @@
+#include "config/ReaderLineMap.h"
+
+namespace qxparser {
+
+namespace {
+
+void splitReaderLines(const std::string& text, ReaderLineMap& map) {
+  int fileLine = 1;
+  std::string piece;
+  auto flush = [&]() {
+    if (!piece.empty()) {
+      map.fileLines.push_back(fileLine);
+      map.readerLines.push_back(piece);
+      piece.clear();
+    }
+  };
+  for (char c : text) {
+    if (c == '\r') {
+      flush();
+    } else if (c == '\n') {
+      flush();
+      ++fileLine;
+    } else {
+      piece += c;
+    }
+  }
+  flush();
+}
+
+// A banner's closing line with text before its delimiter ("*****^C").
+bool closesWithText(const std::string& line, char delimiter) {
+  const size_t mark = delimiter == '\0' ? std::string::npos : line.find(delimiter);
+  return mark != std::string::npos && line.find_first_not_of(" \t") < mark;
+}
+
+// Banner text, followed the way the terminal does: a line that begins with
+// "bann" names the delimiter (the character behind its second blank); a line
+// inside a banner without the delimiter is text. So is the closing line when
+// text stands before its delimiter: the device ends the banner there and
+// keeps the text, while the terminal hands the line to the grammar, which
+// cannot take it.
+void markBannerText(ReaderLineMap& map) {
+  char delimiter = '\0';
+  bool inside = false;
+  for (const std::string& line : map.readerLines) {
+    size_t lead = line.find_first_not_of(" \t");
+    if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
+      size_t first = line.find(' ');
+      size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
+      if (second != std::string::npos && second + 1 < line.size()) delimiter = line[second + 1];
+    }
+    if (inside && (delimiter == '\0' || line.find(delimiter) == std::string::npos)) {
+      map.bannerText.push_back(true);
+      continue;
+    }
+    map.bannerText.push_back(inside && closesWithText(line, delimiter));
+    for (char c : line) {
+      if (delimiter != '\0' && c == delimiter) inside = !inside;
+    }
+  }
+}
+
+}  // namespace
+
+int ReaderLineMap::fileLineOf(int number) const {
+  if (number < 1 || static_cast<size_t>(number) > fileLines.size()) return 0;
+  return fileLines[static_cast<size_t>(number) - 1];
+}
+
+bool ReaderLineMap::isBannerText(int number) const {
+  if (number < 1 || static_cast<size_t>(number) > bannerText.size()) return false;
+  return bannerText[static_cast<size_t>(number) - 1];
+}
+
+ReaderLineMap mapReaderLines(const std::string& text) {
+  ReaderLineMap map;
+  splitReaderLines(text, map);
+  markBannerText(map);
+  return map;
+}
+
+}  // namespace qxparser

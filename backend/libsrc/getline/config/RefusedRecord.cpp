@@ -1,0 +1,20 @@
+#include "config/RefusedRecord.h"
+
+namespace qxparser {
+
+bool isRefusedRecord(const CiscoCommandLine& record) {
+  if (record.getFlag() == CMD_TEXT) return false;
+  if (record.getTreeNodeSize() == 0) return true;
+  for (const auto& entry : record.getTreeNodes()) {
+    if (entry.words.count("\n") != 0) return false;
+  }
+  // A "no" line may stop early where the grammar allows it; where it does
+  // not, the device answered "% Incomplete command.".
+  return !record.hasFlags(CMDBIT_NO) || record.hasFlags(CMDBIT_NO_COMPLETE);
+}
+
+std::string refusalMessage(const CiscoCommandLine& record) {
+  return record.getTreeNodeSize() == 0 ? "% Invalid input detected at ^" : "% Incomplete command.";
+}
+
+}  // namespace qxparser
