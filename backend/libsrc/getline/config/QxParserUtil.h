@@ -79,6 +79,19 @@ class VTYCONF_API QxParserUtil {
   // their children (records of all levels may be in the vector).
   static void deleteCommands(std::vector<CiscoCommandLine*>& commands);
 
+  // vtyconf's own: mergeConfigCmds written as the device shows the result
+  // (DeviceTextWriter). The commands of `config` that the changes leave alone
+  // come out as they were read, comments and banner text included; new and
+  // changed commands in the device's spelling. The merge itself is the same.
+  // An empty `changes` returns `config` as it stands.
+  static std::string mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config);
+  // vtyconf's own: fallbackConfigCmdsAllLevels written as device text: each
+  // command in the device's spelling, in the spelling either input used for
+  // it where one of them holds it ("no " and the command it negates), under
+  // its mode's head line, one blank of indent per level.
+  static std::string fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
+                                                  unsigned int mode);
+
  private:
   friend struct QxParserUtilPeer;
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,

@@ -1,0 +1,118 @@
+// Device text of configuration records.
+#include "config/DeviceTextWriter.h"
+
+#include <algorithm>
+#include <deque>
+
+#include "config/DeviceSpelling.h"
+
+namespace qxparser {
+
+namespace {
+
+bool isNew(const CiscoCommandLine& record) {
+  return record.hasFlags(CMDBIT_FROM_CHANGES) || record.getLineNo() < 1;
+}
+
+// Comment records wait in line order and are written ahead of the first record
+// read after them.
+class Layout {
+ public:
+  Layout(std::deque<const CiscoCommandLine*> comments, unsigned int options)
+      : mComments(std::move(comments)), mOptions(options) {}
+
+  void writeLevel(const std::vector<CiscoCommandLine*>& records, int depth) {
+    for (size_t i = 0; i < records.size(); ++i) {
+      const CiscoCommandLine* record = records[i];
+      if (depth == 0 && record->getFlag() == CMD_TEXT) continue;
+      if (record->getLineNo() >= 1) {
+        flushBefore(record->getLineNo());
+      } else if (depth == 0) {
+        // A new block goes behind the comments that close the block before.
+        flushBefore(nextReadLine(records, i + 1));
+      }
+      mOut += DeviceTextWriter::writeLine(*record, depth, mOptions);
+      writeLevel(record->getChildCommands(), depth + 1);
+      if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) &&
+          (isNew(*record) || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
+        mOut += "!\n";
+      }
+    }
+  }
+
+  std::string finish() {
+    flushBefore(-1);
+    return std::move(mOut);
+  }
+
+ private:
+  static int nextReadLine(const std::vector<CiscoCommandLine*>& records, size_t from) {
+    for (size_t i = from; i < records.size(); ++i) {
+      if (records[i]->getFlag() != CMD_TEXT && records[i]->getLineNo() >= 1) return records[i]->getLineNo();
+    }
+    return 0;
+  }
+
+  // Writes the waiting comments read before line `limit` (all for -1).
+  void flushBefore(int limit) {
+    while (!mComments.empty() && (limit < 0 || mComments.front()->getLineNo() < limit)) {
+      mOut += DeviceTextWriter::writeLine(*mComments.front(), 0, mOptions);
+      mComments.pop_front();
+    }
+  }
+
+  std::deque<const CiscoCommandLine*> mComments;
+  unsigned int mOptions;
+  std::string mOut;
+};
+
+std::string trimmedRight(std::string text) {
+  const size_t end = text.find_last_not_of(" \t");
+  text.erase(end == std::string::npos ? 0 : end + 1);
+  return text;
+}
+
+}  // namespace
+
+std::string DeviceTextWriter::writeLine(const CiscoCommandLine& record, int depth, unsigned int options) {
+  const bool spellAll = (options & kSpellAll) != 0;
+  if (record.getFlag() == CMD_TEXT) {
+    const std::string& text = record.getRawText().empty() ? record.getOriginalStr() : record.getRawText();
+    return text + "\n";
+  }
+  if (record.getTreeNodeSize() == 0) {
+    // Banner text, certificate data, a refused line: as it was read.
+    if (!record.getRawText().empty()) return record.getRawText() + "\n";
+    return std::string(static_cast<size_t>(depth), ' ') + trimmedRight(record.getOriginalCmd().substr(
+                                                              0, record.getOriginalCmd().find('\n'))) +
+           "\n";
+  }
+  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES)) return record.getRawText() + "\n";
+  const std::string text = DeviceSpelling::spell(record);
+  // The device writes "exit-address-family" and its kind at the level of the
+  // mode head, though the grammar reads them inside the mode.
+  const int indent = (depth > 0 && text.compare(0, 5, "exit-") == 0) ? depth - 1 : depth;
+  return std::string(static_cast<size_t>(indent), ' ') + text + "\n";
+}
+
+std::string DeviceTextWriter::write(const std::vector<CiscoCommandLine*>& commands, unsigned int options) {
+  std::vector<const CiscoCommandLine*> comments;
+  for (const CiscoCommandLine* record : commands) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  std::stable_sort(comments.begin(), comments.end(), [](const CiscoCommandLine* a, const CiscoCommandLine* b) {
+    return a->getLineNo() < b->getLineNo();
+  });
+  Layout layout(std::deque<const CiscoCommandLine*>(comments.begin(), comments.end()), options);
+  layout.writeLevel(commands, 0);
+  return layout.finish();
+}
+
+void DeviceTextWriter::markFromChanges(const std::vector<CiscoCommandLine*>& commands) {
+  for (CiscoCommandLine* record : commands) {
+    record->setFlags(CMDBIT_FROM_CHANGES, true);
+    markFromChanges(record->getChildCommands());
+  }
+}
+
+}  // namespace qxparser

@@ -1,0 +1,107 @@
+// Merge and fallback written as device text.
+#include <algorithm>
+#include <map>
+
+#include "config/DeviceTextReader.h"
+#include "config/DeviceTextWriter.h"
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+// Frees the level-0 records (with their children) when it goes.
+class RecordsGuard {
+ public:
+  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records) : mRecords(records) {}
+  RecordsGuard(const RecordsGuard&) = delete;
+  RecordsGuard& operator=(const RecordsGuard&) = delete;
+  ~RecordsGuard() { QxParserUtil::deleteCommands(mRecords); }
+
+ private:
+  std::vector<CiscoCommandLine*>& mRecords;
+};
+
+std::string withoutNo(const std::string& text) { return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text; }
+
+std::string typedText(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  std::string line = cut == std::string::npos ? raw : raw.substr(cut + 1);
+  line.erase(0, line.find_first_not_of(" \t"));
+  return line;
+}
+
+// The typed line of every command of `text`, by its full form without "no ".
+void collectTypedLines(const std::string& text, std::map<std::string, std::string>& lines) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  std::string errorText;
+  int errorLine = 0;
+  DeviceTextReader::read(text, records, errorText, errorLine);
+  std::vector<CiscoCommandLine*> all(records);
+  for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
+  for (const CiscoCommandLine* record : all) {
+    if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
+    lines.emplace(withoutNo(record->getOriginalCmd()), typedText(record->getRawText()));
+  }
+}
+
+// Gives each record the typed line known for its command, so that it is
+// spelled as the inputs spelled it.
+void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const std::map<std::string, std::string>& lines) {
+  for (CiscoCommandLine* record : records) {
+    const auto found = lines.find(withoutNo(record->getOriginalCmd()));
+    record->setRawText(found == lines.end() ? std::string() : found->second);
+    lendTypedLines(record->getChildCommands(), lines);
+  }
+}
+
+std::string nulAsBlank(std::string text) {
+  std::replace(text.begin(), text.end(), '\0', ' ');
+  return text;
+}
+
+}  // namespace
+
+std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config) {
+  if (changes.empty()) return config;
+  std::vector<CiscoCommandLine*> changeCmds;
+  std::vector<CiscoCommandLine*> configCmds;
+  RecordsGuard changeGuard(changeCmds);
+  RecordsGuard configGuard(configCmds);
+  std::string errorText;
+  int errorLine = 0;
+  DeviceTextReader::read(changes, changeCmds, errorText, errorLine, false);
+  DeviceTextReader::read(config, configCmds, errorText, errorLine);
+  DeviceTextWriter::markFromChanges(changeCmds);
+  mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  return DeviceTextWriter::write(configCmds);
+}
+
+std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
+                                                       unsigned int mode) {
+  if (first.empty()) return second;
+  const std::string written = nulAsBlank(fallbackConfigCmdsAllLevels(first, second, mode));
+  std::map<std::string, std::string> typedLines;
+  collectTypedLines(nulAsBlank(first), typedLines);
+  collectTypedLines(nulAsBlank(second), typedLines);
+  std::vector<CiscoCommandLine*> out;
+  RecordsGuard guard(out);
+  std::string errorText;
+  int errorLine = 0;
+  DeviceTextReader::read(written, out, errorText, errorLine);
+  // The writer closes each new block itself; the merge writer's "!" lines go.
+  std::vector<CiscoCommandLine*> comments;
+  for (CiscoCommandLine* record : out) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  out.erase(std::remove_if(out.begin(), out.end(),
+                           [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
+            out.end());
+  deleteCommands(comments);
+  lendTypedLines(out, typedLines);
+  DeviceTextWriter::markFromChanges(out);
+  return DeviceTextWriter::write(out);
+}
+
+}  // namespace qxparser
