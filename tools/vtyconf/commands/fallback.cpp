@@ -12,7 +12,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
-#include "OutputText.h"
+#include "OutputForm.h"
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 
@@ -53,6 +53,7 @@ struct FallbackOptions {
   bool delta = false;
   bool file = false;
   bool cutAtDeepLevels = false;
+  bool mergeForm = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -67,6 +68,7 @@ CommandRegistration registration{CommandSpec{
       delta->excludes(file);
       sub.add_flag("--cut-at-deep-levels", options->cutAtDeepLevels,
                    "compare as fallbackConfigCmds does: nothing from the first command two levels inside a mode on");
+      addMergeFormFlag(sub, options->mergeForm);
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
         ConfigInput first;
@@ -74,15 +76,12 @@ CommandRegistration registration{CommandSpec{
         if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
         if (!loadResources()) return 2;
         const unsigned int mode = options->delta ? 0u : 1u;
-        std::string text;
         if (options->cutAtDeepLevels) {
           warnAboutDeepCommands(first);
           warnAboutDeepCommands(second);
-          text = qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode);
-        } else {
-          text = qxparser::QxParserUtil::fallbackConfigCmdsAllLevels(first.text, second.text, mode);
         }
-        text = printable(text);
+        const std::string text =
+            fallbackOutput(first.text, second.text, mode, options->cutAtDeepLevels, options->mergeForm);
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
         return 0;
       };

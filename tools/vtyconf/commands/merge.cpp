@@ -4,7 +4,7 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
-#include "OutputText.h"
+#include "OutputForm.h"
 #include "config/QxParserUtil.h"
 
 namespace vtycli {
@@ -14,6 +14,7 @@ struct MergeOptions {
   std::string changes;
   std::string config;
   std::string output;
+  bool mergeForm = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -24,13 +25,14 @@ CommandRegistration registration{CommandSpec{
           ->required();
       sub.add_option("CONFIG", options->config, "the configuration ('-' for standard input)")->required();
       sub.add_option("-o,--output", options->output, "write the result to FILE");
+      addMergeFormFlag(sub, options->mergeForm);
       sub.footer("Example: vtyconf merge changes.txt router1.cfg -o merged.cfg");
       return [options]() {
         std::string changes;
         std::string config;
         if (!readInput(options->changes, changes) || !readInput(options->config, config)) return 2;
         if (!loadResources()) return 2;
-        const std::string merged = printable(qxparser::QxParserUtil::mergeConfigCmds(changes, config));
+        const std::string merged = mergeOutput(changes, config, options->mergeForm);
         if (options->output.empty()) {
           std::cout.write(merged.data(), static_cast<std::streamsize>(merged.size()));
           return 0;

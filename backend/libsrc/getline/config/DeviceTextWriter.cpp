@@ -33,7 +33,7 @@ class Layout {
       }
       mOut += DeviceTextWriter::writeLine(*record, depth, mOptions);
       writeLevel(record->getChildCommands(), depth + 1);
-      if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) &&
+      if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO) &&
           (isNew(*record) || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
         mOut += "!\n";
       }

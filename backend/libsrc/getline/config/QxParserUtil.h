@@ -91,6 +91,15 @@ class VTYCONF_API QxParserUtil {
   // its mode's head line, one blank of indent per level.
   static std::string fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
                                                   unsigned int mode);
+  // vtyconf's own: the commands of `config` in device order (as `sort` of the
+  // program gives them) as device text: each command as it was read, banner
+  // text and certificate data with their command, comment lines left out and
+  // "!" behind each mode block of the top level.
+  static std::string sortConfigDeviceText(const std::string& config);
+  // vtyconf's own: any configuration text (a merge writer's result, a section
+  // that a search returned) with every command in the device's spelling, one
+  // blank of indent per level; lines that are no commands stay as they are.
+  static std::string deviceText(const std::string& text);
 
  private:
   friend struct QxParserUtilPeer;

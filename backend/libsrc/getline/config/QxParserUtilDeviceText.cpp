@@ -78,6 +78,36 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   return DeviceTextWriter::write(configCmds);
 }
 
+std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  std::string errorText;
+  int errorLine = 0;
+  DeviceTextReader::read(config, records, errorText, errorLine);
+  std::vector<CiscoCommandLine*> comments;
+  for (CiscoCommandLine* record : records) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  records.erase(std::remove_if(records.begin(), records.end(),
+                               [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
+                records.end());
+  deleteCommands(comments);
+  // The order of the top level comes from the order table, not from where the
+  // commands stood.
+  for (CiscoCommandLine* record : records) record->setLineNo(0);
+  SortCiscoCommands(records);
+  return DeviceTextWriter::write(records, DeviceTextWriter::kCloseEveryBlock);
+}
+
+std::string QxParserUtil::deviceText(const std::string& text) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  std::string errorText;
+  int errorLine = 0;
+  DeviceTextReader::read(nulAsBlank(text), records, errorText, errorLine);
+  return DeviceTextWriter::write(records, DeviceTextWriter::kSpellAll);
+}
+
 std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
                                                        unsigned int mode) {
   if (first.empty()) return second;

@@ -1,0 +1,34 @@
+#include "OutputForm.h"
+
+#include "OutputText.h"
+#include "config/QxParserUtil.h"
+
+namespace vtycli {
+
+using qxparser::QxParserUtil;
+
+void addMergeFormFlag(CLI::App& sub, bool& mergeForm) {
+  sub.add_flag("--merge-form", mergeForm,
+               "print the library's merge-writer form instead of device text (full lower-case words, no comments)");
+}
+
+std::string mergeOutput(const std::string& changes, const std::string& config, bool mergeForm) {
+  if (mergeForm) return printable(QxParserUtil::mergeConfigCmds(changes, config));
+  return QxParserUtil::mergeConfigCmdsDeviceText(changes, config);
+}
+
+std::string fallbackOutput(const std::string& first, const std::string& second, unsigned int mode,
+                           bool cutAtDeepLevels, bool mergeForm) {
+  if (cutAtDeepLevels) {
+    const std::string text = QxParserUtil::fallbackConfigCmds(first, second, mode);
+    return mergeForm ? printable(text) : QxParserUtil::deviceText(text);
+  }
+  if (mergeForm) return printable(QxParserUtil::fallbackConfigCmdsAllLevels(first, second, mode));
+  return QxParserUtil::fallbackConfigCmdsDeviceText(first, second, mode);
+}
+
+std::string queryOutput(const std::string& answer, bool mergeForm) {
+  return mergeForm ? answer : QxParserUtil::deviceText(answer);
+}
+
+}  // namespace vtycli
