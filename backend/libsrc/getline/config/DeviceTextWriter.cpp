@@ -28,8 +28,10 @@ class Layout {
       if (record->getLineNo() >= 1) {
         flushBefore(record->getLineNo());
       } else if (depth == 0) {
-        // A new block goes behind the comments that close the block before.
-        flushBefore(nextReadLine(records, i + 1));
+        // A new block goes behind the comments that close the block before;
+        // behind the last block read, ahead of a closing "end".
+        const int next = nextReadLine(records, i + 1);
+        flushBefore(next > 0 ? next : endLine());
       }
       mOut += DeviceTextWriter::writeLine(*record, depth, mOptions);
       writeLevel(record->getChildCommands(), depth + 1);
@@ -51,6 +53,16 @@ class Layout {
       if (records[i]->getFlag() != CMD_TEXT && records[i]->getLineNo() >= 1) return records[i]->getLineNo();
     }
     return 0;
+  }
+
+  // The line number of the last waiting "end" line (-1: none waits).
+  int endLine() const {
+    for (auto it = mComments.rbegin(); it != mComments.rend(); ++it) {
+      const std::string& text = (*it)->getOriginalStr();
+      const size_t lead = text.find_first_not_of(" \t");
+      if (lead != std::string::npos && text.compare(lead, 3, "end") == 0) return (*it)->getLineNo();
+    }
+    return -1;
   }
 
   // Writes the waiting comments read before line `limit` (all for -1).
