@@ -1,10 +1,11 @@
-// Device text: the table of new, changed and kept commands in
+// Device text: the table of new, changed and kept commands (and of diffs) in
 // tests/data/device_text/cases.tsv, and a merge of a change that changes
 // nothing over the corpora, which must give back every line it was given.
 #include <fstream>
 #include <set>
 
 #include "ShippedGrammar.h"
+#include "config/ConfigDiff.h"
 
 namespace qxparser {
 namespace {
@@ -28,6 +29,7 @@ std::string run(const std::string& operation, const std::string& first, const st
   if (operation == "fallback-file") return QxParserUtil::fallbackConfigCmdsDeviceText(first, second, 1);
   if (operation == "sort") return QxParserUtil::sortConfigDeviceText(first);
   if (operation == "device-text") return QxParserUtil::deviceText(first);
+  if (operation == "diff") return ConfigDiff::unified(ConfigDiff::compare(first, second), "A", "B", false);
   ADD_FAILURE() << "unknown operation " << operation;
   return {};
 }
