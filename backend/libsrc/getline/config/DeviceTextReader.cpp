@@ -138,7 +138,6 @@ bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLin
     QxParserUtil::deleteCommands(all);
     throw;
   }
-  attachRawText(text, all);
   attachDataLines(all, keepRefused);
   for (CiscoCommandLine* record : all) {
     if (record->getParentCommand() == nullptr && record->getLevel() == 0) commands.push_back(record);

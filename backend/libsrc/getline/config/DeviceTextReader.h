@@ -1,10 +1,10 @@
 // DeviceTextReader: a configuration read so that it can be written back as
 // the device shows it.
 //
-// The text is read as getCmdInfo reads it; in addition every record learns
-// the line it was read from (CiscoCommandLine::setRawText), and the lines
-// that carry data rather than commands are kept with the command they belong
-// to, as its children: the body of a multi-line banner (closing line
+// The text is read by getCmdInfo, which gives every record the line it was
+// read from (CiscoCommandLine::setRawText, by attachRawText). In addition the
+// lines that carry data rather than commands are kept with the command they
+// belong to, as its children: the body of a multi-line banner (closing line
 // included, empty lines inside kept) with the banner command, and the data
 // lines behind a command that takes data (certificate hex, public key data)
 // with that command. Reading a configuration (`keepRefused`), any other line

@@ -9,6 +9,7 @@
 #include <unordered_set>
 
 #include "config/CmdOrderTable.h"
+#include "config/DeviceTextReader.h"
 #include "grammar/DefinitionLoader.h"
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
@@ -122,7 +123,12 @@ bool QxParserUtil::getCmdInfo(const std::string& text, std::vector<CiscoCommandL
                               std::string& errorText, int& errorLine) {
   VTY vty("hostName", false);
   enterConfiguration(vty, "configure terminal \n");
-  return vty.getComLineInfo(text, commands, errorText, errorLine, true);
+  const size_t first = commands.size();
+  const bool ok = vty.getComLineInfo(text, commands, errorText, errorLine, true);
+  // Each new record learns the line it was read from (for device text).
+  DeviceTextReader::attachRawText(
+      text, std::vector<CiscoCommandLine*>(commands.begin() + static_cast<std::ptrdiff_t>(first), commands.end()));
+  return ok;
 }
 
 bool QxParserUtil::transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,
