@@ -14,6 +14,20 @@ bool isNew(const CiscoCommandLine& record) {
   return record.hasFlags(CMDBIT_FROM_CHANGES) || record.getLineNo() < 1;
 }
 
+// A new address family closes with "exit-address-family" on the device,
+// whether or not the change set said so.
+bool needsExitLine(const CiscoCommandLine& record, const std::string& line) {
+  if (!isNew(record) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) return false;
+  if (line.find_first_not_of(' ') == std::string::npos ||
+      line.compare(line.find_first_not_of(' '), 15, "address-family ") != 0) {
+    return false;
+  }
+  for (const CiscoCommandLine* child : record.getChildCommands()) {
+    if (child->getOriginalCmd().compare(0, 19, "exit-address-family") == 0) return false;
+  }
+  return true;
+}
+
 // Comment records wait in line order and are written ahead of the first record
 // read after them.
 class Layout {
@@ -33,8 +47,10 @@ class Layout {
         const int next = nextReadLine(records, i + 1);
         flushBefore(next > 0 ? next : endLine());
       }
-      mOut += DeviceTextWriter::writeLine(*record, depth, mOptions);
+      const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      mOut += line;
       writeLevel(record->getChildCommands(), depth + 1);
+      if (needsExitLine(*record, line)) mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
       if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO) &&
           (isNew(*record) || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
         mOut += "!\n";
