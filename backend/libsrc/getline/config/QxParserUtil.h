@@ -85,10 +85,11 @@ class VTYCONF_API QxParserUtil {
   // changed commands in the device's spelling. The merge itself is the same.
   // An empty `changes` returns `config` as it stands.
   static std::string mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config);
-  // vtyconf's own: fallbackConfigCmdsAllLevels written as device text: each
-  // command in the device's spelling, in the spelling either input used for
-  // it where one of them holds it ("no " and the command it negates), under
-  // its mode's head line, one blank of indent per level.
+  // vtyconf's own: fallbackConfigCmdsAllLevels written as device text: a
+  // command that one of the inputs holds as it stands comes out as that input
+  // wrote it; any other ("no " and the command it negates) in the device's
+  // spelling, in the words an input typed for it. Each under its mode's head
+  // line, one blank of indent per level, "!" behind each top-level block.
   static std::string fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
                                                   unsigned int mode);
   // vtyconf's own: the commands of `config` in device order (as `sort` of the

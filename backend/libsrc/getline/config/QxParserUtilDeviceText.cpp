@@ -24,15 +24,22 @@ class RecordsGuard {
 
 std::string withoutNo(const std::string& text) { return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text; }
 
-std::string typedText(const std::string& raw) {
+// The line a record was read from, without trailing blanks.
+std::string lastLine(const std::string& raw) {
   const size_t cut = raw.rfind('\n');
   std::string line = cut == std::string::npos ? raw : raw.substr(cut + 1);
-  line.erase(0, line.find_first_not_of(" \t"));
+  line.erase(line.find_last_not_of(" \t") + 1);
   return line;
 }
 
-// The typed line of every command of `text`, by its full form without "no ".
-void collectTypedLines(const std::string& text, std::map<std::string, std::string>& lines) {
+// How an input wrote a command: its full form and the line as read.
+struct TypedLine {
+  std::string full;
+  std::string line;
+};
+
+// The line of every command of `text`, by its full form without "no ".
+void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>& lines) {
   std::vector<CiscoCommandLine*> records;
   RecordsGuard guard(records);
   std::string errorText;
@@ -42,16 +49,22 @@ void collectTypedLines(const std::string& text, std::map<std::string, std::strin
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
   for (const CiscoCommandLine* record : all) {
     if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
-    lines.emplace(withoutNo(record->getOriginalCmd()), typedText(record->getRawText()));
+    lines.emplace(withoutNo(record->getOriginalCmd()),
+                  TypedLine{record->getOriginalCmd(), lastLine(record->getRawText())});
   }
 }
 
-// Gives each record the typed line known for its command, so that it is
-// spelled as the inputs spelled it.
-void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const std::map<std::string, std::string>& lines) {
+// A command that an input holds as it stands comes out as that input wrote
+// it; any other is spelled anew, in the words an input typed for it.
+void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const std::map<std::string, TypedLine>& lines) {
   for (CiscoCommandLine* record : records) {
     const auto found = lines.find(withoutNo(record->getOriginalCmd()));
-    record->setRawText(found == lines.end() ? std::string() : found->second);
+    if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
+      record->setRawText(found->second.line);
+    } else {
+      record->setRawText(found == lines.end() ? std::string() : found->second.line);
+      record->setFlags(CMDBIT_FROM_CHANGES, true);
+    }
     lendTypedLines(record->getChildCommands(), lines);
   }
 }
@@ -112,7 +125,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                                                        unsigned int mode) {
   if (first.empty()) return second;
   const std::string written = nulAsBlank(fallbackConfigCmdsAllLevels(first, second, mode));
-  std::map<std::string, std::string> typedLines;
+  std::map<std::string, TypedLine> typedLines;
   collectTypedLines(nulAsBlank(first), typedLines);
   collectTypedLines(nulAsBlank(second), typedLines);
   std::vector<CiscoCommandLine*> out;
@@ -120,7 +133,8 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
   std::string errorText;
   int errorLine = 0;
   DeviceTextReader::read(written, out, errorText, errorLine);
-  // The writer closes each new block itself; the merge writer's "!" lines go.
+  // The writer closes each block of the top level itself; the merge writer's
+  // "!" lines go.
   std::vector<CiscoCommandLine*> comments;
   for (CiscoCommandLine* record : out) {
     if (record->getFlag() == CMD_TEXT) comments.push_back(record);
@@ -130,8 +144,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
             out.end());
   deleteCommands(comments);
   lendTypedLines(out, typedLines);
-  DeviceTextWriter::markFromChanges(out);
-  return DeviceTextWriter::write(out);
+  return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
 
 }  // namespace qxparser
