@@ -65,7 +65,7 @@ TEST_F(DeviceTextTest, TableOfCases) {
     if (row.empty() || row[0] == '#') continue;
     std::vector<std::string> fields;
     size_t start = 0;
-    for (size_t tab = row.find('\t'); tab != std::string::npos; tab = row.find('\t', start = tab + 1) ) {
+    for (size_t tab = row.find('\t'); tab != std::string::npos; tab = row.find('\t', start = tab + 1)) {
       fields.push_back(row.substr(start, tab - start));
     }
     fields.push_back(row.substr(start));
@@ -97,8 +97,9 @@ TEST_F(DeviceTextTest, NoOpMergeGivesEveryCorpusLineBack) {
       SCOPED_TRACE(folder + name);
       const std::string text = readWholeFile(folder + name);
       std::vector<std::string> input = lines(text);
-      const auto hostname = std::find_if(input.begin(), input.end(),
-                                         [](const std::string& line) { return line.rfind("hostname ", 0) == 0; });
+      const auto hostname = std::find_if(input.begin(), input.end(), [](const std::string& line) {
+        return line.rfind("hostname ", 0) == 0;
+      });
       const std::string change = hostname == input.end() ? "hostname Router\n" : *hostname + "\n";
       std::vector<std::string> output = lines(QxParserUtil::mergeConfigCmdsDeviceText(change, text));
       if (hostname == input.end()) {

@@ -8,8 +8,9 @@ namespace vtycli {
 using qxparser::QxParserUtil;
 
 void addMergeFormFlag(CLI::App& sub, bool& mergeForm) {
-  sub.add_flag("--merge-form", mergeForm,
-               "print the library's merge-writer form instead of device text (full lower-case words, no comments)");
+  sub.add_flag(
+      "--merge-form", mergeForm,
+      "print the library's merge-writer form instead of device text (full lower-case words, no comments)");
 }
 
 std::string mergeOutput(const std::string& changes, const std::string& config, bool mergeForm) {

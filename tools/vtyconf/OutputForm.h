@@ -9,9 +9,8 @@
 // (NUL indent bytes already shown as blanks). No state.
 #pragma once
 
-#include <string>
-
 #include <CLI/CLI.hpp>
+#include <string>
 
 namespace vtycli {
 

@@ -3,7 +3,6 @@
 // of its section (ConfigDiff). Exit 0 when they are the same, 1 when they
 // differ, 2 when a file cannot be read.
 #include <iostream>
-
 #include <nlohmann/json.hpp>
 
 #include "CommandRegistry.h"
@@ -24,7 +23,8 @@ struct DiffOptions {
 nlohmann::json toJson(const std::vector<qxparser::ConfigDiff::Change>& changes) {
   nlohmann::json out = nlohmann::json::array();
   for (const auto& change : changes) {
-    out.push_back({{"change", std::string(1, change.mark)}, {"sections", change.sections}, {"line", change.line}});
+    out.push_back(
+        {{"change", std::string(1, change.mark)}, {"sections", change.sections}, {"line", change.line}});
   }
   return out;
 }
@@ -33,10 +33,13 @@ CommandRegistration registration{CommandSpec{
     "diff", "two configurations compared as the device shows them, section by section",
     [](CLI::App& sub, const GlobalOptions&) -> std::function<int()> {
       auto options = std::make_shared<DiffOptions>();
-      sub.add_option("FIRST", options->first, "the configuration before ('-' for standard input)")->required();
-      sub.add_option("SECOND", options->second, "the configuration after ('-' for standard input)")->required();
-      sub.add_flag("--color{always}", options->color,
-                   "colour the marks: --color or --color=always, --color=never; by default on a terminal only")
+      sub.add_option("FIRST", options->first, "the configuration before ('-' for standard input)")
+          ->required();
+      sub.add_option("SECOND", options->second, "the configuration after ('-' for standard input)")
+          ->required();
+      sub.add_flag(
+             "--color{always}", options->color,
+             "colour the marks: --color or --color=always, --color=never; by default on a terminal only")
           ->check(CLI::IsMember({"auto", "always", "never"}));
       sub.add_flag("--json", options->json, "print an array of {change, sections, line}");
       sub.footer("Example: vtyconf diff router1.cfg merged.cfg");

@@ -27,7 +27,8 @@ std::string withoutLineEnd(std::string text) {
   return text;
 }
 
-void flatten(const std::vector<CiscoCommandLine*>& records, int depth, Entry& place, std::vector<Entry>& out) {
+void flatten(const std::vector<CiscoCommandLine*>& records, int depth, Entry& place,
+             std::vector<Entry>& out) {
   for (const CiscoCommandLine* record : records) {
     if (record->getFlag() == CMD_TEXT) continue;
     Entry entry = place;
@@ -71,7 +72,8 @@ size_t sharedDepth(const Entry* last, const Entry& entry) {
   std::vector<std::string> place = last->sectionKeys;
   place.push_back(last->key);
   size_t depth = 0;
-  while (depth < place.size() && depth < entry.sectionKeys.size() && place[depth] == entry.sectionKeys[depth]) {
+  while (depth < place.size() && depth < entry.sectionKeys.size() &&
+         place[depth] == entry.sectionKeys[depth]) {
     ++depth;
   }
   return depth;
@@ -85,8 +87,8 @@ void interleave(std::vector<const Entry*>& removed, std::vector<const Entry*>& a
   size_t r = 0;
   size_t a = 0;
   while (r < removed.size() || a < added.size()) {
-    const bool takeAdded = r == removed.size() ||
-                           (a < added.size() && sharedDepth(last, *added[a]) > sharedDepth(last, *removed[r]));
+    const bool takeAdded = r == removed.size() || (a < added.size() && sharedDepth(last, *added[a]) >
+                                                                           sharedDepth(last, *removed[r]));
     const Entry* entry = takeAdded ? added[a++] : removed[r++];
     add(out, takeAdded ? '+' : '-', *entry);
     last = entry;
@@ -96,15 +98,16 @@ void interleave(std::vector<const Entry*>& removed, std::vector<const Entry*>& a
 }
 
 // The longest common subsequence of `a` and `b`, written out as changes.
-void alignMiddle(const std::vector<Entry>& a, const std::vector<Entry>& b, std::vector<ConfigDiff::Change>& out) {
+void alignMiddle(const std::vector<Entry>& a, const std::vector<Entry>& b,
+                 std::vector<ConfigDiff::Change>& out) {
   const size_t n = a.size();
   const size_t m = b.size();
   std::vector<unsigned> common((n + 1) * (m + 1), 0);
   auto at = [m](size_t i, size_t j) { return i * (m + 1) + j; };
   for (size_t i = n; i-- > 0;) {
     for (size_t j = m; j-- > 0;) {
-      common[at(i, j)] = a[i] == b[j] ? common[at(i + 1, j + 1)] + 1
-                                                    : std::max(common[at(i + 1, j)], common[at(i, j + 1)]);
+      common[at(i, j)] =
+          a[i] == b[j] ? common[at(i + 1, j + 1)] + 1 : std::max(common[at(i + 1, j)], common[at(i, j + 1)]);
     }
   }
   size_t i = 0;
@@ -142,7 +145,8 @@ std::vector<ConfigDiff::Change> ConfigDiff::compare(const std::string& first, co
   }
   std::vector<Change> out;
   alignMiddle({a.begin() + static_cast<std::ptrdiff_t>(begin), a.begin() + static_cast<std::ptrdiff_t>(endA)},
-              {b.begin() + static_cast<std::ptrdiff_t>(begin), b.begin() + static_cast<std::ptrdiff_t>(endB)}, out);
+              {b.begin() + static_cast<std::ptrdiff_t>(begin), b.begin() + static_cast<std::ptrdiff_t>(endB)},
+              out);
   return out;
 }
 
@@ -161,7 +165,8 @@ std::string ConfigDiff::unified(const std::vector<Change>& changes, const std::s
   std::vector<std::string> shown;
   for (const Change& change : changes) {
     size_t same = 0;
-    while (same < shown.size() && same < change.sections.size() && shown[same] == change.sections[same]) ++same;
+    while (same < shown.size() && same < change.sections.size() && shown[same] == change.sections[same])
+      ++same;
     for (size_t k = same; k < change.sections.size(); ++k) {
       out += std::string(bold) + "  " + change.sections[k] + reset + "\n";
     }

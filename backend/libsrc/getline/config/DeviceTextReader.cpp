@@ -128,8 +128,8 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
   }
 }
 
-bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
-                            int& errorLine, bool keepRefused) {
+bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                            std::string& errorText, int& errorLine, bool keepRefused) {
   std::vector<CiscoCommandLine*> all;
   bool ok = false;
   try {

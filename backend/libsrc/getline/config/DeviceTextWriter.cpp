@@ -50,9 +50,13 @@ class Layout {
       const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
       mOut += line;
       writeLevel(record->getChildCommands(), depth + 1);
-      if (needsExitLine(*record, line)) mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
+      if (needsExitLine(*record, line)) {
+        mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
+      }
+      // A block that the merge added (a copy: no line number) is closed as the
+      // device closes it; one read keeps the comment lines that followed it.
       if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO) &&
-          (isNew(*record) || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
+          (record->getLineNo() < 1 || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
         mOut += "!\n";
       }
     }
@@ -111,11 +115,11 @@ std::string DeviceTextWriter::writeLine(const CiscoCommandLine& record, int dept
   if (record.getTreeNodeSize() == 0) {
     // Banner text, certificate data, a refused line: as it was read.
     if (!record.getRawText().empty()) return record.getRawText() + "\n";
-    return std::string(static_cast<size_t>(depth), ' ') + trimmedRight(record.getOriginalCmd().substr(
-                                                              0, record.getOriginalCmd().find('\n'))) +
-           "\n";
+    return std::string(static_cast<size_t>(depth), ' ') +
+           trimmedRight(record.getOriginalCmd().substr(0, record.getOriginalCmd().find('\n'))) + "\n";
   }
-  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES)) return record.getRawText() + "\n";
+  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES))
+    return record.getRawText() + "\n";
   const std::string text = DeviceSpelling::spell(record);
   // The device writes "exit-address-family" and its kind at the level of the
   // mode head, though the grammar reads them inside the mode.
@@ -128,9 +132,9 @@ std::string DeviceTextWriter::write(const std::vector<CiscoCommandLine*>& comman
   for (const CiscoCommandLine* record : commands) {
     if (record->getFlag() == CMD_TEXT) comments.push_back(record);
   }
-  std::stable_sort(comments.begin(), comments.end(), [](const CiscoCommandLine* a, const CiscoCommandLine* b) {
-    return a->getLineNo() < b->getLineNo();
-  });
+  std::stable_sort(
+      comments.begin(), comments.end(),
+      [](const CiscoCommandLine* a, const CiscoCommandLine* b) { return a->getLineNo() < b->getLineNo(); });
   Layout layout(std::deque<const CiscoCommandLine*>(comments.begin(), comments.end()), options);
   layout.writeLevel(commands, 0);
   return layout.finish();

@@ -22,7 +22,9 @@ class RecordsGuard {
   std::vector<CiscoCommandLine*>& mRecords;
 };
 
-std::string withoutNo(const std::string& text) { return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text; }
+std::string withoutNo(const std::string& text) {
+  return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text;
+}
 
 // The line a record was read from, without trailing blanks.
 std::string lastLine(const std::string& raw) {
@@ -56,7 +58,8 @@ void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>
 
 // A command that an input holds as it stands comes out as that input wrote
 // it; any other is spelled anew, in the words an input typed for it.
-void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const std::map<std::string, TypedLine>& lines) {
+void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
+                    const std::map<std::string, TypedLine>& lines) {
   for (CiscoCommandLine* record : records) {
     const auto found = lines.find(withoutNo(record->getOriginalCmd()));
     if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
