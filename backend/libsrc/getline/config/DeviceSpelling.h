@@ -2,12 +2,14 @@
 //
 // The words come from the record's full form (originalCmd: keywords in full),
 // each in the spelling it was typed with where the typed line (the record's
-// raw text) holds the same word in another case (values keep their case,
-// "RO" stays "RO"); an abbreviated keyword comes out in full. An interface
-// type and its number become one word in the device's spelling
-// ("gigabitethernet 0/1" -> "GigabitEthernet0/1"). The spelling of each
-// interface type is data: files/display/interfacefile.display of the resource
-// folder, one "keyfile word|Display" row per line, read once per folder.
+// raw text) holds the same word in another case (values keep their case);
+// an abbreviated keyword comes out in full. An interface type and its number
+// become one word in the device's spelling ("gigabitethernet 0/1" ->
+// "GigabitEthernet0/1"), and a keyword that the device prints in capitals
+// comes out so ("ro" -> "RO", "dot1q" -> "dot1Q"). Both spellings are data,
+// files of files/display/ in the resource folder, one "word|Display" row per
+// line, read once per folder: interfacefile.display for the words of the
+// interface KeyFile, keywords.display for literal keywords of the grammar.
 //
 // Pure functions over a record; the table is process-wide and loaded on first
 // use, so the same one-at-a-time rule as for the rest of the library holds.
