@@ -2,6 +2,7 @@
 #include "config/ConfigDiff.h"
 
 #include <algorithm>
+#include <map>
 
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
@@ -98,10 +99,39 @@ void interleave(std::vector<const Entry*>& removed, std::vector<const Entry*>& a
 }
 
 // The longest common subsequence of `a` and `b`, written out as changes.
+// Above this many cells the table of the alignment is not built.
+constexpr size_t kMaxTableCells = size_t{1} << 24;
+
+std::string identity(const Entry& entry) {
+  std::string text;
+  for (const std::string& head : entry.sectionKeys) text += head + '\n';
+  return text + entry.key;
+}
+
+// For two long and different texts: an entry is kept when the other side has
+// one like it that is not taken yet; each side's changes keep their order.
+void alignByCount(const std::vector<Entry>& a, const std::vector<Entry>& b,
+                  std::vector<ConfigDiff::Change>& out) {
+  std::map<std::string, int> inA;
+  std::map<std::string, int> inB;
+  for (const Entry& entry : a) ++inA[identity(entry)];
+  for (const Entry& entry : b) ++inB[identity(entry)];
+  for (const Entry& entry : a) {
+    if (inB[identity(entry)]-- <= 0) add(out, '-', entry);
+  }
+  for (const Entry& entry : b) {
+    if (inA[identity(entry)]-- <= 0) add(out, '+', entry);
+  }
+}
+
 void alignMiddle(const std::vector<Entry>& a, const std::vector<Entry>& b,
                  std::vector<ConfigDiff::Change>& out) {
   const size_t n = a.size();
   const size_t m = b.size();
+  if ((n + 1) > kMaxTableCells / (m + 1)) {
+    alignByCount(a, b, out);
+    return;
+  }
   std::vector<unsigned> common((n + 1) * (m + 1), 0);
   auto at = [m](size_t i, size_t j) { return i * (m + 1) + j; };
   for (size_t i = n; i-- > 0;) {

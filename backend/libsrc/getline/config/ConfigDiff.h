@@ -8,7 +8,9 @@
 // equals "interface GigabitEthernet0/1" and a line matches only inside the
 // same section. A line is shown as it was read, trailing blanks cut. The
 // alignment is a longest common subsequence of those lists (quadratic in the
-// part between the equal beginning and end).
+// part between the equal beginning and end); where that part is too long for
+// it (more than 16 million pairs), a line counts as kept when the other side
+// holds one like it, and the removals come before the additions.
 //
 // The result holds only what differs: each changed line with the heads of its
 // section. Plain values; one comparison at a time per process, as for every
