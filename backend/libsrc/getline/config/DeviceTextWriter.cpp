@@ -14,18 +14,26 @@ bool isNew(const CiscoCommandLine& record) {
   return record.hasFlags(CMDBIT_FROM_CHANGES) || record.getLineNo() < 1;
 }
 
+// An address family that the change set brought in.
+bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line) {
+  if (!isNew(record) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) return false;
+  const size_t lead = line.find_first_not_of(' ');
+  return lead != std::string::npos && line.compare(lead, 15, "address-family ") == 0;
+}
+
 // A new address family closes with "exit-address-family" on the device,
 // whether or not the change set said so.
 bool needsExitLine(const CiscoCommandLine& record, const std::string& line) {
-  if (!isNew(record) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) return false;
-  if (line.find_first_not_of(' ') == std::string::npos ||
-      line.compare(line.find_first_not_of(' '), 15, "address-family ") != 0) {
-    return false;
-  }
+  if (!isNewAddressFamily(record, line)) return false;
   for (const CiscoCommandLine* child : record.getChildCommands()) {
     if (child->getOriginalCmd().compare(0, 19, "exit-address-family") == 0) return false;
   }
   return true;
+}
+
+bool endsWithLine(const std::string& text, const std::string& line) {
+  return text.size() >= line.size() && text.compare(text.size() - line.size(), line.size(), line) == 0 &&
+         (text.size() == line.size() || text[text.size() - line.size() - 1] == '\n');
 }
 
 // Comment records wait in line order and are written ahead of the first record
@@ -48,6 +56,9 @@ class Layout {
         flushBefore(next > 0 ? next : endLine());
       }
       const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      // The device sets an address family apart from what stands before it.
+      const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
+      if (depth > 0 && isNewAddressFamily(*record, line) && !endsWithLine(mOut, separator)) mOut += separator;
       mOut += line;
       writeLevel(record->getChildCommands(), depth + 1);
       if (needsExitLine(*record, line)) {
