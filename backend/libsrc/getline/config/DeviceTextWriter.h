@@ -11,7 +11,9 @@
 //   line) as it was read;
 // - comment records ("!", blank-only lines, "end") at their line numbers:
 //   each comes out ahead of the first record read after it;
-// - a mode block that a change set added at the top level ends with "!".
+// - a mode block that a merge added at the top level ends with "!"; an
+//   address family that a change set brought in is set apart by "!" at its
+//   indent and ends with "exit-address-family", as the device prints it.
 // No NUL byte, no trailing blank on a spelled line.
 //
 // Pure function of the records; the caller keeps ownership. markFromChanges
