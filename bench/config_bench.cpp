@@ -83,6 +83,16 @@ void BM_MergeChanges(benchmark::State& state) {
   reportPeak(state);
 }
 
+// The same merge written as device text (mergeConfigCmdsDeviceText).
+void BM_MergeChangesDeviceText(benchmark::State& state) {
+  loadOnce();
+  const int lines = static_cast<int>(state.range(0));
+  const std::string config = makeConfig(lines, false);
+  const std::string changes = makeConfig(lines, true);
+  for (auto _ : state) benchmark::DoNotOptimize(QxParserUtil::mergeConfigCmdsDeviceText(changes, config));
+  reportPeak(state);
+}
+
 // The generated pair of the size asked for: in file mode from the running
 // configuration to the intended one; in delta mode (0) the whole intended
 // configuration taken as the changes, undone against the running one.
@@ -111,6 +121,7 @@ void BM_FallbackDeltaAllLevels(benchmark::State& state) {
 
 BENCHMARK(BM_MergeOneLine)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_MergeChanges)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_MergeChangesDeviceText)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_FallbackFile)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_FallbackDelta)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_FallbackFileAllLevels)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Iterations(1);

@@ -208,17 +208,11 @@ std::vector<Refusal> checkChanges(const std::string& changes, const std::string&
 
 // ------------------------------------------------------ text operations
 
-std::string blankNuls(std::string text) {
-  for (char& c : text) {
-    if (c == '\0') c = ' ';
-  }
-  return text;
-}
 
 std::string merge(const std::string& changes, const std::string& config) {
   LibraryCall call;
   try {
-    return blankNuls(QxParserUtil::mergeConfigCmdsTyped(changes, config, nullptr, nullptr));
+    return QxParserUtil::mergeConfigCmdsDeviceText(changes, config);
   } catch (const std::exception& e) {
     raiseError(e.what());
   }
@@ -227,7 +221,7 @@ std::string merge(const std::string& changes, const std::string& config) {
 std::string rollback(const std::string& first, const std::string& second, bool delta) {
   LibraryCall call;
   try {
-    return blankNuls(QxParserUtil::fallbackConfigCmdsTyped(first, second, delta ? 0 : 1, nullptr, nullptr));
+    return QxParserUtil::fallbackConfigCmdsDeviceText(first, second, delta ? 0 : 1);
   } catch (const std::exception& e) {
     raiseError(e.what());
   }
@@ -236,7 +230,7 @@ std::string rollback(const std::string& first, const std::string& second, bool d
 std::string sorted(const std::string& config) {
   LibraryCall call;
   try {
-    return qxparser::sortedConfigText(config);
+    return QxParserUtil::sortConfigDeviceText(config);
   } catch (const std::exception& e) {
     raiseError(e.what());
   }
@@ -257,6 +251,9 @@ py::object query(const std::string& path, const std::string& what, const std::ve
   bool isList = false;
   try {
     isList = qxparser::runNamedQuery(what, keys, path, text, items);
+    // In device text, as the program prints it.
+    text = QxParserUtil::deviceText(text);
+    for (std::string& item : items) item = QxParserUtil::deviceText(item);
   } catch (const std::exception& e) {
     raiseError(e.what(), path);
   }

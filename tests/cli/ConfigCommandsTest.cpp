@@ -78,8 +78,8 @@ class ConfigCommandsTest : public ::testing::Test {
 };
 
 TEST_F(ConfigCommandsTest, MergeWritesTheLibraryResultFromFilesStdinAndToAFile) {
-  const std::string expected = QxParserUtil::mergeConfigCmds(kChanges, kConfig);
-  ASSERT_NE(expected.find("hostname probe \n"), std::string::npos);
+  const std::string expected = QxParserUtil::mergeConfigCmdsDeviceText(kChanges, kConfig);
+  ASSERT_NE(expected.find("hostname probe\n"), std::string::npos);
   EXPECT_EQ(expected.find("hostname r1"), std::string::npos);
 
   const std::string changes = file("changes.cfg", kChanges);
@@ -116,11 +116,11 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
     std::string expected;
   };
   const std::vector<Row> rows = {
-      {"fallback --delta '" + changes + "' '" + config + "'", QxParserUtil::fallbackConfigCmdsAllLevels(kChanges, kConfig, 0)},
+      {"fallback --delta '" + changes + "' '" + config + "'", QxParserUtil::fallbackConfigCmdsDeviceText(kChanges, kConfig, 0)},
       {"fallback --file '" + config + "' '" + intended + "'",
-       QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(intended), 1)},
+       QxParserUtil::fallbackConfigCmdsDeviceText(kConfig, readFile(intended), 1)},
       // File mode is the default.
-      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmdsAllLevels(kConfig, readFile(intended), 1)},
+      {"fallback '" + config + "' '" + intended + "'", QxParserUtil::fallbackConfigCmdsDeviceText(kConfig, readFile(intended), 1)},
   };
   for (const Row& row : rows) {
     ASSERT_FALSE(row.expected.empty()) << row.args;
@@ -133,8 +133,8 @@ TEST_F(ConfigCommandsTest, FallbackInBothModes) {
   EXPECT_EQ(fromStdin.out, rows[0].expected);
   // Undoing the changes restores the old host name; going from the old
   // configuration to the new one sets the new name.
-  EXPECT_NE(run(rows[0].args).out.find("hostname r1 \n"), std::string::npos);
-  EXPECT_NE(run(rows[1].args).out.find("hostname probe \n"), std::string::npos);
+  EXPECT_NE(run(rows[0].args).out.find("hostname r1\n"), std::string::npos);
+  EXPECT_NE(run(rows[1].args).out.find("hostname probe\n"), std::string::npos);
 }
 
 // The program compares every level; asked for the library's cut, it names the
@@ -155,7 +155,7 @@ TEST_F(ConfigCommandsTest, FallbackComparesEveryLevelOrWarnsWhereTheLibraryCutsT
   const Outcome whole = run("fallback --file '" + flat + "' '" + deep + "'");
   EXPECT_EQ(whole.err, "");
   // The program prints the writer's NUL indent bytes as blanks.
-  std::string expected = QxParserUtil::fallbackConfigCmdsTyped(kConfig, readFile(deep), 1, nullptr, nullptr);
+  std::string expected = QxParserUtil::fallbackConfigCmdsDeviceText(kConfig, readFile(deep), 1);
   std::replace(expected.begin(), expected.end(), '\0', ' ');
   EXPECT_EQ(whole.out, expected);
   EXPECT_NE(whole.out.find("neighbor 192.0.2.2 activate"), std::string::npos) << whole.out;
@@ -165,19 +165,19 @@ TEST_F(ConfigCommandsTest, FallbackComparesEveryLevelOrWarnsWhereTheLibraryCutsT
   EXPECT_EQ(warned.err,
             "vtyconf: warning: vtyconf_cli_deep.cfg:7: fallback compares nothing from this line on (a command two levels "
             "inside a mode ends the normalised text)\n");
-  EXPECT_EQ(warned.out, QxParserUtil::fallbackConfigCmds(kConfig, readFile(deep), 1));
+  EXPECT_EQ(warned.out, QxParserUtil::deviceText(QxParserUtil::fallbackConfigCmds(kConfig, readFile(deep), 1)));
   EXPECT_EQ(warned.out.find("activate"), std::string::npos) << warned.out;
 }
 
 TEST_F(ConfigCommandsTest, SortWritesEveryCommandOnceWithItsModes) {
   const Outcome result = run("sort -", kConfig);
   EXPECT_EQ(result.status, 0) << result.err;
-  for (const char* line : {"hostname r1 \n", "interface loopback 0 \n", " ip address 10.0.0.1 255.255.255.255 \n",
-                           "line vty 0 4 \n", " login \n"}) {
+  for (const char* line : {"hostname r1\n", "interface Loopback0\n", " ip address 10.0.0.1 255.255.255.255\n",
+                           "line vty 0 4\n", " login\n"}) {
     EXPECT_NE(result.out.find(line), std::string::npos) << line;
   }
   // Children stay behind their own head.
-  EXPECT_LT(result.out.find("interface loopback 0"), result.out.find(" ip address 10.0.0.1"));
+  EXPECT_LT(result.out.find("interface Loopback0"), result.out.find(" ip address 10.0.0.1"));
   EXPECT_LT(result.out.find("line vty 0 4"), result.out.find(" login"));
   EXPECT_EQ(result.out.find("end"), std::string::npos);
 }
@@ -186,7 +186,7 @@ TEST_F(ConfigCommandsTest, QueryAsTextAndJson) {
   const std::string config = file("config.cfg", kConfig);
   const Outcome text = run("query '" + config + "' interface GigabitEthernet0/1");
   EXPECT_EQ(text.status, 0) << text.err;
-  EXPECT_NE(text.out.find("interface gigabitethernet 0/1"), std::string::npos);
+  EXPECT_NE(text.out.find("interface GigabitEthernet0/1"), std::string::npos);
   EXPECT_NE(text.out.find("description uplink"), std::string::npos);
   EXPECT_EQ(text.out.find("loopback"), std::string::npos);
 
@@ -194,7 +194,7 @@ TEST_F(ConfigCommandsTest, QueryAsTextAndJson) {
   EXPECT_EQ(list.status, 0) << list.err;
   ASSERT_FALSE(list.out.empty());
   EXPECT_EQ(list.out.front(), '[');
-  EXPECT_NE(list.out.find("\"interface loopback 0 \\n"), std::string::npos) << list.out;
+  EXPECT_NE(list.out.find("\"interface Loopback0\\n"), std::string::npos) << list.out;
 
   std::string lines;
   QxParserUtil::GetCmdsFromConfig(config, lines, "ip route", qxparser::SEARCH_LINE);
@@ -237,7 +237,7 @@ TEST_F(ConfigCommandsTest, ACaptureLosesItsPromptAndBuildingLinesWithANote) {
   const std::string changes = file("changes.cfg", kChanges);
   const Outcome result = run("merge '" + changes + "' '" + captured + "'");
   EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.out, QxParserUtil::mergeConfigCmds(kChanges, kConfig));
+  EXPECT_EQ(result.out, QxParserUtil::mergeConfigCmdsDeviceText(kChanges, kConfig));
   for (const char* note : {"capture.cfg:1: R1#show running-config", "capture.cfg:2: Building configuration...",
                            "capture.cfg:4: Current configuration : 512 bytes"}) {
     EXPECT_NE(result.err.find(note), std::string::npos) << note << " in " << result.err;

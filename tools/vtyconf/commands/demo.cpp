@@ -12,8 +12,7 @@
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "DemoNotes.h"
-#include "LineDiff.h"
-#include "OutputText.h"
+#include "config/ConfigDiff.h"
 #include "config/QXParserGetConfig.h"
 #include "config/QxParserUtil.h"
 #include "platform/QXFileSystem.h"
@@ -94,11 +93,6 @@ void showHelp() {
   std::cout << output << "\n";
 }
 
-// The normalised text of a configuration: merged with a change set that
-// holds only a comment, so both sides of the comparison went through the
-// same writer.
-std::string normalised(const std::string& config) { return QxParserUtil::mergeConfigCmds("!\n", config); }
-
 int runDemo(const DemoOptions& options, const GlobalOptions& global) {
   const fs::path folder = options.examples.empty() ? fs::path(defaultExamplesFolder()) : fs::path(options.examples);
   ConfigInput input;
@@ -121,17 +115,17 @@ int runDemo(const DemoOptions& options, const GlobalOptions& global) {
   showHelp();
 
   narrator.step("merge branch-router.changes", "Merging a change set: the running configuration the device would show, "
-                                                "as a diff against the one before.");
-  const std::string before = normalised(config);
-  const std::string after = QxParserUtil::mergeConfigCmds(changes, config);
-  std::cout << unifiedDiff(printable(before), printable(after), 1);
+                                                "as a diff against the one before, section by section.");
+  const std::string after = QxParserUtil::mergeConfigCmdsDeviceText(changes, config);
+  std::cout << qxparser::ConfigDiff::unified(qxparser::ConfigDiff::compare(config, after), "branch-router.cfg",
+                                             "merged", false);
 
   narrator.step("rollback of the change set", "The commands that undo the change set (fallback --delta).");
-  std::cout << printable(QxParserUtil::fallbackConfigCmdsAllLevels(changes, config, 0));
+  std::cout << QxParserUtil::fallbackConfigCmdsDeviceText(changes, config, 0);
 
   narrator.step("rollback from the new configuration to the old one",
                 "The commands that take the merged configuration back to the original (fallback --file).");
-  std::cout << printable(QxParserUtil::fallbackConfigCmdsAllLevels(after, config, 1));
+  std::cout << QxParserUtil::fallbackConfigCmdsDeviceText(after, config, 1);
 
   narrator.step("queries", "Sections fetched from the file: routing protocols, access lists, one interface.");
   const std::string path = (folder / "branch-router.cfg").string();
@@ -144,6 +138,7 @@ int runDemo(const DemoOptions& options, const GlobalOptions& global) {
   for (const std::string& acl : acls) std::cout << acl << (acl.empty() || acl.back() != '\n' ? "\n" : "");
   text.clear();
   qxparser::QXParserGetConfig::getInterfaceConfig(path, 0, "GigabitEthernet0/1", text);
+  text = QxParserUtil::deviceText(text);
   std::cout << "interface GigabitEthernet0/1:\n" << text << (text.empty() || text.back() != '\n' ? "\n" : "");
 
   narrator.step("design notes", "Two example notes run over the configuration with perl; their result trees.");

@@ -4,18 +4,16 @@
 // Both configurations are compared in the form the merge writer gives them.
 // That form indents a command two or more levels deep with NUL bytes, and the
 // library's fallbackConfigCmds reads it back only up to the first of them.
-// The program compares every level (fallbackConfigCmdsAllLevels) unless asked
+// The program compares every level, reading both texts as the device reads
+// pasted text (fallbackConfigCmdsDeviceText), unless asked
 // for the library's own cut; then it names, on standard error, the line of
 // each input from which nothing is compared.
-// Both texts are read as the device reads text pasted at its console
-// (fallbackConfigCmdsTyped) unless --replay asks for the stored-configuration
-// reading; refused lines are reported and make the exit code 1.
 #include <iostream>
 #include <vector>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
-#include "OutputText.h"
+#include "OutputForm.h"
 #include "RefusedReport.h"
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
@@ -57,7 +55,7 @@ struct FallbackOptions {
   bool delta = false;
   bool file = false;
   bool cutAtDeepLevels = false;
-  bool replay = false;
+  bool mergeForm = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -72,8 +70,7 @@ CommandRegistration registration{CommandSpec{
       delta->excludes(file);
       sub.add_flag("--cut-at-deep-levels", options->cutAtDeepLevels,
                    "compare as fallbackConfigCmds does: nothing from the first command two levels inside a mode on");
-      sub.add_flag("--replay", options->replay,
-                   "read both texts as a stored configuration is replayed (whole words, no mode exits)");
+      addMergeFormFlag(sub, options->mergeForm);
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
         ConfigInput first;
@@ -81,20 +78,14 @@ CommandRegistration registration{CommandSpec{
         if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
         if (!loadResources()) return 2;
         const unsigned int mode = options->delta ? 0u : 1u;
-        std::string text;
-        std::vector<qxparser::RefusedLine> firstRefused;
-        std::vector<qxparser::RefusedLine> secondRefused;
         if (options->cutAtDeepLevels) {
           warnAboutDeepCommands(first);
           warnAboutDeepCommands(second);
-          text = qxparser::QxParserUtil::fallbackConfigCmds(first.text, second.text, mode);
-        } else if (options->replay) {
-          text = qxparser::QxParserUtil::fallbackConfigCmdsAllLevels(first.text, second.text, mode);
-        } else {
-          text = qxparser::QxParserUtil::fallbackConfigCmdsTyped(first.text, second.text, mode, &firstRefused,
-                                                                  &secondRefused);
         }
-        text = printable(text);
+        std::vector<qxparser::RefusedLine> firstRefused;
+        std::vector<qxparser::RefusedLine> secondRefused;
+        const std::string text = fallbackOutput(first.text, second.text, mode, options->cutAtDeepLevels,
+                                                options->mergeForm, firstRefused, secondRefused);
         reportRefused(first, firstRefused);
         reportRefused(second, secondRefused);
         std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));

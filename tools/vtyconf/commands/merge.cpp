@@ -1,13 +1,13 @@
-// vtyconf merge CHANGES CONFIG [-o FILE] [--replay]: the configuration after
-// the changes. Both texts are read as the device reads text pasted at its
-// console (abbreviations, mode exits); every refused line is reported and
-// makes the exit code 1, the result still being written.
+// vtyconf merge CHANGES CONFIG [-o FILE]: the configuration after the changes.
+// Both texts are read as the device reads text pasted at its console
+// (abbreviations, mode exits); every refused line is reported with a caret
+// and makes the exit code 1, the result still being written.
 #include <fstream>
 #include <iostream>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
-#include "OutputText.h"
+#include "OutputForm.h"
 #include "RefusedReport.h"
 #include "config/QxParserUtil.h"
 
@@ -18,7 +18,7 @@ struct MergeOptions {
   std::string changes;
   std::string config;
   std::string output;
-  bool replay = false;
+  bool mergeForm = false;
 };
 
 CommandRegistration registration{CommandSpec{
@@ -29,9 +29,7 @@ CommandRegistration registration{CommandSpec{
           ->required();
       sub.add_option("CONFIG", options->config, "the configuration ('-' for standard input)")->required();
       sub.add_option("-o,--output", options->output, "write the result to FILE");
-      sub.add_flag("--replay", options->replay,
-                   "read both texts as a stored configuration is replayed (whole words, no mode exits), "
-                   "as mergeConfigCmds does");
+      addMergeFormFlag(sub, options->mergeForm);
       sub.footer("Example: vtyconf merge changes.txt router1.cfg -o merged.cfg");
       return [options]() {
         ConfigInput changes;
@@ -40,14 +38,8 @@ CommandRegistration registration{CommandSpec{
         if (!loadResources()) return 2;
         std::vector<qxparser::RefusedLine> changesRefused;
         std::vector<qxparser::RefusedLine> configRefused;
-        std::string merged;
-        if (options->replay) {
-          merged = qxparser::QxParserUtil::mergeConfigCmds(changes.text, config.text);
-        } else {
-          merged = qxparser::QxParserUtil::mergeConfigCmdsTyped(changes.text, config.text, &changesRefused,
-                                                                 &configRefused);
-        }
-        merged = printable(merged);
+        const std::string merged =
+            mergeOutput(changes.text, config.text, options->mergeForm, changesRefused, configRefused);
         reportRefused(changes, changesRefused);
         reportRefused(config, configRefused);
         const int status = changesRefused.empty() && configRefused.empty() ? 0 : 1;

@@ -20,6 +20,7 @@
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "ManyFiles.h"
+#include "OutputForm.h"
 #include "config/QxParserUtil.h"
 #include "config/NamedQuery.h"
 #include "platform/QXFileSystem.h"
@@ -35,6 +36,7 @@ struct QueryOptions {
   std::string what;
   std::vector<std::string> keys;
   bool json = false;
+  bool mergeForm = false;
   unsigned jobs = 0;
 };
 
@@ -106,6 +108,8 @@ void queryOne(const QueryOptions& o, const std::string& config, bool heading, pl
   bool isList = false;
   try {
     isList = qxparser::runNamedQuery(o.what, o.keys, path, text, items);
+    text = queryOutput(text, o.mergeForm);
+    for (std::string& item : items) item = queryOutput(item, o.mergeForm);
   } catch (const std::exception& e) {
     std::cerr << "vtyconf: " << config << ": " << e.what() << "\n";
     result.exitCode = 2;
@@ -162,6 +166,7 @@ CommandRegistration registration{CommandSpec{
           ->required();
       sub.add_option("-j,--jobs", options->jobs, "worker processes for many files (default: one per processor)");
       sub.add_flag("--json", options->json, "print JSON (with several files an array of {file, result})");
+      addMergeFormFlag(sub, options->mergeForm);
       sub.footer("Example: vtyconf query router1.cfg router2.cfg interfaces GigabitEthernet0/1 Loopback0 --json");
       return [options, &global]() { return runQueries(*options, global); };
     }}};

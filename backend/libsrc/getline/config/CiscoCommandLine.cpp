@@ -26,7 +26,9 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
-      treeNodes(other.treeNodes) {
+      treeNodes(other.treeNodes),
+      mRawText(other.mRawText),
+      mReadForm(other.mReadForm) {
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
@@ -49,6 +51,8 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
+  mRawText = other.mRawText;
+  mReadForm = other.mReadForm;
   for (auto& entry : other.subCommands) {
     if (subCommands.count(entry.first)) continue;  // an existing entry stays
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);

@@ -42,7 +42,10 @@ enum CiscoCommandBits : unsigned int {
   CMDBIT_NO_ENDS_ANYWHERE = 0x10,  // a "no" command that passed an "ne" node
   CMDBIT_NO_COMPLETE = 0x20,       // a "no" command that may not end here yet
   CMDBIT_SUB = 0x40,               // a nested command in subCommands
-  CMDBIT_CONFLICT = 0x80           // a node of the path has "cf"
+  CMDBIT_CONFLICT = 0x80,          // a node of the path has "cf"
+  // vtyconf's own: the record was read from a change set (or copied from one),
+  // so a device-text writer spells it anew instead of repeating what was read.
+  CMDBIT_FROM_CHANGES = 0x100
 };
 
 class VTYCONF_API CiscoCommandLine {
@@ -71,6 +74,15 @@ class VTYCONF_API CiscoCommandLine {
   void getMajorCmdStr(std::string& out) const { out = majorCmdStr; }
   void setMajorCommands(const std::string& text) { majorCmdStr = text; }
   std::vector<std::string> getMajorCommands() const;
+  // vtyconf's own: the line as it was read, with any empty lines that stood
+  // before it ("\n" each). Setting it remembers originalCmd as well, so that
+  // isAsRead() tells whether the record still says what was read.
+  const std::string& getRawText() const { return mRawText; }
+  void setRawText(const std::string& text) {
+    mRawText = text;
+    mReadForm = originalCmd;
+  }
+  bool isAsRead() const { return !mRawText.empty() && originalCmd == mReadForm; }
 
   std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
   const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
@@ -125,6 +137,9 @@ class VTYCONF_API CiscoCommandLine {
   std::list<CmdPathEntry> treeNodes;
   std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
+  // vtyconf's own (copied and assigned with the strings above).
+  std::string mRawText;
+  std::string mReadForm;
 };
 
 }  // namespace qxparser

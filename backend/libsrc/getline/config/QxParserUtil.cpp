@@ -9,6 +9,7 @@
 #include <unordered_set>
 
 #include "config/CmdOrderTable.h"
+#include "config/DeviceTextReader.h"
 #include "grammar/DefinitionLoader.h"
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"

@@ -94,6 +94,36 @@ class VTYCONF_API QxParserUtil {
   // their children (records of all levels may be in the vector).
   static void deleteCommands(std::vector<CiscoCommandLine*>& commands);
 
+  // The device-text operations below read their texts as the device reads
+  // pasted text (DeviceTextReader over TypedTextReader) and append refused
+  // lines to the given lists (null: not wanted). They are what the program
+  // runs.
+  // vtyconf's own: mergeConfigCmds written as the device shows the result
+  // (DeviceTextWriter). The commands of `config` that the changes leave alone
+  // come out as they were read, comments and banner text included; new and
+  // changed commands in the device's spelling. The merge itself is the same.
+  // An empty `changes` returns `config` as it stands.
+  static std::string mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config,
+                                               std::vector<RefusedLine>* changesRefused = nullptr,
+                                               std::vector<RefusedLine>* configRefused = nullptr);
+  // vtyconf's own: fallbackConfigCmdsTyped written as device text: a
+  // command that one of the inputs holds as it stands comes out as that input
+  // wrote it; any other ("no " and the command it negates) in the device's
+  // spelling, in the words an input typed for it. Each under its mode's head
+  // line, one blank of indent per level, "!" behind each top-level block.
+  static std::string fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
+                                                  unsigned int mode, std::vector<RefusedLine>* firstRefused = nullptr,
+                                                  std::vector<RefusedLine>* secondRefused = nullptr);
+  // vtyconf's own: the commands of `config` in device order (as `sort` of the
+  // program gives them) as device text: each command as it was read, banner
+  // text and certificate data with their command, comment lines left out and
+  // "!" behind each mode block of the top level.
+  static std::string sortConfigDeviceText(const std::string& config);
+  // vtyconf's own: any configuration text (a merge writer's result, a section
+  // that a search returned) with every command in the device's spelling, one
+  // blank of indent per level; lines that are no commands stay as they are.
+  static std::string deviceText(const std::string& text);
+
  private:
   friend struct QxParserUtilPeer;
   // Typed texts (non-null refused lists) are read by TypedTextReader, the

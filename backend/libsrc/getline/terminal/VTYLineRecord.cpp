@@ -29,7 +29,11 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
   if (!ok) {
     size_t start = line.find_first_not_of(" \t");
     const std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
-    command.setLevel(level);
+    // Right behind a line that opened a mode, the refused line stands inside
+    // that mode, as getComLineInfo places it.
+    const bool opened = model && model->mNewLevel;
+    if (opened) model->levelText(context, true);
+    command.setLevel(level + (opened ? 1 : 0));
     command.setMajorCommands(context);
     command.setCurrentCommand(shown);
     command.setOriginalCmd(shown);

@@ -1,0 +1,178 @@
+// Reading a configuration with the lines as they were read.
+#include "config/DeviceTextReader.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+struct ReadLine {
+  std::string text;
+  int emptyBefore = 0;
+};
+
+// The non-empty lines of `text`, numbered as the terminal numbers them (cut at
+// carriage returns and line feeds, empty pieces dropped), each with the count
+// of empty lines that stood before it.
+std::vector<ReadLine> nonEmptyLines(const std::string& text) {
+  std::vector<ReadLine> lines;
+  size_t position = 0;
+  int breaks = 0;
+  int returns = 0;
+  while (position < text.size()) {
+    const char c = text[position];
+    if (c == '\n' || c == '\r') {
+      (c == '\n' ? breaks : returns)++;
+      ++position;
+      continue;
+    }
+    size_t end = text.find_first_of("\r\n", position);
+    if (end == std::string::npos) end = text.size();
+    ReadLine line;
+    line.text = text.substr(position, end - position);
+    line.emptyBefore = lines.empty() ? 0 : std::max(0, std::max(breaks, returns) - 1);
+    lines.push_back(std::move(line));
+    breaks = 0;
+    returns = 0;
+    position = end;
+  }
+  return lines;
+}
+
+bool isCommand(const CiscoCommandLine* record) {
+  return record->getFlag() != CMD_TEXT && record->getTreeNodeSize() > 0;
+}
+
+// Whether the line leaves the banner state changed: the terminal toggles it on
+// every delimiter character of a line.
+bool togglesBanner(const std::string& line, char delimiter) {
+  return std::count(line.begin(), line.end(), delimiter) % 2 == 1;
+}
+
+std::string lastLine(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  return cut == std::string::npos ? raw : raw.substr(cut + 1);
+}
+
+// Makes `record` a child of `owner`, in line order among the children (the
+// owner may have taken children read after it already).
+void adopt(CiscoCommandLine* owner, CiscoCommandLine* record) {
+  if (record->getParentCommand() != nullptr) return;
+  record->setParentCommand(owner, false);
+  std::vector<CiscoCommandLine*>& children = owner->getChildCommands();
+  const auto at = std::find_if(children.begin(), children.end(), [record](const CiscoCommandLine* child) {
+    return child->getLineNo() > record->getLineNo();
+  });
+  children.insert(at, record);
+}
+
+// A command behind which the device takes lines of data until "quit": a
+// certificate of a chain, the key of a public-key entry.
+bool takesData(const CiscoCommandLine* record) {
+  const std::string& text = record->getOriginalCmd();
+  return text.compare(0, 12, "certificate ") == 0 || text.compare(0, 11, "key-string ") == 0 ||
+         text.compare(0, 9, "key-hash ") == 0;
+}
+
+}  // namespace
+
+char DeviceTextReader::bannerDelimiter(const std::string& line) {
+  const size_t lead = line.find_first_not_of(" \t");
+  if (lead == std::string::npos || line.compare(lead, 7, "banner ") != 0) return '\0';
+  const size_t first = line.find(' ');
+  const size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
+  if (second == std::string::npos || second + 1 >= line.size()) return '\0';
+  return line[second + 1];
+}
+
+void DeviceTextReader::attachRawText(const std::string& text, const std::vector<CiscoCommandLine*>& records) {
+  const std::vector<ReadLine> lines = nonEmptyLines(text);
+  for (CiscoCommandLine* record : records) {
+    const int number = record->getLineNo();
+    if (number < 1 || static_cast<size_t>(number) > lines.size()) continue;
+    const ReadLine& line = lines[static_cast<size_t>(number) - 1];
+    record->setRawText(std::string(static_cast<size_t>(line.emptyBefore), '\n') + line.text);
+  }
+}
+
+// The mode that an "exit-address-family" line (or one of its kind) closes:
+// the innermost command around `last` that opens a mode named by the line's
+// last word (family, interface, topology, policy, session). The line then
+// stays with that mode, so that it is written back where it stood.
+CiscoCommandLine* closedMode(const CiscoCommandLine* record, CiscoCommandLine* last) {
+  if (record->getFlag() != CMD_TEXT || last == nullptr) return nullptr;
+  std::string text = lastLine(record->getRawText());
+  text.erase(0, text.find_first_not_of(" \t"));
+  if (text.compare(0, 5, "exit-") != 0) return nullptr;
+  const std::string named = text.substr(text.rfind('-') + 1);
+  for (CiscoCommandLine* mode = last; mode != nullptr; mode = mode->getParentCommand()) {
+    if (mode->hasFlags(CMDBIT_OPENS_MODE) && mode->getLevel() > 0 &&
+        mode->getOriginalCmd().find(named) != std::string::npos) {
+      return mode;
+    }
+  }
+  return nullptr;
+}
+
+void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& records, bool keepRefused) {
+  CiscoCommandLine* lastCommand = nullptr;
+  CiscoCommandLine* banner = nullptr;
+  char delimiter = '\0';
+  for (CiscoCommandLine* record : records) {
+    const std::string line = lastLine(record->getRawText());
+    if (banner != nullptr) {
+      // Body and closing line go with the banner command; an empty line
+      // inside a banner is part of its text, elsewhere it is not kept.
+      adopt(banner, record);
+      if (togglesBanner(line, delimiter)) banner = nullptr;
+      continue;
+    }
+    std::string bare = record->getRawText();
+    bare.erase(0, bare.find_first_not_of('\n'));
+    if (record->getFlag() != CMD_TEXT && record->getParentCommand() == nullptr && record->getLevel() > 0 &&
+        lastCommand != nullptr && (keepRefused || takesData(lastCommand))) {
+      record->setRawText(bare);
+      adopt(lastCommand, record);
+      continue;
+    }
+    record->setRawText(bare);
+    if (CiscoCommandLine* closed = closedMode(record, lastCommand)) {
+      adopt(closed, record);
+      continue;
+    }
+    if (!isCommand(record)) continue;
+    lastCommand = record;
+    delimiter = bannerDelimiter(line);
+    if (delimiter != '\0' && togglesBanner(line, delimiter)) banner = record;
+  }
+}
+
+bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                            std::vector<RefusedLine>* refused, bool keepRefused) {
+  std::vector<CiscoCommandLine*> all;
+  std::vector<RefusedLine> unwanted;
+  bool ok = false;
+  try {
+    ok = QxParserUtil::getCmdInfoTyped(text, all, refused ? *refused : unwanted);
+    attachRawText(text, all);
+  } catch (...) {
+    QxParserUtil::deleteCommands(all);
+    throw;
+  }
+  attachDataLines(all, keepRefused);
+  for (CiscoCommandLine* record : all) {
+    if (record->getParentCommand() == nullptr && record->getLevel() == 0) commands.push_back(record);
+  }
+  // A record refused inside a mode before any command was read has nobody to
+  // hold it.
+  for (CiscoCommandLine* record : all) {
+    if (record->getParentCommand() == nullptr && record->getLevel() != 0) delete record;
+  }
+  return ok;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,51 @@
+// DeviceTextReader: a configuration read so that it can be written back as
+// the device shows it.
+//
+// The text is read as the device reads pasted text (TypedTextReader:
+// abbreviations, mode exits), and every record gets the line it was read
+// from (CiscoCommandLine::setRawText, by attachRawText). In addition the
+// lines that carry data rather than commands are kept with the command they
+// belong to, as its children: the body of a multi-line banner (closing line
+// included, empty lines inside kept) with the banner command, and the data
+// lines behind a command that takes data (certificate hex, public key data)
+// with that command. Reading a configuration (`keepRefused`), any other line
+// refused inside a mode stays with the command read before it too, so that it
+// comes back where it stood; in a change set such a line is dropped, as the
+// device drops it. Comment lines ("!", blank-only lines, "end") stay level-0
+// records of their own, placed by their line numbers.
+//
+// The caller owns the records appended to `commands` (level 0 only; the rest
+// hang below them) and frees them with QxParserUtil::deleteCommands. Same
+// threading rule as every reading operation: one at a time per process.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "config/CiscoCommandLine.h"
+#include "config/TypedTextReader.h"
+#include "platform/Export.h"
+
+namespace qxparser {
+
+class VTYCONF_API DeviceTextReader {
+ public:
+  // Reads `text`; appends the level-0 records, and the refused lines to
+  // `refused` when it is given. True when no line was refused.
+  static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                   std::vector<RefusedLine>* refused = nullptr, bool keepRefused = true);
+
+  // Gives each record of `records` (all levels, as getCmdInfo returned them
+  // for `text`) the line it was read from.
+  static void attachRawText(const std::string& text, const std::vector<CiscoCommandLine*>& records);
+
+  // Moves banner bodies and lines refused inside a mode below the command
+  // they belong to (see above); `records` as for attachRawText.
+  static void attachDataLines(const std::vector<CiscoCommandLine*>& records, bool keepRefused);
+
+  // The delimiter that a banner command opens its text with ('\0' when the
+  // line is no banner command); the character behind the line's second blank.
+  static char bannerDelimiter(const std::string& line);
+};
+
+}  // namespace qxparser

@@ -1,0 +1,170 @@
+// Device text of configuration records.
+#include "config/DeviceTextWriter.h"
+
+#include <algorithm>
+#include <deque>
+
+#include "config/DeviceSpelling.h"
+
+namespace qxparser {
+
+namespace {
+
+bool isNew(const CiscoCommandLine& record) {
+  return record.hasFlags(CMDBIT_FROM_CHANGES) || record.getLineNo() < 1;
+}
+
+// An address family that the change set brought in.
+bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line) {
+  if (!isNew(record) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) return false;
+  const size_t lead = line.find_first_not_of(' ');
+  return lead != std::string::npos && line.compare(lead, 15, "address-family ") == 0;
+}
+
+// A new address family closes with "exit-address-family" on the device,
+// whether or not the change set said so.
+bool needsExitLine(const CiscoCommandLine& record, const std::string& line) {
+  if (!isNewAddressFamily(record, line)) return false;
+  for (const CiscoCommandLine* child : record.getChildCommands()) {
+    if (child->getOriginalCmd().compare(0, 19, "exit-address-family") == 0) return false;
+    // An exit line read with the block stays with it (a comment record).
+    const std::string& raw = child->getRawText();
+    if (child->getFlag() == CMD_TEXT && raw.find("exit-address-family") != std::string::npos) return false;
+  }
+  return true;
+}
+
+bool endsWithLine(const std::string& text, const std::string& line) {
+  return text.size() >= line.size() && text.compare(text.size() - line.size(), line.size(), line) == 0 &&
+         (text.size() == line.size() || text[text.size() - line.size() - 1] == '\n');
+}
+
+// Comment records wait in line order and are written ahead of the first record
+// read after them.
+class Layout {
+ public:
+  Layout(std::deque<const CiscoCommandLine*> comments, unsigned int options)
+      : mComments(std::move(comments)), mOptions(options) {}
+
+  void writeLevel(const std::vector<CiscoCommandLine*>& records, int depth) {
+    for (size_t i = 0; i < records.size(); ++i) {
+      const CiscoCommandLine* record = records[i];
+      if (depth == 0 && record->getFlag() == CMD_TEXT) continue;
+      if (record->getLineNo() >= 1) {
+        flushBefore(record->getLineNo());
+      } else if (depth == 0) {
+        // A new block goes behind the comments that close the block before;
+        // behind the last block read, ahead of a closing "end".
+        const int next = nextReadLine(records, i + 1);
+        flushBefore(next > 0 ? next : endLine());
+      }
+      const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      // The device sets an address family apart from what stands before it.
+      const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
+      if (depth > 0 && isNewAddressFamily(*record, line) && !endsWithLine(mOut, separator)) mOut += separator;
+      mOut += line;
+      writeLevel(record->getChildCommands(), depth + 1);
+      if (needsExitLine(*record, line)) {
+        mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
+      }
+      // A block that the merge added (a copy: no line number) is closed as the
+      // device closes it; one read keeps the comment lines that followed it.
+      if (depth == 0 && record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO) &&
+          (record->getLineNo() < 1 || (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
+        mOut += "!\n";
+      }
+    }
+  }
+
+  std::string finish() {
+    flushBefore(-1);
+    return std::move(mOut);
+  }
+
+ private:
+  static int nextReadLine(const std::vector<CiscoCommandLine*>& records, size_t from) {
+    for (size_t i = from; i < records.size(); ++i) {
+      if (records[i]->getFlag() != CMD_TEXT && records[i]->getLineNo() >= 1) return records[i]->getLineNo();
+    }
+    return 0;
+  }
+
+  // The line number of the last waiting "end" line (-1: none waits).
+  int endLine() const {
+    for (auto it = mComments.rbegin(); it != mComments.rend(); ++it) {
+      const std::string& text = (*it)->getOriginalStr();
+      const size_t lead = text.find_first_not_of(" \t");
+      if (lead != std::string::npos && text.compare(lead, 3, "end") == 0) return (*it)->getLineNo();
+    }
+    return -1;
+  }
+
+  // Writes the waiting comments read before line `limit` (all for -1).
+  void flushBefore(int limit) {
+    while (!mComments.empty() && (limit < 0 || mComments.front()->getLineNo() < limit)) {
+      mOut += DeviceTextWriter::writeLine(*mComments.front(), 0, mOptions);
+      mComments.pop_front();
+    }
+  }
+
+  std::deque<const CiscoCommandLine*> mComments;
+  unsigned int mOptions;
+  std::string mOut;
+};
+
+std::string trimmedRight(std::string text) {
+  const size_t end = text.find_last_not_of(" \t");
+  text.erase(end == std::string::npos ? 0 : end + 1);
+  return text;
+}
+
+}  // namespace
+
+std::string DeviceTextWriter::writeLine(const CiscoCommandLine& record, int depth, unsigned int options) {
+  const bool spellAll = (options & kSpellAll) != 0;
+  if (record.getFlag() == CMD_TEXT) {
+    const std::string& text = record.getRawText().empty() ? record.getOriginalStr() : record.getRawText();
+    std::string bare = text.substr(std::min(text.size(), text.find_first_not_of(" \t")));
+    if (depth > 0 && bare.compare(0, 5, "exit-") == 0 && (spellAll || record.getLineNo() < 1)) {
+      // "exit-address-family" and its kind stand at the level of the mode head.
+      bare.erase(bare.find_last_not_of(" \t") + 1);
+      return std::string(static_cast<size_t>(depth - 1), ' ') + bare + "\n";
+    }
+    return text + "\n";
+  }
+  if (record.getTreeNodeSize() == 0) {
+    // Banner text, certificate data, a refused line: as it was read.
+    if (!record.getRawText().empty()) return record.getRawText() + "\n";
+    return std::string(static_cast<size_t>(depth), ' ') +
+           trimmedRight(record.getOriginalCmd().substr(0, record.getOriginalCmd().find('\n'))) + "\n";
+  }
+  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES))
+    return record.getRawText() + "\n";
+  const std::string text = DeviceSpelling::spell(record);
+  // The device writes "exit-address-family" and its kind at the level of the
+  // mode head, though the grammar reads them inside the mode.
+  const int indent = (depth > 0 && text.compare(0, 5, "exit-") == 0) ? depth - 1 : depth;
+  return std::string(static_cast<size_t>(indent), ' ') + text + "\n";
+}
+
+std::string DeviceTextWriter::write(const std::vector<CiscoCommandLine*>& commands, unsigned int options) {
+  std::vector<const CiscoCommandLine*> comments;
+  for (const CiscoCommandLine* record : commands) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  std::stable_sort(
+      comments.begin(), comments.end(),
+      [](const CiscoCommandLine* a, const CiscoCommandLine* b) { return a->getLineNo() < b->getLineNo(); });
+  Layout layout(std::deque<const CiscoCommandLine*>(comments.begin(), comments.end()), options);
+  layout.writeLevel(commands, 0);
+  return layout.finish();
+}
+
+void DeviceTextWriter::markFromChanges(const std::vector<CiscoCommandLine*>& commands) {
+  for (CiscoCommandLine* record : commands) {
+    record->setFlags(CMDBIT_FROM_CHANGES, true);
+    markFromChanges(record->getChildCommands());
+  }
+}
+
+}  // namespace qxparser

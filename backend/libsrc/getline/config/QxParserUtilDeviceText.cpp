@@ -1,0 +1,146 @@
+// Merge and fallback written as device text.
+#include <algorithm>
+#include <map>
+
+#include "config/DeviceTextReader.h"
+#include "config/DeviceTextWriter.h"
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+// Frees the level-0 records (with their children) when it goes.
+class RecordsGuard {
+ public:
+  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records) : mRecords(records) {}
+  RecordsGuard(const RecordsGuard&) = delete;
+  RecordsGuard& operator=(const RecordsGuard&) = delete;
+  ~RecordsGuard() { QxParserUtil::deleteCommands(mRecords); }
+
+ private:
+  std::vector<CiscoCommandLine*>& mRecords;
+};
+
+std::string withoutNo(const std::string& text) {
+  return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text;
+}
+
+// The line a record was read from, without trailing blanks.
+std::string lastLine(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  std::string line = cut == std::string::npos ? raw : raw.substr(cut + 1);
+  line.erase(line.find_last_not_of(" \t") + 1);
+  return line;
+}
+
+// How an input wrote a command: its full form and the line as read.
+struct TypedLine {
+  std::string full;
+  std::string line;
+};
+
+// The line of every command of `text`, by its full form without "no ".
+void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>& lines) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  DeviceTextReader::read(text, records);
+  std::vector<CiscoCommandLine*> all(records);
+  for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
+  for (const CiscoCommandLine* record : all) {
+    if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
+    lines.emplace(withoutNo(record->getOriginalCmd()),
+                  TypedLine{record->getOriginalCmd(), lastLine(record->getRawText())});
+  }
+}
+
+// A command that an input holds as it stands comes out as that input wrote
+// it; any other is spelled anew, in the words an input typed for it.
+void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
+                    const std::map<std::string, TypedLine>& lines) {
+  for (CiscoCommandLine* record : records) {
+    const auto found = lines.find(withoutNo(record->getOriginalCmd()));
+    if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
+      record->setRawText(found->second.line);
+    } else {
+      record->setRawText(found == lines.end() ? std::string() : found->second.line);
+      record->setFlags(CMDBIT_FROM_CHANGES, true);
+    }
+    lendTypedLines(record->getChildCommands(), lines);
+  }
+}
+
+std::string nulAsBlank(std::string text) {
+  std::replace(text.begin(), text.end(), '\0', ' ');
+  return text;
+}
+
+}  // namespace
+
+std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config,
+                                                    std::vector<RefusedLine>* changesRefused,
+                                                    std::vector<RefusedLine>* configRefused) {
+  std::vector<CiscoCommandLine*> changeCmds;
+  std::vector<CiscoCommandLine*> configCmds;
+  RecordsGuard changeGuard(changeCmds);
+  RecordsGuard configGuard(configCmds);
+  DeviceTextReader::read(changes, changeCmds, changesRefused, false);
+  DeviceTextReader::read(config, configCmds, configRefused);
+  if (changes.empty()) return config;
+  DeviceTextWriter::markFromChanges(changeCmds);
+  mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  return DeviceTextWriter::write(configCmds);
+}
+
+std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  DeviceTextReader::read(config, records);
+  std::vector<CiscoCommandLine*> comments;
+  for (CiscoCommandLine* record : records) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  records.erase(std::remove_if(records.begin(), records.end(),
+                               [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
+                records.end());
+  deleteCommands(comments);
+  // The order of the top level comes from the order table, not from where the
+  // commands stood.
+  for (CiscoCommandLine* record : records) record->setLineNo(0);
+  SortCiscoCommands(records);
+  return DeviceTextWriter::write(records, DeviceTextWriter::kCloseEveryBlock);
+}
+
+std::string QxParserUtil::deviceText(const std::string& text) {
+  std::vector<CiscoCommandLine*> records;
+  RecordsGuard guard(records);
+  DeviceTextReader::read(nulAsBlank(text), records);
+  return DeviceTextWriter::write(records, DeviceTextWriter::kSpellAll);
+}
+
+std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
+                                                       unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                                       std::vector<RefusedLine>* secondRefused) {
+  const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
+  if (first.empty()) return second;
+  std::map<std::string, TypedLine> typedLines;
+  collectTypedLines(nulAsBlank(first), typedLines);
+  collectTypedLines(nulAsBlank(second), typedLines);
+  std::vector<CiscoCommandLine*> out;
+  RecordsGuard guard(out);
+  DeviceTextReader::read(written, out);
+  // The writer closes each block of the top level itself; the merge writer's
+  // "!" lines go.
+  std::vector<CiscoCommandLine*> comments;
+  for (CiscoCommandLine* record : out) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  out.erase(std::remove_if(out.begin(), out.end(),
+                           [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
+            out.end());
+  deleteCommands(comments);
+  lendTypedLines(out, typedLines);
+  return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
+}
+
+}  // namespace qxparser
