@@ -1005,7 +1005,7 @@ event-log|event logging|k||
   !
 !
 interface-id|source of the interface id|k||
-  line|line|lb/le/wa||
+  snmp-if-index|use the snmp ifindex as the interface id|k||
     <cr>||||
     !
   !

@@ -700,7 +700,7 @@ def OSPFBODY
   event-log $ "event logging"
     line *
   interface-id "source of the interface id"
-    line *
+    snmp-if-index $ "use the snmp ifindex as the interface id"
   exit-address-family $ "exit from address family configuration mode"
 
 file router_ospf.cfm

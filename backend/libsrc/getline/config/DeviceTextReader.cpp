@@ -152,12 +152,16 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
 }
 
 bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
-                            std::vector<RefusedLine>* refused, bool keepRefused) {
+                            std::vector<RefusedLine>* refused, bool keepRefused, bool byIndent) {
   std::vector<CiscoCommandLine*> all;
   std::vector<RefusedLine> unwanted;
   bool ok = false;
   try {
-    ok = QxParserUtil::getCmdInfoTyped(text, all, refused ? *refused : unwanted);
+    if (byIndent) {
+      ok = TypedTextReader::readByIndent(text, all, refused ? *refused : unwanted);
+    } else {
+      ok = QxParserUtil::getCmdInfoTyped(text, all, refused ? *refused : unwanted);
+    }
     attachRawText(text, all);
   } catch (...) {
     QxParserUtil::deleteCommands(all);

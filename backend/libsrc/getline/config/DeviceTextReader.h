@@ -32,8 +32,10 @@ class VTYCONF_API DeviceTextReader {
  public:
   // Reads `text`; appends the level-0 records, and the refused lines to
   // `refused` when it is given. True when no line was refused.
+  // `byIndent`: the text is one of the library's own writings, whose indent
+  // is each line's level (TypedTextReader::readByIndent).
   static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
-                   std::vector<RefusedLine>* refused = nullptr, bool keepRefused = true);
+                   std::vector<RefusedLine>* refused = nullptr, bool keepRefused = true, bool byIndent = false);
 
   // Gives each record of `records` (all levels, as getCmdInfo returned them
   // for `text`) the line it was read from.

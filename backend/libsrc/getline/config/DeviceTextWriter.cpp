@@ -14,17 +14,29 @@ bool isNew(const CiscoCommandLine& record) {
   return record.hasFlags(CMDBIT_FROM_CHANGES) || record.getLineNo() < 1;
 }
 
+// A mode's exit line kept with its block (a comment record).
+bool isExitLine(const CiscoCommandLine& record) {
+  if (record.getFlag() != CMD_TEXT) return false;
+  const std::string& text = record.getRawText().empty() ? record.getOriginalStr() : record.getRawText();
+  const size_t lead = text.find_first_not_of(" \t\n");
+  return lead != std::string::npos && text.compare(lead, 5, "exit-") == 0;
+}
+
 // An address family that the change set brought in.
-bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line) {
-  if (!isNew(record) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) return false;
+bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line, bool anyAddressFamily = false) {
+  if ((!anyAddressFamily && !isNew(record)) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) {
+    return false;
+  }
   const size_t lead = line.find_first_not_of(' ');
   return lead != std::string::npos && line.compare(lead, 15, "address-family ") == 0;
 }
 
 // A new address family closes with "exit-address-family" on the device,
 // whether or not the change set said so.
-bool needsExitLine(const CiscoCommandLine& record, const std::string& line) {
-  if (!isNewAddressFamily(record, line)) return false;
+// Written with kCloseEveryBlock (a rollback, a sorted text), every address
+// family closes so: the lines behind it are pasted at the level above.
+bool needsExitLine(const CiscoCommandLine& record, const std::string& line, bool everyBlock) {
+  if (!isNewAddressFamily(record, line, everyBlock)) return false;
   for (const CiscoCommandLine* child : record.getChildCommands()) {
     if (child->getOriginalCmd().compare(0, 19, "exit-address-family") == 0) return false;
     // An exit line read with the block stays with it (a comment record).
@@ -46,7 +58,13 @@ class Layout {
   Layout(std::deque<const CiscoCommandLine*> comments, unsigned int options)
       : mComments(std::move(comments)), mOptions(options) {}
 
-  void writeLevel(const std::vector<CiscoCommandLine*>& records, int depth) {
+  void writeLevel(const std::vector<CiscoCommandLine*>& given, int depth) {
+    // A mode's exit line ("exit-address-family") closes its block: commands
+    // the merge added behind it still go ahead of it.
+    std::vector<CiscoCommandLine*> records(given);
+    if (depth > 0) std::stable_partition(records.begin(), records.end(), [](const CiscoCommandLine* r) {
+      return !isExitLine(*r);
+    });
     for (size_t i = 0; i < records.size(); ++i) {
       const CiscoCommandLine* record = records[i];
       if (depth == 0 && record->getFlag() == CMD_TEXT) continue;
@@ -64,7 +82,7 @@ class Layout {
       if (depth > 0 && isNewAddressFamily(*record, line) && !endsWithLine(mOut, separator)) mOut += separator;
       mOut += line;
       writeLevel(record->getChildCommands(), depth + 1);
-      if (needsExitLine(*record, line)) {
+      if (needsExitLine(*record, line, (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
         mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
       }
       // A block that the merge added (a copy: no line number) is closed as the

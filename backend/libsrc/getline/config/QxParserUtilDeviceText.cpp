@@ -128,7 +128,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
   collectTypedLines(nulAsBlank(second), typedLines);
   std::vector<CiscoCommandLine*> out;
   RecordsGuard guard(out);
-  DeviceTextReader::read(written, out);
+  DeviceTextReader::read(written, out, nullptr, true, true);
   // The writer closes each block of the top level itself; the merge writer's
   // "!" lines go.
   std::vector<CiscoCommandLine*> comments;

@@ -75,7 +75,21 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       std::string normalised = expandMergedCmds(*side, 0);
       if (allLevels) normalised = blanksForNul(normalised);
       deleteTopLevel(*side);
-      transformCmds(normalised, *side, errorText, errorLine);
+      if (readers.first || readers.second) {
+        // Typed texts found their levels by their exits; the written form
+        // keeps them in its indent.
+        std::vector<CiscoCommandLine*> all;
+        std::vector<RefusedLine> unwanted;
+        try {
+          TypedTextReader::readByIndent(normalised, all, unwanted);
+        } catch (...) {
+          deleteCommands(all);
+          throw;
+        }
+        keepTopLevel(all, *side);
+      } else {
+        transformCmds(normalised, *side, errorText, errorLine);
+      }
     }
     if (mode == 0) {
       fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);

@@ -106,6 +106,7 @@ class Reading {
       execLine(number, text, std::move(record));
       return;
     }
+    if (mFollowIndent) leaveDeeperLevels(words[0].first);
     command(number, text, std::move(record));
   }
 
@@ -157,6 +158,16 @@ class Reading {
         record = std::move(retry);
       } else {
         refuse(number, text, position, message);
+        // As getCmdInfo gives it: the line without a path, where it stood.
+        auto refused = std::make_unique<CiscoCommandLine>();
+        refused->setLineNo(number);
+        refused->setLevel(record->getLevel());
+        std::string context;
+        record->getMajorCmdStr(context);
+        refused->setMajorCommands(context);
+        refused->setCurrentCommand(record->getOriginalCmd());
+        refused->setOriginalCmd(record->getOriginalCmd());
+        record = std::move(refused);
       }
     }
     mCommands.push_back(record.release());
@@ -192,6 +203,18 @@ class Reading {
     mRefused.push_back(RefusedLine{number, text, position, message.empty() ? kInvalidInput : message});
   }
 
+  void leaveDeeperLevels(size_t indent) {
+    while (mVty.levelCount() > indent + 1) {
+      const size_t before = mVty.levelCount();
+      mVty.parse("exit", true, nullptr);
+      if (mVty.levelCount() >= before || mVty.currentMode() != CONFIG_MODE) break;
+    }
+  }
+
+ public:
+  bool mFollowIndent = false;
+
+ private:
   VTY mVty;
   std::vector<CiscoCommandLine*>& mCommands;
   std::vector<RefusedLine>& mRefused;
@@ -204,6 +227,16 @@ bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine
                            std::vector<RefusedLine>& refused) {
   const size_t before = refused.size();
   Reading reading("hostName", commands, refused, nullptr);
+  int number = 0;
+  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  return refused.size() == before;
+}
+
+bool TypedTextReader::readByIndent(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                                   std::vector<RefusedLine>& refused) {
+  const size_t before = refused.size();
+  Reading reading("hostName", commands, refused, nullptr);
+  reading.mFollowIndent = true;
   int number = 0;
   for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
   return refused.size() == before;

@@ -45,6 +45,12 @@ class VTYCONF_API TypedTextReader {
   // every refused line to `refused`. True when no line was refused.
   static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                    std::vector<RefusedLine>& refused);
+  // The same for text whose indent is its level (one blank per level, as the
+  // library's writers write): a line indented less than the mode it follows
+  // leaves that mode first, as an "exit" would, so every line stands at the
+  // level written and not where a climb from the level before would find it.
+  static bool readByIndent(const std::string& text, std::vector<CiscoCommandLine*>& commands,
+                           std::vector<RefusedLine>& refused);
   // The same, on a terminal named `hostName`, also giving for every record
   // the prompt at which its line was typed ("R1(config-if)#").
   static bool readWithPrompts(const std::string& text, const std::string& hostName,
