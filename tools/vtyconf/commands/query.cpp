@@ -115,6 +115,14 @@ void queryOne(const QueryOptions& o, const std::string& config, bool heading, pl
     result.exitCode = 2;
     return;
   }
+  // A keyed query that finds nothing says so: a misspelt name is no answer.
+  const qxparser::NamedQueryKind* kind = qxparser::namedQuery(o.what);
+  if (kind != nullptr && kind->needsKey && text.empty() && items.empty()) {
+    std::string key;
+    for (const std::string& word : o.keys) key += " " + word;
+    std::cerr << "vtyconf: " << config << ": no " << o.what << key << " in this configuration\n";
+    result.exitCode = 1;
+  }
   if (o.json) {
     result.data = (isList ? nlohmann::json(items) : nlohmann::json(text)).dump();
     return;
@@ -141,7 +149,7 @@ int runQueries(QueryOptions& o, const GlobalOptions& global) {
       [&](const std::string& file, platform::WorkerResult& result) { queryOne(o, file, many, result); });
   nlohmann::json all = nlohmann::json::array();
   for (size_t i = 0; i < results.size(); ++i) {
-    if (results[i].exitCode != 0) failed = true;
+    if (results[i].exitCode >= 2) failed = true;
     if (!o.json || results[i].data.empty()) continue;
     nlohmann::json answer = nlohmann::json::parse(results[i].data);
     if (many) {
@@ -151,7 +159,9 @@ int runQueries(QueryOptions& o, const GlobalOptions& global) {
     }
   }
   if (o.json && many) std::cout << all.dump(2) << "\n";
-  return failed ? 2 : 0;
+  if (failed) return 2;
+  const bool nothingFound = std::any_of(results.begin(), results.end(), [](const auto& r) { return r.exitCode == 1; });
+  return nothingFound ? 1 : 0;
 }
 
 CommandRegistration registration{CommandSpec{

@@ -3,7 +3,10 @@
 // vrfs, vrf NAME, protocols, protocol NAME..., interface NAME,
 // interfaces NAME..., acls, acl KEY, nat KEY, route-map KEY, section KEY,
 // lines KEY: each is one call of QXParserGetConfig or QxParserUtil on a file
-// given by its path. Static data and a dispatch; the searches themselves
+// given by its path. Keys may be given as a person types them: `vrf GUEST`
+// (ip vrf or vrf definition), `acl WAN-IN` or `acl 10` (either kind of list),
+// `protocol ospf` (every OSPF process) or `protocol ospf 10`, `route-map OUT`,
+// `interface Gi0/2`; whole header lines work as before. Static data and a dispatch; the searches themselves
 // follow the library's single-thread rule.
 #pragma once
 
