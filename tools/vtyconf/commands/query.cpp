@@ -115,9 +115,11 @@ void queryOne(const QueryOptions& o, const std::string& config, bool heading, pl
     result.exitCode = 2;
     return;
   }
-  // A keyed query that finds nothing says so: a misspelt name is no answer.
+  // A query for a named thing that finds nothing says so: a misspelt name is
+  // no answer. A search (lines, section) may rightly find nothing.
   const qxparser::NamedQueryKind* kind = qxparser::namedQuery(o.what);
-  if (kind != nullptr && kind->needsKey && text.empty() && items.empty()) {
+  const bool names = o.what != "lines" && o.what != "section";  // the others name one thing
+  if (kind != nullptr && kind->needsKey && names && text.empty() && items.empty()) {
     std::string key;
     for (const std::string& word : o.keys) key += " " + word;
     std::cerr << "vtyconf: " << config << ": no " << o.what << key << " in this configuration\n";
