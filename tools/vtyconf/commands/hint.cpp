@@ -26,7 +26,9 @@ int runHint(const HintOptions& options) {
   if (!loadResources()) return 2;
   std::vector<qxparser::ConfigHint> hints;
   std::string line = options.line;
-  qxparser::QxParserUtil::hintCommand(text, line, hints);
+  // Every level is asked on its own: the specified hintCommand stops at the
+  // first level that knows no next word.
+  qxparser::QxParserUtil::hintCommandEachLevel(text, line, hints);
   const std::vector<qxparser::HintLevel> levels = qxparser::hintLevels(hints);
   if (options.json) {
     nlohmann::json out = nlohmann::json::array();
@@ -51,6 +53,7 @@ int runHint(const HintOptions& options) {
     }
   }
   qxparser::QxParserUtil::destroyParserResource();
+  if (hints.empty()) std::cerr << "vtyconf: nothing can follow \"" << options.line << "\" at any level\n";
   return hints.empty() ? 1 : 0;
 }
 

@@ -160,6 +160,13 @@ bool QxParserUtil::hintCommand(std::string& configuration, std::string& line, st
   return vty.hintCommand(configuration, line, hints);
 }
 
+bool QxParserUtil::hintCommandEachLevel(std::string& configuration, const std::string& line,
+                                        std::vector<ConfigHint>& hints) {
+  VTY vty("hostName", false);
+  enterConfiguration(vty, "configure terminal \n");
+  return vty.hintCommandEachLevel(configuration, line, hints);
+}
+
 bool QxParserUtil::isTheSameCmd(const std::string& a, const std::string& b, bool withNo) {
   return ParserToolCase::isTheSameCmd(a, b, withNo);
 }

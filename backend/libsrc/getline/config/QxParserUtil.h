@@ -45,6 +45,10 @@ class VTYCONF_API QxParserUtil {
   static bool getCmdInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
                          int& errorLine);
   static bool hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints);
+  // vtyconf's own: hintCommand with every level asked on its own (the
+  // specified one stops listing once a level has no next word).
+  static bool hintCommandEachLevel(std::string& configuration, const std::string& line,
+                                   std::vector<ConfigHint>& hints);
 
   // Searches of a configuration file; the result is appended to `result`.
   static void GetCmdsFromConfig(const std::string& configFile, std::string& result, const std::string& key,

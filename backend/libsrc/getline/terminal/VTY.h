@@ -80,6 +80,9 @@ class VTYCONF_API VTY : public std::stringstream {
   bool hintCommand(std::string& configuration, std::string& line, std::vector<ConfigHint>& hints);
   // Asks every level for the next words; consumes the levels (reset after).
   void getNextCmdWords(std::string& line, std::vector<ConfigHint>& hints);
+  // vtyconf's own: as hintCommand, each level asked on its own, so that a
+  // level without an answer does not silence the levels above it.
+  bool hintCommandEachLevel(std::string& configuration, const std::string& line, std::vector<ConfigHint>& hints);
 
   // vtyconf additions for callers that want to see the state.
   VTYModeType currentMode() const { return mModeStack.empty() ? VIEW_MODE : mModeStack.back(); }

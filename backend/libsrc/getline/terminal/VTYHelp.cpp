@@ -233,4 +233,28 @@ void VTYModel::nextWords(const std::string& line, std::vector<ConfigHint>& hints
   }
 }
 
+// vtyconf's own: as nextWords, but each level is asked on its own, with the
+// stream emptied before it, so a level that knows no next word does not hide
+// the levels above it.
+void VTYModel::nextWordsEachLevel(const std::string& line, std::vector<ConfigHint>& hints) {
+  const size_t count = mLevels->texts.size();
+  for (size_t pass = 0; pass <= count; ++pass) {
+    mOwner->mOutput.str(std::string());
+    mOwner->mOutput.clear();
+    hookLine(line);
+    ParserTreeNode* asked = mLevels->nodes.empty() ? nullptr : mLevels->nodes.back();
+    const std::string text = mOwner->mOutput.str();
+    if (!text.empty() && text.find("Unrecognized command") == std::string::npos &&
+        text.find("Invalid input") == std::string::npos) {
+      hints.push_back({gPromptSuffixes()[asked], text});
+    }
+    if (!mLevels->nodes.empty()) mLevels->nodes.pop_back();
+    if (!mLevels->commands.empty()) mLevels->commands.pop_back();
+    if (!mLevels->texts.empty()) mLevels->texts.pop_back();
+    if (mCurrentCommand) mCurrentCommand->clearVisitedOption();
+  }
+  mOwner->mOutput.str(std::string());
+  mOwner->mOutput.clear();
+}
+
 }  // namespace qxparser

@@ -13,6 +13,13 @@ std::string VTY::innermostLevelText() const {
   return model->mLevels->texts.back();
 }
 
+bool VTY::hintCommandEachLevel(std::string& configuration, const std::string& line, std::vector<ConfigHint>& hints) {
+  findMajorCommand(configuration);
+  if (VTYModel* model = currentModel()) model->nextWordsEachLevel(line + "?", hints);
+  if (VTYModel* model = currentModel()) model->resetModel();
+  return !hints.empty();
+}
+
 void VTY::setCliMode(bool cliMode) {
   mCliMode = cliMode;
   for (auto& entry : mModels) {

@@ -31,6 +31,7 @@ class VTYModel {
   void levelText(std::string& text, bool allLevels) const;
   void hookLine(const std::string& line);
   void nextWords(const std::string& line, std::vector<ConfigHint>& hints);
+  void nextWordsEachLevel(const std::string& line, std::vector<ConfigHint>& hints);
 
   struct Levels {
     std::deque<ParserTreeNode*> nodes;
