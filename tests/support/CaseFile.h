@@ -5,7 +5,8 @@
 // written (trailing blanks and tabs count; empty lines in front of a "---"
 // or "===" line separate and belong to no section). Lines starting with "#" before a
 // case's first section are comments. A section "--- key: value" holds the
-// value alone (no line end).
+// value alone, with no line end and with the escapes \n \r \t \\ and
+// \xHH read as in C.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,6 +18,25 @@
 #include <vector>
 
 namespace testsupport {
+
+// `text` with the escapes \n \r \t \\ and \xHH replaced by their characters.
+inline std::string unescaped(const std::string& text) {
+  std::string out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\\' || i + 1 == text.size()) {
+      out += text[i];
+      continue;
+    }
+    const char c = text[++i];
+    if (c == 'x' && i + 2 < text.size()) {
+      out += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
+      i += 2;
+    } else {
+      out += c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c;
+    }
+  }
+  return out;
+}
 
 struct Case {
   std::string name;
@@ -70,7 +90,7 @@ inline std::vector<Case> readCases(const std::string& relative) {
       const size_t colon = key.find(": ");
       std::string value;
       if (colon != std::string::npos) {
-        value = key.substr(colon + 2);
+        value = unescaped(key.substr(colon + 2));
         key = key.substr(0, colon);
       }
       cases.back().sections[key] = value;

@@ -8,26 +8,6 @@ using translatortest::expectMessages;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-
-TEST(DRTranslatorExpression, RefusesWordsInPlacesTheLookBackForbids) {
-  expectMessages({
-      {"#a = #b\n#c = #d;", "There is an illegal expression on/before code line 2.\r\n"},
-      {"x #a;", "There is an illegal expression on/before code line 1.\r\n"},
-      {"$a = $b\nif (1) {}", "There is an illegal expression on/before code line 2.\r\n"},
-      {"#a = #b;\n\n= print \"x\";", "There is an illegal expression on/before code line 3.\r\n"},
-      {"if ((#a)) {}", "\"(\" is an illegal method in expression on code line 1.\r\n"},
-      {"while (#a) {}", "\"while\" is an illegal method in expression on code line 1.\r\n"},
-      {"{\n} elsif (1) {}", "\"elsif\" is an illegal method in expression on code line 2.\r\n"},
-  });
-}
-
-TEST(DRTranslatorExpression, AcceptsWordsBehindStatementEndsAndOperators) {
-  EXPECT_EQ(validBody("#a = #b;"), "@a = @b;");
-  EXPECT_EQ(validBody("(1);"), "(1);");
-  EXPECT_EQ(validBody("{#a = (#b);}"), "{@a = (@b);}");
-  EXPECT_EQ(validBody("if (1) {print \"y\";}"), "if (1) {print OUTFILE \"y\";}");
-}
-
 TEST(DRTranslatorExpression, ReadsArgumentListsCuttingAtEveryComma) {
   struct Row {
     std::string text;
@@ -100,23 +80,6 @@ TEST(DRTranslatorExpression, IntendedQuirkAdjacentGroupKeepsItsBrackets) {
   EXPECT_EQ(q.pattern, "\"([^ \\t\\r\\n]*) ([^ \\t\\r\\n]*)\"");
 }
 
-TEST(DRTranslatorExpression, TurnsSetExpressionsIntoCallsFromLeftToRight) {
-  struct Row {
-    std::string script;
-    std::string body;
-  };
-  const Row rows[] = {
-      {"#a = #b + #c;", "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@a = @temp1;"},
-      // The line ends around the operator go with the expression.
-      {"#A = #B\n +\n #C;", "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@a = @temp1;"},
-      {"#a = #b + #c + #d;",
-       "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@temp1 = combineLines(\\@temp1, \\@d);\r\n"
-       "@a = @temp1;"},
-      {"#t = #temp1 + #b;", "@temp1 = combineLines(\\@temp1, \\@b);\r\n@t = @temp1;"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(validBody(row.script), row.body) << row.script;
-}
-
 TEST(DRTranslatorExpression, IntendedQuirkSubtractionWritesNoBlankBeforeEquals) {
   EXPECT_EQ(validBody("#a = #b - #c;"), "@temp1 = ();\r\n@temp1 = removeLines(\\@b, \\@c);\r\n@a= @temp1;");
   EXPECT_EQ(validBody("#a = #b + #c - #d;"),
@@ -128,26 +91,6 @@ TEST(DRTranslatorExpression, PlusAtTheEndOfTheTextHasAnEmptyRightOperand) {
   auto t = translate("#a = #b+");
   EXPECT_EQ(t.message, "");
   EXPECT_EQ(t.body, "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\);\r\n@a = @temp1");
-}
-
-TEST(DRTranslatorExpression, RefusesBadOperandsAndTargets) {
-  expectMessages({
-      {"#a = $b + #c;", "\"@b\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = #b + @UI_NATList;", "\"@UI_NATList\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = #b -\n\n@UI_NATList;", "\"@UI_NATList\" is an illegal variable in expression on code line 3.\r\n"},
-      {"#a = @UI_NATList - #b;", "\"@UI_NATList\" is an illegal variable in expression on code line 1.\r\n"},
-      // Only subtraction lower-cases its left operand (here quoted text).
-      {"#a = isempty(#b) + #c;", "\"isEmpty(\\#temp3)\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = isempty(#b) - #c;", "\"isempty(\\#temp3)\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = (#b + #c);", "An illegal expression on code line 1.\r\n"},
-      // "==" is no word that a variable may follow.
-      {"#x == #a + #b;", "There is an illegal expression on/before code line 1.\r\n"},
-      {"x = #b + #c;", "An illegal expression on code line 1.\r\n"},
-      // Nothing to the left: refused rather than read outside the list.
-      {"+ #c;", "An illegal expression on code line 1.\r\n"},
-      {"\n - #c;", "An illegal expression on code line 2.\r\n"},
-      {"#b + #c;", "An illegal expression on code line 1.\r\n"},
-  });
 }
 
 TEST(DRTranslatorExpression, OperatorAcceptsAnyWordThatStartsWithEquals) {

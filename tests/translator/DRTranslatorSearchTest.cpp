@@ -57,46 +57,6 @@ TEST(DRTranslatorSearch, LineSearchWithGuardLoopAndGroupComesOutExactly) {
   EXPECT_EQ(nonEmptyLines(body), expected);
 }
 
-TEST(DRTranslatorSearch, TranslatesEachSearchStatement) {
-  struct Row {
-    std::string script;
-    std::string body;
-  };
-  const Row rows[] = {
-      {"#a = search_line(\"x\", all);",
-       "@matchResults = (\"\") x 0;\r\n\n@a = search_line(\"x\",\"all\",\"\",\"\");\r\n;"},
-      // Flag, set and name are lower-cased; a bare set gets no guard.
-      {"x;\n#a = search_line(\"ip ($v)\", FIRST, Bare, NaMe);",
-       "x;\n@matchResults = (\"\") x 1;\r\n\n@a = search_line(\"ip ([^ \\t\\r\\n]*)\",\"first\",bare,\"name\");\r\n"
-       "@v = split (/ /, $matchResults[0]);\r\n;"},
-      {"x;\n#a = search_line(\"Keep\", all, @UI_NATList, \"Quoted\");",
-       "x;\n\n\nif (@ui_natlist)\n{\n@matchResults = (\"\") x 0;\r\n\n"
-       "@a = search_line(\"Keep\",\"all\",\\@ui_natlist,\"quoted\");\r\n}\n;"},
-      {"#r = search_paragraph_begin(\"router ($id)\", first, #Scope);",
-       "\n\nif (@scope)\n{\n@matchResultsBegin = (\"\") x 1;\r\n\n"
-       "@r = search_paragraph_begin(\"router ([^ \\t\\r\\n]*)\",\"first\",\\@scope,\"\");\r\n"
-       "@id = split (/ /, $matchResultsBegin[0]);\r\n}\n;"},
-      {"#p = search_paragraph_between(\"a $u $w\", \"b ($e)\", continuous);",
-       "@matchResultsBegin = (\"\") x 0;\r\n\n@matchResultsEnd = (\"\") x 1;\r\n\n"
-       "$tempSize = @u;\nif($tempSize != @u)\n{}\nelsif($tempSize != @w)\n{}\nelse\n{\n"
-       "@searchset = ();\r\n@oneset = ();\r\nfor($index = 0; $index <@u; $index++)\n{\n"
-       "@oneset = search_paragraph_between(\"a $u[$index] $w[$index]\",\"b ([^ \\t\\r\\n]*)\",\"continuous\",\"\",\"\");\r\n"
-       "@searchset = combineLines(\\@searchset, \\@oneset);\r\n}\r\n\n"
-       "@p = @searchset;\r\n}\n\n@e = split (/ /, $matchResultsEnd[0]);\r\n;"},
-      // Variables of the end and middle patterns take element 0 and make no loop.
-      {"#p = search_paragraph(\"interface ($name)\", \"!\", \"ip ($ip) $m\", all);",
-       "@matchResultsBegin = (\"\") x 1;\r\n\n@matchResultsEnd = (\"\") x 0;\r\n\n"
-       "@matchResultsMiddle = (\"\") x 1;\r\n\n"
-       "@p = search_paragraph(\"interface ([^ \\t\\r\\n]*)\",\"!\",\"ip ([^ \\t\\r\\n]*) $m[0]\",\"all\",\"\",\"\");\r\n"
-       "@name = split (/ /, $matchResultsBegin[0]);\r\n@ip = split (/ /, $matchResultsMiddle[0]);\r\n;"},
-      // With no target the call stands as a statement; group lines follow.
-      {"x;\nsearch_line(\"($g)\", all);\n",
-       "x;\n@matchResults = (\"\") x 1;\r\n\nsearch_line(\"([^ \\t\\r\\n]*)\",\"all\",\"\",\"\");\r\n"
-       "@g = split (/ /, $matchResults[0]);\r\n;\n"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(validBody(row.script), row.body) << row.script;
-}
-
 TEST(DRTranslatorSearch, RepeatedVariableIsTestedOncePerOccurrence) {
   const std::string body = validBody("#a = search_line(\"$v x $v\", all);");
   EXPECT_NE(body.find("$tempSize = @v;\nif($tempSize != @v)\n{}\nelsif($tempSize != @v)\n{}\nelse\n{\n"),
