@@ -18,16 +18,6 @@ void expectRows(const std::vector<TextRow>& rows, std::string (*op)(const std::s
   for (const TextRow& row : rows) EXPECT_EQ(op(row.input), row.expected) << "\"" << row.input << "\"";
 }
 
-TEST(CommandWordsTest, CleanLine) {
-  expectRows({{"  a   b", "a b \n"}, {"", "\n"}, {"   \r\n", "\n"}, {"a\tb\r\nc", "a b c \n"}},
-             ParserToolCase::cleanLine);
-}
-
-TEST(CommandWordsTest, FirstKey) {
-  expectRows({{"   ", ""}, {"", ""}, {"word", "word"}, {"\t ip route", "ip"}, {"\r\nx y", "x"}},
-             ParserToolCase::getFirstKey);
-}
-
 TEST(CommandWordsTest, KeysAndVariables) {
   const std::string text = "ip address <1.1.1.1> <255.0.0.0>";
   EXPECT_EQ(ParserToolCase::getKeyStr(text), "ipaddress");
@@ -144,17 +134,6 @@ TEST(StrInCmdTest, WholeWordPrefix) {
 TEST(StrInCmdTest, PrefixWordBoundaryNeedNotBeInTextIntended) {
   EXPECT_TRUE(ParserToolCase::strInCmd("ab", "a b"));
   EXPECT_TRUE(ParserToolCase::strInCmd("ipaccess-list x", "ip access-list"));
-}
-
-TEST(String2CutSpaceTest, Tails) {
-  expectRows({{"   ", ""},
-              {"", ""},
-              {"\r\r", ""},
-              {"abc  ", "abc"},
-              {"abc\r\r", "abc"},
-              {"a b", "a b"},
-              {" abc", " abc"}},
-             ParserToolCase::string2CutSpace);
 }
 
 TEST(String2CutSpaceTest, MixedTailLosesOnlyItsLastRunIntended) {
