@@ -105,6 +105,12 @@ inline std::vector<Case> readCases(const std::string& relative) {
   return cases;
 }
 
+// Where the case has a section `key`, `actual` must equal it.
+inline void expectSection(const Case& c, const std::string& key, const std::string& actual) {
+  if (!c.has(key)) return;
+  EXPECT_EQ(actual, c[key]) << c.where() << " [" << key << "]";
+}
+
 // The whole of tests/data/<relative>; empty when it cannot be read.
 inline std::string readDataFile(const std::string& relative) {
   std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/" + relative, std::ios::binary);
