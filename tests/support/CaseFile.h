@@ -5,7 +5,7 @@
 // written (trailing blanks and tabs count; empty lines in front of a "---"
 // or "===" line separate and belong to no section). Lines starting with "#" before a
 // case's first section are comments. A section "--- key: value" holds the
-// value alone, with no line end and with the escapes \n \r \t \\ and
+// value alone, with no line end and with the escapes \n \r \t \a \b \\ and
 // \xHH read as in C.
 #pragma once
 
@@ -19,7 +19,7 @@
 
 namespace testsupport {
 
-// `text` with the escapes \n \r \t \\ and \xHH replaced by their characters.
+// `text` with the escapes \n \r \t \a \b \\ and \xHH replaced by their characters.
 inline std::string unescaped(const std::string& text) {
   std::string out;
   for (size_t i = 0; i < text.size(); ++i) {
@@ -32,7 +32,7 @@ inline std::string unescaped(const std::string& text) {
       out += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
       i += 2;
     } else {
-      out += c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c;
+      out += c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c == 'b' ? '\b' : c == 'a' ? '\a' : c;
     }
   }
   return out;
