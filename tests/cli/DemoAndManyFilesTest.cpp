@@ -58,11 +58,4 @@ TEST_F(ManyFilesProgramTest, ManyFilesGiveTheSameOutputInWorkersAsInOneProcess) 
   EXPECT_LT(first, second) << "results come in the order of the arguments";
 }
 
-TEST_F(ManyFilesProgramTest, AMissingFileAmongManyIsReportedAndTheOthersAreRead) {
-  const auto run = runCli("parse '" + kExamples + "/branch-router.cfg' /nonexistent.cfg");
-  EXPECT_EQ(run.exitCode, 2);
-  EXPECT_NE(run.err.find("/nonexistent.cfg: no such file or folder"), std::string::npos) << run.err;
-  EXPECT_NE(run.out.find("hostname BR1-RTR"), std::string::npos);
-}
-
 }  // namespace

@@ -239,10 +239,4 @@ TEST_F(ProgramTest, HintJsonGivesWordsWithTheirHelp) {
      "words": [{"word": "neighbor", "help": "specify a neighbor router"}]}])"));
 }
 
-TEST_F(ProgramTest, HintOnAMissingFileIsAnInputError) {
-  ProgramRun run = runCli("--resources '" + kFixture + "' hint /nonexistent/x.cfg n");
-  EXPECT_EQ(run.exitCode, 2);
-  EXPECT_NE(run.err.find("vtyconf: "), std::string::npos);
-}
-
 }  // namespace
