@@ -82,9 +82,12 @@ TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
     expectLines(c, "stdout lacks", run.out, false, dir);
     expectLines(c, "stderr has", run.err, true, dir);
     expectLines(c, "stderr lacks", run.err, false, dir);
-    for (const auto& section : c.sections) {
-      const std::string& key = section.first;
-      EXPECT_TRUE(key.compare(0, 5, "file ") == 0 || known.count(key) != 0) << c.where() << ": section " << key;
+    for (const auto& [key, text] : c.sections) {
+      if (key.compare(0, 8, "written ") == 0) {
+        EXPECT_EQ(testsupport::readFile(dir + key.substr(8)), text) << c.where() << " [" << key << "]";
+      } else {
+        EXPECT_TRUE(key.compare(0, 5, "file ") == 0 || known.count(key) != 0) << c.where() << ": section " << key;
+      }
     }
   }
 }
