@@ -398,11 +398,13 @@ TEST_F(GrammarIos, HeldOutConfigurationsAreReadWholly) {
 }
 
 // What a merge and a rollback make of small real-world changes: the flags,
-// order templates and overwrite marks of the shipped grammar decide this.
+// order templates and overwrite marks of the shipped grammar decide this. A
+// command that the merge adds has no line number, so its template alone
+// decides where it stands among the commands that were there.
 TEST_F(GrammarIos, MergeAndRollbackKeepTheDevicesMeaning) {
   for (const testsupport::Case& c : testsupport::readCases("grammar_ios/merge_rollback.txt")) {
     EXPECT_EQ(QxParserUtil::mergeConfigCmds(c["changes"], c["config"]), c["merged"]) << c.where();
-    EXPECT_EQ(QxParserUtil::fallbackConfigCmds(c["changes"], c["config"], 0), c["rollback"]) << c.where();
+    testsupport::expectSection(c, "rollback", QxParserUtil::fallbackConfigCmds(c["changes"], c["config"], 0));
   }
 }
 
