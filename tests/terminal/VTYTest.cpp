@@ -51,34 +51,6 @@ class VTYTest : public testsupport::TerminalFixture {
   }
 };
 
-TEST_F(VTYTest, ModesChangeByTheRebuiltText) {
-  VTY vty("R1", false);
-  EXPECT_EQ(prompt(vty), "R1>");
-  EXPECT_TRUE(vty.parse("enable\n", true, nullptr));
-  EXPECT_EQ(vty.currentMode(), EXEC_MODE);
-  EXPECT_EQ(prompt(vty), "R1#");
-  EXPECT_TRUE(vty.parse("configure terminal \n", true, nullptr));
-  EXPECT_EQ(vty.currentMode(), CONFIG_MODE);
-  EXPECT_EQ(prompt(vty), "R1(config)#");
-  EXPECT_EQ(output(vty), "Enter configuration commands, one per line.\n");
-  EXPECT_EQ(output(vty), "") << "the output is taken once";
-  vty.reset();
-  EXPECT_EQ(vty.currentMode(), VIEW_MODE);
-  EXPECT_EQ(prompt(vty), "R1>");
-  EXPECT_EQ(vty.levelCount(), 1u);
-}
-
-TEST_F(VTYTest, AbbreviationsOnlyInCliMode) {
-  VTY cli("R1", true);
-  EXPECT_TRUE(cli.parse("en", true, nullptr));
-  EXPECT_TRUE(cli.parse("conf t", true, nullptr));
-  EXPECT_EQ(cli.currentMode(), CONFIG_MODE);
-  VTY replay("R1", false);
-  EXPECT_TRUE(replay.parse("enable", true, nullptr));
-  EXPECT_FALSE(replay.parse("conf t", true, nullptr));
-  EXPECT_EQ(replay.currentMode(), EXEC_MODE);
-}
-
 TEST_F(VTYTest, ReplayClimbsLevelsAndLinksParents) {
   auto vty = configTerminal();
   std::vector<CiscoCommandLine*> records;
@@ -141,24 +113,6 @@ TEST_F(VTYTest, RefusedLineRestoresStateAndReplayGoesOn) {
             "2 L1 [bogus words] {interface loopback 0 |} nodes=0\n"
             "3 L1 [shutdown ] {interface loopback 0 |} nodes=2\n");
   QxParserUtil::deleteCommands(records);
-}
-
-TEST_F(VTYTest, CliModeErrorsAndExitEnd) {
-  auto vty = configTerminal(true);
-  EXPECT_FALSE(vty->parse("frobnicate", true, nullptr));
-  EXPECT_EQ(output(*vty), "% Invalid input detected at ^\n");
-  EXPECT_EQ(vty->lastError(), "% Invalid input detected at ^");
-  EXPECT_FALSE(vty->parse("hostname", true, nullptr));
-  EXPECT_EQ(output(*vty), "% Incomplete command.\n");
-  EXPECT_TRUE(vty->parse("int gi0/1", true, nullptr));
-  EXPECT_EQ(prompt(*vty), "R1(config-if)#");
-  EXPECT_TRUE(vty->parse("exit", true, nullptr));
-  EXPECT_EQ(prompt(*vty), "R1(config)#");
-  EXPECT_TRUE(vty->parse("end", true, nullptr));
-  EXPECT_EQ(vty->currentMode(), EXEC_MODE);
-  VTY view("R1", true);
-  EXPECT_TRUE(view.parse("exit", true, nullptr)) << "exit in view mode changes nothing";
-  EXPECT_EQ(view.currentMode(), VIEW_MODE);
 }
 
 TEST_F(VTYTest, NoFormsStopWhereTheGrammarAllows) {
