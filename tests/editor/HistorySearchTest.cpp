@@ -168,53 +168,6 @@ TEST_F(SearchTest, CtrlRStartsAndFirstCharacterFindsNewestMatch) {
   EXPECT_EQ(ed->getCursor(), 5);
 }
 
-struct SearchCase {
-  const char* name;
-  std::vector<const char*> history;
-  std::string keys;
-  std::string line;
-  bool searching;
-  bool beeped;
-};
-
-TEST_F(SearchTest, SearchTable) {
-  const std::vector<const char*> alpha = {"alpha 1", "x", "alpha 2", "alpha 3"};
-  const std::vector<const char*> cisco = {"show version", "show running-config", "interface gi0/1"};
-  const std::vector<SearchCase> cases = {
-      {"hit skips lines without the text", cisco, "\x12" "run", "show running-config", true, false},
-      {"miss beeps and empties the line", cisco, "\x12" "zzz", "", true, true},
-      {"Ctrl-R again goes to an older hit", alpha, "\x12" "alpha\x12", "alpha 2", true, false},
-      {"past the oldest hit beeps", alpha, "\x12" "alpha\x12\x12\x12", "", true, true},
-      {"Ctrl-S walks back toward newer lines", alpha, "\x12" "alpha\x12\x12\x13", "alpha 2", true,
-       false},
-      {"Ctrl-S stops before the newest slot", alpha, "\x12" "alpha\x12\x13\x13", "", true, true},
-      {"Ctrl-H takes a character back", cisco, "\x12" "runx\x08", "show running-config", true,
-       true},
-      {"Ctrl-R with an empty search beeps", cisco, "\x12\x12", "", true, true},
-      {"another key ends the search and acts", cisco, "\x12" "ver\x05" "!", "show version!", false,
-       false},
-      {"Ctrl-A ends the search, then text goes in", alpha, "\x12" "2\x01" "#", "#alpha 2", false,
-       false},
-  };
-  for (const SearchCase& c : cases) {
-    ed = std::make_unique<GetLineData>();
-    ed->Gl_setconsole(1);
-    start();
-    for (const char* l : c.history) ed->Gl_histadd(l);
-    std::string screen = feed(c.keys);
-    EXPECT_EQ(line(), c.line) << c.name;
-    EXPECT_EQ(ed->isSearching(), c.searching) << c.name;
-    EXPECT_EQ(screen.find('\a') != std::string::npos, c.beeped) << c.name;
-  }
-}
-
-TEST_F(SearchTest, EnterAfterASearchReturnsTheLineFound) {
-  feed("\x12" "gi0\r");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "interface gi0/1\n");
-  EXPECT_FALSE(ed->isSearching());
-}
-
 TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
   feed("\x12" "ver");
   ASSERT_EQ(ed->getCursor(), 5);

@@ -16,8 +16,14 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
   for (const testsupport::Case& c : testsupport::readCases("editor/keys.txt")) {
     SetUp();
     start(c.get("prompt", "R#"), std::stoi(c.get("width", "80")));
+    for (const std::string& entry : testsupport::splitFields(c.get("history"), '|')) {
+      if (!entry.empty()) ed->Gl_histadd(entry.c_str());
+    }
     feed(c.get("before"));
-    testsupport::expectSection(c, "screen", feed(c["keys"], std::stoi(c.get("mode", "0"))));
+    const std::string screen = feed(c["keys"], std::stoi(c.get("mode", "0")));
+    testsupport::expectSection(c, "screen", screen);
+    testsupport::expectSection(c, "beeped", screen.find('\a') != std::string::npos ? "yes" : "no");
+    testsupport::expectSection(c, "searching", ed->isSearching() ? "yes" : "no");
     testsupport::expectSection(c, "line", line());
     testsupport::expectSection(c, "cursor", std::to_string(ed->getCursor()));
     testsupport::expectSection(c, "returned", last == nullptr ? "(null)" : last);
