@@ -35,6 +35,15 @@ TEST(ParserToolCaseTable, CallsGiveTheirRowsResult) {
       {"isAnyValidInput", twoWords(ParserToolCase::isAnyValidInput)},
       {"isValidNumber", twoWords(ParserToolCase::isValidNumber)},
       {"partialMatched", twoWords(ParserToolCase::partialMatched)},
+      {"strInCmd", twoWords(ParserToolCase::strInCmd)},
+      {"isTheSameCmd",
+       [](const Args& a) { return yesNo(ParserToolCase::isTheSameCmd(a.at(0), a.at(1), a.at(2) == "true")); }},
+      {"removeMore",
+       [](const Args& a) {
+         std::string text = a.at(0);
+         ParserToolCase::removeMore(text);
+         return text;
+       }},
   };
   size_t rows = 0;
   for (const std::string& line : testsupport::dataLines(testsupport::readDataFile("toolkit/calls.tsv"))) {
