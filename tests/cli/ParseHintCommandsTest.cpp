@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"

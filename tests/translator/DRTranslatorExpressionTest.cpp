@@ -4,7 +4,6 @@
 #include "TranslatorTestSupport.h"
 
 using translatortest::translate;
-using translatortest::expectMessages;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 

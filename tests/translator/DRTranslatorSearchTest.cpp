@@ -1,11 +1,9 @@
 // The four search statements: their calls, guards, loops and group lines.
 #include <gtest/gtest.h>
 
-#include <sstream>
 
 #include "TranslatorTestSupport.h"
 
-using translatortest::translate;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
