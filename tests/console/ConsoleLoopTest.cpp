@@ -76,28 +76,6 @@ TEST_F(ConsoleLoopTest, NullDeltaIsAcceptedInConfigurationMode) {
   EXPECT_STREQ(vtysh_prompt(vty_.get()), "R1(config)#");
 }
 
-TEST_F(ConsoleLoopTest, ConsoleArrowCodesRecallHistory) {
-  type("enable\rconf t\rend\r");
-  const struct {
-    const char* keys;
-    const char* lineAfter;
-  } rows[] = {
-      {"\xb8", "end"},                                       // previous
-      {"\xb8", "conf t"}, {"\xb8", "enable"}, {"\xb8", ""},  // one step past the oldest: the free slot
-      {"\xb8", ""},                                          // and no further, with a beep
-      {"\xb0", "enable"},                                    // next
-      {"\xb0", "conf t"}, {"\xb0", "end"},    {"\xb0", ""},  // the newest slot is the empty line
-      {"\xb8", "end"},    {"\xb8", "conf t"},
-  };
-  for (const auto& row : rows) {
-    type(row.keys);
-    EXPECT_STREQ(editor_->getLine(), row.lineAfter);
-  }
-  EXPECT_EQ(type("\r"), "\nEnter configuration commands, one per line.\nR1(config)#");
-  EXPECT_EQ(vty_->currentMode(), qxparser::CONFIG_MODE);
-  EXPECT_EQ(type("\xb8"), "conf t") << "the recalled line is drawn after the prompt";
-}
-
 TEST_F(ConsoleLoopTest, CtrlDOnAnEmptyLineEndsItWithoutRunningIt) {
   EXPECT_EQ(type("\x04"), "\n");
   EXPECT_FALSE(editor_->getNewLine());
