@@ -65,21 +65,6 @@ TEST_F(VTYTest, NoFormsStopWhereTheGrammarAllows) {
   EXPECT_TRUE(vty->parse("no ip", true, nullptr)) << "without a record nothing holds a no form back";
 }
 
-TEST_F(VTYTest, BannerTextLinesPassWithoutTheGrammar) {
-  auto vty = configTerminal();
-  std::vector<CiscoCommandLine*> records;
-  std::string error;
-  int errorLine = 0;
-  vty->getComLineInfo("banner motd ^C\nWelcome to R1\nauthorised use only\n^C\nhostname R2\n", records, error,
-                      errorLine, true);
-  EXPECT_EQ(errorLine, 0) << error;
-  ASSERT_EQ(records.size(), 5u);
-  EXPECT_EQ(records[1]->getOriginalCmd(), "Welcome to R1\n");
-  EXPECT_EQ(records[2]->getOriginalCmd(), "authorised use only\n");
-  EXPECT_EQ(records[4]->getOriginalCmd(), "hostname R2 \n");
-  QxParserUtil::deleteCommands(records);
-}
-
 TEST_F(VTYTest, OptionGroupWithinOneLine) {
   auto vty = configTerminal();
   CiscoCommandLine record;
