@@ -152,15 +152,6 @@ TEST_F(GrammarIos, CertificateQuitStaysInPlaceAndIsNoSetting) {
             " certificate ca 02 \n quit \n!\n");
 }
 
-TEST_F(GrammarIos, ModeChangingAndFlaggedCommandsKeepTheirMeaning) {
-  std::vector<CiscoCommandLine*> records = read("hostname R1\ninterface GigabitEthernet0/1\n description a b\n", nullptr);
-  ASSERT_EQ(records.size(), 3u);
-  EXPECT_EQ(records[0]->getFlag(), qxparser::CMD_OVERWRITE);  // one host name
-  EXPECT_TRUE(records[1]->hasFlags(qxparser::CMDBIT_OPENS_MODE));
-  EXPECT_EQ(records[2]->getParentCommand(), records[1]);
-  QxParserUtil::deleteCommands(records);
-}
-
 // The help listing at the root of a mode: `steps` of the way from view mode
 // (0 view, 1 exec after "enable", 2 configuration), then the opening lines.
 std::string helpAt(int steps, const std::vector<std::string>& opening) {
@@ -306,16 +297,6 @@ TEST_F(GrammarIos, CorpusRefusesOnlyTheDocumentedLines) {
   EXPECT_LE(share, kRecordedRefusedShare) << refusedLines << " of " << lines << " lines refused";
 }
 
-TEST_F(GrammarIos, ExclusionsDoNotExplainOrdinaryCommands) {
-  const char* const lines[] = {"hostname R1", "interface GigabitEthernet0/0", "ip address 10.0.0.1 255.255.255.0",
-                               "access-list 10 permit any", "crypto pki certificate chain TP", "description uplink"};
-  for (const char* line : lines) EXPECT_EQ(exclusionReason("any.cfg", line), nullptr) << line;
-  EXPECT_NE(exclusionReason("any.cfg", "3082032E 30820216 A0030201"), nullptr);
-  EXPECT_NE(exclusionReason("any.cfg", "*****^C"), nullptr);
-  EXPECT_EQ(exclusionReason("any.cfg", "^C"), nullptr);
-  EXPECT_NE(exclusionReason("any.cfg", "R1#show run"), nullptr);
-}
-
 std::string trimmed(const std::string& text) {
   std::string out;
   for (char c : text) {
@@ -416,21 +397,6 @@ TEST_F(GrammarIos, SettingsHeldSideBySideCompareEmptyWithThemselves) {
   for (const testsupport::Case& c : testsupport::readCases("grammar_ios/self_compare.txt")) {
     EXPECT_EQ(QxParserUtil::fallbackConfigCmds(c["config"], c["config"], 1), "") << c.where();
   }
-}
-
-// An OSPFv3 interface setting of one kind replaces the old one; the ND prefix
-// of another value stands beside the first.
-TEST_F(GrammarIos, OneValueIpv6InterfaceSettingsReplaceAndPrefixesAdd) {
-  const std::string config =
-      "interface FastEthernet0/1\n ospfv3 encryption null\n ipv6 nd prefix fd01:ab01::/64 300 300\n";
-  const std::string merged = QxParserUtil::mergeConfigCmds(
-      "interface FastEthernet0/1\n ospfv3 encryption ipsec spi 256 esp null sha1 0 1234\n"
-      " ipv6 nd prefix fd01:ab02::/64\n",
-      config);
-  EXPECT_EQ(merged.find("ospfv3 encryption null"), std::string::npos) << merged;
-  EXPECT_NE(merged.find("ospfv3 encryption ipsec spi 256"), std::string::npos) << merged;
-  EXPECT_NE(merged.find("ipv6 nd prefix fd01:ab01::/64 300 300"), std::string::npos) << merged;
-  EXPECT_NE(merged.find("ipv6 nd prefix fd01:ab02::/64"), std::string::npos) << merged;
 }
 
 // The definition files are generated: the committed files must be what the
