@@ -142,4 +142,11 @@ inline std::vector<std::string> splitFields(const std::string& line, char separa
   return fields;
 }
 
+// The fields joined by `separator`.
+inline std::string joinFields(const std::vector<std::string>& fields, char separator = '\t') {
+  std::string out;
+  for (size_t i = 0; i < fields.size(); ++i) out += (i > 0 ? std::string(1, separator) : "") + fields[i];
+  return out;
+}
+
 }  // namespace testsupport

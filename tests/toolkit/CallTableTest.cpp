@@ -32,11 +32,7 @@ Call oneText(std::string (*op)(const std::string&)) {
   return {1, [op](const Args& a) { return op(a.at(0)); }};
 }
 
-std::string joined(const Args& words) {
-  std::string out;
-  for (size_t i = 0; i < words.size(); ++i) out += (i > 0 ? "\t" : "") + words[i];
-  return out;
-}
+std::string joined(const Args& words) { return testsupport::joinFields(words); }
 
 TEST(ParserToolCaseTable, CallsGiveTheirRowsResult) {
   const std::map<std::string, Call> calls = {

@@ -7,37 +7,6 @@ using translatortest::translate;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-TEST(DRTranslatorExpression, ReadsArgumentListsCuttingAtEveryComma) {
-  struct Row {
-    std::string text;
-    V arguments;
-  };
-  const Row rows[] = {
-      {"(a, b ,c)x", {"a", "b", "c"}},
-      {"  ()x", {"\"\""}},
-      {"(\"a,b\", all)x", {"\"a", "b\"", "all"}},
-      {"(f(x), (y))x", {"f(x)", "(y)"}},
-      {"( \r\n A \t)x", {"A"}},
-      {"(a,)x", {"a", "\"\""}},
-      {"($b ! + - c)x", {"@b ! + - c"}},
-  };
-  for (const Row& row : rows) {
-    std::string message;
-    EXPECT_EQ(DRTranslatorTestAccess::getFunVariables(row.text, &message), row.arguments) << row.text;
-    EXPECT_EQ(message, "") << row.text;
-  }
-  std::string message;
-  DRTranslatorTestAccess::getFunVariables("a)", &message);
-  EXPECT_EQ(message, "Function lacks left bracket on code line 1.\r\n");
-  message.clear();
-  DRTranslatorTestAccess::getFunVariables("(a,\nb", &message);
-  EXPECT_EQ(message, "Function lacks right bracket on code line 2.\r\n");
-  message.clear();
-  // A closing bracket that is the last character counts as missing.
-  DRTranslatorTestAccess::getFunVariables("(a)", &message);
-  EXPECT_EQ(message, "Function lacks right bracket on code line 1.\r\n");
-}
-
 TEST(DRTranslatorExpression, RewritesPatternsIntoPerlPatternsWithInterpolatedVariables) {
   struct Row {
     std::string pattern;

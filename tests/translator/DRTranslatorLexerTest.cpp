@@ -7,27 +7,6 @@ using translatortest::translate;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-TEST(DRTranslatorLexer, SplitsTextIntoDelimiterBlankAndPlainWords) {
-  struct Row {
-    std::string text;
-    V words;
-  };
-  const Row rows[] = {
-      {"ab  cd;", {"ab", "  ", "cd", ";"}},
-      {"#a=#b;", {"#a=#b", ";"}},
-      {"f(a,b)", {"f", "(", "a", ",", "b", ")"}},
-      {"{}[]!'\"\\+-", {"{", "}", "[", "]", "!", "'", "\"", "\\", "+", "-"}},
-      {"a\tb\r\nc", {"a", "\t", "b", "\r", "\n", "c"}},
-      {"$a @a $;", {"@a", " ", "@a", " ", "@", ";"}},
-      {"x$y$", {"x@y@"}},
-      {"a<=b.c/d*e:f", {"a<=b.c/d*e:f"}},
-      {"word   ", {"word", "   "}},
-      {"", {}},
-      {std::string("ab\0cd", 5), {"ab"}},
-  };
-  for (const Row& row : rows) EXPECT_EQ(DRTranslatorTestAccess::words(row.text), row.words) << row.text;
-}
-
 TEST(DRTranslatorLexer, IntendedQuirkCharacterAfterTrailingBlanksIsLost) {
   // The character that ends a run of blanks is given back only when it is not
   // the last of the text.

@@ -16,3 +16,29 @@ TEST(DRTranslatorTable, ScriptsTranslateToTheirBodyOrMessage) {
     }
   }
 }
+
+namespace {
+
+// "a|b" as its parts; "" is none.
+std::vector<std::string> parts(const std::string& joined) {
+  std::vector<std::string> out;
+  if (!joined.empty()) out = testsupport::splitFields(joined, '|');
+  return out;
+}
+
+}  // namespace
+
+// The cases of tests/data/translator/reading.txt: words of a text, arguments
+// of a call.
+TEST(DRTranslatorTable, TextsAreCutIntoTheirWordsAndArguments) {
+  for (const testsupport::Case& c : testsupport::readCases("translator/reading.txt")) {
+    if (c.has("words")) {
+      EXPECT_EQ(DRTranslatorTestAccess::words(c["text"]), parts(c["words"])) << c.where();
+      continue;
+    }
+    std::string message;
+    const std::vector<std::string> arguments = DRTranslatorTestAccess::getFunVariables(c["call"], &message);
+    testsupport::expectSection(c, "arguments", testsupport::joinFields(arguments, '|'));
+    EXPECT_EQ(message, c["message"]) << c.where();
+  }
+}
