@@ -7,36 +7,6 @@ using translatortest::translate;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-TEST(DRTranslatorExpression, RewritesPatternsIntoPerlPatternsWithInterpolatedVariables) {
-  struct Row {
-    std::string pattern;
-    int flag;
-    std::string result;
-    V groups;
-    V variables;
-  };
-  const Row rows[] = {
-      {"\"ip address (@ip) @mask\"", 0, "\"ip address ([^ \\t\\r\\n]*) $mask[$index]\"", {"@ip"}, {"@mask"}},
-      {"\"ip address (@ip) @mask\"", 1, "\"ip address ([^ \\t\\r\\n]*) $mask[0]\"", {"@ip"}, {"@mask"}},
-      {"\"(abc) Keep\"", 0, "\"([^ \\t\\r\\n]*) Keep\"", {"abc"}, {}},
-      {"\"a @\"", 0, "\"a $[$index]\"", {}, {"@"}},
-      {"\"@a/24 x@a.\"", 1, "\"$a/24[0] x$a.[0]\"", {}, {"@a/24", "@a."}},
-      {"\"@x (@g) @x\"", 0, "\"$x[$index] ([^ \\t\\r\\n]*) $x[$index]\"", {"@g"}, {"@x", "@x"}},
-      {"\"no variables\"", 0, "\"no variables\"", {}, {}},
-      // Unquoted, the name ends with the pattern.
-      {"x @v", 0, "x $v[$index]", {}, {"@v"}},
-      // A ")" before any "(" belongs to no group.
-      {"\") (@a)\"", 0, "\") ([^ \\t\\r\\n]*)\"", {"@a"}, {}},
-      {"\"(unclosed @v\"", 0, "\"(unclosed $v[$index]\"", {}, {"@v"}},
-  };
-  for (const Row& row : rows) {
-    auto p = DRTranslatorTestAccess::solveRegular(row.pattern, row.flag);
-    EXPECT_EQ(p.pattern, row.result) << row.pattern;
-    EXPECT_EQ(p.groups, row.groups) << row.pattern;
-    EXPECT_EQ(p.variables, row.variables) << row.pattern;
-  }
-}
-
 TEST(DRTranslatorExpression, IntendedQuirkAdjacentGroupKeepsItsBrackets) {
   auto p = DRTranslatorTestAccess::solveRegular("\"(@a)(@b) (@c)\"", 0);
   // The name runs to the next blank, so the closing bracket is part of it.

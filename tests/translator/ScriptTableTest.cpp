@@ -29,11 +29,18 @@ std::vector<std::string> parts(const std::string& joined) {
 }  // namespace
 
 // The cases of tests/data/translator/reading.txt: words of a text, arguments
-// of a call.
+// of a call, search patterns rewritten for perl.
 TEST(DRTranslatorTable, TextsAreCutIntoTheirWordsAndArguments) {
   for (const testsupport::Case& c : testsupport::readCases("translator/reading.txt")) {
     if (c.has("words")) {
       EXPECT_EQ(DRTranslatorTestAccess::words(c["text"]), parts(c["words"])) << c.where();
+      continue;
+    }
+    if (c.has("pattern")) {
+      const auto rewritten = DRTranslatorTestAccess::solveRegular(c["pattern"], std::stoi(c["flag"]));
+      EXPECT_EQ(rewritten.pattern, c["rewritten"]) << c.where();
+      EXPECT_EQ(rewritten.groups, parts(c["groups"])) << c.where();
+      EXPECT_EQ(rewritten.variables, parts(c["variables"])) << c.where();
       continue;
     }
     std::string message;
