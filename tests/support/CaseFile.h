@@ -3,10 +3,11 @@
 // "=== <name>" and holds sections, each opened by "--- <key>" and made of
 // the lines up to the next "---" or "===", every line ending in "\n" as
 // written (trailing blanks and tabs count; empty lines in front of a "---"
-// or "===" line separate and belong to no section). Lines starting with "#" before a
-// case's first section are comments. A section "--- key: value" holds the
-// value alone, with no line end and with the escapes \n \r \t \a \b \\ and
-// \xHH read as in C.
+// or "===" line separate and belong to no section). Lines starting with "#"
+// before a case's first section are comments. A section "--- key: value"
+// holds the value alone, with no line end and with the escapes \n \r \t \a
+// \b \\ and \xHH read as in C. Row files (one row a line, fields cut at
+// tabs) are read with dataLines and splitFields.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -62,6 +63,18 @@ struct Case {
   std::string where() const { return file + ":" + std::to_string(line) + " (" + name + ")"; }
 };
 
+// Opens the section that `header` ("key" or "key: value") names; returns the
+// key that the following lines go to, empty for a one-line value.
+inline std::string openSection(Case& c, const std::string& header) {
+  const size_t colon = header.find(": ");
+  if (colon == std::string::npos) {
+    c.sections[header].clear();
+    return header;
+  }
+  c.sections[header.substr(0, colon)] = unescaped(header.substr(colon + 2));
+  return std::string();
+}
+
 // The cases of tests/data/<relative>; a missing or empty file fails the test.
 inline std::vector<Case> readCases(const std::string& relative) {
   std::vector<Case> cases;
@@ -86,15 +99,7 @@ inline std::vector<Case> readCases(const std::string& relative) {
       cases.push_back(Case{line.substr(4), relative, number, {}});
       key.clear();
     } else if (line.compare(0, 4, "--- ") == 0 && !cases.empty()) {
-      key = line.substr(4);
-      const size_t colon = key.find(": ");
-      std::string value;
-      if (colon != std::string::npos) {
-        value = unescaped(key.substr(colon + 2));
-        key = key.substr(0, colon);
-      }
-      cases.back().sections[key] = value;
-      if (colon != std::string::npos) key.clear();
+      key = openSection(cases.back(), line.substr(4));
     } else if (!key.empty()) {
       cases.back().sections[key] += line + "\n";
     } else if (!line.empty() && line[0] != '#') {
