@@ -1,6 +1,7 @@
 // Key handling, editing and redraw of the line editor, by exact screen bytes.
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,11 @@
 namespace editortest {
 namespace {
 
+// "key" for the first step of a case, "key 2" for the second, ...
+std::string numbered(const std::string& key, int step) {
+  return step == 1 ? key : key + " " + std::to_string(step);
+}
+
 // The cases of tests/data/editor/keys.txt.
 TEST_F(EditorTest, KeysGiveExactScreenBytes) {
   for (const testsupport::Case& c : testsupport::readCases("editor/keys.txt")) {
@@ -20,13 +26,19 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
       if (!entry.empty()) ed->Gl_histadd(entry.c_str());
     }
     feed(c.get("before"));
-    const std::string screen = feed(c["keys"], std::stoi(c.get("mode", "0")));
-    testsupport::expectSection(c, "screen", screen);
-    testsupport::expectSection(c, "beeped", screen.find('\a') != std::string::npos ? "yes" : "no");
-    testsupport::expectSection(c, "searching", ed->isSearching() ? "yes" : "no");
-    testsupport::expectSection(c, "line", line());
-    testsupport::expectSection(c, "cursor", std::to_string(ed->getCursor()));
-    testsupport::expectSection(c, "returned", last == nullptr ? "(null)" : last);
+    for (int step = 1; c.has(numbered("keys", step)); ++step) {
+      const std::string screen = feed(c[numbered("keys", step)], std::stoi(c.get(numbered("mode", step), "0")));
+      const std::map<std::string, std::string> state = {
+          {"screen", screen},
+          {"beeped", screen.find('\a') != std::string::npos ? "yes" : "no"},
+          {"searching", ed->isSearching() ? "yes" : "no"},
+          {"line", line()},
+          {"cursor", std::to_string(ed->getCursor())},
+          {"returned", last == nullptr ? "(null)" : last},
+          {"killed", ed->getKillBuffer()},
+      };
+      for (const auto& [key, value] : state) testsupport::expectSection(c, numbered(key, step), value);
+    }
   }
 }
 
@@ -39,15 +51,6 @@ TEST_F(EditorTest, ConsoleByteMap) {
   for (const auto& [byte, code] : rows) {
     EXPECT_EQ(GetLineData::gl_getc(static_cast<char>(byte)), code) << int(byte);
   }
-}
-
-TEST_F(EditorTest, UnknownHighByteEndsTheCallWithAnEmptyLine) {
-  start();
-  feed("abc");
-  EXPECT_EQ(feed("\xff", 1), "");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "");
-  EXPECT_FALSE(ed->getNewLine());
 }
 
 TEST_F(EditorTest, ModeTwoAndModeMinusOneReturnNull) {
@@ -104,21 +107,6 @@ TEST_F(EditorTest, PromptChangeRedrawsOverTheOldPrompt) {
 
 // ------------------------------------------------------------ scrolling
 
-TEST_F(EditorTest, LongLineScrollsByAThirdOfTheWidthWithDollarMarks) {
-  // Width 30 with a 2-column prompt: 28 text columns, scroll step 10.
-  start("R#", 30);
-  const std::string text = "abcdefghijklmnopqrstuvwxyz01";
-  EXPECT_EQ(feed(text.substr(0, 27)), text.substr(0, 27));
-  // The 28th character scrolls by 10; "$" marks the hidden left part.
-  EXPECT_EQ(feed(text.substr(27)), bs(27) + "$" + text.substr(11) + sp(9) + bs(9));
-  // Home scrolls back; "$" marks the hidden right part.
-  EXPECT_EQ(feed("\x01"), bs(18) + text.substr(0, 26) + "$" + bs(27));
-  EXPECT_EQ(feed("\x05"), "$" + text.substr(11) + sp(9) + bs(9));
-  // Enter brings the line back to its start before the newline.
-  EXPECT_EQ(feed("\r"), bs(18) + text.substr(0, 26) + "$" + bs(4) + "\n");
-  EXPECT_EQ(std::string(last), text + "\n");
-}
-
 TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   // Intended: the built-in step is 27 although a third of the default 80 is 26.
   char none = 0;
@@ -140,15 +128,6 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   ed->clearOutput();
   ed->gl_fixup("", -1, 80);
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
-}
-
-TEST_F(EditorTest, PromptWiderThanTheScreenStillEdits) {
-  start(std::string(100, 'p'), 30);
-  feed(std::string(50, 'a') + "\x01\x04\x05\x08" "b\x02\x14");
-  EXPECT_EQ(line(), std::string(47, 'a') + "ba");
-  feed("\r");
-  ASSERT_NE(last, nullptr);
-  EXPECT_EQ(std::string(last), std::string(47, 'a') + "ba\n");
 }
 
 // ------------------------------------------------------------ words and regions
@@ -203,14 +182,6 @@ TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
   // Mark equal to the cursor: wipe does nothing.
   EXPECT_EQ(feed("\x17"), "");
   EXPECT_EQ(line(), "ab");
-}
-
-TEST_F(EditorTest, KillReplacesTheKillBuffer) {
-  start();
-  feed("one two\x02\x02\x02\x0b");
-  EXPECT_STREQ(ed->getKillBuffer(), "two");
-  feed("\x1b");
-  EXPECT_STREQ(ed->getKillBuffer(), "one ");
 }
 
 TEST_F(EditorTest, GlTabPadsToTheNextStopOfEight) {
