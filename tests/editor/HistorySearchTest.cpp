@@ -41,50 +41,6 @@ TEST_F(HistoryTest, RingOfHundredKeepsNinetyNineLines) {
   EXPECT_STREQ(ed->hist_next(), "cmd 3");
 }
 
-TEST_F(HistoryTest, NextStopsAtTheNewestWithABeep) {
-  add(1, 2);
-  ed->clearOutput();
-  EXPECT_STREQ(ed->hist_next(), "");
-  EXPECT_EQ(ed->outputString(), "\a");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-  EXPECT_STREQ(ed->hist_next(), "");  // back on the empty newest slot, no beep
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-}
-
-TEST_F(HistoryTest, PrevPastTheOldestBeepsAndGivesAnEmptyLine) {
-  add(1, 3);
-  EXPECT_STREQ(ed->hist_prev(), "cmd 3");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 1");
-  ed->clearOutput();
-  EXPECT_STREQ(ed->hist_prev(), "");
-  EXPECT_STREQ(ed->hist_prev(), "");
-  EXPECT_EQ(ed->outputString(), "\a\a");
-  EXPECT_STREQ(ed->hist_next(), "cmd 1");
-}
-
-TEST_F(HistoryTest, RepeatsAndBlankLinesAreNotAdded) {
-  for (const char* line : {"a", "a", "  ", "\t\n", "", "a\n", "b", "a", " x"}) ed->Gl_histadd(line);
-  EXPECT_STREQ(ed->hist_prev(), " x");
-  EXPECT_STREQ(ed->hist_prev(), "a");
-  EXPECT_STREQ(ed->hist_prev(), "b");
-  EXPECT_STREQ(ed->hist_prev(), "a");
-  EXPECT_STREQ(ed->hist_prev(), "");
-}
-
-TEST_F(HistoryTest, CtrlPAndCtrlNReplaceTheLineWithCursorAtTheEnd) {
-  add(1, 1);
-  ed->Gl_histadd("show run");
-  EXPECT_EQ(feed("\x10"), "show run");
-  EXPECT_EQ(line(), "show run");
-  EXPECT_EQ(ed->getCursor(), 8);
-  EXPECT_EQ(feed("\x10"), bs(8) + "cmd 1" + sp(3) + bs(3));
-  EXPECT_EQ(feed("\xb0"), bs(5) + "show run");  // console "next" key
-  EXPECT_EQ(feed("\x0e"), bs(8) + sp(8) + bs(8));
-  EXPECT_EQ(line(), "");
-  EXPECT_EQ(feed("\x0e"), "\a");
-}
-
 TEST_F(HistoryTest, FinishedLinesFromTheConsoleGoIntoTheHistory) {
   for (char k : std::string("show ver\r")) {
     char buffer[2] = {k, 0};
