@@ -116,14 +116,6 @@ class SearchTest : public HistoryTest {
   }
 };
 
-TEST_F(SearchTest, CtrlRStartsAndFirstCharacterFindsNewestMatch) {
-  EXPECT_EQ(feed("\x12"), "\b\b? ");
-  EXPECT_TRUE(ed->isSearching());
-  EXPECT_EQ(feed("v"), "\b\bv? show version" + bs(7));
-  EXPECT_EQ(feed("e"), bs(8) + "ve? show version" + bs(7));
-  EXPECT_EQ(ed->getCursor(), 5);
-}
-
 TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
   feed("\x12" "ver");
   ASSERT_EQ(ed->getCursor(), 5);
@@ -131,12 +123,6 @@ TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
   EXPECT_FALSE(ed->isSearching());
   EXPECT_EQ(line(), "show version");  // no step through the history
   EXPECT_EQ(ed->getMark(), 5);
-}
-
-TEST_F(SearchTest, SearchEndRedrawsTheNormalPrompt) {
-  feed("\x12" "ver");
-  // Back over the search prompt, the normal prompt, the line, the cursor kept.
-  EXPECT_EQ(feed("\x02"), bs(5 + 5) + "R#show version" + sp(3) + bs(10) + "\b");
 }
 
 TEST_F(SearchTest, SearchStringStopsAtHundredCharacters) {
