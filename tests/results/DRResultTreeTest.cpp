@@ -22,31 +22,14 @@ std::unique_ptr<DRResultTree> treeOf(const std::string& content) {
   return std::make_unique<DRResultTree>(path);
 }
 
+// The lines of tests/data/results/line_forms.txt.
 TEST(LineFormatTest, ParsesEveryForm) {
-  struct Row {
-    std::string line;
-    int number, count, kind;
-    std::string text;
-  };
-  const Row rows[] = {
-      {"no marker here", -1, 0, LineTagNone, "no marker here"},
-      {"12:::interface Gi0/1", 12, 0, LineTagNone, "interface Gi0/1"},
-      {"5:::abc !#tag#xyz#LineNumbers#3", 5, 3, LineTagOpen, "abc !xyz"},
-      {"5:::abc !#tag##LineNumbers#3", 5, 3, LineTagOpen, "abc"},
-      {"7:::abc !#tag_close#q#LineNumbers#2", 7, 2, LineTagClose, "abc !q"},
-      {"7:::abcX!#tag#q#LineNumbers#2", 7, 2, LineTagOpen, "abc !q"},  // any separating byte is dropped
-      {"7:::abc !#tag#q", 7, 0, LineTagNone, "abc !#tag#q"},           // no count: the marker is text
-      {"x:::abc", 0, 0, LineTagNone, "abc"},
-      {"3:::a\bb", 3, 0, LineTagNone, "a b"},
-      {std::string("3:::ab\0cd", 9), 3, 0, LineTagNone, "ab"},
-      {"4:::x !#tag#n#LineNumbers#", 4, 0, LineTagOpen, "x !n"},
-  };
-  for (const Row& row : rows) {
-    LineFormat f(row.line);
-    EXPECT_EQ(f.mLineNumber, row.number) << row.line;
-    EXPECT_EQ(f.mLineCount, row.count) << row.line;
-    EXPECT_EQ(f.mTagKind, row.kind) << row.line;
-    EXPECT_EQ(f.mText, row.text) << row.line;
+  for (const testsupport::Case& c : testsupport::readCases("results/line_forms.txt")) {
+    LineFormat f(c["line"]);
+    EXPECT_EQ(std::to_string(f.mLineNumber) + "|" + std::to_string(f.mLineCount) + "|" + std::to_string(f.mTagKind) +
+                  "|" + f.mText,
+              c["parsed"])
+        << c.where();
     EXPECT_EQ(f.mChildren, nullptr);
   }
 }
