@@ -22,11 +22,6 @@ TEST_F(FallbackTest, ChangesMergeAndFallBackAsTheirCaseSays) {
 }
 
 
-TEST_F(FallbackTest, EmptyFirstReturnsSecondAsItStands) {
-  EXPECT_EQ(QxParserUtil::fallbackConfigCmds("", "hostname  r1\n! c\n", 0), "hostname  r1\n! c\n");
-  EXPECT_EQ(QxParserUtil::fallbackConfigCmds("", "hostname  r1\n! c\n", 1), "hostname  r1\n! c\n");
-}
-
 TEST_F(FallbackTest, CreateNoCommandAddsOrCutsThePrefix) {
   TopLevel top("logging host 1.1.1.1\nno snmp trap 1.1.1.1\n");
   ASSERT_EQ(top.get().size(), 2u);

@@ -8,15 +8,6 @@ namespace {
 
 class MergeTest : public ConfigFixture {};
 
-TEST_F(MergeTest, EmptyTextReturnsTheOtherAsItStands) {
-  EXPECT_EQ(QxParserUtil::mergeConfigCmds("", "hostname  r1\n! x\n"), "hostname  r1\n! x\n");
-  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname  r1\n! x\n", ""), "hostname  r1\n! x\n");
-}
-
-TEST_F(MergeTest, CommentsOfTheConfigurationDoNotComeBack) {
-  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname r2\n", "! top\nhostname r1\n!\n"), "hostname r2 \n");
-}
-
 // Records with only the keys that the sort reads.
 std::unique_ptr<CiscoCommandLine> keyed(const char* text, int lineNo, int orderNo) {
   auto record = std::make_unique<CiscoCommandLine>();
