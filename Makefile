@@ -2,11 +2,12 @@
 # Debian machine needs (scripts/bootstrap installs missing packages as root).
 BUILD ?= build
 ASAN_BUILD ?= build-asan
+COVERAGE_BUILD ?= build-coverage
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 GENERATOR := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
 CMAKE_FLAGS ?=
 
-.PHONY: all bootstrap configure build test demo bench asan package clean
+.PHONY: all bootstrap configure build test demo bench asan coverage package clean
 
 all: build
 
@@ -30,6 +31,16 @@ bench: bootstrap
 	@cmake --build $(BUILD)-bench -j $(JOBS)
 	@bash bench/run_all.sh $(BUILD)-bench
 
+# Line and function coverage of the library and the program by the whole suite
+# (the consumer builds aside). Needs gcovr (scripts/bootstrap coverage).
+coverage: bootstrap
+	@bash scripts/bootstrap coverage
+	@cmake -S . -B $(COVERAGE_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=--coverage -DCMAKE_EXE_LINKER_FLAGS=--coverage -DCMAKE_SHARED_LINKER_FLAGS=--coverage $(CMAKE_FLAGS) >/dev/null
+	@cmake --build $(COVERAGE_BUILD) -j $(JOBS)
+	@find $(COVERAGE_BUILD) -name '*.gcda' -delete
+	@cd $(COVERAGE_BUILD) && ctest --output-on-failure -j $(JOBS) -LE consumer
+	@gcovr -r . --filter backend/ --filter tools/ --print-summary -o $(COVERAGE_BUILD)/coverage.txt $(COVERAGE_BUILD)
+
 package: build
 	@bash scripts/package-check $(BUILD)
 
@@ -39,4 +50,4 @@ asan: bootstrap
 	@cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS) -LE consumer
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(BUILD)-bench
+	rm -rf $(BUILD) $(ASAN_BUILD) $(COVERAGE_BUILD) $(BUILD)-bench

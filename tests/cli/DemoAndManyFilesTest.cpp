@@ -16,25 +16,6 @@ class ManyFilesProgramTest : public ::testing::Test {
   const std::string kExamples = std::string(VTYCONF_SOURCE_DIR) + "/examples";
 };
 
-TEST_F(ManyFilesProgramTest, DemoShowsEveryJobAndNarratesOnStandardError) {
-  const auto run = runCli("demo --examples '" + kExamples + "'");
-  ASSERT_EQ(run.exitCode, 0) << run.err;
-  for (const char* heading : {"== parse branch-router.cfg", "== help in interface mode", "== merge branch-router.changes",
-                              "== rollback of the change set", "== rollback from the new configuration",
-                              "== queries", "== design notes"}) {
-    EXPECT_NE(run.out.find(heading), std::string::npos) << heading;
-  }
-  EXPECT_NE(run.out.find("interface GigabitEthernet0/2"), std::string::npos) << "a note finding is shown";
-  EXPECT_NE(run.err.find("-- "), std::string::npos);
-  EXPECT_EQ(runCli("demo --quiet --examples '" + kExamples + "'").err, "");
-}
-
-TEST_F(ManyFilesProgramTest, DemoWithoutExamplesIsAMessage) {
-  const auto run = runCli("demo --examples /nonexistent-folder");
-  EXPECT_EQ(run.exitCode, 2);
-  EXPECT_NE(run.err.find("--examples DIR"), std::string::npos) << run.err;
-}
-
 TEST_F(ManyFilesProgramTest, ManyFilesGiveTheSameOutputInWorkersAsInOneProcess) {
   const std::string notes = kExamples + "/notes";
   const auto serial = runCli("parse -j 1 '" + notes + "'");
@@ -56,13 +37,6 @@ TEST_F(ManyFilesProgramTest, ManyFilesGiveTheSameOutputInWorkersAsInOneProcess) 
   ASSERT_NE(first, std::string::npos) << runs.out;
   ASSERT_NE(second, std::string::npos) << runs.out;
   EXPECT_LT(first, second) << "results come in the order of the arguments";
-}
-
-TEST_F(ManyFilesProgramTest, AMissingFileAmongManyIsReportedAndTheOthersAreRead) {
-  const auto run = runCli("parse '" + kExamples + "/branch-router.cfg' /nonexistent.cfg");
-  EXPECT_EQ(run.exitCode, 2);
-  EXPECT_NE(run.err.find("/nonexistent.cfg: no such file or folder"), std::string::npos) << run.err;
-  EXPECT_NE(run.out.find("hostname BR1-RTR"), std::string::npos);
 }
 
 }  // namespace

@@ -76,32 +76,4 @@ TEST_F(QueryManyFilesTest, AMissingFileIsAMessageAndTheOthersAreStillQueried) {
   EXPECT_EQ(all[0].at("file"), kNat);
 }
 
-TEST_F(QueryManyFilesTest, TheQueryWordEndsTheFilesAndItsKeyIsChecked) {
-  const struct {
-    std::string arguments;
-    std::string message;
-  } rows[] = {
-      {"'" + kBranch + "' '" + kNat + "' colours", "unknown query 'colours'"},
-      {"'" + kBranch + "' '" + kNat + "' interface", "query interface needs a key"},
-      {"'" + kBranch + "'", "query needs CONFIG and WHAT"},
-  };
-  for (const auto& row : rows) {
-    const auto run = runCli("query " + row.arguments);
-    EXPECT_EQ(run.exitCode, 2) << row.arguments;
-    EXPECT_EQ(run.out, "") << row.arguments;
-    EXPECT_NE(run.err.find(row.message), std::string::npos) << row.arguments << ": " << run.err;
-  }
-}
-
-TEST_F(QueryManyFilesTest, AFolderStandsForItsFilesEachUnderAHeading) {
-  const std::string notes = std::string(VTYCONF_SOURCE_DIR) + "/examples/notes";
-  const auto run = runCli("query -j 2 '" + notes + "' acls");
-  ASSERT_EQ(run.exitCode, 0) << run.err;
-  const size_t first = run.out.find("== " + notes + "/acl_applied_not_defined.cmf\n");
-  const size_t later = run.out.find("== " + notes + "/vty_without_access_class.sample1\n");
-  ASSERT_NE(first, std::string::npos) << run.out;
-  ASSERT_NE(later, std::string::npos) << run.out;
-  EXPECT_LT(first, later);
-}
-
 }  // namespace

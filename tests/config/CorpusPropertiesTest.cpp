@@ -5,6 +5,7 @@
 
 #include "ConfigFixture.h"
 #include "ShippedGrammar.h"
+#include "support/CaseFile.h"
 
 namespace qxparser {
 namespace {
@@ -275,60 +276,24 @@ TEST_F(CorpusPropertiesTest, FallbackOverAllLevelsMergedIntoTheFirstGivesTheSeco
   EXPECT_EQ(notEmpty, expected);
 }
 
-struct MeaningRow {
-  const char* name;
-  const char* config;
-  const char* changes;
-  const char* merged;
-  bool restoredByFileFallback;
-};
-
 // Settings of which the device keeps one value, and "no" forms that name one
-// entry among others of their kind, with the shipped definitions.
+// entry among others of their kind (tests/data/config/one_value.txt).
 TEST_F(CorpusPropertiesTest, OneValueSettingsAndSingleEntryNegationsMergeAsTheDevice) {
-  const MeaningRow rows[] = {
-      {"no of one standard entry removes that entry only; file mode does not write it back (intended)",
-       "ip access-list standard NET\n permit 10.1.20.0 0.0.0.255\n permit 10.2.20.0 0.0.0.255\n"
-       " permit 10.3.20.0 0.0.0.255\n",
-       "ip access-list standard NET\n no permit 10.2.20.0 0.0.0.255\n",
-       "ip access-list standard NET \n permit 10.1.20.0 0.0.0.255 \n permit 10.3.20.0 0.0.0.255 \n!\n", false},
-      {"no of one extended entry removes that entry only; file mode does not write it back (intended)",
-       "access-list 110 permit ip host 10.0.0.1 any\naccess-list 110 permit ip host 10.0.0.3 any\n",
-       "no access-list 110 permit ip host 10.0.0.3 any\n", "access-list 110 permit ip host 10.0.0.1 any \n", false},
-      {"no of a switchport setting leaves the bare switchport line",
-       "interface GigabitEthernet1/1\n switchport\n switchport access vlan 10\n switchport mode access\n",
-       "interface GigabitEthernet1/1\n no switchport access vlan 10\n",
-       "interface gigabitethernet 1/1 \n switchport \n switchport mode access \n!\n", true},
-      {"a schedule of an operation replaces its old schedule",
-       "ip sla schedule 11 start-time 11:22:33\nip sla schedule 12 start-time 11:22:33\n",
-       "ip sla schedule 11 start-time now life forever\n",
-       "ip sla schedule 11 start-time now life forever \nip sla schedule 12 start-time 11:22:33 \n", true},
-      {"options of a time server replace its old line", "ntp server 10.0.0.1\nntp server 10.0.0.2\n",
-       "ntp server 10.0.0.1 prefer\n", "ntp server 10.0.0.1 prefer \nntp server 10.0.0.2 \n", true},
-      {"a peer's new source replaces the old one", "ntp peer 10.0.0.1 source GigabitEthernet1\n",
-       "ntp peer 10.0.0.1 source GigabitEthernet2\n", "ntp peer 10.0.0.1 source GigabitEthernet2 \n", true},
-      {"a keepalive interval is one value", "crypto isakmp keepalive 10 5\n", "crypto isakmp keepalive 10 7\n",
-       "crypto isakmp keepalive 10 7 \n", true},
-      {"a redefined transform set keeps its mode lines",
-       "crypto ipsec transform-set T esp-aes 256 esp-sha-hmac\n mode transport\n",
-       "crypto ipsec transform-set T esp-aes esp-sha-hmac\n",
-       "crypto ipsec transform-set T esp-aes esp-sha-hmac \n mode transport \n!\n", true},
-  };
-  for (const MeaningRow& row : rows) {
-    EXPECT_EQ(QxParserUtil::mergeConfigCmds(row.changes, row.config), row.merged) << row.name;
+  for (const testsupport::Case& row : testsupport::readCases("config/one_value.txt")) {
+    EXPECT_EQ(QxParserUtil::mergeConfigCmds(row["changes"], row["config"]), row["merged"]) << row.where();
     // The fallback from the merged configuration to the old one, merged
     // back, gives the old configuration. Not for a removed list entry
     // (intended): all entries of one list are one kind of setting, and file
     // mode writes only commands that no command of the first configuration
     // is comparable with, so the entry does not come back.
-    const std::string back = QxParserUtil::fallbackConfigCmds(row.merged, row.config, 1);
-    if (!row.restoredByFileFallback) {
-      EXPECT_EQ(back, "") << row.name;
+    const std::string back = QxParserUtil::fallbackConfigCmds(row["merged"], row["config"], 1);
+    if (row.get("restored") == "no") {
+      EXPECT_EQ(back, "") << row.where();
       continue;
     }
-    EXPECT_EQ(sortedLines(storedView(QxParserUtil::mergeConfigCmds(back, row.merged))),
-              sortedLines(storedView(row.config)))
-        << row.name;
+    EXPECT_EQ(sortedLines(storedView(QxParserUtil::mergeConfigCmds(back, row["merged"]))),
+              sortedLines(storedView(row["config"])))
+        << row.where();
   }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ConfigFixture.h"
+#include "support/CaseFile.h"
 #include "config/QXParserGetConfig.h"
 
 namespace qxparser {
@@ -57,34 +58,11 @@ class SearchTest : public ConfigFixture {
   std::string mPath;
 };
 
+// The searches of tests/data/config/searches.txt.
 TEST_F(SearchTest, SearchKindsAndKeys) {
-  struct Row {
-    const char* name;
-    const char* key;
-    int type;
-    std::string expected;
-  };
-  const Row rows[] = {
-      {"section with comment and pager inside", "interface loopback 0", SEARCH_SECTION, kLoopback},
-      {"two sections at equal level follow each other", "interface", SEARCH_SECTION,
-       std::string(kLoopback) + "interface gigabitethernet 0/1 \n   description gi\n"},
-      {"line search skips banner text", "interface", SEARCH_LINE,
-       "interface loopback 0\ninterface gigabitethernet 0/1\n"},
-      {"banner line is no match", "interface gigabitethernet 0/9", SEARCH_SECTION, ""},
-      {"section body without head", "router ospf 1", SEARCH_SECTION_BODY,
-       "   network 10.0.0.0 0.0.0.255 area 0\n   router-id 1.1.1.1\n"},
-      {"kind 3 returns nothing", "router ospf 1", 3, ""},
-      {"kind above 6 returns nothing", "router ospf 1", 7, ""},
-      {"numbered and named access list with body", "access-list 10", SEARCH_ACL_SECTION,
-       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n"},
-      {"alternative kind acts the same", "access-list 10", SEARCH_ACL_SECTION_ALT,
-       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n permit any\n"},
-      {"access list heads only", "access-list 10", SEARCH_ACL_LINE,
-       "access-list 10 permit any\naccess-list 10 deny any\nip access-list standard 10\n"},
-      {"section that runs to the end of the file", "ip nat pool p1", SEARCH_SECTION, "ip nat pool p1 \n"},
-      {"empty key", "", SEARCH_SECTION, ""},
-  };
-  for (const Row& row : rows) EXPECT_EQ(search(row.key, row.type), row.expected) << row.name;
+  for (const testsupport::Case& c : testsupport::readCases("config/searches.txt")) {
+    EXPECT_EQ(search(c["key"], std::stoi(c["kind"])), c["found"]) << c.where();
+  }
 }
 
 TEST_F(SearchTest, ResultIsAppendedToEarlierText) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "main.h"
+#include "support/CaseFile.h"
 #include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
@@ -33,26 +34,18 @@ class ConsoleLoopTest : public testsupport::TerminalFixture {
   std::string first_;
 };
 
-struct Step {
-  const char* keys;
-  const char* shown;
-};
-
-TEST_F(ConsoleLoopTest, PromptFollowsTheModeAndAnswersComeBeforeIt) {
+// The cases of tests/data/console/keys.txt, each on a fresh console.
+TEST_F(ConsoleLoopTest, KeysShowTheirAnswersAndCollectTheDelta) {
   EXPECT_EQ(first_, "R1>");
-  const Step steps[] = {
-      {"enable\r", "enable\nR1#"},
-      {"conf t\r", "conf t\nEnter configuration commands, one per line.\nR1(config)#"},
-      {"int e0/1\r", "int e0/1\nR1(config-if)#"},
-      {"bogus\r", "bogus\n% Invalid input detected at ^\nR1(config-if)#"},
-      {"exit\r", "exit\nR1(config)#"},
-      {"end\r", "end\nR1#"},
-  };
-  for (const Step& step : steps) {
-    EXPECT_EQ(type(step.keys), step.shown) << step.keys;
-    EXPECT_STREQ(editor_->getLine(), "") << "a new line starts empty after " << step.keys;
+  for (const testsupport::Case& c : testsupport::readCases("console/keys.txt")) {
+    delta_.clear();
+    SetUp();
+    type(c.get("before"));
+    testsupport::expectSection(c, "shown", type(c["keys"]));
+    testsupport::expectSection(c, "line", editor_->getLine());
+    testsupport::expectSection(c, "delta", delta_);
+    testsupport::expectSection(c, "prompt", vtysh_prompt(vty_.get()));
   }
-  EXPECT_STREQ(vtysh_prompt(vty_.get()), "R1#");
 }
 
 TEST_F(ConsoleLoopTest, KeyThatDoesNotEndTheLineOnlyEchoes) {
@@ -61,74 +54,6 @@ TEST_F(ConsoleLoopTest, KeyThatDoesNotEndTheLineOnlyEchoes) {
   EXPECT_EQ(vty_->currentMode(), qxparser::VIEW_MODE) << "no line went to the terminal yet";
   EXPECT_EQ(type("e\r"), "e\nR1#");
   EXPECT_EQ(vty_->currentMode(), qxparser::EXEC_MODE);
-}
-
-TEST_F(ConsoleLoopTest, HelpListsBelowTheLineAndKeepsWhatWasTyped) {
-  type("enable\rconf t\rint e0/1\r");
-  const struct {
-    const char* keys;
-    const char* shown;
-    const char* lineAfter;
-  } rows[] = {
-      {"ip ?", "ip ?\naddress\tset the ip address of an interface\nR1(config-if)#ip ", "ip "},
-      {"\x15sh?", "\b\b\b   \b\b\bsh?\nshutdown\tshutdown the selected interface\nR1(config-if)#sh", "sh"},
-      {"\x15zz?", "\b\b  \b\bzz?\n% Unrecognized command\nR1(config-if)#zz", "zz"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(type(row.keys), row.shown) << row.keys;
-    EXPECT_STREQ(editor_->getLine(), row.lineAfter) << row.keys;
-    EXPECT_EQ(editor_->getCursor(), static_cast<int>(std::string(row.lineAfter).size()));
-  }
-  EXPECT_EQ(vty_->levelCount(), 2u) << "help walks without consuming the line";
-  EXPECT_EQ(type("\x15ip address 10.0.0.1 255.0.0.0\r"),
-            "\b\b  \b\bip address 10.0.0.1 255.0.0.0\nR1(config-if)#");
-}
-
-TEST_F(ConsoleLoopTest, TabReplacesTheLineWithItsCompletion) {
-  type("enable\rconf t\r");
-  const struct {
-    const char* keys;
-    const char* lineAfter;
-  } rows[] = {
-      {"hostn\t", "hostname "},
-      {"i\t", "i"},  // interface and ip: the common prefix only
-      {"ip ro\t", "ip route "},
-      {"interface gi\t", "interface gigabitethernet "},
-      {"zz\t", ""},  // a word that matches nothing is erased
-  };
-  for (const auto& row : rows) {
-    type("\x15");
-    std::string shown = type(row.keys);
-    EXPECT_STREQ(editor_->getLine(), row.lineAfter) << row.keys;
-    EXPECT_EQ(editor_->getCursor(), static_cast<int>(std::string(row.lineAfter).size()));
-    std::string redraw = std::string("\nR1(config)#") + row.lineAfter;
-    ASSERT_GE(shown.size(), redraw.size());
-    EXPECT_EQ(shown.substr(shown.size() - redraw.size()), redraw) << "prompt and line drawn on a new line";
-  }
-  type("\x15");
-  EXPECT_EQ(type("hostn\tX\r"), "hostn\nR1(config)#hostname X\nR1(config)#");
-}
-
-TEST_F(ConsoleLoopTest, DeltaCollectsConfigurationCommandsOnly) {
-  type("enable\rconf t\r");
-  EXPECT_EQ(delta_, "") << "lines of the execution mode never go into the delta";
-  type("hostname R9\r");
-  EXPECT_EQ(delta_, "hostname R9 \n") << "top configuration level: no context";
-  type("int e0/1\rshutdown\rexit\r");
-  EXPECT_EQ(delta_, "hostname R9 \ninterface ethernet 0/1 \nshutdown \n");
-  type("end\r");
-  EXPECT_EQ(delta_, "hostname R9 \ninterface ethernet 0/1 \nshutdown \n") << "exit and end are left out";
-  EXPECT_EQ(vty_->getAllConfigCmds(), delta_);
-}
-
-TEST_F(ConsoleLoopTest, FirstCommandOfASubModeBringsItsContext) {
-  type("enable\rconf t\rint e0/1\r");
-  delta_.clear();
-  type("shutdown\r");
-  EXPECT_EQ(delta_, "interface ethernet 0/1 \nshutdown \n");
-  type("ip address 10.0.0.1 255.0.0.0\r");
-  EXPECT_EQ(delta_, "interface ethernet 0/1 \nshutdown \nip address 10.0.0.1 255.0.0.0 \n");
-  EXPECT_EQ(vty_->getAllConfigCmds(), delta_);
 }
 
 TEST_F(ConsoleLoopTest, CommandHoldingTheLettersOfEndIsLeftOutOfTheDeltaAsIntended) {
@@ -149,28 +74,6 @@ TEST_F(ConsoleLoopTest, NullDeltaIsAcceptedInConfigurationMode) {
   }
   EXPECT_EQ(vty_->getAllConfigCmds(), "");
   EXPECT_STREQ(vtysh_prompt(vty_.get()), "R1(config)#");
-}
-
-TEST_F(ConsoleLoopTest, ConsoleArrowCodesRecallHistory) {
-  type("enable\rconf t\rend\r");
-  const struct {
-    const char* keys;
-    const char* lineAfter;
-  } rows[] = {
-      {"\xb8", "end"},                                       // previous
-      {"\xb8", "conf t"}, {"\xb8", "enable"}, {"\xb8", ""},  // one step past the oldest: the free slot
-      {"\xb8", ""},                                          // and no further, with a beep
-      {"\xb0", "enable"},                                    // next
-      {"\xb0", "conf t"}, {"\xb0", "end"},    {"\xb0", ""},  // the newest slot is the empty line
-      {"\xb8", "end"},    {"\xb8", "conf t"},
-  };
-  for (const auto& row : rows) {
-    type(row.keys);
-    EXPECT_STREQ(editor_->getLine(), row.lineAfter);
-  }
-  EXPECT_EQ(type("\r"), "\nEnter configuration commands, one per line.\nR1(config)#");
-  EXPECT_EQ(vty_->currentMode(), qxparser::CONFIG_MODE);
-  EXPECT_EQ(type("\xb8"), "conf t") << "the recalled line is drawn after the prompt";
 }
 
 TEST_F(ConsoleLoopTest, CtrlDOnAnEmptyLineEndsItWithoutRunningIt) {

@@ -208,44 +208,6 @@ testsupport::CliRun runScripted(const std::string& arguments, const std::string&
   return run;
 }
 
-TEST(ConsoleProgramTest, StandardInputThatIsNoTerminalIsTypedLineByLine) {
-  if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  testsupport::CliRun run = runScripted("--hostname R3",
-                               "enable\n"
-                               "conf t\r\n"
-                               "hostn\tR4\n"
-                               "bogus\n"
-                               "\x1b[A\n"
-                               "end\n");
-  EXPECT_EQ(run.exitCode, 0) << run.err;
-  EXPECT_EQ(run.out.substr(0, 45), "R3>enable\nR3#conf t\nEnter configuration comma");
-  EXPECT_NE(run.out.find("R3(config)#hostname R4\n"), std::string::npos) << run.out;
-  size_t refused = run.out.find("R3(config)#bogus\n%");
-  ASSERT_NE(refused, std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("R3(config)#bogus\n%", refused + 1), std::string::npos)
-      << "the up arrow recalled bogus";
-  EXPECT_EQ(run.out.substr(run.out.size() - 9), "#end\nR3#\n") << "a line end after the last prompt";
-}
-
-TEST(ConsoleProgramTest, LibraryErrorOnALineIsShownAndTheSessionGoesOn) {
-  if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  // A range value of only zeros raises the library's out-of-range error, on
-  // a finished line as well as under "?".
-  testsupport::CliRun run = runScripted("--hostname R6",
-                               "enable\n"
-                               "conf t\n"
-                               "cts server deadtime 0\n"
-                               "cts server deadtime 0 ?\x15"
-                               "hostname R7\n");
-  EXPECT_EQ(run.exitCode, 0) << run.err;
-  EXPECT_NE(run.out.find(
-                "R6(config)#cts server deadtime 0\n% invalid string position\nR6(config)#cts server deadtime 0 ?\n"
-                "% invalid string position\nR6(config)#cts server deadtime 0 ?"),
-            std::string::npos)
-      << run.out;
-  EXPECT_NE(run.out.find("hostname R7\nR6(config)#\n"), std::string::npos) << run.out;
-}
-
 TEST(ConsoleProgramTest, EveryKeyIsLoggedWhenTheLogIsOn) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   testsupport::CliRun quiet = runScripted("", "enable\n");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/PlatformOs.h"
+#include "support/CaseFile.h"
 
 namespace {
 
@@ -13,38 +14,13 @@ std::string decode(const std::string& bytes, bool flushAtEnd) {
   return keys;
 }
 
+// The rows of tests/data/console/key_sequences.tsv.
 TEST(TerminalKeyDecoderTest, SequencesBecomeTheEditorsConsoleCodes) {
-  const struct {
-    const char* bytes;
-    const char* keys;
-  } rows[] = {
-      {"\x1b[A", "\xb8"},
-      {"\x1b[B", "\xb0"},
-      {"\x1b[C", "\xb3"},
-      {"\x1b[D", "\xb5"},
-      {"\x1bOA", "\xb8"},
-      {"\x1bOD", "\xb5"},
-      {"\x1b[H", "\xb9"},
-      {"\x1bOH", "\xb9"},
-      {"\x1b[1~", "\xb9"},
-      {"\x1b[7~", "\xb9"},
-      {"\x1b[F", "\xb1"},
-      {"\x1b[4~", "\xb1"},
-      {"\x1b[8~", "\xb1"},
-      {"\x1b[3~", "\xad"},
-      {"\x1b[2~", "\xae"},
-      {"\x1b[1;5C", "\xb3"},
-      {"\x1b[15~", ""},  // F5 is no key of the console
-      {"a\x7f"
-       "b",
-       "a\bb"},  // the backspace key
-      {"ab\x1b[Dc",
-       "ab\xb5"
-       "c"},
-      {"\x1bx", "\x1bx"},  // ESC before a letter: the ESC key, then the letter
-      {"\x1b\x1b[A", "\x1b\xb8"},
-  };
-  for (const auto& row : rows) EXPECT_EQ(decode(row.bytes, false), row.keys) << row.bytes + 1;
+  for (const std::string& row : testsupport::dataLines(testsupport::readDataFile("console/key_sequences.tsv"))) {
+    const std::vector<std::string> fields = testsupport::splitFields(row);
+    ASSERT_EQ(fields.size(), 2u) << row;
+    EXPECT_EQ(decode(testsupport::unescaped(fields[0]), false), testsupport::unescaped(fields[1])) << row;
+  }
 }
 
 TEST(TerminalKeyDecoderTest, LoneEscapeWaitsAndThenCountsAsAKey) {

@@ -41,50 +41,6 @@ TEST_F(HistoryTest, RingOfHundredKeepsNinetyNineLines) {
   EXPECT_STREQ(ed->hist_next(), "cmd 3");
 }
 
-TEST_F(HistoryTest, NextStopsAtTheNewestWithABeep) {
-  add(1, 2);
-  ed->clearOutput();
-  EXPECT_STREQ(ed->hist_next(), "");
-  EXPECT_EQ(ed->outputString(), "\a");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-  EXPECT_STREQ(ed->hist_next(), "");  // back on the empty newest slot, no beep
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-}
-
-TEST_F(HistoryTest, PrevPastTheOldestBeepsAndGivesAnEmptyLine) {
-  add(1, 3);
-  EXPECT_STREQ(ed->hist_prev(), "cmd 3");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 2");
-  EXPECT_STREQ(ed->hist_prev(), "cmd 1");
-  ed->clearOutput();
-  EXPECT_STREQ(ed->hist_prev(), "");
-  EXPECT_STREQ(ed->hist_prev(), "");
-  EXPECT_EQ(ed->outputString(), "\a\a");
-  EXPECT_STREQ(ed->hist_next(), "cmd 1");
-}
-
-TEST_F(HistoryTest, RepeatsAndBlankLinesAreNotAdded) {
-  for (const char* line : {"a", "a", "  ", "\t\n", "", "a\n", "b", "a", " x"}) ed->Gl_histadd(line);
-  EXPECT_STREQ(ed->hist_prev(), " x");
-  EXPECT_STREQ(ed->hist_prev(), "a");
-  EXPECT_STREQ(ed->hist_prev(), "b");
-  EXPECT_STREQ(ed->hist_prev(), "a");
-  EXPECT_STREQ(ed->hist_prev(), "");
-}
-
-TEST_F(HistoryTest, CtrlPAndCtrlNReplaceTheLineWithCursorAtTheEnd) {
-  add(1, 1);
-  ed->Gl_histadd("show run");
-  EXPECT_EQ(feed("\x10"), "show run");
-  EXPECT_EQ(line(), "show run");
-  EXPECT_EQ(ed->getCursor(), 8);
-  EXPECT_EQ(feed("\x10"), bs(8) + "cmd 1" + sp(3) + bs(3));
-  EXPECT_EQ(feed("\xb0"), bs(5) + "show run");  // console "next" key
-  EXPECT_EQ(feed("\x0e"), bs(8) + sp(8) + bs(8));
-  EXPECT_EQ(line(), "");
-  EXPECT_EQ(feed("\x0e"), "\a");
-}
-
 TEST_F(HistoryTest, FinishedLinesFromTheConsoleGoIntoTheHistory) {
   for (char k : std::string("show ver\r")) {
     char buffer[2] = {k, 0};
@@ -160,61 +116,6 @@ class SearchTest : public HistoryTest {
   }
 };
 
-TEST_F(SearchTest, CtrlRStartsAndFirstCharacterFindsNewestMatch) {
-  EXPECT_EQ(feed("\x12"), "\b\b? ");
-  EXPECT_TRUE(ed->isSearching());
-  EXPECT_EQ(feed("v"), "\b\bv? show version" + bs(7));
-  EXPECT_EQ(feed("e"), bs(8) + "ve? show version" + bs(7));
-  EXPECT_EQ(ed->getCursor(), 5);
-}
-
-struct SearchCase {
-  const char* name;
-  std::vector<const char*> history;
-  std::string keys;
-  std::string line;
-  bool searching;
-  bool beeped;
-};
-
-TEST_F(SearchTest, SearchTable) {
-  const std::vector<const char*> alpha = {"alpha 1", "x", "alpha 2", "alpha 3"};
-  const std::vector<const char*> cisco = {"show version", "show running-config", "interface gi0/1"};
-  const std::vector<SearchCase> cases = {
-      {"hit skips lines without the text", cisco, "\x12" "run", "show running-config", true, false},
-      {"miss beeps and empties the line", cisco, "\x12" "zzz", "", true, true},
-      {"Ctrl-R again goes to an older hit", alpha, "\x12" "alpha\x12", "alpha 2", true, false},
-      {"past the oldest hit beeps", alpha, "\x12" "alpha\x12\x12\x12", "", true, true},
-      {"Ctrl-S walks back toward newer lines", alpha, "\x12" "alpha\x12\x12\x13", "alpha 2", true,
-       false},
-      {"Ctrl-S stops before the newest slot", alpha, "\x12" "alpha\x12\x13\x13", "", true, true},
-      {"Ctrl-H takes a character back", cisco, "\x12" "runx\x08", "show running-config", true,
-       true},
-      {"Ctrl-R with an empty search beeps", cisco, "\x12\x12", "", true, true},
-      {"another key ends the search and acts", cisco, "\x12" "ver\x05" "!", "show version!", false,
-       false},
-      {"Ctrl-A ends the search, then text goes in", alpha, "\x12" "2\x01" "#", "#alpha 2", false,
-       false},
-  };
-  for (const SearchCase& c : cases) {
-    ed = std::make_unique<GetLineData>();
-    ed->Gl_setconsole(1);
-    start();
-    for (const char* l : c.history) ed->Gl_histadd(l);
-    std::string screen = feed(c.keys);
-    EXPECT_EQ(line(), c.line) << c.name;
-    EXPECT_EQ(ed->isSearching(), c.searching) << c.name;
-    EXPECT_EQ(screen.find('\a') != std::string::npos, c.beeped) << c.name;
-  }
-}
-
-TEST_F(SearchTest, EnterAfterASearchReturnsTheLineFound) {
-  feed("\x12" "gi0\r");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "interface gi0/1\n");
-  EXPECT_FALSE(ed->isSearching());
-}
-
 TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
   feed("\x12" "ver");
   ASSERT_EQ(ed->getCursor(), 5);
@@ -222,12 +123,6 @@ TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
   EXPECT_FALSE(ed->isSearching());
   EXPECT_EQ(line(), "show version");  // no step through the history
   EXPECT_EQ(ed->getMark(), 5);
-}
-
-TEST_F(SearchTest, SearchEndRedrawsTheNormalPrompt) {
-  feed("\x12" "ver");
-  // Back over the search prompt, the normal prompt, the line, the cursor kept.
-  EXPECT_EQ(feed("\x02"), bs(5 + 5) + "R#show version" + sp(3) + bs(10) + "\b");
 }
 
 TEST_F(SearchTest, SearchStringStopsAtHundredCharacters) {

@@ -1,63 +1,44 @@
 // Key handling, editing and redraw of the line editor, by exact screen bytes.
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "EditorFixture.h"
+#include "support/CaseFile.h"
 #include "platform/PlatformOs.h"
 
 namespace editortest {
 namespace {
 
-struct KeyCase {
-  const char* name;
-  std::string keys;
-  std::string screen;
-  std::string line;
-  int cursor;
-};
+// "key" for the first step of a case, "key 2" for the second, ...
+std::string numbered(const std::string& key, int step) {
+  return step == 1 ? key : key + " " + std::to_string(step);
+}
 
+// The cases of tests/data/editor/keys.txt.
 TEST_F(EditorTest, KeysGiveExactScreenBytes) {
-  const std::vector<KeyCase> cases = {
-      {"insert at end", "abc", "abc", "abc", 3},
-      {"insert in the middle", "abc\x02\x02X", "abc" + bs(2) + "Xbc" + bs(2), "aXbc", 2},
-      {"backspace", "abc\x08", "abc\b \b", "ab", 2},
-      {"backspace at column 0 beeps", "\x08", "\a", "", 0},
-      {"Ctrl-D deletes under the cursor", "abc\x01\x04", "abc" + bs(3) + "bc " + bs(3), "bc", 0},
-      {"Ctrl-D at the end beeps", "ab\x04", "ab\a", "ab", 2},
-      {"Ctrl-F at the end beeps", "a\x06", "a\a", "a", 1},
-      {"Ctrl-B at column 0 beeps", "\x02", "\a", "", 0},
-      {"Ctrl-E prints the text again up to the end", "abc\x01\x05", "abc" + bs(3) + "abc", "abc",
-       3},
-      {"ESC acts as Ctrl-U", "abc\x1b", "abc" + bs(3) + sp(3) + bs(3), "", 0},
-      {"DEL is inserted as a character", "a\x7f", "a\x7f", "a\x7f", 2},
-      {"unbound control key beeps", "a\x07", "a\a", "a", 1},
-      {"Ctrl-K kills to the end", "abcd\x02\x02\x0b", "abcd" + bs(2) + sp(2) + bs(2), "ab", 2},
-      {"Ctrl-K at the end beeps", "ab\x0b", "ab\a", "ab", 2},
-      {"Ctrl-Y with nothing killed beeps", "ab\x19", "ab\a", "ab", 2},
-      {"kill then yank at the start", "abcd\x02\x02\x0b\x01\x19",
-       "abcd" + bs(2) + sp(2) + bs(2) + bs(2) + "cdab" + bs(2), "cdab", 2},
-      {"Ctrl-T swaps before and under the cursor", "abc\x02\x14", "abc\b\bcb\b", "acb", 2},
-      {"Ctrl-T redraws only the two characters", "abcdef\x02\x02\x02\x02\x14",
-       "abcdef" + bs(4) + "\bcb\b", "acbdef", 2},
-      {"Ctrl-T at column 0 beeps", "ab\x01\x14", "ab\b\b\a", "ab", 0},
-      {"Ctrl-T at the end beeps", "ab\x14", "ab\a", "ab", 2},
-      {"overwrite replaces", "abc\x01\x0fXY", "abc" + bs(3) + "XY", "XYc", 2},
-      {"overwrite at the end inserts", "ab\x0f" "cd", "abcd", "abcd", 4},
-      {"overwrite yank replaces and extends", "abcd\x02\x02\x0b\x01\x0f\x19\x19",
-       "abcd" + bs(2) + sp(2) + bs(2) + bs(2) + "cd" + "cd", "cdcd", 4},
-      {"console keys: home, right, delete", "abc\xb9\xb3\xad", "abc" + bs(3) + "a" + "c " + bs(2),
-       "ac", 1},
-      {"console keys: left, end, overstrike", "abc\xb5\xb5\xb1\xb5\xae" "Z",
-       "abc" + bs(2) + "bc" + "\b" + "Z", "abZ", 3},
-  };
-  for (const KeyCase& c : cases) {
+  for (const testsupport::Case& c : testsupport::readCases("editor/keys.txt")) {
     SetUp();
-    start();
-    EXPECT_EQ(feed(c.keys), c.screen) << c.name;
-    EXPECT_EQ(line(), c.line) << c.name;
-    EXPECT_EQ(ed->getCursor(), c.cursor) << c.name;
+    start(c.get("prompt", "R#"), std::stoi(c.get("width", "80")));
+    for (const std::string& entry : testsupport::splitFields(c.get("history"), '|')) {
+      if (!entry.empty()) ed->Gl_histadd(entry.c_str());
+    }
+    feed(c.get("before"));
+    for (int step = 1; c.has(numbered("keys", step)); ++step) {
+      const std::string screen = feed(c[numbered("keys", step)], std::stoi(c.get(numbered("mode", step), "0")));
+      const std::map<std::string, std::string> state = {
+          {"screen", screen},
+          {"beeped", screen.find('\a') != std::string::npos ? "yes" : "no"},
+          {"searching", ed->isSearching() ? "yes" : "no"},
+          {"line", line()},
+          {"cursor", std::to_string(ed->getCursor())},
+          {"returned", last == nullptr ? "(null)" : last},
+          {"killed", ed->getKillBuffer()},
+      };
+      for (const auto& [key, value] : state) testsupport::expectSection(c, numbered(key, step), value);
+    }
   }
 }
 
@@ -70,36 +51,6 @@ TEST_F(EditorTest, ConsoleByteMap) {
   for (const auto& [byte, code] : rows) {
     EXPECT_EQ(GetLineData::gl_getc(static_cast<char>(byte)), code) << int(byte);
   }
-}
-
-TEST_F(EditorTest, UnknownHighByteEndsTheCallWithAnEmptyLine) {
-  start();
-  feed("abc");
-  EXPECT_EQ(feed("\xff", 1), "");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "");
-  EXPECT_FALSE(ed->getNewLine());
-}
-
-TEST_F(EditorTest, EnterReturnsLineWithNewlineAndStartsANewLine) {
-  start();
-  EXPECT_EQ(feed("show\r", 1), "show\n");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "show\n");
-  EXPECT_TRUE(ed->getNewLine());
-  // The next key sets up an empty line again.
-  feed("x");
-  EXPECT_EQ(line(), "x");
-  EXPECT_FALSE(ed->getNewLine());
-}
-
-TEST_F(EditorTest, ModeOneReturnsNullUntilTheLineEnds) {
-  start();
-  feed("ab", 1);
-  EXPECT_EQ(last, nullptr);
-  feed("\n", 1);
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "ab\n");
 }
 
 TEST_F(EditorTest, ModeTwoAndModeMinusOneReturnNull) {
@@ -117,14 +68,6 @@ TEST_F(EditorTest, ModeTwoAndModeMinusOneReturnNull) {
   EXPECT_EQ(ed->outputString(), "a");
 }
 
-TEST_F(EditorTest, CtrlDOnEmptyLineReturnsEmptyLineAndPrintsNewline) {
-  start();
-  EXPECT_EQ(feed("\x04"), "\n");
-  ASSERT_NE(last, nullptr);
-  EXPECT_STREQ(last, "");
-  EXPECT_FALSE(ed->getNewLine());
-}
-
 TEST_F(EditorTest, NoechoHidesTextButNotThePrompt) {
   start();
   ed->Gl_config("noecho", 1);
@@ -140,18 +83,6 @@ TEST_F(EditorTest, EraseWipesTheFinishedLine) {
   ed->Gl_config("erase", 1);
   EXPECT_EQ(feed("abc\r"), "abc" + bs(3) + sp(3) + bs(3));
   EXPECT_STREQ(last, "abc\n");
-}
-
-TEST_F(EditorTest, InterruptKeyRedrawsPromptAndLine) {
-  start();
-  EXPECT_EQ(feed("ab\x03"), "ab\nR#ab");
-  EXPECT_EQ(line(), "ab");
-  EXPECT_EQ(feed("c"), "c");
-}
-
-TEST_F(EditorTest, CtrlLRedraws) {
-  start();
-  EXPECT_EQ(feed("abc\x02\x0c"), "abc\b\nR#abc\b");
 }
 
 TEST_F(EditorTest, NotAConsoleWritesNothing) {
@@ -176,29 +107,6 @@ TEST_F(EditorTest, PromptChangeRedrawsOverTheOldPrompt) {
 
 // ------------------------------------------------------------ scrolling
 
-TEST_F(EditorTest, LongLineScrollsByAThirdOfTheWidthWithDollarMarks) {
-  // Width 30 with a 2-column prompt: 28 text columns, scroll step 10.
-  start("R#", 30);
-  const std::string text = "abcdefghijklmnopqrstuvwxyz01";
-  EXPECT_EQ(feed(text.substr(0, 27)), text.substr(0, 27));
-  // The 28th character scrolls by 10; "$" marks the hidden left part.
-  EXPECT_EQ(feed(text.substr(27)), bs(27) + "$" + text.substr(11) + sp(9) + bs(9));
-  // Home scrolls back; "$" marks the hidden right part.
-  EXPECT_EQ(feed("\x01"), bs(18) + text.substr(0, 26) + "$" + bs(27));
-  EXPECT_EQ(feed("\x05"), "$" + text.substr(11) + sp(9) + bs(9));
-  // Enter brings the line back to its start before the newline.
-  EXPECT_EQ(feed("\r"), bs(18) + text.substr(0, 26) + "$" + bs(4) + "\n");
-  EXPECT_EQ(std::string(last), text + "\n");
-}
-
-TEST_F(EditorTest, EditInsideAScrolledLineKeepsTheLeftMark) {
-  start("R#", 30);
-  feed("abcdefghijklmnopqrstuvwxyz01");  // shifted by 10
-  // Backspace at the end: only the tail changes.
-  EXPECT_EQ(feed("\x08"), "\b \b");
-  EXPECT_EQ(line(), "abcdefghijklmnopqrstuvwxyz0");
-}
-
 TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   // Intended: the built-in step is 27 although a third of the default 80 is 26.
   char none = 0;
@@ -220,15 +128,6 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   ed->clearOutput();
   ed->gl_fixup("", -1, 80);
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
-}
-
-TEST_F(EditorTest, PromptWiderThanTheScreenStillEdits) {
-  start(std::string(100, 'p'), 30);
-  feed(std::string(50, 'a') + "\x01\x04\x05\x08" "b\x02\x14");
-  EXPECT_EQ(line(), std::string(47, 'a') + "ba");
-  feed("\r");
-  ASSERT_NE(last, nullptr);
-  EXPECT_EQ(std::string(last), std::string(47, 'a') + "ba\n");
 }
 
 // ------------------------------------------------------------ words and regions
@@ -285,20 +184,6 @@ TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
   EXPECT_EQ(line(), "ab");
 }
 
-TEST_F(EditorTest, WipeAndExchangeWithoutMarkDoNothing) {
-  start();
-  EXPECT_EQ(feed("ab\x17\x18"), "ab");
-  EXPECT_EQ(line(), "ab");
-}
-
-TEST_F(EditorTest, KillReplacesTheKillBuffer) {
-  start();
-  feed("one two\x02\x02\x02\x0b");
-  EXPECT_STREQ(ed->getKillBuffer(), "two");
-  feed("\x1b");
-  EXPECT_STREQ(ed->getKillBuffer(), "one ");
-}
-
 TEST_F(EditorTest, GlTabPadsToTheNextStopOfEight) {
   char buf[32] = "ab";
   int loc = 2;
@@ -335,12 +220,6 @@ TEST_F(EditorTest, HelpHookRunsAfterTheQuestionMarkGoesIn) {
   EXPECT_EQ(ed->getCursor(), 2);
   EXPECT_EQ(feed("\t"), "\n2R#show ");
   EXPECT_EQ(line(), "show ");
-}
-
-TEST_F(EditorTest, WithoutHooksQuestionMarkIsTextAndTabDoesNothing) {
-  start();
-  EXPECT_EQ(feed("a?\t"), "a?");
-  EXPECT_EQ(line(), "a?");
 }
 
 TEST_F(EditorTest, ParserInitReadsPagerAndStartsALine) {
@@ -411,31 +290,6 @@ TEST_F(EditorTest, YankPastTheLimitThrowsAndLeavesTheLine) {
 }
 
 // ------------------------------------------------------------ regressions
-
-// Keys in mode 1 after the line has ended (no new line started) edit the
-// finished line, newline included, and never bring back text that an earlier
-// kill left behind the end of the line.
-TEST_F(EditorTest, EditAfterTheNewlineKeepsTheLineEnd) {
-  struct Row {
-    const char* name;
-    std::string before;  // mode 0, ends the line
-    std::string after;   // mode 1, on the finished line
-    std::string line;
-  };
-  const Row rows[] = {
-      {"a letter", "abcdefgh\x01\x0bxy\r", "z", "xyz\n"},
-      {"a yank", "abcdefgh\x01\x0bxy\r", "\x19", "xyabcdefgh\n"},
-      {"two newlines", "ab\r", "\r", "ab\n\n"},
-      {"a deletion", "abcdef\x01\x0bxy\r", "\x08", "x\n"},
-  };
-  for (const Row& row : rows) {
-    start();
-    feed(row.before, 0);
-    ASSERT_TRUE(ed->getNewLine()) << row.name;
-    feed(row.after, 1);
-    EXPECT_EQ(line(), row.line) << row.name;
-  }
-}
 
 // A prompt that takes (almost) the whole screen: the text still scrolls within
 // the line and nothing behind the line's end is ever drawn.

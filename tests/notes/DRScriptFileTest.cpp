@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
+#include "support/CaseFile.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
 
@@ -49,31 +50,15 @@ TEST(DRScriptFileTest, WrittenFormIsTheFourMarkedItems) {
   EXPECT_EQ(readFile(dir + "/f.cmf"), "!!!Version,200\n!!!Favourite,0\n!!!Description:\n!!!a\n!!!b\n!!!Context:\nCTX");
 }
 
+// The files of tests/data/notes/script_files.txt.
 TEST(DRScriptFileTest, ReaderOnHandWrittenFiles) {
   const std::string dir = scratch("sf-read");
-  struct Row {
-    const char* name;
-    std::string file;
-    std::string description;
-    std::string context;
-    bool favourite;
-  } rows[] = {
-      {"no header at all", "print \"x\";\n", "", "print \"x\";\n", true},
-      {"no context marker: all is context", "!!!Version,200\n!!!Favourite,1\nabc",
-       "", "!!!Version,200\n!!!Favourite,1\nabc", true},
-      {"favourite 0", "!!!Favourite,0\n!!!Context:\nx", "", "x", false},
-      {"favourite true is not 1", "!!!Favourite,true\n!!!Context:\nx", "", "x", false},
-      {"favourite 11 is not 1", "!!!Favourite,11\n!!!Context:\nx", "", "x", false},
-      {"CR LF on disk reads as LF", "!!!Favourite,1\r\n!!!Description:\r\n!!!d1\r\n!!!d2\r\n!!!Context:\r\na\r\nb",
-       "d1\nd2", "a\nb", true},
-      {"empty description", "!!!Description:\n!!!\n!!!Context:\nbody", "", "body", true},
-  };
-  for (const Row& row : rows) {
-    writeFile(dir + "/h.cmf", row.file);
+  for (const testsupport::Case& c : testsupport::readCases("notes/script_files.txt")) {
+    writeFile(dir + "/h.cmf", c["file"]);
     DRScriptFile s(dir + "/h.cmf");
-    EXPECT_EQ(s.getDescription(), row.description) << row.name;
-    EXPECT_EQ(s.getContext(), row.context) << row.name;
-    EXPECT_EQ(s.isFavourite(), row.favourite) << row.name;
+    EXPECT_EQ(s.getDescription(), c["description"]) << c.where();
+    EXPECT_EQ(s.getContext(), c["context"]) << c.where();
+    EXPECT_EQ(s.isFavourite() ? "yes" : "no", c["favourite"]) << c.where();
   }
 }
 

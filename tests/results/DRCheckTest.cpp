@@ -4,10 +4,10 @@
 
 #include "results/DRCheck.h"
 #include "results/DRCheckCounters.h"
+#include "support/CaseFile.h"
 
 namespace {
 
-const char kPossible[] = "Summary:\n\tPossible error(s), but no net delimiter imbalance.\n";
 
 std::string check(const std::string& text) {
   DRCheck c(text);
@@ -25,72 +25,11 @@ class DRCheckTest : public ::testing::Test {
   }
 };
 
-struct Row {
-  const char* name;
-  std::string text;
-  std::string expected;
-};
-
+// The cases of tests/data/results/drcheck.txt.
 TEST_F(DRCheckTest, MessagesByteForByte) {
-  const Row rows[] = {
-      {"empty", "", ""},
-      {"balanced", "#a = search_line(\"x\", all);\n{ [ ( ) ] }\n", ""},
-      {"lone open brace", "{",
-       "*Unclosed parenthesis at EOF: } opened on line 1.\nSummary:\n1 too few 1 braces.\n"},
-      {"lone close brace", "}",
-       "Muddle detected at unmatched closing } line 1.\nSummary:\n1 too few 0 braces.\n"},
-      {"paren closed by square", "(]",
-       "Muddle detected at unmatched closing ] line 1.\n*Unclosed parenthesis at EOF: ) opened on line 1.\n"
-       "Summary:\n1 too few 0 square brackets.\n1 too few 1 parentheses.\n"},
-      {"square closes over paren", "[(]",
-       "Missing closers detected line 1.\n\tMissing closing ) opened line 1.\nSummary:\n1 too few 1 "
-       "parentheses.\n"},
-      {"line numbers count line ends", "a\n\n  b\n{\n",
-       "*Unclosed parenthesis at EOF: } opened on line 4.\nSummary:\n1 too few 1 braces.\n"},
-      {"two surplus closers", "x ) )",
-       "Muddle detected at unmatched closing ) line 1.\nMuddle detected at unmatched closing ) line 1.\n"
-       "Summary:\n2 too few 0 parentheses.\n"},
-      {"assignment in condition", "x\nif (a = b) {\n}\n",
-       std::string("Assignment instead of equals in conditional, line 2.\n") + kPossible},
-      {"comparison in condition", "x\nif (a == b) {\n}\n", ""},
-      {"less-or-equal is reported too", "x\nif (a <= b) {\n}\n",
-       std::string("Assignment instead of equals in conditional, line 2.\n") + kPossible},
-      {"assignment in nested parenthesis", "x\nif ((a = b)) {}\n", ""},
-      {"bad if", "x\nif a\n", std::string("Bad if (no condition) line 2.\n") + kPossible},
-      {"if with no blank in front is no statement", "x {if a}", ""},
-      {"if at the very start is not seen", "if a", ""},
-      {"if else with braces", "x\nif (a == b) {\n y;\n} else {\n z;\n}\n", ""},
-      {"if else without braces", "x\nif (a == b) y; else z;\n", ""},
-      {"nested ifs", "x\nif (a == b) if (c == d) y; else z;\nw;\n", ""},
-      {"unclosed if body", "x\nif (a == b) {\n",
-       "*Unclosed parenthesis at EOF: } opened on line 2.\n*Unclosed parenthesis at EOF: then opened on line "
-       "2.\n"
-       "*Unclosed parenthesis at EOF: if opened on line 2.\nSummary:\n1 too few 1 braces.\n"},
-      {"delimiters in strings constants comments", "x \"({[\" '(' '\\'' '\\12' ! ({[\ny", ""},
-      {"comment mark hides the rest of a line", "x\nif (a != b) {\n}\n",
-       "Muddle detected at unmatched closing } line 3.\n"
-       "*Unclosed parenthesis at EOF: ) opened on line 2.\n"
-       "*Unclosed parenthesis at EOF: if-condition opened on line 2.\n"
-       "*Unclosed parenthesis at EOF: if opened on line 2.\n"
-       "Summary:\n1 too few 0 braces.\n1 too few 1 parentheses.\n"},
-      {"string over lines told once", "x \"abc\ndef\nghi\" (",
-       std::string("*Error: '\"' quoted string not ended by line 1.\n") +
-           "*Unclosed parenthesis at EOF: ) opened on line 3.\nSummary:\n1 too few 1 parentheses.\n"},
-      {"string to end of text", "x \"abc",
-       std::string("*Error: '\"' quoted string not ended by end of file.\n") + kPossible},
-      // The end of the text inside a comment, string or constant ends the scan.
-      {"end in comment", "x ( ! ({",
-       "*Unclosed parenthesis at EOF: ) opened on line 1.\nSummary:\n1 too few 1 parentheses.\n"},
-      {"end in escape of string", "x \"ab\\",
-       std::string("*Error: '\"' quoted string not ended by end of file.\n") + kPossible},
-      {"end in constant", "x '\\", ""},
-      {"end in digit constant", "x '\\1", ""},
-      {"if at end", "x if", std::string("Bad if (no condition) line 1.\n") + kPossible},
-      {"else at end", "x\nif (a == b) y;\nels", ""},
-  };
-  for (const Row& row : rows) {
+  for (const testsupport::Case& c : testsupport::readCases("results/drcheck.txt")) {
     SetUp();
-    EXPECT_EQ(check(row.text), row.expected) << row.name;
+    EXPECT_EQ(check(c["text"]), c["messages"]) << c.where();
   }
 }
 

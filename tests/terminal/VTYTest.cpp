@@ -33,90 +33,7 @@ class VTYTest : public testsupport::TerminalFixture {
     output(*vty);
     return vty;
   }
-  // One line per record: line, level, flag, order, text, and the context.
-  static std::string dump(const std::vector<CiscoCommandLine*>& records) {
-    std::string out;
-    for (const CiscoCommandLine* r : records) {
-      std::string text = r->getFlag() == CMD_TEXT ? "text:" + r->getOriginalStr() : r->getOriginalCmd();
-      if (!text.empty() && text.back() == '\n') text.pop_back();
-      std::string context;
-      r->getMajorCmdStr(context);
-      for (char& c : context) {
-        if (c == '\n') c = '|';
-      }
-      out += std::to_string(r->getLineNo()) + " L" + std::to_string(r->getLevel()) + " [" + text + "] {" + context +
-             "} nodes=" + std::to_string(r->getTreeNodeSize()) + "\n";
-    }
-    return out;
-  }
 };
-
-TEST_F(VTYTest, ModesChangeByTheRebuiltText) {
-  VTY vty("R1", false);
-  EXPECT_EQ(prompt(vty), "R1>");
-  EXPECT_TRUE(vty.parse("enable\n", true, nullptr));
-  EXPECT_EQ(vty.currentMode(), EXEC_MODE);
-  EXPECT_EQ(prompt(vty), "R1#");
-  EXPECT_TRUE(vty.parse("configure terminal \n", true, nullptr));
-  EXPECT_EQ(vty.currentMode(), CONFIG_MODE);
-  EXPECT_EQ(prompt(vty), "R1(config)#");
-  EXPECT_EQ(output(vty), "Enter configuration commands, one per line.\n");
-  EXPECT_EQ(output(vty), "") << "the output is taken once";
-  vty.reset();
-  EXPECT_EQ(vty.currentMode(), VIEW_MODE);
-  EXPECT_EQ(prompt(vty), "R1>");
-  EXPECT_EQ(vty.levelCount(), 1u);
-}
-
-TEST_F(VTYTest, AbbreviationsOnlyInCliMode) {
-  VTY cli("R1", true);
-  EXPECT_TRUE(cli.parse("en", true, nullptr));
-  EXPECT_TRUE(cli.parse("conf t", true, nullptr));
-  EXPECT_EQ(cli.currentMode(), CONFIG_MODE);
-  VTY replay("R1", false);
-  EXPECT_TRUE(replay.parse("enable", true, nullptr));
-  EXPECT_FALSE(replay.parse("conf t", true, nullptr));
-  EXPECT_EQ(replay.currentMode(), EXEC_MODE);
-}
-
-TEST_F(VTYTest, ReplayClimbsLevelsAndLinksParents) {
-  auto vty = configTerminal();
-  std::vector<CiscoCommandLine*> records;
-  std::string error;
-  int errorLine = 0;
-  EXPECT_TRUE(vty->getComLineInfo("hostname R1\n"
-                                  "!\n"
-                                  "interface Ethernet0/1\n"
-                                  " description uplink to core\n"
-                                  " ip address 10.0.0.1 255.255.255.0\n"
-                                  "router bgp 65000\n"
-                                  " neighbor 10.0.0.2 remote-as 65001\n"
-                                  " address-family ipv4\n"
-                                  "  network 10.1.0.0\n"
-                                  "ip route 0.0.0.0 0.0.0.0 10.0.0.2\n"
-                                  "end\n",
-                                  records, error, errorLine, true));
-  EXPECT_EQ(errorLine, 0);
-  EXPECT_EQ(dump(records),
-            "1 L0 [hostname R1 ] {} nodes=3\n"
-            "2 L0 [text:!] {} nodes=0\n"
-            "3 L0 [interface ethernet 0/1 ] {} nodes=4\n"
-            "4 L1 [description uplink to core ] {interface ethernet 0/1 |} nodes=3\n"
-            "5 L1 [ip address 10.0.0.1 255.255.255.0 ] {interface ethernet 0/1 |} nodes=5\n"
-            "6 L0 [router bgp 65000 ] {} nodes=4\n"
-            "7 L1 [neighbor 10.0.0.2 remote-as 65001 ] {router bgp 65000 |} nodes=5\n"
-            "8 L1 [address-family ipv4 ] {router bgp 65000 |} nodes=3\n"
-            "9 L2 [network 10.1.0.0 ] {router bgp 65000 |address-family ipv4 |} nodes=3\n"
-            "10 L0 [ip route 0.0.0.0 0.0.0.0 10.0.0.2 ] {} nodes=6\n"
-            "11 L0 [text:end] {} nodes=0\n")
-      << "line 10 climbs two levels";
-  EXPECT_EQ(records[2]->getChildCommands().size(), 2u);
-  EXPECT_EQ(records[3]->getParentCommand(), records[2]);
-  EXPECT_EQ(records[8]->getParentCommand(), records[7]);
-  EXPECT_EQ(records[9]->getParentCommand(), nullptr);
-  EXPECT_EQ(prompt(*vty), "R1(config)#");
-  QxParserUtil::deleteCommands(records);
-}
 
 TEST_F(VTYTest, RefusedLineRestoresStateAndReplayGoesOn) {
   auto vty = configTerminal();
@@ -129,36 +46,6 @@ TEST_F(VTYTest, RefusedLineRestoresStateAndReplayGoesOn) {
   CiscoCommandLine record;
   EXPECT_TRUE(vty->parse(" shutdown", true, &record));
   EXPECT_EQ(record.getTreeNodeSize(), 2);
-
-  std::vector<CiscoCommandLine*> records;
-  std::string error;
-  int errorLine = 0;
-  auto fresh = configTerminal();
-  fresh->getComLineInfo("interface Loopback0\n bogus words\n shutdown\n", records, error, errorLine, true);
-  EXPECT_EQ(errorLine, 2);
-  EXPECT_EQ(dump(records),
-            "1 L0 [interface loopback 0 ] {} nodes=4\n"
-            "2 L1 [bogus words] {interface loopback 0 |} nodes=0\n"
-            "3 L1 [shutdown ] {interface loopback 0 |} nodes=2\n");
-  QxParserUtil::deleteCommands(records);
-}
-
-TEST_F(VTYTest, CliModeErrorsAndExitEnd) {
-  auto vty = configTerminal(true);
-  EXPECT_FALSE(vty->parse("frobnicate", true, nullptr));
-  EXPECT_EQ(output(*vty), "% Invalid input detected at ^\n");
-  EXPECT_EQ(vty->lastError(), "% Invalid input detected at ^");
-  EXPECT_FALSE(vty->parse("hostname", true, nullptr));
-  EXPECT_EQ(output(*vty), "% Incomplete command.\n");
-  EXPECT_TRUE(vty->parse("int gi0/1", true, nullptr));
-  EXPECT_EQ(prompt(*vty), "R1(config-if)#");
-  EXPECT_TRUE(vty->parse("exit", true, nullptr));
-  EXPECT_EQ(prompt(*vty), "R1(config)#");
-  EXPECT_TRUE(vty->parse("end", true, nullptr));
-  EXPECT_EQ(vty->currentMode(), EXEC_MODE);
-  VTY view("R1", true);
-  EXPECT_TRUE(view.parse("exit", true, nullptr)) << "exit in view mode changes nothing";
-  EXPECT_EQ(view.currentMode(), VIEW_MODE);
 }
 
 TEST_F(VTYTest, NoFormsStopWhereTheGrammarAllows) {
@@ -176,21 +63,6 @@ TEST_F(VTYTest, NoFormsStopWhereTheGrammarAllows) {
   EXPECT_TRUE(vty->parse("no shutdown", true, nullptr));
   EXPECT_FALSE(vty->parse("no", true, nullptr)) << "no alone is an ordinary token";
   EXPECT_TRUE(vty->parse("no ip", true, nullptr)) << "without a record nothing holds a no form back";
-}
-
-TEST_F(VTYTest, BannerTextLinesPassWithoutTheGrammar) {
-  auto vty = configTerminal();
-  std::vector<CiscoCommandLine*> records;
-  std::string error;
-  int errorLine = 0;
-  vty->getComLineInfo("banner motd ^C\nWelcome to R1\nauthorised use only\n^C\nhostname R2\n", records, error,
-                      errorLine, true);
-  EXPECT_EQ(errorLine, 0) << error;
-  ASSERT_EQ(records.size(), 5u);
-  EXPECT_EQ(records[1]->getOriginalCmd(), "Welcome to R1\n");
-  EXPECT_EQ(records[2]->getOriginalCmd(), "authorised use only\n");
-  EXPECT_EQ(records[4]->getOriginalCmd(), "hostname R2 \n");
-  QxParserUtil::deleteCommands(records);
 }
 
 TEST_F(VTYTest, OptionGroupWithinOneLine) {

@@ -18,16 +18,6 @@ void expectRows(const std::vector<TextRow>& rows, std::string (*op)(const std::s
   for (const TextRow& row : rows) EXPECT_EQ(op(row.input), row.expected) << "\"" << row.input << "\"";
 }
 
-TEST(CommandWordsTest, CleanLine) {
-  expectRows({{"  a   b", "a b \n"}, {"", "\n"}, {"   \r\n", "\n"}, {"a\tb\r\nc", "a b c \n"}},
-             ParserToolCase::cleanLine);
-}
-
-TEST(CommandWordsTest, FirstKey) {
-  expectRows({{"   ", ""}, {"", ""}, {"word", "word"}, {"\t ip route", "ip"}, {"\r\nx y", "x"}},
-             ParserToolCase::getFirstKey);
-}
-
 TEST(CommandWordsTest, KeysAndVariables) {
   const std::string text = "ip address <1.1.1.1> <255.0.0.0>";
   EXPECT_EQ(ParserToolCase::getKeyStr(text), "ipaddress");
@@ -77,84 +67,9 @@ TEST_F(GetCmdFlagTest, EmptySetFlagsNothingAsOverwrite) {
   EXPECT_EQ(ParserToolCase::getCmdFlag("no hostname <r1>"), qxparser::CMD_NEGATED);
 }
 
-TEST(IsTheSameCmdTest, KeysDecide) {
-  struct Row {
-    std::string a, b;
-    bool withNo, expected;
-  };
-  const std::vector<Row> rows = {
-      {"no shutdown", "shutdown", true, true},
-      {"shutdown", "no shutdown", true, true},
-      {"no shutdown", "shutdown", false, false},
-      {"shutdown", "shutdown", true, false},
-      {"shutdown", "shutdown", false, true},
-      {"ip address <1.1.1.1>", "ip address <2.2.2.2>", false, true},
-      {"no ip address <1.1.1.1>", "ip address <2.2.2.2>", true, true},
-      {"no no x", "no x", true, true},
-      {"ip route", "ip address", false, false},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(ParserToolCase::isTheSameCmd(row.a, row.b, row.withNo), row.expected)
-        << row.a << " / " << row.b << " / " << row.withNo;
-  }
-}
-
-TEST(RemoveMoreTest, PagerPromptAndEraseSequence) {
-  const std::vector<TextRow> rows = {
-      {"router bgp 1", "router bgp 1"},
-      {"foo --More--", ""},
-      {"x --More--\b\b\b\b   router bgp 1", "   router bgp 1"},
-      {"a--More-- b--More-- c", " b--More-- c"},  // only the first prompt counts
-      {"--More--\x1b[Kinterface e0", "[Kinterface e0"},
-      {"--More--a\tb", "b"},
-  };
-  for (const TextRow& row : rows) {
-    std::string text = row.input;
-    ParserToolCase::removeMore(text);
-    EXPECT_EQ(text, row.expected) << row.input;
-  }
-}
-
-TEST(StrInCmdTest, WholeWordPrefix) {
-  struct Row {
-    std::string text, prefix;
-    bool expected;
-  };
-  const std::vector<Row> rows = {
-      {"ip route 1.1.1.1", "ip", true},
-      {"ipx route", "ip", false},
-      {"ip", "ip route", false},
-      {"  ip\troute x", "ip route", true},
-      {"ip routes", "ip route", false},
-      {"IP route", "ip", false},
-      {"ip\n", "ip", true},
-      {"ip\r", "ip", false},  // a carriage return is no word end
-      {"ip", "ip  ", true},
-      {"", "", true},
-      {" x", "", true},
-      {"x", "", false},
-      {"x", "   ", false},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(ParserToolCase::strInCmd(row.text, row.prefix), row.expected)
-        << row.text << " / " << row.prefix;
-  }
-}
-
 TEST(StrInCmdTest, PrefixWordBoundaryNeedNotBeInTextIntended) {
   EXPECT_TRUE(ParserToolCase::strInCmd("ab", "a b"));
   EXPECT_TRUE(ParserToolCase::strInCmd("ipaccess-list x", "ip access-list"));
-}
-
-TEST(String2CutSpaceTest, Tails) {
-  expectRows({{"   ", ""},
-              {"", ""},
-              {"\r\r", ""},
-              {"abc  ", "abc"},
-              {"abc\r\r", "abc"},
-              {"a b", "a b"},
-              {" abc", " abc"}},
-             ParserToolCase::string2CutSpace);
 }
 
 TEST(String2CutSpaceTest, MixedTailLosesOnlyItsLastRunIntended) {

@@ -4,90 +4,8 @@
 #include "TranslatorTestSupport.h"
 
 using translatortest::translate;
-using translatortest::expectMessages;
 using translatortest::validBody;
 using V = std::vector<std::string>;
-
-
-TEST(DRTranslatorExpression, RefusesWordsInPlacesTheLookBackForbids) {
-  expectMessages({
-      {"#a = #b\n#c = #d;", "There is an illegal expression on/before code line 2.\r\n"},
-      {"x #a;", "There is an illegal expression on/before code line 1.\r\n"},
-      {"$a = $b\nif (1) {}", "There is an illegal expression on/before code line 2.\r\n"},
-      {"#a = #b;\n\n= print \"x\";", "There is an illegal expression on/before code line 3.\r\n"},
-      {"if ((#a)) {}", "\"(\" is an illegal method in expression on code line 1.\r\n"},
-      {"while (#a) {}", "\"while\" is an illegal method in expression on code line 1.\r\n"},
-      {"{\n} elsif (1) {}", "\"elsif\" is an illegal method in expression on code line 2.\r\n"},
-  });
-}
-
-TEST(DRTranslatorExpression, AcceptsWordsBehindStatementEndsAndOperators) {
-  EXPECT_EQ(validBody("#a = #b;"), "@a = @b;");
-  EXPECT_EQ(validBody("(1);"), "(1);");
-  EXPECT_EQ(validBody("{#a = (#b);}"), "{@a = (@b);}");
-  EXPECT_EQ(validBody("if (1) {print \"y\";}"), "if (1) {print OUTFILE \"y\";}");
-}
-
-TEST(DRTranslatorExpression, ReadsArgumentListsCuttingAtEveryComma) {
-  struct Row {
-    std::string text;
-    V arguments;
-  };
-  const Row rows[] = {
-      {"(a, b ,c)x", {"a", "b", "c"}},
-      {"  ()x", {"\"\""}},
-      {"(\"a,b\", all)x", {"\"a", "b\"", "all"}},
-      {"(f(x), (y))x", {"f(x)", "(y)"}},
-      {"( \r\n A \t)x", {"A"}},
-      {"(a,)x", {"a", "\"\""}},
-      {"($b ! + - c)x", {"@b ! + - c"}},
-  };
-  for (const Row& row : rows) {
-    std::string message;
-    EXPECT_EQ(DRTranslatorTestAccess::getFunVariables(row.text, &message), row.arguments) << row.text;
-    EXPECT_EQ(message, "") << row.text;
-  }
-  std::string message;
-  DRTranslatorTestAccess::getFunVariables("a)", &message);
-  EXPECT_EQ(message, "Function lacks left bracket on code line 1.\r\n");
-  message.clear();
-  DRTranslatorTestAccess::getFunVariables("(a,\nb", &message);
-  EXPECT_EQ(message, "Function lacks right bracket on code line 2.\r\n");
-  message.clear();
-  // A closing bracket that is the last character counts as missing.
-  DRTranslatorTestAccess::getFunVariables("(a)", &message);
-  EXPECT_EQ(message, "Function lacks right bracket on code line 1.\r\n");
-}
-
-TEST(DRTranslatorExpression, RewritesPatternsIntoPerlPatternsWithInterpolatedVariables) {
-  struct Row {
-    std::string pattern;
-    int flag;
-    std::string result;
-    V groups;
-    V variables;
-  };
-  const Row rows[] = {
-      {"\"ip address (@ip) @mask\"", 0, "\"ip address ([^ \\t\\r\\n]*) $mask[$index]\"", {"@ip"}, {"@mask"}},
-      {"\"ip address (@ip) @mask\"", 1, "\"ip address ([^ \\t\\r\\n]*) $mask[0]\"", {"@ip"}, {"@mask"}},
-      {"\"(abc) Keep\"", 0, "\"([^ \\t\\r\\n]*) Keep\"", {"abc"}, {}},
-      {"\"a @\"", 0, "\"a $[$index]\"", {}, {"@"}},
-      {"\"@a/24 x@a.\"", 1, "\"$a/24[0] x$a.[0]\"", {}, {"@a/24", "@a."}},
-      {"\"@x (@g) @x\"", 0, "\"$x[$index] ([^ \\t\\r\\n]*) $x[$index]\"", {"@g"}, {"@x", "@x"}},
-      {"\"no variables\"", 0, "\"no variables\"", {}, {}},
-      // Unquoted, the name ends with the pattern.
-      {"x @v", 0, "x $v[$index]", {}, {"@v"}},
-      // A ")" before any "(" belongs to no group.
-      {"\") (@a)\"", 0, "\") ([^ \\t\\r\\n]*)\"", {"@a"}, {}},
-      {"\"(unclosed @v\"", 0, "\"(unclosed $v[$index]\"", {}, {"@v"}},
-  };
-  for (const Row& row : rows) {
-    auto p = DRTranslatorTestAccess::solveRegular(row.pattern, row.flag);
-    EXPECT_EQ(p.pattern, row.result) << row.pattern;
-    EXPECT_EQ(p.groups, row.groups) << row.pattern;
-    EXPECT_EQ(p.variables, row.variables) << row.pattern;
-  }
-}
 
 TEST(DRTranslatorExpression, IntendedQuirkAdjacentGroupKeepsItsBrackets) {
   auto p = DRTranslatorTestAccess::solveRegular("\"(@a)(@b) (@c)\"", 0);
@@ -98,23 +16,6 @@ TEST(DRTranslatorExpression, IntendedQuirkAdjacentGroupKeepsItsBrackets) {
   // One character between the groups is enough.
   auto q = DRTranslatorTestAccess::solveRegular("\"(@a) (@b)\"", 0);
   EXPECT_EQ(q.pattern, "\"([^ \\t\\r\\n]*) ([^ \\t\\r\\n]*)\"");
-}
-
-TEST(DRTranslatorExpression, TurnsSetExpressionsIntoCallsFromLeftToRight) {
-  struct Row {
-    std::string script;
-    std::string body;
-  };
-  const Row rows[] = {
-      {"#a = #b + #c;", "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@a = @temp1;"},
-      // The line ends around the operator go with the expression.
-      {"#A = #B\n +\n #C;", "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@a = @temp1;"},
-      {"#a = #b + #c + #d;",
-       "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\@c);\r\n@temp1 = combineLines(\\@temp1, \\@d);\r\n"
-       "@a = @temp1;"},
-      {"#t = #temp1 + #b;", "@temp1 = combineLines(\\@temp1, \\@b);\r\n@t = @temp1;"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(validBody(row.script), row.body) << row.script;
 }
 
 TEST(DRTranslatorExpression, IntendedQuirkSubtractionWritesNoBlankBeforeEquals) {
@@ -128,26 +29,6 @@ TEST(DRTranslatorExpression, PlusAtTheEndOfTheTextHasAnEmptyRightOperand) {
   auto t = translate("#a = #b+");
   EXPECT_EQ(t.message, "");
   EXPECT_EQ(t.body, "@temp1 = ();\r\n@temp1 = combineLines(\\@b, \\);\r\n@a = @temp1");
-}
-
-TEST(DRTranslatorExpression, RefusesBadOperandsAndTargets) {
-  expectMessages({
-      {"#a = $b + #c;", "\"@b\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = #b + @UI_NATList;", "\"@UI_NATList\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = #b -\n\n@UI_NATList;", "\"@UI_NATList\" is an illegal variable in expression on code line 3.\r\n"},
-      {"#a = @UI_NATList - #b;", "\"@UI_NATList\" is an illegal variable in expression on code line 1.\r\n"},
-      // Only subtraction lower-cases its left operand (here quoted text).
-      {"#a = isempty(#b) + #c;", "\"isEmpty(\\#temp3)\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = isempty(#b) - #c;", "\"isempty(\\#temp3)\" is an illegal variable in expression on code line 1.\r\n"},
-      {"#a = (#b + #c);", "An illegal expression on code line 1.\r\n"},
-      // "==" is no word that a variable may follow.
-      {"#x == #a + #b;", "There is an illegal expression on/before code line 1.\r\n"},
-      {"x = #b + #c;", "An illegal expression on code line 1.\r\n"},
-      // Nothing to the left: refused rather than read outside the list.
-      {"+ #c;", "An illegal expression on code line 1.\r\n"},
-      {"\n - #c;", "An illegal expression on code line 2.\r\n"},
-      {"#b + #c;", "An illegal expression on code line 1.\r\n"},
-  });
 }
 
 TEST(DRTranslatorExpression, OperatorAcceptsAnyWordThatStartsWithEquals) {

@@ -7,27 +7,6 @@ using translatortest::translate;
 using translatortest::validBody;
 using V = std::vector<std::string>;
 
-TEST(DRTranslatorLexer, SplitsTextIntoDelimiterBlankAndPlainWords) {
-  struct Row {
-    std::string text;
-    V words;
-  };
-  const Row rows[] = {
-      {"ab  cd;", {"ab", "  ", "cd", ";"}},
-      {"#a=#b;", {"#a=#b", ";"}},
-      {"f(a,b)", {"f", "(", "a", ",", "b", ")"}},
-      {"{}[]!'\"\\+-", {"{", "}", "[", "]", "!", "'", "\"", "\\", "+", "-"}},
-      {"a\tb\r\nc", {"a", "\t", "b", "\r", "\n", "c"}},
-      {"$a @a $;", {"@a", " ", "@a", " ", "@", ";"}},
-      {"x$y$", {"x@y@"}},
-      {"a<=b.c/d*e:f", {"a<=b.c/d*e:f"}},
-      {"word   ", {"word", "   "}},
-      {"", {}},
-      {std::string("ab\0cd", 5), {"ab"}},
-  };
-  for (const Row& row : rows) EXPECT_EQ(DRTranslatorTestAccess::words(row.text), row.words) << row.text;
-}
-
 TEST(DRTranslatorLexer, IntendedQuirkCharacterAfterTrailingBlanksIsLost) {
   // The character that ends a run of blanks is given back only when it is not
   // the last of the text.
@@ -51,39 +30,6 @@ TEST(DRTranslatorLexer, ByteFFStartingAWordStopsTheTranslationSilently) {
   EXPECT_EQ(stopped.body, "");
   EXPECT_EQ(stopped.message, "");
   // As the last character, or inside a word, it is harmless.
-  EXPECT_EQ(validBody("x;\xFF", false), "x;");
-  EXPECT_EQ(validBody("a\xFF" "b;", false), "a\xFF" "b;");
-}
-
-TEST(DRTranslatorLexer, LowerCasesMainTextButKeepsExactUIListNames) {
-  struct Row {
-    std::string script;
-    std::string body;
-  };
-  const Row rows[] = {
-      {"$A = $B;\nIF (1) { }\n", "@a = @b;\nif (1) { }\n"},
-      {"@A = @UI_NATList;\n", "@a = @UI_NATList;\n"},
-      {"@b = @ui_natlist;\n", "@b = @ui_natlist;\n"},
-      {"@c = @UI_NATLIST;\n", "@c = @ui_natlist;\n"},
-      {"$X = $Y;\n", "@x = @y;\n"},
-      {"@l = @UI_IPAddressList;\n", "@l = @UI_IPAddressList;\n"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(validBody(row.script), row.body) << row.script;
-}
-
-TEST(DRTranslatorLexer, CommentsRunToTheLineEnd) {
-  struct Row {
-    std::string script;
-    std::string body;
-  };
-  const Row rows[] = {
-      // The line feed that ends the comment goes with it.
-      {"x; ! y z\nw;\n", "x; w;\n"},
-      {"! first\r\n$a = $b;\n", "\n@a = @b;\n"},
-      {"$a=$b;!c\r\n\r\n", "@a=@b;\n\r\n"},
-      {"!one\n!two\nz;\n", "z;\n"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(validBody(row.script), row.body) << row.script;
 }
 
 TEST(DRTranslatorLexer, IntendedQuirkFinalCommentEndedByLineFeedAloneGivesEmptyBody) {
@@ -100,8 +46,6 @@ TEST(DRTranslatorLexer, IntendedQuirkFinalCommentEndedByLineFeedAloneGivesEmptyB
 TEST(DRTranslatorLexer, QuotedTextLosesItsOpeningQuoteAndKeepsCase) {
   // Outside print and arguments quoted text is copied without handlers; the
   // result is not valid Perl, which is the script's affair.
-  EXPECT_EQ(validBody("x \"Ab + !c\" y;", false), "x Ab + !c\" y;");
-  EXPECT_EQ(validBody("\"$a#b\";", false), "@a@b\";");
   auto unclosed = translate("x \"abc");
   EXPECT_EQ(unclosed.body, "");
   EXPECT_EQ(unclosed.message, "");
