@@ -13,20 +13,21 @@ int failingLine(const ReaderLineMap& lines) {
   VTY vty("hostName", false);
   vty.parse("enable\n", true, nullptr);
   vty.parse("configure terminal \n", true, nullptr);
-  for (size_t i = 0; i < lines.readerLines.size(); ++i) {
-    std::vector<CiscoCommandLine*> records;
+  // The records live until the end: a replaying terminal links each new
+  // command to the command of its mode, read on an earlier line.
+  std::vector<CiscoCommandLine*> records;
+  int found = 0;
+  for (size_t i = 0; i < lines.readerLines.size() && found == 0; ++i) {
     std::string errorText;
     int errorLine = 0;
-    bool raised = false;
     try {
       vty.getComLineInfo(lines.readerLines[i] + "\r\n", records, errorText, errorLine, true);
     } catch (const std::exception&) {
-      raised = true;
+      found = lines.fileLineOf(static_cast<int>(i) + 1);
     }
-    QxParserUtil::deleteCommands(records);
-    if (raised) return lines.fileLineOf(static_cast<int>(i) + 1);
   }
-  return 0;
+  QxParserUtil::deleteCommands(records);
+  return found;
 }
 
 }  // namespace qxparser
