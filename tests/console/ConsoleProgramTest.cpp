@@ -130,6 +130,14 @@ TEST(ConsoleProgramTest, PersonAtAPseudoTerminalGetsADeviceConsole) {
   ASSERT_TRUE(session.waitFor("R1(config)#")) << session.screen();
   session.type("int gi0/1\r");
   ASSERT_TRUE(session.waitFor("R1(config-if)#")) << session.screen();
+  // Short interface types as the device takes them, an ambiguous one (Po:
+  // port-channel and pos) as the type it prefers.
+  for (const char* line : {"int Te1/0/1\r", "int Po1\r", "int Gi0/1\r"}) {
+    const size_t before = session.screen().size();
+    session.type(line);
+    ASSERT_TRUE(session.waitFor("R1(config-if)#", before)) << line << session.screen();
+    EXPECT_EQ(session.screen().find("Invalid", before), std::string::npos) << line << session.screen();
+  }
 
   session.type("?");
   size_t helpStart = session.mark();
