@@ -130,7 +130,9 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
       ++summary.refused;
       const std::string shown = CommandDump::commandText(*record);
       summary.groups[groupKey(shown)]++;
-      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown << "\n";
+      // A message shows at most 200 bytes of the line.
+      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown.substr(0, 200)
+                << (shown.size() > 200 ? " ..." : "") << "\n";
       continue;
     }
     if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;

@@ -60,7 +60,9 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
   while (lastContent > 0 && trimmed(lines[lastContent - 1]).empty()) --lastContent;
   for (size_t i = 0; i < lines.size(); ++i) {
     const std::string line = trimmed(lines[i]);
-    if (line.empty()) continue;
+    // Capture lines are short; a long line (pasted data) is none, and the
+    // patterns below would recurse once per byte of it.
+    if (line.empty() || line.size() > 1024) continue;
     bool drop = false;
     if (line == "Building configuration...") {
       drop = true;
