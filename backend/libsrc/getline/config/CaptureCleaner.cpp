@@ -35,18 +35,6 @@ const std::regex& promptPattern() {
   return pattern;
 }
 
-bool isShowCommand(const std::string& afterPrompt) {
-  std::string word;
-  for (char c : afterPrompt) {
-    if (std::isspace(static_cast<unsigned char>(c))) {
-      if (!word.empty()) break;
-      continue;
-    }
-    word += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  }
-  return word.size() >= 2 && std::string("show").compare(0, word.size(), word) == 0;
-}
-
 }  // namespace
 
 void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
@@ -55,7 +43,9 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
     leftOut.push_back("1: byte-order mark");
   }
   std::vector<std::string> lines = splitLines(text);
-  static const std::regex current(R"(^Current configuration\s*:\s*\d+\s*bytes$)");
+  static const std::regex current(R"(^Current configuration[^:]*:\s*\d+\s*bytes$)");
+  // A console message of the device: "*Mar 27 13:49:48.771: %SYS-5-CONFIG_I: ...".
+  static const std::regex logMessage(R"(^\*?[A-Z][a-z]{2}\s+\d{1,2}\s+\d\d:\d\d:\d\d(\.\d+)?:\s+%.*$)");
   size_t lastContent = lines.size();
   while (lastContent > 0 && trimmed(lines[lastContent - 1]).empty()) --lastContent;
   for (size_t i = 0; i < lines.size(); ++i) {
@@ -66,13 +56,12 @@ void cleanCapture(std::string& text, std::vector<std::string>& leftOut) {
     bool drop = false;
     if (line == "Building configuration...") {
       drop = true;
-    } else if (std::regex_match(line, current)) {
+    } else if (std::regex_match(line, current) || std::regex_match(line, logMessage)) {
       drop = true;
     } else if (std::regex_match(line, promptPattern())) {
-      size_t mark = line.find_first_of("#>");
-      const std::string rest = trimmed(line.substr(mark + 1));
-      // A prompt that asks for a configuration, or the prompt left at the end.
-      if ((!rest.empty() && isShowCommand(rest)) || (rest.empty() && i + 1 == lastContent)) drop = true;
+      // A prompt, alone or with what was typed behind it ("R1#term len 0",
+      // "R1(config)#do show run"): no configuration line looks like one.
+      drop = true;
     }
     if (drop) {
       leftOut.push_back(std::to_string(i + 1) + ": " + line);
