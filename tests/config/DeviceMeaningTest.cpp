@@ -5,6 +5,7 @@
 // applied to B must give A again (compared as stored commands).
 #include <dirent.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "ShippedGrammar.h"
@@ -52,8 +53,16 @@ std::string rollback(const std::string& from, const std::string& to) {
   return QxParserUtil::fallbackConfigCmdsDeviceText(from, to, 1);
 }
 
-bool returns(const std::string& from, const std::string& to) {
-  return stored(QxParserUtil::mergeConfigCmdsDeviceText(rollback(from, to), from)) == stored(to);
+// Whether the rollback from `from` to `to`, applied to `from`, gives `to`;
+// `why` (when given) gets the commands that differ.
+bool returns(const std::string& from, const std::string& to, std::string* why = nullptr) {
+  const auto got = stored(QxParserUtil::mergeConfigCmdsDeviceText(rollback(from, to), from));
+  const auto want = stored(to);
+  if (why) {
+    for (const auto& c : got) if (!std::binary_search(want.begin(), want.end(), c)) *why += "  extra: " + c + "\n";
+    for (const auto& c : want) if (!std::binary_search(got.begin(), got.end(), c)) *why += "  missing: " + c + "\n";
+  }
+  return got == want;
 }
 
 // Columns: name, reference, base, change, running, rollback (escaped text).
@@ -116,6 +125,7 @@ std::string edited(const std::string& a) {
   int interfaces = 0;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line == "end") break;
     const bool top = !line.empty() && line[0] != ' ';
     if (top) {
       inInterface = line.rfind("interface ", 0) == 0;
@@ -176,9 +186,10 @@ TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
     int back = 0;
     for (const std::string& name : names) {
       const std::string a = readWholeFile(folder + name);
-      const bool ok = returns(a, edited(a));
+      std::string why;
+      const bool ok = returns(a, edited(a), &why);
       back += ok;
-      if (!ok && getenv("VTYCONF_ROUND_TRIP_LIST")) std::cout << "  does not return: " << name << "\n";
+      if (!ok && getenv("VTYCONF_ROUND_TRIP_LIST")) std::cout << "does not return: " << name << "\n" << why;
     }
     const double share = static_cast<double>(back) / names.size();
     std::cout << folder << ": " << back << " of " << names.size() << " return (" << share << ")\n";
