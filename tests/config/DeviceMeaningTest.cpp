@@ -123,9 +123,16 @@ std::string edited(const std::string& a) {
   bool inInterface = false, doneAddress = false, doneRoute = false, inBgp = false;
   bool inOspf = false;
   int interfaces = 0;
+  const std::string extras =
+      "ip route 198.51.100.0 255.255.255.0 192.0.2.1\nlogging host 192.0.2.200\nntp server 192.0.2.123\n"
+      "access-list 187 permit ip host 192.0.2.9 any\n";
+  bool extrasDone = false;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line == "end") break;
+    if (line == "end" && !extrasDone) {
+      extrasDone = true;
+      out += extras;
+    }
     const bool top = !line.empty() && line[0] != ' ';
     if (top) {
       inInterface = line.rfind("interface ", 0) == 0;
@@ -150,10 +157,7 @@ std::string edited(const std::string& a) {
     if (inBgp && top) out += " neighbor 192.0.2.77 remote-as 64999\n";
     if (inOspf && top) out += " network 192.0.2.64 0.0.0.63 area 0\n";
   }
-  out += "ip route 198.51.100.0 255.255.255.0 192.0.2.1\n";
-  out += "logging host 192.0.2.200\nntp server 192.0.2.123\n";
-  out += "access-list 187 permit ip host 192.0.2.9 any\n";
-  return out;
+  return extrasDone ? out : out + extras;
 }
 
 std::vector<std::string> cfgFiles(const std::string& folder) {

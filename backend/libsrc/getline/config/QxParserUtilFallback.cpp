@@ -71,11 +71,18 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
     }
     // Both sides are brought into the form that a merge writes, so that
     // comments are gone and repeated words stand in one order.
-    for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {
-      std::string normalised = expandMergedCmds(*side, 0);
+    // Text read as typed is read back the same way: a banner closed on its
+    // last text line ("text ^C") stays closed.
+    for (int i = 0; i < 2; ++i) {
+      std::string normalised = expandMergedCmds(*sides[i], 0);
       if (allLevels) normalised = blanksForNul(normalised);
-      deleteTopLevel(*side);
-      transformCmds(normalised, *side, errorText, errorLine);
+      deleteTopLevel(*sides[i]);
+      if (typed[i]) {
+        std::vector<RefusedLine> again;
+        transformCmdsTyped(normalised, *sides[i], &again);
+      } else {
+        transformCmds(normalised, *sides[i], errorText, errorLine);
+      }
     }
     if (mode == 0) {
       fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);
