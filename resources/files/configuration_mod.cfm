@@ -3719,8 +3719,8 @@ ntp|configure ntp|k||
         <cr>||||
         !
         source|source|||
-          &interfacefile.cfm|interface type|k||
-            <number>|interface number|k||
+          &interfacefile.cfm|interface type|o||
+            <number>|interface number|o||
               <cr>||||
               !
             !
@@ -3734,8 +3734,8 @@ ntp|configure ntp|k||
         !
       !
       source|source|||
-        &interfacefile.cfm|interface type|k||
-          <number>|interface number|k||
+        &interfacefile.cfm|interface type|o||
+          <number>|interface number|o||
             <cr>||||
             !
           !
@@ -3824,8 +3824,8 @@ ntp|configure ntp|k||
     !
   !
   source|source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -4209,7 +4209,7 @@ logging|modify message logging facilities|k||
 snmp-server|modify snmp engine parameters|k||
   community|community|k||
     word|word|k||
-      view|view|k||
+      view|view|o||
         word|word|||
           line|line|lb/le/wa||
             <cr>||||
@@ -4217,7 +4217,7 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      ro|ro|k||
+      ro|ro|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -4225,7 +4225,7 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      rw|rw|k||
+      rw|rw|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -4233,7 +4233,7 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !

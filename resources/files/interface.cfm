@@ -4,7 +4,7 @@ description|interface specific description|k/n/o||
     !
   !
 !
-shutdown|shutdown the selected interface|k||
+shutdown|shutdown the selected interface|k/sb/o||
   <cr>||||
   !
 !
@@ -13,21 +13,21 @@ ip|interface internet protocol config commands|k||&ip_interface.cfm
 ipv6|ipv6 interface subcommands|k||&ipv6_interface.cfm
 !
 duplex|configure duplex operation|k||
-  auto|auto|k/o||
+  auto|auto|o||
     <cr>||||
     !
   !
-  full|full|k/o||
+  full|full|o||
     <cr>||||
     !
   !
-  half|half|k/o||
+  half|half|o||
     <cr>||||
     !
   !
 !
 speed|configure speed operation|k||
-  auto|auto|k/o||
+  auto|auto|o||
     <cr>||||
     !
     line|line|lb/le/wa||
@@ -39,7 +39,7 @@ speed|configure speed operation|k||
     <cr>||||
     !
   !
-  nonegotiate|nonegotiate|k/o||
+  nonegotiate|nonegotiate|o||
     <cr>||||
     !
   !
@@ -990,8 +990,8 @@ vrf|vrf interface commands|k||
 !
 tunnel|protocol-over-protocol tunneling|k||
   source|source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -2237,8 +2237,8 @@ member|member interface settings|k||
   !
 !
 source-interface|source interface of the nve interface|k||
-  &interfacefile.cfm|interface type|k||
-    <number>|interface number|k||
+  &interfacefile.cfm|interface type|o||
+    <number>|interface number|o||
       <cr>||||
       !
     !

@@ -3,18 +3,18 @@
 file interface.cfm
 description "interface specific description" :n/o
   %TEXT
-shutdown "shutdown the selected interface" $
+shutdown "shutdown the selected interface" :sb/o $
 ip "interface internet protocol config commands" &ip_interface.cfm
 ipv6 "ipv6 interface subcommands" &ipv6_interface.cfm
 duplex "configure duplex operation"
-  auto :o $
-  full :o $
-  half :o $
+  auto :-k/o $
+  full :-k/o $
+  half :-k/o $
 speed "configure speed operation"
-  auto :o $
+  auto :-k/o $
     line *
   id :o $
-  nonegotiate :o $
+  nonegotiate :-k/o $
 negotiation "select autonegotiation mode"
   auto :o $
 bandwidth "set bandwidth informational parameter"
@@ -315,7 +315,7 @@ vrf "vrf interface commands"
     line *
 tunnel "protocol-over-protocol tunneling"
   source
-    %IF
+    %IFONE
     a.b.c.d :o $
     ipv6/address :o $
     dynamic $
@@ -682,7 +682,7 @@ member "member interface settings"
           a.b.c.d $
   line *
 source-interface "source interface of the nve interface"
-  %IF
+  %IFONE
 host-reachability "host reachability of the nve interface"
   protocol
     bgp $

@@ -115,11 +115,11 @@ ntp "configure ntp"
     word :k/o "ntp server address" $
       prefer :-k $
         source :-k
-          %IF
+          %IFONE
         key :-k
           id $
       source :-k
-        %IF
+        %IFONE
       key :-k
         id $
           prefer :-k $
@@ -146,7 +146,7 @@ ntp "configure ntp"
   master $
     id $
   source
-    %IF
+    %IFONE
   update-calendar $
   clock-period
     id :o $
@@ -266,14 +266,14 @@ logging "modify message logging facilities"
 snmp-server "modify snmp engine parameters"
   community
     word :k
-      view
+      view :-k/o
         word
           line *
-      ro $
+      ro :-k/o $
         line *
-      rw $
+      rw :-k/o $
         line *
-      id $
+      id :o $
   location
     %TEXT
   contact

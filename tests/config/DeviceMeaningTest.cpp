@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 
 #include "ShippedGrammar.h"
 #include "config/DeviceTextReader.h"
@@ -27,12 +28,26 @@ std::string unescaped(const std::string& text) {
   return out;
 }
 
+// Lines that state a default, shown by some platforms only (shown_defaults.txt).
+const std::set<std::string>& shownDefaults() {
+  static const std::set<std::string> lines = [] {
+    std::set<std::string> read;
+    std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/device_meaning/shown_defaults.txt");
+    for (std::string line; std::getline(in, line);) {
+      if (!line.empty() && line[0] != '#') read.insert(line);
+    }
+    return read;
+  }();
+  return lines;
+}
+
 void collect(const std::vector<CiscoCommandLine*>& records, const std::string& mode,
              std::vector<std::string>& out) {
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0 || !(record->getFlags() & CMDBIT_STORED)) continue;
     std::string command = record->getOriginalCmd();
     command.erase(command.find_last_not_of(" \r\n") + 1);
+    if (shownDefaults().count(command)) continue;
     out.push_back(mode + command);
     collect(record->getChildCommands(), mode + command + " > ", out);
   }
