@@ -4,7 +4,7 @@ description|interface specific description|k/n/o||
     !
   !
 !
-shutdown|shutdown the selected interface|k/sb/o||
+shutdown|shutdown the selected interface|k||
   <cr>||||
   !
 !

@@ -3,7 +3,7 @@
 file interface.cfm
 description "interface specific description" :n/o
   %TEXT
-shutdown "shutdown the selected interface" :sb/o $
+shutdown "shutdown the selected interface" $
 ip "interface internet protocol config commands" &ip_interface.cfm
 ipv6 "ipv6 interface subcommands" &ipv6_interface.cfm
 duplex "configure duplex operation"

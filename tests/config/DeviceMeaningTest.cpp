@@ -144,7 +144,7 @@ std::string edited(const std::string& a) {
   bool extrasDone = false;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line == "end" && !extrasDone) {
+    if (line.rfind("end", 0) == 0 && line.find_first_not_of(' ', 3) == std::string::npos && !extrasDone) {
       extrasDone = true;
       out += extras;
     }
