@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <map>
 
+#include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
 #include "config/QxParserUtil.h"
@@ -68,6 +69,23 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
     }
     lendTypedLines(record->getChildCommands(), lines);
   }
+}
+
+// A line that `first` states only in its "no" form and `second` holds
+// positive is written too: the comparison takes the two for one.
+void addMissedCommands(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+  std::vector<CiscoCommandLine*> from;
+  std::vector<CiscoCommandLine*> to;
+  RecordsGuard fromGuard(from);
+  RecordsGuard toGuard(to);
+  DeviceTextReader::read(first, from);
+  DeviceTextReader::read(second, to);
+  const std::string missed = DeviceMeaning::missedCommands(from, to);
+  if (missed.empty()) return;
+  std::vector<CiscoCommandLine*> extra;
+  RecordsGuard extraGuard(extra);
+  DeviceTextReader::read(missed, extra);
+  DeviceMeaning::graft(extra, out, nullptr);
 }
 
 std::string nulAsBlank(std::string text) {
@@ -139,6 +157,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                            [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
             out.end());
   deleteCommands(comments);
+  if (mode != 0) addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }

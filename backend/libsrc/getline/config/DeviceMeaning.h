@@ -1,0 +1,34 @@
+// DeviceMeaning: what a rollback between two configurations needs beyond
+// the comparison by grammar path, where the device's answer differs from it.
+//
+// A line that a configuration states in its "no" form (" no shutdown") and
+// that the other configuration holds positive (" shutdown") is the same kind
+// of command to the comparison, so a fallback from the first to the second
+// writes nothing for it; the device needs the positive line. `missedCommands`
+// finds such lines, `graft` puts records under the mode heads of another list.
+// Both work on records as DeviceTextReader returns them; they own nothing they
+// are given. Same threading rule as every reading operation.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "config/CiscoCommandLine.h"
+
+namespace qxparser {
+
+class DeviceMeaning {
+ public:
+  // The positive commands of `to` (with their mode heads, as text one blank
+  // of indent per level) that `from` states only in their "no" form.
+  static std::string missedCommands(const std::vector<CiscoCommandLine*>& from,
+                                    const std::vector<CiscoCommandLine*>& to);
+
+  // Moves the records of `extra` into `into`: a mode head that `into` holds
+  // already takes the children, any other record is appended. `extra` is
+  // left empty; what it held is owned by `into` or freed.
+  static void graft(std::vector<CiscoCommandLine*>& extra, std::vector<CiscoCommandLine*>& into,
+                    CiscoCommandLine* parent);
+};
+
+}  // namespace qxparser
