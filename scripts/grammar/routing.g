@@ -386,11 +386,11 @@ bgp "bgp specific commands"
   mpls
     line *
 neighbor "specify a neighbor router"
-  a.b.c.d :k
+  a.b.c.d :k/n
     %BGPNEIGHBOR
-  word :k
+  word :k/n
     %BGPNEIGHBOR
-  word :k
+  word :k/n
     peer-group $
     %BGPNEIGHBOR
 address-family "enter address family command mode"
