@@ -4239,13 +4239,13 @@ snmp-server|modify snmp engine parameters|k||
       !
     !
   !
-  location|location|k||
+  location|location|k/o||
     line|text|lb/le/wa||
       <cr>||||
       !
     !
   !
-  contact|contact|k||
+  contact|contact|k/o||
     line|text|lb/le/wa||
       <cr>||||
       !

@@ -186,31 +186,31 @@ switchport|set switching mode characteristics|k||
   <cr>||sn||
   !
   mode|mode|k/n||
-    access|access|k/o||
+    access|access|o||
       <cr>||||
       !
     !
-    trunk|trunk|k/o||
+    trunk|trunk|o||
       <cr>||||
       !
     !
-    dynamic|dynamic|k||
-      auto|auto|k/o||
+    dynamic|dynamic|||
+      auto|auto|o||
         <cr>||||
         !
       !
-      desirable|desirable|k/o||
+      desirable|desirable|o||
         <cr>||||
         !
       !
     !
-    private-vlan|private-vlan|k||
+    private-vlan|private-vlan|o||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    dot1q-tunnel|dot1q-tunnel|k||
+    dot1q-tunnel|dot1q-tunnel|o||
       <cr>||||
       !
     !

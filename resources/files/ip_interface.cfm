@@ -93,7 +93,7 @@ vrf|vrf|k||
   !
 !
 access-group|specify access control for packets|k||
-  word|word|k||
+  word|word|o||
     in|in|k||
       <cr>||||
       !

@@ -175,7 +175,7 @@ history|enable and control the command history function|k||
   !
 !
 access-class|filter connections based on an ip access list|k||
-  word|word|k||
+  word|word|o||
     in|in|k||
       <cr>||||
       !

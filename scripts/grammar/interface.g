@@ -58,14 +58,14 @@ cdp "cdp interface subcommands"
     line *
 switchport "set switching mode characteristics" $ :sn
   mode :n
-    access :o $
-    trunk :o $
-    dynamic
-      auto :o $
-      desirable :o $
-    private-vlan
+    access :-k/o $
+    trunk :-k/o $
+    dynamic :-k
+      auto :-k/o $
+      desirable :-k/o $
+    private-vlan :-k/o
       line *
-    dot1q-tunnel $
+    dot1q-tunnel :-k/o $
   access :n
     vlan
       1-4094 :o "vlan id of the vlan when this port is in access mode" $

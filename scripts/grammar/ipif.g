@@ -29,7 +29,7 @@ vrf
   sitemap
     word $
 access-group "specify access control for packets"
-  word :k
+  word :o
     in :k $
     out :k $
   in :k

@@ -52,7 +52,7 @@ history $ "enable and control the command history function"
   size
     id :o $
 access-class "filter connections based on an ip access list"
-  word :k
+  word :o
     in :k $
       vrf-also $
     out :k $

@@ -274,9 +274,9 @@ snmp-server "modify snmp engine parameters"
       rw :-k/o $
         line *
       id :o $
-  location
+  location :o
     %TEXT
-  contact
+  contact :o
     %TEXT
   enable
     traps $
