@@ -1290,8 +1290,8 @@ prefix-list|build a prefix list|k||
   word|word|k||
     seq|seq|k||
       id|id|k||
-        permit|permit|k||
-          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        permit|permit|o||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
             ge|ge|k||
@@ -1314,8 +1314,8 @@ prefix-list|build a prefix list|k||
             !
           !
         !
-        deny|deny|k||
-          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        deny|deny|o||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
             ge|ge|k||

@@ -314,16 +314,16 @@ prefix-list "build a prefix list"
   word :k
     seq
       id :k
-        permit
-          a.b.c.d/<1-32> :k $
+        permit :-k/o
+          a.b.c.d/<1-32> :o $
             ge
               id $
                 le
                   id $
             le
               id $
-        deny
-          a.b.c.d/<1-32> :k $
+        deny :-k/o
+          a.b.c.d/<1-32> :o $
             ge
               id $
                 le
