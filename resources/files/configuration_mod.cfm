@@ -1228,37 +1228,37 @@ enable|modify enable password parameters|k||
 !
 banner|define a login banner|k||
   motd|motd|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   login|login|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   exec|exec|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   incoming|incoming|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   slip-ppp|slip-ppp|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   prompt-timeout|prompt-timeout|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !

@@ -201,17 +201,17 @@ enable "modify enable password parameters"
         line * :o
 banner "define a login banner"
   motd :k
-    line *
+    line * :o
   login :k
-    line *
+    line * :o
   exec :k
-    line *
+    line * :o
   incoming :k
-    line *
+    line * :o
   slip-ppp :k
-    line *
+    line * :o
   prompt-timeout :k
-    line *
+    line * :o
 &linefile.cfm "configure a terminal line"
   con :k "primary terminal line"
     id :k @(config-line)#=line.cfm
