@@ -1,6 +1,8 @@
 // Rollback lines that the comparison by grammar path leaves out.
 #include "config/DeviceMeaning.h"
 
+#include <sstream>
+
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
@@ -56,7 +58,53 @@ CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const 
   return nullptr;
 }
 
+// The number of a top-level "access-list N ..." line ("no " allowed), or "".
+std::string listNumber(const std::string& line, bool negated) {
+  const std::string lead = negated ? "no access-list " : "access-list ";
+  if (line.compare(0, lead.size(), lead) != 0) return {};
+  const size_t end = line.find_first_not_of("0123456789", lead.size());
+  if (end == lead.size() || end == std::string::npos || line[end] != ' ') return {};
+  return line.substr(lead.size(), end - lead.size());
+}
+
+std::map<std::string, std::vector<std::string>> numberedLists(const std::string& text) {
+  std::map<std::string, std::vector<std::string>> lists;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) {
+    line.erase(line.find_last_not_of(" \t\r") + 1);
+    const std::string number = listNumber(line, false);
+    if (!number.empty()) lists[number].push_back(line);
+  }
+  return lists;
+}
+
 }  // namespace
+
+std::string DeviceMeaning::wholeListChanges(const std::string& changes) {
+  std::istringstream in(changes);
+  std::string out;
+  for (std::string line; std::getline(in, line);) {
+    const std::string number = listNumber(line, true);
+    out += number.empty() ? line : "no access-list " + number;
+    out += "\n";
+  }
+  return out;
+}
+
+std::string DeviceMeaning::changedNumberedLists(const std::string& first, const std::string& second,
+                                                std::vector<std::string>& numbers) {
+  const auto before = numberedLists(first);
+  const auto after = numberedLists(second);
+  std::string out;
+  for (const auto& [number, entries] : before) {
+    const auto found = after.find(number);
+    if (found == after.end() || found->second == entries) continue;
+    numbers.push_back(number);
+    out += "no access-list " + number + "\n";
+    for (const std::string& entry : found->second) out += entry + "\n";
+  }
+  return out;
+}
 
 std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& from,
                                           const std::vector<CiscoCommandLine*>& to) {

@@ -7,9 +7,13 @@
 // writes nothing for it; the device needs the positive line. `missedCommands`
 // finds such lines, `graft` puts records under the mode heads of another list.
 // Both work on records as DeviceTextReader returns them; they own nothing they
-// are given. Same threading rule as every reading operation.
+// are given. A numbered access list is one setting to the device: "no
+// access-list N" followed by anything deletes the whole list, and a list
+// that changed is written anew (`wholeListChanges`, `changedNumberedLists`).
+// Same threading rule as every reading operation.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,6 +27,16 @@ class DeviceMeaning {
   // of indent per level) that `from` states only in their "no" form.
   static std::string missedCommands(const std::vector<CiscoCommandLine*>& from,
                                     const std::vector<CiscoCommandLine*>& to);
+
+  // `changes` with every top-level "no access-list N ..." of a numbered list
+  // cut to "no access-list N", which is what the device does with it.
+  static std::string wholeListChanges(const std::string& changes);
+
+  // For each numbered access list that `first` holds and `second` holds with
+  // other entries (or in another order): "no access-list N" and the entries of
+  // `second`. The numbers go to `numbers`.
+  static std::string changedNumberedLists(const std::string& first, const std::string& second,
+                                          std::vector<std::string>& numbers);
 
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is

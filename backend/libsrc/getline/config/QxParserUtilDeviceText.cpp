@@ -88,6 +88,35 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
   DeviceMeaning::graft(extra, out, nullptr);
 }
 
+// A numbered access list that changed is deleted and written anew: a "no"
+// of one of its entries would delete it whole on the device.
+void rewriteChangedLists(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+  std::vector<std::string> numbers;
+  const std::string lists = DeviceMeaning::changedNumberedLists(first, second, numbers);
+  if (lists.empty()) return;
+  std::vector<CiscoCommandLine*> gone;
+  RecordsGuard goneGuard(gone);
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string& text = (*it)->getOriginalCmd();
+    const std::string bare = withoutNo(text);
+    bool listed = false;
+    for (const std::string& number : numbers) {
+      const std::string lead = "access-list " + number + " ";
+      listed = listed || bare.compare(0, lead.size(), lead) == 0;
+    }
+    if (listed) {
+      gone.push_back(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  std::vector<CiscoCommandLine*> extra;
+  RecordsGuard extraGuard(extra);
+  DeviceTextReader::read(lists, extra);
+  DeviceMeaning::graft(extra, out, nullptr);
+}
+
 std::string nulAsBlank(std::string text) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
@@ -102,7 +131,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   std::vector<CiscoCommandLine*> configCmds;
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
-  DeviceTextReader::read(changes, changeCmds, changesRefused, false);
+  DeviceTextReader::read(DeviceMeaning::wholeListChanges(changes), changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
@@ -157,7 +186,10 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                            [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
             out.end());
   deleteCommands(comments);
-  if (mode != 0) addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
+  if (mode != 0) {
+    addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
+    rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
+  }
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
