@@ -4280,8 +4280,8 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
   trap-source|trap-source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !

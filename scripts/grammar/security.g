@@ -288,7 +288,7 @@ snmp-server "modify snmp engine parameters"
     word :k
       line *
   trap-source
-    %IF
+    %IFONE
   trap
     link
       line *
