@@ -38,6 +38,13 @@ class DeviceMeaning {
   static std::string changedNumberedLists(const std::string& first, const std::string& second,
                                           std::vector<std::string>& numbers);
 
+  // Under each "router bgp" head of a rollback `out`: a neighbour whose
+  // remote-as goes is taken away whole ("no neighbor X", which the device
+  // applies to its lines in every address family too), and neighbour lines
+  // stand ahead of the address families, since the device refuses
+  // "neighbor X activate" for a neighbour it does not know yet.
+  static void orderNeighbours(std::vector<CiscoCommandLine*>& out);
+
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is
   // left empty; what it held is owned by `into` or freed.

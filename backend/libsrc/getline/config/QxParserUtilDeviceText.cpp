@@ -190,6 +190,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
     addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
+  DeviceMeaning::orderNeighbours(out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
