@@ -174,6 +174,56 @@ void neighboursOf(CiscoCommandLine& router) {
 
 }  // namespace
 
+std::string DeviceMeaning::wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone) {
+  std::istringstream in(changes);
+  std::string out;
+  for (std::string line; std::getline(in, line);) {
+    std::istringstream words(line);
+    std::string no, neighbor, who, what;
+    words >> no >> neighbor >> who >> what;
+    if (no == "no" && neighbor == "neighbor" && !who.empty() && (what.empty() || what == "remote-as")) {
+      gone.insert(who);
+      line = line.substr(0, line.find_first_not_of(' ')) + "no neighbor " + who;
+    }
+    out += line + "\n";
+  }
+  return out;
+}
+
+void DeviceMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone) {
+  if (gone.empty()) return;
+  for (CiscoCommandLine* record : config) {
+    if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
+    for (CiscoCommandLine* family : record->getChildCommands()) {
+      if (!family->hasFlags(CMDBIT_OPENS_MODE)) continue;
+      std::vector<CiscoCommandLine*>& lines = family->getChildCommands();
+      for (auto it = lines.begin(); it != lines.end();) {
+        const std::string& text = (*it)->getOriginalCmd();
+        const size_t end = text.find(' ', 9);
+        if (startsWith(text, "neighbor ") && end != std::string::npos && gone.count(text.substr(9, end - 9))) {
+          freeRecord(*it);
+          it = lines.erase(it);
+        } else {
+          ++it;
+        }
+      }
+    }
+  }
+}
+
+void DeviceMeaning::exitLinesLast(std::vector<CiscoCommandLine*>& records) {
+  for (CiscoCommandLine* record : records) {
+    std::vector<CiscoCommandLine*>& inner = record->getChildCommands();
+    std::stable_partition(inner.begin(), inner.end(), [](const CiscoCommandLine* line) {
+      if (line->getFlag() != CMD_TEXT) return true;
+      const std::string& raw = line->getRawText().empty() ? line->getOriginalStr() : line->getRawText();
+      const size_t lead = raw.find_first_not_of(" \t");
+      return lead == std::string::npos || raw.compare(lead, 5, "exit-") != 0;
+    });
+    exitLinesLast(inner);
+  }
+}
+
 void DeviceMeaning::orderNeighbours(std::vector<CiscoCommandLine*>& out) {
   for (CiscoCommandLine* record : out) {
     if (startsWith(record->getOriginalCmd(), "router bgp ")) neighboursOf(*record);

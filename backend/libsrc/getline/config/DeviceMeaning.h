@@ -14,6 +14,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,19 @@ class DeviceMeaning {
   // stand ahead of the address families, since the device refuses
   // "neighbor X activate" for a neighbour it does not know yet.
   static void orderNeighbours(std::vector<CiscoCommandLine*>& out);
+
+  // `changes` with "no neighbor X remote-as ..." cut to "no neighbor X" (the
+  // device takes the whole neighbour away); the neighbours that go this way
+  // are added to `gone`.
+  static std::string wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone);
+
+  // Takes the lines of the `gone` neighbours out of the address families of
+  // every "router bgp" record of `config`.
+  static void dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone);
+
+  // An "exit-address-family" line (and its kind) read with a mode block stays
+  // the block's last line when a merge added commands to the block.
+  static void exitLinesLast(std::vector<CiscoCommandLine*>& records);
 
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is

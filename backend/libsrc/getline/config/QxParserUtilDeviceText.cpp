@@ -1,6 +1,7 @@
 // Merge and fallback written as device text.
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
@@ -131,11 +132,15 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   std::vector<CiscoCommandLine*> configCmds;
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
-  DeviceTextReader::read(DeviceMeaning::wholeListChanges(changes), changeCmds, changesRefused, false);
+  std::set<std::string> goneNeighbours;
+  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
+                         changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  DeviceMeaning::exitLinesLast(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
 
