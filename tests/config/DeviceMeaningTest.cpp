@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 #include <set>
 
 #include "ShippedGrammar.h"
@@ -54,8 +55,25 @@ void collect(const std::vector<CiscoCommandLine*>& records, const std::string& m
     command.erase(command.find_last_not_of(" \r\n") + 1);
     if (shownDefaults().count(command)) continue;
     out.push_back(mode + command);
+    const size_t first = out.size();
     collect(record->getChildCommands(), mode + command + " > ", out);
+    // Entries of an access list count in their order.
+    if (command.find("access-list ") != std::string::npos && command.find("access-list ") <= 5) {
+      std::string order = "order of " + mode + command + ":";
+      for (size_t i = first; i < out.size(); ++i) order += " | " + out[i];
+      out.push_back(order);
+    }
   }
+}
+
+// The entries of each numbered access list, in their order.
+void numberedOrder(std::vector<std::string>& out) {
+  std::map<std::string, std::string> lists;
+  for (const std::string& line : out) {
+    if (line.compare(0, 12, "access-list ") != 0) continue;
+    lists[line.substr(0, line.find(' ', 12))] += " | " + line;
+  }
+  for (const auto& [list, entries] : lists) out.push_back("order of " + list + ":" + entries);
 }
 
 // The stored commands of a text, each behind the heads of its modes, sorted.
@@ -64,6 +82,7 @@ std::vector<std::string> stored(const std::string& text) {
   DeviceTextReader::read(text, records);
   std::vector<std::string> out;
   collect(records, "", out);
+  numberedOrder(out);
   QxParserUtil::deleteCommands(records);
   std::sort(out.begin(), out.end());
   return out;

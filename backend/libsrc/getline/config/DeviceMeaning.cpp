@@ -82,6 +82,14 @@ std::map<std::string, std::vector<std::string>> numberedLists(const std::string&
   return lists;
 }
 
+// The sequence number that begins an entry, or -1.
+long sequenceOf(const CiscoCommandLine& entry) {
+  const std::string& text = entry.getOriginalCmd();
+  const size_t end = text.find_first_not_of("0123456789");
+  if (end == 0 || end == std::string::npos || text[end] != ' ' || end > 9) return -1;
+  return std::stol(text.substr(0, end));
+}
+
 bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
 
 // The neighbour of a "no neighbor X remote-as ..." line, or "".
@@ -221,6 +229,113 @@ void DeviceMeaning::exitLinesLast(std::vector<CiscoCommandLine*>& records) {
       return lead == std::string::npos || raw.compare(lead, 5, "exit-") != 0;
     });
     exitLinesLast(inner);
+  }
+}
+
+namespace {
+
+void placeBySequence(std::vector<CiscoCommandLine*>& entries) {
+  std::vector<long> numbers;
+  long last = 0;
+  for (const CiscoCommandLine* entry : entries) {
+    const long own = sequenceOf(*entry);
+    const bool added = entry->getLineNo() < 1 || entry->hasFlags(CMDBIT_FROM_CHANGES);
+    if (entry->getTreeNodeSize() > 0 && !added) last = own >= 0 ? own : last + 10;
+    numbers.push_back(own >= 0 ? own : last);
+  }
+  for (size_t i = 0; i < entries.size(); ++i) {
+    CiscoCommandLine* entry = entries[i];
+    const bool added = entry->getLineNo() < 1 || entry->hasFlags(CMDBIT_FROM_CHANGES);
+    const long own = sequenceOf(*entry);
+    if (!added || own < 0) continue;
+    size_t to = 0;
+    while (to < i && (numbers[to] <= own || entries[to]->getTreeNodeSize() == 0)) ++to;
+    if (to == i) continue;
+    entries.erase(entries.begin() + static_cast<long>(i));
+    numbers.erase(numbers.begin() + static_cast<long>(i));
+    entries.insert(entries.begin() + static_cast<long>(to), entry);
+    numbers.insert(numbers.begin() + static_cast<long>(to), own);
+  }
+}
+
+}  // namespace
+
+void DeviceMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
+                                       std::vector<CiscoCommandLine*>& config) {
+  for (CiscoCommandLine* change : changes) {
+    const std::string& head = change->getOriginalCmd();
+    if (!startsWith(head, "ip access-list ") && !startsWith(head, "ipv6 access-list ")) continue;
+    CiscoCommandLine* list = sameHead(config, *change);
+    if (!list) continue;
+    std::vector<CiscoCommandLine*>& asked = change->getChildCommands();
+    std::vector<CiscoCommandLine*>& entries = list->getChildCommands();
+    for (auto it = asked.begin(); it != asked.end();) {
+      const std::string text = trimmed((*it)->getOriginalCmd());
+      if (!(*it)->hasFlags(CMDBIT_NO) || !startsWith(text, "no ") || sequenceOf(**it) >= 0 ||
+          text.find_first_not_of("0123456789", 3) == std::string::npos) {
+        ++it;
+        continue;
+      }
+      const std::string entry = text.substr(3);
+      const auto found = std::find_if(entries.begin(), entries.end(), [&entry](const CiscoCommandLine* line) {
+        const std::string own = trimmed(line->getOriginalCmd());
+        return own == entry || (sequenceOf(*line) >= 0 && own.substr(own.find(' ') + 1) == entry);
+      });
+      if (found == entries.end()) {
+        ++it;
+        continue;
+      }
+      freeRecord(*found);
+      entries.erase(found);
+      freeRecord(*it);
+      it = asked.erase(it);
+    }
+  }
+}
+
+namespace {
+
+std::vector<std::string> entryTexts(const CiscoCommandLine& list) {
+  std::vector<std::string> texts;
+  for (const CiscoCommandLine* entry : list.getChildCommands()) {
+    if (entry->getTreeNodeSize() > 0) texts.push_back(trimmed(entry->getOriginalCmd()));
+  }
+  return texts;
+}
+
+}  // namespace
+
+std::string DeviceMeaning::changedNamedLists(const std::vector<CiscoCommandLine*>& from,
+                                             const std::vector<CiscoCommandLine*>& to,
+                                             std::vector<std::string>& heads) {
+  std::string out;
+  for (const CiscoCommandLine* list : from) {
+    const std::string& head = list->getOriginalCmd();
+    if (!startsWith(head, "ip access-list ") && !startsWith(head, "ipv6 access-list ")) continue;
+    const CiscoCommandLine* other = sameHead(to, *list);
+    if (!other) continue;
+    const auto before = entryTexts(*list);
+    const auto after = entryTexts(*other);
+    if (before == after) continue;
+    heads.push_back(head);
+    std::string lines;
+    for (const std::string& entry : before) {
+      if (std::find(after.begin(), after.end(), entry) == after.end()) lines += " no " + entry + "\n";
+    }
+    for (const std::string& entry : after) {
+      if (std::find(before.begin(), before.end(), entry) == before.end()) lines += " " + entry + "\n";
+    }
+    if (!lines.empty()) out += trimmed(head) + "\n" + lines;
+  }
+  return out;
+}
+
+void DeviceMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& records) {
+  for (CiscoCommandLine* record : records) {
+    const std::string& text = record->getOriginalCmd();
+    if (startsWith(text, "ip access-list ") || startsWith(text, "ipv6 access-list ")) {
+      placeBySequence(record->getChildCommands());
+    }
   }
 }
 

@@ -59,6 +59,23 @@ class DeviceMeaning {
   // the block's last line when a merge added commands to the block.
   static void exitLinesLast(std::vector<CiscoCommandLine*>& records);
 
+  // In each named access list of `records`, an entry that a merge added with
+  // a sequence number stands before the first entry of a higher number (an
+  // entry without one has the number the device gave it: 10, 20, ...).
+  static void entriesBySequence(std::vector<CiscoCommandLine*>& records);
+
+  // "no <entry>" in a named access list of `changes` takes away that one entry
+  // of the same list in `config` (with or without its sequence number), not
+  // the run of entries that the comparison by grammar path finds; the change
+  // is then used up and leaves `changes`.
+  static void removeNamedEntries(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
+
+  // For each named access list that `from` and `to` both hold with other
+  // entries: its head, "no <entry>" for each entry that goes and each entry
+  // that comes, as text. The heads go to `heads` (their full form).
+  static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
+                                       const std::vector<CiscoCommandLine*>& to, std::vector<std::string>& heads);
+
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is
   // left empty; what it held is owned by `into` or freed.

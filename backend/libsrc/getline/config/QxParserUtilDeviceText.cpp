@@ -81,7 +81,20 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
   RecordsGuard toGuard(to);
   DeviceTextReader::read(first, from);
   DeviceTextReader::read(second, to);
-  const std::string missed = DeviceMeaning::missedCommands(from, to);
+  std::vector<std::string> heads;
+  std::string missed = DeviceMeaning::missedCommands(from, to);
+  const std::string lists = DeviceMeaning::changedNamedLists(from, to, heads);
+  // A named list that changed is written by its entries alone.
+  for (auto it = out.begin(); it != out.end();) {
+    if (std::find(heads.begin(), heads.end(), (*it)->getOriginalCmd()) != heads.end()) {
+      std::vector<CiscoCommandLine*> alone{*it};
+      QxParserUtil::deleteCommands(alone);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  missed += lists;
   if (missed.empty()) return;
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
@@ -138,9 +151,11 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
+  DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
   DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
+  DeviceMeaning::entriesBySequence(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
 
