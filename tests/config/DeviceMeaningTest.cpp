@@ -66,10 +66,15 @@ void collect(const std::vector<CiscoCommandLine*>& records, const std::string& m
   }
 }
 
-// The entries of each numbered access list, in their order.
+// The entries of each numbered access list, the VLANs and the interfaces, in
+// their order.
 void numberedOrder(std::vector<std::string>& out) {
   std::map<std::string, std::string> lists;
   for (const std::string& line : out) {
+    if (line.compare(0, 5, "vlan ") == 0 && line.find(" > ") == std::string::npos) lists["vlan"] += " | " + line;
+    if (line.compare(0, 10, "interface ") == 0 && line.find(" > ") == std::string::npos) {
+      lists["interface"] += " | " + line;
+    }
     if (line.compare(0, 12, "access-list ") != 0) continue;
     lists[line.substr(0, line.find(' ', 12))] += " | " + line;
   }

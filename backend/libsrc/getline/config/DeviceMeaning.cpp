@@ -330,6 +330,68 @@ std::string DeviceMeaning::changedNamedLists(const std::vector<CiscoCommandLine*
   return out;
 }
 
+namespace {
+
+// The kind of a numbered top-level command and the numbers that order it
+// ("" when it has no such place).
+std::string numberedKind(const CiscoCommandLine& record, std::vector<long>& numbers) {
+  const std::string text = trimmed(record.getOriginalCmd());
+  std::string kind;
+  size_t from = 0;
+  if (startsWith(text, "vlan ")) {
+    kind = "vlan";
+    from = 5;
+  } else if (startsWith(text, "ip route ") && text.find(" vrf ") == std::string::npos) {
+    kind = "ip route";
+    from = 9;
+  } else if (startsWith(text, "interface ")) {
+    from = text.find_first_of("0123456789", 10);
+    if (from == std::string::npos) return {};
+    kind = text.substr(0, from);
+  } else {
+    return {};
+  }
+  const size_t end = kind == "ip route" ? text.find(' ', text.find(' ', from) + 1) : text.size();
+  const std::string part = text.substr(from, end == std::string::npos ? std::string::npos : end - from);
+  if (part.find_first_not_of("0123456789./: ") != std::string::npos) return {};
+  long value = -1;
+  for (char c : part) {
+    if (c >= '0' && c <= '9') {
+      value = (value < 0 ? 0 : value * 10) + (c - '0');
+    } else if (value >= 0) {
+      numbers.push_back(value);
+      value = -1;
+    }
+  }
+  if (value >= 0) numbers.push_back(value);
+  return numbers.empty() ? std::string() : kind;
+}
+
+bool isAdded(const CiscoCommandLine& record) {
+  return record.getLineNo() < 1 || record.hasFlags(CMDBIT_FROM_CHANGES);
+}
+
+}  // namespace
+
+void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
+  for (size_t i = 0; i < records.size(); ++i) {
+    CiscoCommandLine* record = records[i];
+    std::vector<long> own;
+    if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
+    const std::string kind = numberedKind(*record, own);
+    if (kind.empty()) continue;
+    for (size_t to = 0; to < records.size(); ++to) {
+      std::vector<long> other;
+      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other)) continue;
+      if (to < i) {
+        records.erase(records.begin() + static_cast<long>(i));
+        records.insert(records.begin() + static_cast<long>(to), record);
+      }
+      break;
+    }
+  }
+}
+
 void DeviceMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& records) {
   for (CiscoCommandLine* record : records) {
     const std::string& text = record->getOriginalCmd();

@@ -76,6 +76,11 @@ class DeviceMeaning {
   static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
                                        const std::vector<CiscoCommandLine*>& to, std::vector<std::string>& heads);
 
+  // A top-level "vlan N", "interface TYPE N" or "ip route ..." that a merge
+  // added stands where the device shows it: before the first one of its
+  // kind (same interface type) with a higher number.
+  static void placeInNumberOrder(std::vector<CiscoCommandLine*>& records);
+
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is
   // left empty; what it held is owned by `into` or freed.

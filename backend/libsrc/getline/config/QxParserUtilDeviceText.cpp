@@ -156,6 +156,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
   DeviceMeaning::entriesBySequence(configCmds);
+  DeviceMeaning::placeInNumberOrder(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
 
