@@ -685,141 +685,141 @@ exit|exit configuration mode|k||
 service|modify use of network based services|k||
   timestamps|timestamp debug/log messages|k||
     debug|debug|k||
-      datetime|datetime|k/o||
+      datetime|datetime|o||
         <cr>||||
         !
-        msec|msec|k||
+        msec|msec|o||
           <cr>||||
           !
-          localtime|localtime|k||
+          localtime|localtime|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
-              year|year|k||
+              year|year|o||
                 <cr>||||
                 !
               !
             !
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        localtime|localtime|k||
+        localtime|localtime|o||
           <cr>||||
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
-            year|year|k||
+            year|year|o||
               <cr>||||
               !
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
-          msec|msec|k||
+          msec|msec|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
             !
           !
         !
-        show-timezone|show-timezone|k||
+        show-timezone|show-timezone|o||
           <cr>||||
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        year|year|k||
+        year|year|o||
           <cr>||||
           !
         !
       !
-      uptime|uptime|k||
+      uptime|uptime|o||
         <cr>||||
         !
       !
     !
     log|log|k||
-      datetime|datetime|k/o||
+      datetime|datetime|o||
         <cr>||||
         !
-        msec|msec|k||
+        msec|msec|o||
           <cr>||||
           !
-          localtime|localtime|k||
+          localtime|localtime|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
-              year|year|k||
+              year|year|o||
                 <cr>||||
                 !
               !
             !
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        localtime|localtime|k||
+        localtime|localtime|o||
           <cr>||||
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
-            year|year|k||
+            year|year|o||
               <cr>||||
               !
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
-          msec|msec|k||
+          msec|msec|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
             !
           !
         !
-        show-timezone|show-timezone|k||
+        show-timezone|show-timezone|o||
           <cr>||||
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        year|year|k||
+        year|year|o||
           <cr>||||
           !
         !
       !
-      uptime|uptime|k||
+      uptime|uptime|o||
         <cr>||||
         !
       !
@@ -3815,10 +3815,10 @@ ntp|configure ntp|k||
       !
     !
   !
-  master|master|k||
+  master|master|k/o||
     <cr>||||
     !
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !

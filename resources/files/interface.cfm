@@ -83,7 +83,7 @@ mtu|set the interface maximum transmission unit|k||
   !
 !
 encapsulation|set encapsulation type for an interface|k||
-  dot1q|dot1q|k||
+  dot1q|dot1q|o||
     1-4094|ieee 802.1q vlan id|o||
       <cr>||||
       !
@@ -99,21 +99,21 @@ encapsulation|set encapsulation type for an interface|k||
       !
     !
   !
-  isl|isl|k||
+  isl|isl|o||
     id|id|||
       <cr>||||
       !
     !
   !
-  ppp|ppp|k||
+  ppp|ppp|o||
     <cr>||||
     !
   !
-  hdlc|hdlc|k||
+  hdlc|hdlc|o||
     <cr>||||
     !
   !
-  frame-relay|frame-relay|k||
+  frame-relay|frame-relay|o||
     <cr>||||
     !
     ietf|ietf|k||
@@ -121,43 +121,43 @@ encapsulation|set encapsulation type for an interface|k||
       !
     !
   !
-  arpa|arpa|k||
+  arpa|arpa|o||
     <cr>||||
     !
   !
-  lapb|lapb|k||
+  lapb|lapb|o||
     <cr>||||
     !
   !
-  x25|x25|k||
+  x25|x25|o||
     <cr>||||
     !
   !
-  smds|smds|k||
+  smds|smds|o||
     <cr>||||
     !
   !
-  atm-dxi|atm-dxi|k||
+  atm-dxi|atm-dxi|o||
     <cr>||||
     !
   !
-  slip|slip|k||
+  slip|slip|o||
     <cr>||||
     !
   !
-  mpls|mpls|k||
+  mpls|mpls|o||
     <cr>||||
     !
   !
-  aal5snap|aal5snap|k||
+  aal5snap|aal5snap|o||
     <cr>||||
     !
   !
-  gre|gre|k||
+  gre|gre|o||
     <cr>||||
     !
   !
-  qinq|qinq|k||
+  qinq|qinq|o||
     <cr>||||
     !
   !

@@ -726,19 +726,19 @@ ospf|ospf interface commands|k||
     !
   !
   network|network|k||
-    point-to-point|point-to-point|k/o||
+    point-to-point|point-to-point|o||
       <cr>||||
       !
     !
-    broadcast|broadcast|k/o||
+    broadcast|broadcast|o||
       <cr>||||
       !
     !
-    non-broadcast|non-broadcast|k/o||
+    non-broadcast|non-broadcast|o||
       <cr>||||
       !
     !
-    point-to-multipoint|point-to-multipoint|k/o||
+    point-to-multipoint|point-to-multipoint|o||
       <cr>||||
       !
       non-broadcast|non-broadcast|k||

@@ -1624,8 +1624,8 @@ template|enter template command mode|k||
 !
 timers|adjust routing timers|k||
   bgp|bgp|k||
-    id|id|||
-      id|id|||
+    id|id|o||
+      id|id|o||
         <cr>||||
         !
         id|id|||

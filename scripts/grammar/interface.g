@@ -28,27 +28,27 @@ delay "specify interface throughput delay"
 mtu "set the interface maximum transmission unit"
   64-18000 :o "mtu (bytes)" $
 encapsulation "set encapsulation type for an interface"
-  dot1q
+  dot1q :-k/o
     1-4094 :o "ieee 802.1q vlan id" $
       native $
       second-dot1q
         id $
-  isl
+  isl :-k/o
     id $
-  ppp $
-  hdlc $
-  frame-relay $
+  ppp :-k/o $
+  hdlc :-k/o $
+  frame-relay :-k/o $
     ietf $
-  arpa $
-  lapb $
-  x25 $
-  smds $
-  atm-dxi $
-  slip $
-  mpls $
-  aal5snap $
-  gre $
-  qinq $
+  arpa :-k/o $
+  lapb :-k/o $
+  x25 :-k/o $
+  smds :-k/o $
+  atm-dxi :-k/o $
+  slip :-k/o $
+  mpls :-k/o $
+  aal5snap :-k/o $
+  gre :-k/o $
+  qinq :-k/o $
 cdp "cdp interface subcommands"
   enable $ :sn
   log

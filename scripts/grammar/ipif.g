@@ -230,10 +230,10 @@ ospf "ospf interface commands"
   cost
     1-65535 :o "cost" $
   network
-    point-to-point :o $
-    broadcast :o $
-    non-broadcast :o $
-    point-to-multipoint :o $
+    point-to-point :-k/o $
+    broadcast :-k/o $
+    non-broadcast :-k/o $
+    point-to-multipoint :-k/o $
       non-broadcast $
   mtu-ignore $
   priority

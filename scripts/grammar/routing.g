@@ -437,8 +437,8 @@ template "enter template command mode"
     word :k "template name" @(config-router-ptmp)#=router_bgp_ptmp.cfm
 timers "adjust routing timers"
   bgp
-    id
-      id $
+    id :o
+      id :o $
         id $
 %AFBODY
 

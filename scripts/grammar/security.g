@@ -143,8 +143,8 @@ ntp "configure ntp"
           line *
     word :k/o $
       line *
-  master $
-    id $
+  master :o $
+    id :o $
   source
     %IFONE
   update-calendar $

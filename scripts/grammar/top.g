@@ -54,41 +54,41 @@ exit "exit configuration mode" $
 service "modify use of network based services"
   timestamps "timestamp debug/log messages"
     debug :k
-      datetime $ :o
-        msec $
-          localtime $
-            show-timezone $
-              year $
-          show-timezone $
-          year $
-        localtime $
-          show-timezone $
-            year $
-          year $
-          msec $
-            show-timezone $
-        show-timezone $
-          year $
-        year $
-      uptime $
+      datetime :-k/o $
+        msec :-k/o $
+          localtime :-k/o $
+            show-timezone :-k/o $
+              year :-k/o $
+          show-timezone :-k/o $
+          year :-k/o $
+        localtime :-k/o $
+          show-timezone :-k/o $
+            year :-k/o $
+          year :-k/o $
+          msec :-k/o $
+            show-timezone :-k/o $
+        show-timezone :-k/o $
+          year :-k/o $
+        year :-k/o $
+      uptime :-k/o $
     log :k
-      datetime $ :o
-        msec $
-          localtime $
-            show-timezone $
-              year $
-          show-timezone $
-          year $
-        localtime $
-          show-timezone $
-            year $
-          year $
-          msec $
-            show-timezone $
-        show-timezone $
-          year $
-        year $
-      uptime $
+      datetime :-k/o $
+        msec :-k/o $
+          localtime :-k/o $
+            show-timezone :-k/o $
+              year :-k/o $
+          show-timezone :-k/o $
+          year :-k/o $
+        localtime :-k/o $
+          show-timezone :-k/o $
+            year :-k/o $
+          year :-k/o $
+          msec :-k/o $
+            show-timezone :-k/o $
+        show-timezone :-k/o $
+          year :-k/o $
+        year :-k/o $
+      uptime :-k/o $
   password-encryption $ :sb/o
   pad $ :sn
     to-xot "accept outgoing pad connections over x.25 over tcp" $
