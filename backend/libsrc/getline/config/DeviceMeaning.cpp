@@ -392,6 +392,53 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
   }
 }
 
+namespace {
+
+void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode, std::set<std::string>& keys) {
+  for (const CiscoCommandLine* record : records) {
+    if (record->getTreeNodeSize() == 0) continue;
+    const std::string key = mode + trimmed(record->getOriginalCmd());
+    keys.insert(key);
+    keysOf(record->getChildCommands(), key + "\n", keys);
+  }
+}
+
+void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode, const std::set<std::string>& before,
+            const std::set<std::string>& after) {
+  for (auto it = records.begin(); it != records.end();) {
+    const std::string own = trimmed((*it)->getOriginalCmd());
+    if (startsWith(own, "no ") && (*it)->getChildCommands().empty()) {
+      const std::string kept = mode + own.substr(3);
+      if (before.count(kept) && after.count(kept) && !after.count(mode + own)) {
+        freeRecord(*it);
+        it = records.erase(it);
+        continue;
+      }
+    }
+    std::vector<CiscoCommandLine*>& inner = (*it)->getChildCommands();
+    const bool had = !inner.empty();
+    dropIn(inner, mode + own + "\n", before, after);
+    if (had && inner.empty()) {
+      freeRecord(*it);
+      it = records.erase(it);
+      continue;
+    }
+    ++it;
+  }
+}
+
+}  // namespace
+
+void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
+                                           const std::vector<CiscoCommandLine*>& from,
+                                           const std::vector<CiscoCommandLine*>& to) {
+  std::set<std::string> before;
+  std::set<std::string> after;
+  keysOf(from, "", before);
+  keysOf(to, "", after);
+  dropIn(out, "", before, after);
+}
+
 void DeviceMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& records) {
   for (CiscoCommandLine* record : records) {
     const std::string& text = record->getOriginalCmd();

@@ -81,6 +81,12 @@ class DeviceMeaning {
   // kind (same interface type) with a higher number.
   static void placeInNumberOrder(std::vector<CiscoCommandLine*>& records);
 
+  // Takes out of a rollback `out` each "no X" whose X stands unchanged in both
+  // `from` and `to` (in the same mode) while `to` holds no "no X": the
+  // comparison by grammar path negated a line that nobody changed.
+  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+                                     const std::vector<CiscoCommandLine*>& to);
+
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, any other record is appended. `extra` is
   // left empty; what it held is owned by `into` or freed.

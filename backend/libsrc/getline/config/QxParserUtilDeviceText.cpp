@@ -81,6 +81,7 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
   RecordsGuard toGuard(to);
   DeviceTextReader::read(first, from);
   DeviceTextReader::read(second, to);
+  DeviceMeaning::dropUnchangedNegations(out, from, to);
   std::vector<std::string> heads;
   std::string missed = DeviceMeaning::missedCommands(from, to);
   const std::string lists = DeviceMeaning::changedNamedLists(from, to, heads);
