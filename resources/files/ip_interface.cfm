@@ -15,7 +15,7 @@ address|set the ip address of an interface|k/n||
       !
     !
   !
-  dhcp|dhcp|k||
+  dhcp|dhcp|o||
     <cr>||||
     !
     client-id|client-id|k||
@@ -49,8 +49,8 @@ address|set the ip address of an interface|k/n||
   !
 !
 unnumbered|unnumbered|k||
-  &interfacefile.cfm|interface type|k||
-    <number>|interface number|k||
+  &interfacefile.cfm|interface type|o||
+    <number>|interface number|o||
       <cr>||||
       !
     !

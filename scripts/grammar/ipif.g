@@ -5,7 +5,7 @@ address "set the ip address of an interface" :n
       secondary :k/a $
         vrf
           word $
-  dhcp $
+  dhcp :-k/o $
     client-id
       %IF
     hostname
@@ -15,7 +15,7 @@ address "set the ip address of an interface" :n
   pool
     word $
 unnumbered
-  %IF
+  %IFONE
 cef
   accounting
     line *
