@@ -2020,11 +2020,11 @@ diagnostic|diagnostic configuration|k||
 !
 login|login options|k||
   block-for|block-for|k||
-    id|id|||
-      attempts|attempts|k||
-        id|id|||
-          within|within|k||
-            id|id|||
+    id|id|o||
+      attempts|attempts|o||
+        id|id|o||
+          within|within|o||
+            id|id|o||
               <cr>||||
               !
             !

@@ -1747,7 +1747,7 @@ priority-queue|priority queue settings|k||
 mls|multi-layer switching settings|k||
   qos|qos|k||
     trust|trust|k||
-      line|line|lb/le/wa||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !

@@ -525,7 +525,7 @@ priority-queue "priority queue settings"
 mls "multi-layer switching settings"
   qos
     trust
-      line *
+      line * :o
     vlan-based $
 auto "configure automation"
   qos

@@ -465,11 +465,11 @@ diagnostic "diagnostic configuration"
     line *
 login "login options"
   block-for
-    id
-      attempts
-        id
-          within
-            id $
+    id :o
+      attempts :-k/o
+        id :o
+          within :-k/o
+            id :o $
   on-success
     log $
       every
