@@ -701,9 +701,9 @@ ips|ips|k||
   !
 !
 ospf|ospf interface commands|k||
-  1-65535|process id|k||
+  1-65535|process id|o||
     area|area|k||
-      id|id|k||
+      id|id|o||
         <cr>||||
         !
         secondary|secondary|k||
@@ -713,7 +713,7 @@ ospf|ospf interface commands|k||
           !
         !
       !
-      a.b.c.d|a.b.c.d|k||
+      a.b.c.d|a.b.c.d|o||
         <cr>||||
         !
       !

@@ -221,12 +221,12 @@ ips
     in $
     out $
 ospf "ospf interface commands"
-  1-65535 :k "process id"
+  1-65535 :o "process id"
     area
-      id :k $
+      id :o $
         secondary
           line *
-      a.b.c.d :k $
+      a.b.c.d :o $
   cost
     1-65535 :o "cost" $
   network
