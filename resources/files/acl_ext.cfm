@@ -22,7 +22,7 @@ dynamic|dynamic entry|||
     !
   !
 !
-id|sequence number|k||
+id|sequence number|k/n||
   permit|forward packets|||&acl_ext_entry.cfm
   !
   deny|drop packets|||&acl_ext_entry.cfm

@@ -8,7 +8,7 @@ remark|access list entry comment|||
     !
   !
 !
-id|sequence number|k||
+id|sequence number|k/n||
   permit|forward packets|||&acl_std_entry.cfm
   !
   deny|drop packets|||&acl_std_entry.cfm

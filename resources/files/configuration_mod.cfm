@@ -594,7 +594,7 @@ ipc|inter-process communication|k||
   <cr>||||
   !
 !
-hostname|set system's network name|k||
+hostname|set system's network name|k/n||
   word|this system's network name|o||
     <cr>||||
     !
@@ -685,141 +685,141 @@ exit|exit configuration mode|k||
 service|modify use of network based services|k||
   timestamps|timestamp debug/log messages|k||
     debug|debug|k||
-      datetime|datetime|k/o||
+      datetime|datetime|o||
         <cr>||||
         !
-        msec|msec|k||
+        msec|msec|o||
           <cr>||||
           !
-          localtime|localtime|k||
+          localtime|localtime|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
-              year|year|k||
+              year|year|o||
                 <cr>||||
                 !
               !
             !
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        localtime|localtime|k||
+        localtime|localtime|o||
           <cr>||||
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
-            year|year|k||
+            year|year|o||
               <cr>||||
               !
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
-          msec|msec|k||
+          msec|msec|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
             !
           !
         !
-        show-timezone|show-timezone|k||
+        show-timezone|show-timezone|o||
           <cr>||||
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        year|year|k||
+        year|year|o||
           <cr>||||
           !
         !
       !
-      uptime|uptime|k||
+      uptime|uptime|o||
         <cr>||||
         !
       !
     !
     log|log|k||
-      datetime|datetime|k/o||
+      datetime|datetime|o||
         <cr>||||
         !
-        msec|msec|k||
+        msec|msec|o||
           <cr>||||
           !
-          localtime|localtime|k||
+          localtime|localtime|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
-              year|year|k||
+              year|year|o||
                 <cr>||||
                 !
               !
             !
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        localtime|localtime|k||
+        localtime|localtime|o||
           <cr>||||
           !
-          show-timezone|show-timezone|k||
+          show-timezone|show-timezone|o||
             <cr>||||
             !
-            year|year|k||
+            year|year|o||
               <cr>||||
               !
             !
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
-          msec|msec|k||
+          msec|msec|o||
             <cr>||||
             !
-            show-timezone|show-timezone|k||
+            show-timezone|show-timezone|o||
               <cr>||||
               !
             !
           !
         !
-        show-timezone|show-timezone|k||
+        show-timezone|show-timezone|o||
           <cr>||||
           !
-          year|year|k||
+          year|year|o||
             <cr>||||
             !
           !
         !
-        year|year|k||
+        year|year|o||
           <cr>||||
           !
         !
       !
-      uptime|uptime|k||
+      uptime|uptime|o||
         <cr>||||
         !
       !
@@ -1228,37 +1228,37 @@ enable|modify enable password parameters|k||
 !
 banner|define a login banner|k||
   motd|motd|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   login|login|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   exec|exec|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   incoming|incoming|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   slip-ppp|slip-ppp|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
   prompt-timeout|prompt-timeout|k||
-    line|line|lb/le/wa||
+    line|line|lb/le/wa/o||
       <cr>||||
       !
     !
@@ -2020,11 +2020,11 @@ diagnostic|diagnostic configuration|k||
 !
 login|login options|k||
   block-for|block-for|k||
-    id|id|||
-      attempts|attempts|k||
-        id|id|||
-          within|within|k||
-            id|id|||
+    id|id|o||
+      attempts|attempts|o||
+        id|id|o||
+          within|within|o||
+            id|id|o||
               <cr>||||
               !
             !
@@ -3719,8 +3719,8 @@ ntp|configure ntp|k||
         <cr>||||
         !
         source|source|||
-          &interfacefile.cfm|interface type|k||
-            <number>|interface number|k||
+          &interfacefile.cfm|interface type|o||
+            <number>|interface number|o||
               <cr>||||
               !
             !
@@ -3734,8 +3734,8 @@ ntp|configure ntp|k||
         !
       !
       source|source|||
-        &interfacefile.cfm|interface type|k||
-          <number>|interface number|k||
+        &interfacefile.cfm|interface type|o||
+          <number>|interface number|o||
             <cr>||||
             !
           !
@@ -3815,17 +3815,17 @@ ntp|configure ntp|k||
       !
     !
   !
-  master|master|k||
+  master|master|k/o||
     <cr>||||
     !
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !
   !
   source|source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -4209,7 +4209,7 @@ logging|modify message logging facilities|k||
 snmp-server|modify snmp engine parameters|k||
   community|community|k||
     word|word|k||
-      view|view|k||
+      view|view|o||
         word|word|||
           line|line|lb/le/wa||
             <cr>||||
@@ -4217,7 +4217,7 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      ro|ro|k||
+      ro|ro|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -4225,7 +4225,7 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      rw|rw|k||
+      rw|rw|o||
         <cr>||||
         !
         line|line|lb/le/wa||
@@ -4233,19 +4233,19 @@ snmp-server|modify snmp engine parameters|k||
           !
         !
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
     !
   !
-  location|location|k||
+  location|location|k/o||
     line|text|lb/le/wa||
       <cr>||||
       !
     !
   !
-  contact|contact|k||
+  contact|contact|k/o||
     line|text|lb/le/wa||
       <cr>||||
       !
@@ -4280,8 +4280,8 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
   trap-source|trap-source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !

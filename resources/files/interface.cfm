@@ -13,21 +13,21 @@ ip|interface internet protocol config commands|k||&ip_interface.cfm
 ipv6|ipv6 interface subcommands|k||&ipv6_interface.cfm
 !
 duplex|configure duplex operation|k||
-  auto|auto|k/o||
+  auto|auto|o||
     <cr>||||
     !
   !
-  full|full|k/o||
+  full|full|o||
     <cr>||||
     !
   !
-  half|half|k/o||
+  half|half|o||
     <cr>||||
     !
   !
 !
 speed|configure speed operation|k||
-  auto|auto|k/o||
+  auto|auto|o||
     <cr>||||
     !
     line|line|lb/le/wa||
@@ -39,7 +39,7 @@ speed|configure speed operation|k||
     <cr>||||
     !
   !
-  nonegotiate|nonegotiate|k/o||
+  nonegotiate|nonegotiate|o||
     <cr>||||
     !
   !
@@ -83,7 +83,7 @@ mtu|set the interface maximum transmission unit|k||
   !
 !
 encapsulation|set encapsulation type for an interface|k||
-  dot1q|dot1q|k||
+  dot1q|dot1q|o||
     1-4094|ieee 802.1q vlan id|o||
       <cr>||||
       !
@@ -99,21 +99,21 @@ encapsulation|set encapsulation type for an interface|k||
       !
     !
   !
-  isl|isl|k||
+  isl|isl|o||
     id|id|||
       <cr>||||
       !
     !
   !
-  ppp|ppp|k||
+  ppp|ppp|o||
     <cr>||||
     !
   !
-  hdlc|hdlc|k||
+  hdlc|hdlc|o||
     <cr>||||
     !
   !
-  frame-relay|frame-relay|k||
+  frame-relay|frame-relay|o||
     <cr>||||
     !
     ietf|ietf|k||
@@ -121,43 +121,43 @@ encapsulation|set encapsulation type for an interface|k||
       !
     !
   !
-  arpa|arpa|k||
+  arpa|arpa|o||
     <cr>||||
     !
   !
-  lapb|lapb|k||
+  lapb|lapb|o||
     <cr>||||
     !
   !
-  x25|x25|k||
+  x25|x25|o||
     <cr>||||
     !
   !
-  smds|smds|k||
+  smds|smds|o||
     <cr>||||
     !
   !
-  atm-dxi|atm-dxi|k||
+  atm-dxi|atm-dxi|o||
     <cr>||||
     !
   !
-  slip|slip|k||
+  slip|slip|o||
     <cr>||||
     !
   !
-  mpls|mpls|k||
+  mpls|mpls|o||
     <cr>||||
     !
   !
-  aal5snap|aal5snap|k||
+  aal5snap|aal5snap|o||
     <cr>||||
     !
   !
-  gre|gre|k||
+  gre|gre|o||
     <cr>||||
     !
   !
-  qinq|qinq|k||
+  qinq|qinq|o||
     <cr>||||
     !
   !
@@ -186,31 +186,31 @@ switchport|set switching mode characteristics|k||
   <cr>||sn||
   !
   mode|mode|k/n||
-    access|access|k/o||
+    access|access|o||
       <cr>||||
       !
     !
-    trunk|trunk|k/o||
+    trunk|trunk|o||
       <cr>||||
       !
     !
-    dynamic|dynamic|k||
-      auto|auto|k/o||
+    dynamic|dynamic|||
+      auto|auto|o||
         <cr>||||
         !
       !
-      desirable|desirable|k/o||
+      desirable|desirable|o||
         <cr>||||
         !
       !
     !
-    private-vlan|private-vlan|k||
+    private-vlan|private-vlan|o||
       line|line|lb/le/wa||
         <cr>||||
         !
       !
     !
-    dot1q-tunnel|dot1q-tunnel|k||
+    dot1q-tunnel|dot1q-tunnel|o||
       <cr>||||
       !
     !
@@ -990,8 +990,8 @@ vrf|vrf interface commands|k||
 !
 tunnel|protocol-over-protocol tunneling|k||
   source|source|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -1747,7 +1747,7 @@ priority-queue|priority queue settings|k||
 mls|multi-layer switching settings|k||
   qos|qos|k||
     trust|trust|k||
-      line|line|lb/le/wa||
+      line|line|lb/le/wa/o||
         <cr>||||
         !
       !
@@ -2237,8 +2237,8 @@ member|member interface settings|k||
   !
 !
 source-interface|source interface of the nve interface|k||
-  &interfacefile.cfm|interface type|k||
-    <number>|interface number|k||
+  &interfacefile.cfm|interface type|o||
+    <number>|interface number|o||
       <cr>||||
       !
     !

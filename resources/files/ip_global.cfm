@@ -70,8 +70,8 @@ domain-lookup|domain-lookup|k||
   <cr>||sn||
   !
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -83,8 +83,8 @@ domain|domain name system|k||
     <cr>||sn||
     !
     source-interface|source-interface|k||
-      &interfacefile.cfm|interface type|k||
-        <number>|interface number|k||
+      &interfacefile.cfm|interface type|o||
+        <number>|interface number|o||
           <cr>||||
           !
         !
@@ -359,8 +359,8 @@ http|http|k||
   !
   client|client|k||
     source-interface|source-interface|k||
-      &interfacefile.cfm|interface type|k||
-        <number>|interface number|k||
+      &interfacefile.cfm|interface type|o||
+        <number>|interface number|o||
           <cr>||||
           !
         !
@@ -440,8 +440,8 @@ ssh|configure secure shell|k||
     !
   !
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -926,8 +926,8 @@ tftp|tftp|k||
     !
   !
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -942,8 +942,8 @@ tftp|tftp|k||
 !
 ftp|ftp|k||
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -1016,8 +1016,8 @@ telnet|telnet|k||
     !
   !
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -1290,8 +1290,8 @@ prefix-list|build a prefix list|k||
   word|word|k||
     seq|seq|k||
       id|id|k||
-        permit|permit|k||
-          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        permit|permit|o||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
             ge|ge|k||
@@ -1314,8 +1314,8 @@ prefix-list|build a prefix list|k||
             !
           !
         !
-        deny|deny|k||
-          a.b.c.d/<1-32>|a.b.c.d/<1-32|k||
+        deny|deny|o||
+          a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
             ge|ge|k||
@@ -2434,8 +2434,8 @@ arp|arp|k||
 !
 radius|radius|k||
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !
@@ -2444,8 +2444,8 @@ radius|radius|k||
 !
 tacacs|tacacs|k||
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !

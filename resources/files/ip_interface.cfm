@@ -15,7 +15,7 @@ address|set the ip address of an interface|k/n||
       !
     !
   !
-  dhcp|dhcp|k||
+  dhcp|dhcp|o||
     <cr>||||
     !
     client-id|client-id|k||
@@ -49,8 +49,8 @@ address|set the ip address of an interface|k/n||
   !
 !
 unnumbered|unnumbered|k||
-  &interfacefile.cfm|interface type|k||
-    <number>|interface number|k||
+  &interfacefile.cfm|interface type|o||
+    <number>|interface number|o||
       <cr>||||
       !
     !
@@ -93,7 +93,7 @@ vrf|vrf|k||
   !
 !
 access-group|specify access control for packets|k||
-  word|word|k||
+  word|word|o||
     in|in|k||
       <cr>||||
       !
@@ -701,9 +701,9 @@ ips|ips|k||
   !
 !
 ospf|ospf interface commands|k||
-  1-65535|process id|k||
+  1-65535|process id|o||
     area|area|k||
-      id|id|k||
+      id|id|o||
         <cr>||||
         !
         secondary|secondary|k||
@@ -713,7 +713,7 @@ ospf|ospf interface commands|k||
           !
         !
       !
-      a.b.c.d|a.b.c.d|k||
+      a.b.c.d|a.b.c.d|o||
         <cr>||||
         !
       !
@@ -726,19 +726,19 @@ ospf|ospf interface commands|k||
     !
   !
   network|network|k||
-    point-to-point|point-to-point|k/o||
+    point-to-point|point-to-point|o||
       <cr>||||
       !
     !
-    broadcast|broadcast|k/o||
+    broadcast|broadcast|o||
       <cr>||||
       !
     !
-    non-broadcast|non-broadcast|k/o||
+    non-broadcast|non-broadcast|o||
       <cr>||||
       !
     !
-    point-to-multipoint|point-to-multipoint|k/o||
+    point-to-multipoint|point-to-multipoint|o||
       <cr>||||
       !
       non-broadcast|non-broadcast|k||

@@ -19,8 +19,8 @@ icmp-echo|icmp-echo|k||
     <cr>||||
     !
     source-interface|source-interface|k||
-      &interfacefile.cfm|interface type|k||
-        <number>|interface number|k||
+      &interfacefile.cfm|interface type|o||
+        <number>|interface number|o||
           <cr>||||
           !
         !
@@ -187,8 +187,8 @@ history|history|k||
   !
 !
 source-interface|source-interface|k||
-  &interfacefile.cfm|interface type|k||
-    <number>|interface number|k||
+  &interfacefile.cfm|interface type|o||
+    <number>|interface number|o||
       <cr>||||
       !
     !

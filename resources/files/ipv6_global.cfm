@@ -958,8 +958,8 @@ dhcp-relay|dhcpv6 relay settings|k||
     !
   !
   source-interface|source-interface|k||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
       !

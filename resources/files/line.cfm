@@ -37,7 +37,7 @@ privilege|change privilege level for line|k||
 login|enable password checking|k/sb/o||
   <cr>||||
   !
-  local|local|k||
+  local|local|o||
     <cr>||||
     !
   !
@@ -50,64 +50,64 @@ login|enable password checking|k/sb/o||
 !
 transport|define transport protocols for line|k||
   input|input|k/o||
-    all|all|k||
+    all|all|||
       <cr>||||
       !
     !
-    none|none|k||
+    none|none|||
       <cr>||||
       !
     !
-    ssh|ssh|k||
+    ssh|ssh|||
       <cr>||||
       !
-      telnet|telnet|k||
+      telnet|telnet|||
         <cr>||||
         !
       !
     !
-    telnet|telnet|k||
+    telnet|telnet|||
       <cr>||||
       !
-      ssh|ssh|k||
+      ssh|ssh|||
         <cr>||||
         !
       !
     !
-    pad|pad|k||
+    pad|pad|||
       <cr>||||
       !
     !
-    rlogin|rlogin|k||
+    rlogin|rlogin|||
       <cr>||||
       !
     !
-    udptn|udptn|k||
+    udptn|udptn|||
       <cr>||||
       !
     !
   !
   output|output|k/o||
-    all|all|k||
+    all|all|||
       <cr>||||
       !
     !
-    none|none|k||
+    none|none|||
       <cr>||||
       !
     !
-    ssh|ssh|k||
+    ssh|ssh|||
       <cr>||||
       !
-      telnet|telnet|k||
+      telnet|telnet|||
         <cr>||||
         !
       !
     !
-    telnet|telnet|k||
+    telnet|telnet|||
       <cr>||||
       !
-      ssh|ssh|k||
+      ssh|ssh|||
         <cr>||||
         !
       !
@@ -118,15 +118,15 @@ transport|define transport protocols for line|k||
     !
   !
   preferred|preferred|k/o||
-    none|none|k||
+    none|none|||
       <cr>||||
       !
     !
-    ssh|ssh|k||
+    ssh|ssh|||
       <cr>||||
       !
     !
-    telnet|telnet|k||
+    telnet|telnet|||
       <cr>||||
       !
     !
@@ -175,7 +175,7 @@ history|enable and control the command history function|k||
   !
 !
 access-class|filter connections based on an ip access list|k||
-  word|word|k||
+  word|word|o||
     in|in|k||
       <cr>||||
       !

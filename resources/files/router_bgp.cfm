@@ -411,7 +411,7 @@ bgp|bgp specific commands|k||
   !
 !
 neighbor|specify a neighbor router|k||
-  a.b.c.d|a.b.c.d|k||
+  a.b.c.d|a.b.c.d|k/n||
     remote-as|specify a bgp neighbor|k||
       1-4294967295|AS of remote neighbor|o||
         <cr>||||
@@ -763,7 +763,7 @@ neighbor|specify a neighbor router|k||
       !
     !
   !
-  word|word|k||
+  word|word|k/n||
     remote-as|specify a bgp neighbor|k||
       1-4294967295|AS of remote neighbor|o||
         <cr>||||
@@ -1115,7 +1115,7 @@ neighbor|specify a neighbor router|k||
       !
     !
   !
-  word|word|k||
+  word|word|k/n||
     peer-group|peer-group|k||
       <cr>||||
       !
@@ -1624,8 +1624,8 @@ template|enter template command mode|k||
 !
 timers|adjust routing timers|k||
   bgp|bgp|k||
-    id|id|||
-      id|id|||
+    id|id|o||
+      id|id|o||
         <cr>||||
         !
         id|id|||

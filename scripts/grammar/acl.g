@@ -132,7 +132,7 @@ evaluate "evaluate a reflexive list"
 dynamic "dynamic entry"
   word :k
     permit &acl_ext_entry.cfm
-id :k "sequence number"
+id :k/n "sequence number"
   permit "forward packets" &acl_ext_entry.cfm
   deny "drop packets" &acl_ext_entry.cfm
   remark "access list entry comment"
@@ -143,7 +143,7 @@ permit "forward packets" &acl_std_entry.cfm
 deny "drop packets" &acl_std_entry.cfm
 remark "access list entry comment"
   %TEXT
-id :k "sequence number"
+id :k/n "sequence number"
   permit "forward packets" &acl_std_entry.cfm
   deny "drop packets" &acl_std_entry.cfm
   remark "access list entry comment"

@@ -4,6 +4,10 @@ def IF
   &interfacefile.cfm "interface type"
     <number> :k "interface number" $
 
+def IFONE
+  &interfacefile.cfm :-k/o "interface type"
+    <number> :o "interface number" $
+
 def TEXT
   line * "text"
 

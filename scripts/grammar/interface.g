@@ -7,14 +7,14 @@ shutdown "shutdown the selected interface" $
 ip "interface internet protocol config commands" &ip_interface.cfm
 ipv6 "ipv6 interface subcommands" &ipv6_interface.cfm
 duplex "configure duplex operation"
-  auto :o $
-  full :o $
-  half :o $
+  auto :-k/o $
+  full :-k/o $
+  half :-k/o $
 speed "configure speed operation"
-  auto :o $
+  auto :-k/o $
     line *
   id :o $
-  nonegotiate :o $
+  nonegotiate :-k/o $
 negotiation "select autonegotiation mode"
   auto :o $
 bandwidth "set bandwidth informational parameter"
@@ -28,27 +28,27 @@ delay "specify interface throughput delay"
 mtu "set the interface maximum transmission unit"
   64-18000 :o "mtu (bytes)" $
 encapsulation "set encapsulation type for an interface"
-  dot1q
+  dot1q :-k/o
     1-4094 :o "ieee 802.1q vlan id" $
       native $
       second-dot1q
         id $
-  isl
+  isl :-k/o
     id $
-  ppp $
-  hdlc $
-  frame-relay $
+  ppp :-k/o $
+  hdlc :-k/o $
+  frame-relay :-k/o $
     ietf $
-  arpa $
-  lapb $
-  x25 $
-  smds $
-  atm-dxi $
-  slip $
-  mpls $
-  aal5snap $
-  gre $
-  qinq $
+  arpa :-k/o $
+  lapb :-k/o $
+  x25 :-k/o $
+  smds :-k/o $
+  atm-dxi :-k/o $
+  slip :-k/o $
+  mpls :-k/o $
+  aal5snap :-k/o $
+  gre :-k/o $
+  qinq :-k/o $
 cdp "cdp interface subcommands"
   enable $ :sn
   log
@@ -58,14 +58,14 @@ cdp "cdp interface subcommands"
     line *
 switchport "set switching mode characteristics" $ :sn
   mode :n
-    access :o $
-    trunk :o $
-    dynamic
-      auto :o $
-      desirable :o $
-    private-vlan
+    access :-k/o $
+    trunk :-k/o $
+    dynamic :-k
+      auto :-k/o $
+      desirable :-k/o $
+    private-vlan :-k/o
       line *
-    dot1q-tunnel $
+    dot1q-tunnel :-k/o $
   access :n
     vlan
       1-4094 :o "vlan id of the vlan when this port is in access mode" $
@@ -315,7 +315,7 @@ vrf "vrf interface commands"
     line *
 tunnel "protocol-over-protocol tunneling"
   source
-    %IF
+    %IFONE
     a.b.c.d :o $
     ipv6/address :o $
     dynamic $
@@ -525,7 +525,7 @@ priority-queue "priority queue settings"
 mls "multi-layer switching settings"
   qos
     trust
-      line *
+      line * :o
     vlan-based $
 auto "configure automation"
   qos
@@ -682,7 +682,7 @@ member "member interface settings"
           a.b.c.d $
   line *
 source-interface "source interface of the nve interface"
-  %IF
+  %IFONE
 host-reachability "host reachability of the nve interface"
   protocol
     bgp $

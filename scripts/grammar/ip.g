@@ -23,11 +23,11 @@ bootp
   server $ :sn
 domain-lookup $ :sn
   source-interface
-    %IF
+    %IFONE
 domain "domain name system"
   lookup $ :sn
     source-interface
-      %IF
+      %IFONE
     nsap "nsap lookups" $
   name :o
     word :o $
@@ -115,7 +115,7 @@ http
     word :o $
   client
     source-interface
-      %IF
+      %IFONE
     line *
   port
     id $
@@ -141,7 +141,7 @@ ssh "configure secure shell"
   authentication-retries
     id :o $
   source-interface
-    %IF
+    %IFONE
   logging
     events $
   rsa
@@ -197,12 +197,12 @@ tftp
     id :o $
   claim-netascii "claim netascii transfers" $
   source-interface
-    %IF
+    %IFONE
   blocksize
     id $
 ftp
   source-interface
-    %IF
+    %IFONE
   username
     word $
   password
@@ -227,7 +227,7 @@ telnet
       delay
         id :o $
   source-interface
-    %IF
+    %IFONE
   tos
     <value> $
   hidden
@@ -314,16 +314,16 @@ prefix-list "build a prefix list"
   word :k
     seq
       id :k
-        permit
-          a.b.c.d/<1-32> :k $
+        permit :-k/o
+          a.b.c.d/<1-32> :o $
             ge
               id $
                 le
                   id $
             le
               id $
-        deny
-          a.b.c.d/<1-32> :k $
+        deny :-k/o
+          a.b.c.d/<1-32> :o $
             ge
               id $
                 le
@@ -606,10 +606,10 @@ arp
   line *
 radius
   source-interface
-    %IF
+    %IFONE
 tacacs
   source-interface
-    %IF
+    %IFONE
 ospf
   name-lookup $
 dns
@@ -761,7 +761,7 @@ dhcp-relay "dhcpv6 relay settings"
       format
         line *
   source-interface
-    %IF
+    %IFONE
 inspect "ipv6 inspection"
   name "inspection rule"
     word :k

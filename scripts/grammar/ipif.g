@@ -5,7 +5,7 @@ address "set the ip address of an interface" :n
       secondary :k/a $
         vrf
           word $
-  dhcp $
+  dhcp :-k/o $
     client-id
       %IF
     hostname
@@ -15,7 +15,7 @@ address "set the ip address of an interface" :n
   pool
     word $
 unnumbered
-  %IF
+  %IFONE
 cef
   accounting
     line *
@@ -29,7 +29,7 @@ vrf
   sitemap
     word $
 access-group "specify access control for packets"
-  word :k
+  word :o
     in :k $
     out :k $
   in :k
@@ -221,19 +221,19 @@ ips
     in $
     out $
 ospf "ospf interface commands"
-  1-65535 :k "process id"
+  1-65535 :o "process id"
     area
-      id :k $
+      id :o $
         secondary
           line *
-      a.b.c.d :k $
+      a.b.c.d :o $
   cost
     1-65535 :o "cost" $
   network
-    point-to-point :o $
-    broadcast :o $
-    non-broadcast :o $
-    point-to-multipoint :o $
+    point-to-point :-k/o $
+    broadcast :-k/o $
+    non-broadcast :-k/o $
+    point-to-multipoint :-k/o $
       non-broadcast $
   mtu-ignore $
   priority

@@ -12,32 +12,32 @@ privilege "change privilege level for line"
   level
     id :o $
 login $ :sb/o "enable password checking"
-  local $
+  local :-k/o $
   authentication
     word :o $
 transport "define transport protocols for line"
   input :o
-    all $
-    none $
-    ssh $
-      telnet $
-    telnet $
-      ssh $
-    pad $
-    rlogin $
-    udptn $
+    all :-k $
+    none :-k $
+    ssh :-k $
+      telnet :-k $
+    telnet :-k $
+      ssh :-k $
+    pad :-k $
+    rlogin :-k $
+    udptn :-k $
   output :o
-    all $
-    none $
-    ssh $
-      telnet $
-    telnet $
-      ssh $
+    all :-k $
+    none :-k $
+    ssh :-k $
+      telnet :-k $
+    telnet :-k $
+      ssh :-k $
     line *
   preferred :o
-    none $
-    ssh $
-    telnet $
+    none :-k $
+    ssh :-k $
+    telnet :-k $
     line *
 password "set a password"
   id
@@ -52,7 +52,7 @@ history $ "enable and control the command history function"
   size
     id :o $
 access-class "filter connections based on an ip access list"
-  word :k
+  word :o
     in :k $
       vrf-also $
     out :k $

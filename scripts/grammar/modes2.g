@@ -357,7 +357,7 @@ ethernet "ethernet operations"
 icmp-echo
   a.b.c.d :o $
     source-interface
-      %IF
+      %IFONE
     source-ip
       a.b.c.d $
   word :o $
@@ -411,7 +411,7 @@ verify-data $
 history
   line *
 source-interface
-  %IF
+  %IFONE
 source-ipaddr
   a.b.c.d $
 exit $

@@ -386,11 +386,11 @@ bgp "bgp specific commands"
   mpls
     line *
 neighbor "specify a neighbor router"
-  a.b.c.d :k
+  a.b.c.d :k/n
     %BGPNEIGHBOR
-  word :k
+  word :k/n
     %BGPNEIGHBOR
-  word :k
+  word :k/n
     peer-group $
     %BGPNEIGHBOR
 address-family "enter address family command mode"
@@ -437,8 +437,8 @@ template "enter template command mode"
     word :k "template name" @(config-router-ptmp)#=router_bgp_ptmp.cfm
 timers "adjust routing timers"
   bgp
-    id
-      id $
+    id :o
+      id :o $
         id $
 %AFBODY
 

@@ -115,11 +115,11 @@ ntp "configure ntp"
     word :k/o "ntp server address" $
       prefer :-k $
         source :-k
-          %IF
+          %IFONE
         key :-k
           id $
       source :-k
-        %IF
+        %IFONE
       key :-k
         id $
           prefer :-k $
@@ -143,10 +143,10 @@ ntp "configure ntp"
           line *
     word :k/o $
       line *
-  master $
-    id $
+  master :o $
+    id :o $
   source
-    %IF
+    %IFONE
   update-calendar $
   clock-period
     id :o $
@@ -266,17 +266,17 @@ logging "modify message logging facilities"
 snmp-server "modify snmp engine parameters"
   community
     word :k
-      view
+      view :-k/o
         word
           line *
-      ro $
+      ro :-k/o $
         line *
-      rw $
+      rw :-k/o $
         line *
-      id $
-  location
+      id :o $
+  location :o
     %TEXT
-  contact
+  contact :o
     %TEXT
   enable
     traps $
@@ -288,7 +288,7 @@ snmp-server "modify snmp engine parameters"
     word :k
       line *
   trap-source
-    %IF
+    %IFONE
   trap
     link
       line *

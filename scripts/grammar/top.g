@@ -24,7 +24,7 @@ copy "copy from one file to another"
 
 file configuration_mod.cfm
 ^c "end of a banner" $
-hostname "set system's network name"
+hostname :n "set system's network name"
   word :o "this system's network name" $
 interface "select an interface to configure"
   %IF
@@ -54,41 +54,41 @@ exit "exit configuration mode" $
 service "modify use of network based services"
   timestamps "timestamp debug/log messages"
     debug :k
-      datetime $ :o
-        msec $
-          localtime $
-            show-timezone $
-              year $
-          show-timezone $
-          year $
-        localtime $
-          show-timezone $
-            year $
-          year $
-          msec $
-            show-timezone $
-        show-timezone $
-          year $
-        year $
-      uptime $
+      datetime :-k/o $
+        msec :-k/o $
+          localtime :-k/o $
+            show-timezone :-k/o $
+              year :-k/o $
+          show-timezone :-k/o $
+          year :-k/o $
+        localtime :-k/o $
+          show-timezone :-k/o $
+            year :-k/o $
+          year :-k/o $
+          msec :-k/o $
+            show-timezone :-k/o $
+        show-timezone :-k/o $
+          year :-k/o $
+        year :-k/o $
+      uptime :-k/o $
     log :k
-      datetime $ :o
-        msec $
-          localtime $
-            show-timezone $
-              year $
-          show-timezone $
-          year $
-        localtime $
-          show-timezone $
-            year $
-          year $
-          msec $
-            show-timezone $
-        show-timezone $
-          year $
-        year $
-      uptime $
+      datetime :-k/o $
+        msec :-k/o $
+          localtime :-k/o $
+            show-timezone :-k/o $
+              year :-k/o $
+          show-timezone :-k/o $
+          year :-k/o $
+        localtime :-k/o $
+          show-timezone :-k/o $
+            year :-k/o $
+          year :-k/o $
+          msec :-k/o $
+            show-timezone :-k/o $
+        show-timezone :-k/o $
+          year :-k/o $
+        year :-k/o $
+      uptime :-k/o $
   password-encryption $ :sb/o
   pad $ :sn
     to-xot "accept outgoing pad connections over x.25 over tcp" $
@@ -201,17 +201,17 @@ enable "modify enable password parameters"
         line * :o
 banner "define a login banner"
   motd :k
-    line *
+    line * :o
   login :k
-    line *
+    line * :o
   exec :k
-    line *
+    line * :o
   incoming :k
-    line *
+    line * :o
   slip-ppp :k
-    line *
+    line * :o
   prompt-timeout :k
-    line *
+    line * :o
 &linefile.cfm "configure a terminal line"
   con :k "primary terminal line"
     id :k @(config-line)#=line.cfm
@@ -465,11 +465,11 @@ diagnostic "diagnostic configuration"
     line *
 login "login options"
   block-for
-    id
-      attempts
-        id
-          within
-            id $
+    id :o
+      attempts :-k/o
+        id :o
+          within :-k/o
+            id :o $
   on-success
     log $
       every

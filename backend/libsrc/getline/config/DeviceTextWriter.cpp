@@ -73,8 +73,11 @@ class Layout {
       } else if (depth == 0) {
         // A new block goes behind the comments that close the block before;
         // behind the last block read, ahead of a closing "end".
+        // Lines read after an "end" are no configuration: never behind them.
         const int next = nextReadLine(records, i + 1);
-        flushBefore(next > 0 ? next : endLine());
+        const int end = firstEndLine();
+        const int limit = next > 0 ? next : endLine();
+        flushBefore(end > 0 && (limit < 0 || limit > end) ? end : limit);
       }
       const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
       // The device sets an address family apart from what stands before it.
@@ -117,6 +120,16 @@ class Layout {
     return -1;
   }
 
+  // The line number of the first waiting "end" line of the top level (-1: none).
+  int firstEndLine() const {
+    for (const CiscoCommandLine* comment : mComments) {
+      const std::string& text = comment->getOriginalStr();
+      if (text.compare(0, 3, "end") == 0 && text.find_first_not_of(" \t\r", 3) == std::string::npos) {
+        return comment->getLineNo();
+      }
+    }
+    return -1;
+  }
   // Writes the waiting comments read before line `limit` (all for -1).
   void flushBefore(int limit) {
     while (!mComments.empty() && (limit < 0 || mComments.front()->getLineNo() < limit)) {

@@ -1,7 +1,9 @@
 // Merge and fallback written as device text.
 #include <algorithm>
 #include <map>
+#include <set>
 
+#include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
 #include "config/QxParserUtil.h"
@@ -70,6 +72,66 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
   }
 }
 
+// A line that `first` states only in its "no" form and `second` holds
+// positive is written too: the comparison takes the two for one.
+void addMissedCommands(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+  std::vector<CiscoCommandLine*> from;
+  std::vector<CiscoCommandLine*> to;
+  RecordsGuard fromGuard(from);
+  RecordsGuard toGuard(to);
+  DeviceTextReader::read(first, from);
+  DeviceTextReader::read(second, to);
+  DeviceMeaning::dropUnchangedNegations(out, from, to);
+  std::vector<std::string> heads;
+  std::string missed = DeviceMeaning::missedCommands(from, to);
+  const std::string lists = DeviceMeaning::changedNamedLists(from, to, heads);
+  // A named list that changed is written by its entries alone.
+  for (auto it = out.begin(); it != out.end();) {
+    if (std::find(heads.begin(), heads.end(), (*it)->getOriginalCmd()) != heads.end()) {
+      std::vector<CiscoCommandLine*> alone{*it};
+      QxParserUtil::deleteCommands(alone);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  missed += lists;
+  if (missed.empty()) return;
+  std::vector<CiscoCommandLine*> extra;
+  RecordsGuard extraGuard(extra);
+  DeviceTextReader::read(missed, extra);
+  DeviceMeaning::graft(extra, out, nullptr);
+}
+
+// A numbered access list that changed is deleted and written anew: a "no"
+// of one of its entries would delete it whole on the device.
+void rewriteChangedLists(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+  std::vector<std::string> numbers;
+  const std::string lists = DeviceMeaning::changedNumberedLists(first, second, numbers);
+  if (lists.empty()) return;
+  std::vector<CiscoCommandLine*> gone;
+  RecordsGuard goneGuard(gone);
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string& text = (*it)->getOriginalCmd();
+    const std::string bare = withoutNo(text);
+    bool listed = false;
+    for (const std::string& number : numbers) {
+      const std::string lead = "access-list " + number + " ";
+      listed = listed || bare.compare(0, lead.size(), lead) == 0;
+    }
+    if (listed) {
+      gone.push_back(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  std::vector<CiscoCommandLine*> extra;
+  RecordsGuard extraGuard(extra);
+  DeviceTextReader::read(lists, extra);
+  DeviceMeaning::graft(extra, out, nullptr);
+}
+
 std::string nulAsBlank(std::string text) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
@@ -84,11 +146,18 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   std::vector<CiscoCommandLine*> configCmds;
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
-  DeviceTextReader::read(changes, changeCmds, changesRefused, false);
+  std::set<std::string> goneNeighbours;
+  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
+                         changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
+  DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  DeviceMeaning::exitLinesLast(configCmds);
+  DeviceMeaning::entriesBySequence(configCmds);
+  DeviceMeaning::placeInNumberOrder(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
 
@@ -139,6 +208,11 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                            [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
             out.end());
   deleteCommands(comments);
+  if (mode != 0) {
+    addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
+    rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
+  }
+  DeviceMeaning::orderNeighbours(out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }

@@ -71,11 +71,13 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
     }
     // Both sides are brought into the form that a merge writes, so that
     // comments are gone and repeated words stand in one order.
-    for (std::vector<CiscoCommandLine*>* side : {&firstCmds, &secondCmds}) {
-      std::string normalised = expandMergedCmds(*side, 0);
+    // Text read as typed is read back the same way: a banner closed on its
+    // last text line ("text ^C") stays closed.
+    for (int i = 0; i < 2; ++i) {
+      std::string normalised = expandMergedCmds(*sides[i], 0);
       if (allLevels) normalised = blanksForNul(normalised);
-      deleteTopLevel(*side);
-      if (readers.first || readers.second) {
+      deleteTopLevel(*sides[i]);
+      if (typed[i]) {
         // Typed texts found their levels by their exits; the written form
         // keeps them in its indent.
         std::vector<CiscoCommandLine*> all;
@@ -86,9 +88,9 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
           deleteCommands(all);
           throw;
         }
-        keepTopLevel(all, *side);
+        keepTopLevel(all, *sides[i]);
       } else {
-        transformCmds(normalised, *side, errorText, errorLine);
+        transformCmds(normalised, *sides[i], errorText, errorLine);
       }
     }
     if (mode == 0) {

@@ -91,6 +91,8 @@ class Reading {
         record->setLineNo(number);
         record->setFlag(CMD_TEXT);
         record->setOriginalStr(text);
+        // Written back with the banner, so that the banner stays closed.
+        record->setOriginalCmd(text + "\n");
       }
       mCommands.push_back(record.release());
       return;

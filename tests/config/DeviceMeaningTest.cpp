@@ -1,0 +1,245 @@
+// What merge and rollback mean on the device: the table of device behaviour in
+// tests/data/device_meaning/ (base, change, the running configuration the
+// device shows after it, the rollback that returns), and a round trip over the
+// corpora: B made from A by a few everyday edits, and the rollback from B to A
+// applied to B must give A again (compared as stored commands).
+#include <dirent.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+
+#include "ShippedGrammar.h"
+#include "config/DeviceTextReader.h"
+
+namespace qxparser {
+namespace {
+
+std::string unescaped(const std::string& text) {
+  std::string out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\\' || i + 1 == text.size()) {
+      out += text[i];
+      continue;
+    }
+    const char code = text[++i];
+    out += code == 'n' ? '\n' : code == 't' ? '\t' : code;
+  }
+  return out;
+}
+
+// Lines that state a default, shown by some platforms only (shown_defaults.txt).
+const std::set<std::string>& shownDefaults() {
+  static const std::set<std::string> lines = [] {
+    std::set<std::string> read;
+    std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/device_meaning/shown_defaults.txt");
+    for (std::string line; std::getline(in, line);) {
+      if (!line.empty() && line[0] != '#') read.insert(line);
+    }
+    return read;
+  }();
+  return lines;
+}
+
+void collect(const std::vector<CiscoCommandLine*>& records, const std::string& mode,
+             std::vector<std::string>& out) {
+  for (const CiscoCommandLine* record : records) {
+    // Data lines (a banner's text) stand below their command.
+    if (record->getTreeNodeSize() == 0 && !mode.empty() && !record->getRawText().empty()) {
+      out.push_back(mode + record->getRawText());
+      continue;
+    }
+    if (record->getTreeNodeSize() == 0 || !(record->getFlags() & CMDBIT_STORED)) continue;
+    std::string command = record->getOriginalCmd();
+    command.erase(command.find_last_not_of(" \r\n") + 1);
+    if (shownDefaults().count(command)) continue;
+    out.push_back(mode + command);
+    const size_t first = out.size();
+    collect(record->getChildCommands(), mode + command + " > ", out);
+    // Entries of an access list count in their order.
+    if (command.find("access-list ") != std::string::npos && command.find("access-list ") <= 5) {
+      std::string order = "order of " + mode + command + ":";
+      for (size_t i = first; i < out.size(); ++i) order += " | " + out[i];
+      out.push_back(order);
+    }
+  }
+}
+
+// The entries of each numbered access list, the VLANs and the interfaces, in
+// their order.
+void numberedOrder(std::vector<std::string>& out) {
+  std::map<std::string, std::string> lists;
+  for (const std::string& line : out) {
+    if (line.compare(0, 5, "vlan ") == 0 && line.find(" > ") == std::string::npos) lists["vlan"] += " | " + line;
+    if (line.compare(0, 10, "interface ") == 0 && line.find(" > ") == std::string::npos) {
+      lists["interface"] += " | " + line;
+    }
+    if (line.compare(0, 12, "access-list ") != 0) continue;
+    lists[line.substr(0, line.find(' ', 12))] += " | " + line;
+  }
+  for (const auto& [list, entries] : lists) out.push_back("order of " + list + ":" + entries);
+}
+
+// The stored commands of a text, each behind the heads of its modes, sorted.
+std::vector<std::string> stored(const std::string& text) {
+  std::vector<CiscoCommandLine*> records;
+  DeviceTextReader::read(text, records);
+  std::vector<std::string> out;
+  collect(records, "", out);
+  numberedOrder(out);
+  QxParserUtil::deleteCommands(records);
+  std::sort(out.begin(), out.end());
+  return out;
+}
+
+std::string rollback(const std::string& from, const std::string& to) {
+  return QxParserUtil::fallbackConfigCmdsDeviceText(from, to, 1);
+}
+
+// Whether the rollback from `from` to `to`, applied to `from`, gives `to`;
+// `why` (when given) gets the commands that differ.
+bool returns(const std::string& from, const std::string& to, std::string* why = nullptr) {
+  const auto got = stored(QxParserUtil::mergeConfigCmdsDeviceText(rollback(from, to), from));
+  const auto want = stored(to);
+  if (why) {
+    for (const auto& c : got) if (!std::binary_search(want.begin(), want.end(), c)) *why += "  extra: " + c + "\n";
+    for (const auto& c : want) if (!std::binary_search(got.begin(), got.end(), c)) *why += "  missing: " + c + "\n";
+  }
+  return got == want;
+}
+
+// Columns: name, reference, base, change, running, rollback (escaped text).
+std::vector<std::vector<std::string>> table(const std::string& file) {
+  std::vector<std::vector<std::string>> rows;
+  std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/device_meaning/" + file);
+  std::string row;
+  while (std::getline(in, row)) {
+    if (row.empty() || row[0] == '#') continue;
+    std::vector<std::string> fields;
+    size_t start = 0;
+    for (size_t tab = row.find('\t'); tab != std::string::npos; tab = row.find('\t', start = tab + 1)) {
+      fields.push_back(row.substr(start, tab - start));
+    }
+    fields.push_back(row.substr(start));
+    for (size_t i = 2; i < fields.size(); ++i) fields[i] = unescaped(fields[i]);
+    rows.push_back(fields);
+  }
+  return rows;
+}
+
+// The failures of one case, empty when the device's answer is given.
+std::string failures(const std::vector<std::string>& c) {
+  if (c.size() != 6) return "needs 6 columns";
+  std::string why;
+  if (stored(QxParserUtil::mergeConfigCmdsDeviceText(c[3], c[2])) != stored(c[4])) why += " merge;";
+  if (stored(QxParserUtil::mergeConfigCmdsDeviceText(c[5], c[4])) != stored(c[2])) why += " stated rollback;";
+  if (!returns(c[4], c[2])) why += " computed rollback: " + rollback(c[4], c[2]);
+  return why;
+}
+
+class DeviceMeaningTest : public ShippedGrammarTest {};
+
+TEST_F(DeviceMeaningTest, TableOfDeviceBehaviour) {
+  const auto rows = table("cases.tsv");
+  ASSERT_FALSE(rows.empty()) << "device_meaning/cases.tsv missing";
+  for (const auto& c : rows) EXPECT_EQ(failures(c), "") << c[0];
+}
+
+// Device behaviour not given yet: reported, not failed on.
+TEST_F(DeviceMeaningTest, KnownFailuresReported) {
+  int given = 0;
+  const auto rows = table("known_failures.tsv");
+  for (const auto& c : rows) {
+    const std::string why = failures(c);
+    if (why.empty()) ++given;
+    std::cout << "[known failure] " << c[0] << (why.empty() ? ": now given, move it to cases.tsv" : ":" + why)
+              << "\n";
+  }
+  std::cout << given << " of " << rows.size() << " known failures now given\n";
+}
+
+// B from A: everyday edits, chosen by the file's own lines so that the same
+// file always gets the same edits.
+std::string edited(const std::string& a) {
+  std::istringstream in(a);
+  std::string line, out;
+  bool inInterface = false, doneAddress = false, doneRoute = false, inBgp = false;
+  bool inOspf = false;
+  int interfaces = 0;
+  const std::string extras =
+      "ip route 198.51.100.0 255.255.255.0 192.0.2.1\nlogging host 192.0.2.200\nntp server 192.0.2.123\n"
+      "access-list 187 permit ip host 192.0.2.9 any\n";
+  bool extrasDone = false;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.rfind("end", 0) == 0 && line.find_first_not_of(' ', 3) == std::string::npos && !extrasDone) {
+      extrasDone = true;
+      out += extras;
+    }
+    const bool top = !line.empty() && line[0] != ' ';
+    if (top) {
+      inInterface = line.rfind("interface ", 0) == 0;
+      inBgp = line.rfind("router bgp ", 0) == 0;
+      inOspf = line.rfind("router ospf ", 0) == 0;
+      if (inInterface) ++interfaces;
+    }
+    if (line.rfind("hostname ", 0) == 0) line += "-B";
+    if (line.rfind("ip route ", 0) == 0 && !doneRoute) {
+      doneRoute = true;
+      continue;
+    }
+    if (inInterface && line.rfind(" description ", 0) == 0) line += " (moved)";
+    if (inInterface && !doneAddress && line.rfind(" ip address ", 0) == 0 && line.find(" 10.") != std::string::npos &&
+        line.find("secondary") == std::string::npos && line.find("dhcp") == std::string::npos) {
+      doneAddress = true;
+      line = " ip address 10.250.250.1 255.255.255.252";
+    }
+    if (inInterface && interfaces == 2 && line == " shutdown") continue;
+    if (inInterface && interfaces == 2 && line == " no shutdown") line = " shutdown";
+    out += line + "\n";
+    if (inBgp && top) out += " neighbor 192.0.2.77 remote-as 64999\n";
+    if (inOspf && top) out += " network 192.0.2.64 0.0.0.63 area 0\n";
+  }
+  return extrasDone ? out : out + extras;
+}
+
+std::vector<std::string> cfgFiles(const std::string& folder) {
+  std::vector<std::string> names;
+  if (DIR* dir = opendir(folder.c_str())) {
+    while (dirent* entry = readdir(dir)) {
+      const std::string name = entry->d_name;
+      if (name.size() > 4 && name.compare(name.size() - 4, 4, ".cfg") == 0) names.push_back(name);
+    }
+    closedir(dir);
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// The share of files whose rollback returns, and the floor it must reach.
+TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
+  const std::string root = VTYCONF_SHARED_CORPUS_DIR;
+  const std::vector<std::pair<std::string, double>> folders = {{root + "/public/", 0.94}, {root + "-wide/", 0.97}};
+  for (const auto& [folder, floor] : folders) {
+    const auto names = cfgFiles(folder);
+    if (names.empty()) {
+      std::cout << "skipped: no corpus in " << folder << "\n";
+      continue;
+    }
+    int back = 0;
+    for (const std::string& name : names) {
+      const std::string a = readWholeFile(folder + name);
+      std::string why;
+      const bool ok = returns(a, edited(a), &why);
+      back += ok;
+      if (!ok && getenv("VTYCONF_ROUND_TRIP_LIST")) std::cout << "does not return: " << name << "\n" << why;
+    }
+    const double share = static_cast<double>(back) / names.size();
+    std::cout << folder << ": " << back << " of " << names.size() << " return (" << share << ")\n";
+    EXPECT_GE(share, floor) << folder;
+  }
+}
+
+}  // namespace
+}  // namespace qxparser
