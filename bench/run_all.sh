@@ -23,4 +23,12 @@ if ! /usr/bin/python3 "$(dirname "$0")/python_parse.py" "$build"; then
   echo "python_parse failed" >&2
   status=1
 fi
+# Whole-program jobs timed from outside (VTYCONF_BENCH_MILLION=1 adds 1M lines).
+echo "== program_bench"
+million=()
+[ -n "${VTYCONF_BENCH_MILLION:-}" ] && million=(--million)
+if ! /usr/bin/python3 "$(dirname "$0")/program_bench.py" "$build" "${million[@]}"; then
+  echo "program_bench failed" >&2
+  status=1
+fi
 exit $status
