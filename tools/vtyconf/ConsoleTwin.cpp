@@ -108,7 +108,12 @@ std::string ConsoleTwin::writeMemory() {
 }
 
 void ConsoleTwin::record(const std::string& line, const std::string& promptSuffix, const std::string& afterSuffix) {
-  if (!isConfigPrompt(promptSuffix)) return;
+  if (!isConfigPrompt(promptSuffix)) {
+    // The reader starts in the configuration; after an `end` it must be
+    // brought back as the person was.
+    if (isConfigPrompt(afterSuffix) && !mSession.empty()) mSession += "configure terminal\n";
+    return;
+  }
   const std::vector<std::string> words = wordsOf(line);
   if (words.empty() || abbreviates(words[0], "do", 2)) return;
   mSession += line + "\n";
