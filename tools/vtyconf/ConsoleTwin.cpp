@@ -109,16 +109,16 @@ std::string ConsoleTwin::writeMemory() {
 
 void ConsoleTwin::record(const std::string& line, const std::string& promptSuffix, const std::string& afterSuffix) {
   if (!isConfigPrompt(promptSuffix)) {
-    // The reader starts in the configuration; after an `end` it must be
-    // brought back as the person was.
+    // The reader starts in the configuration; after an `end` (or an `exit`
+    // at its top) it must be brought back as the person was. A line the
+    // reader refuses would cost the changes behind it their undo commands,
+    // so nothing but what was typed and this goes in.
     if (isConfigPrompt(afterSuffix) && !mSession.empty()) mSession += "configure terminal\n";
     return;
   }
   const std::vector<std::string> words = wordsOf(line);
   if (words.empty() || abbreviates(words[0], "do", 2)) return;
   mSession += line + "\n";
-  // Leaving the configuration by `exit` at the top is an `end` to the reader.
-  if (!isConfigPrompt(afterSuffix) && !abbreviates(words[0], "end", 2)) mSession += "end\n";
 }
 
 std::string ConsoleTwin::running() const { return QxParserUtil::mergeConfigCmdsDeviceText(mSession, mStartup); }
