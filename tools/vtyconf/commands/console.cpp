@@ -19,6 +19,7 @@
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
 #include "ConsoleTwin.h"
+#include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 #include "editor/GetLineData.h"
 #include "main.h"
@@ -36,6 +37,7 @@ struct ConsoleOptions {
 };
 
 constexpr int kMinWidth = 21;
+constexpr char kCtrlZ = 26;
 // How long a lone ESC waits for the rest of a sequence before it counts as a key.
 constexpr int kEscapeWaitMs = 50;
 
@@ -72,6 +74,9 @@ class Console {
     std::string before;
     mVty.getPrompt(before);
     std::string answer;
+    if (key == kCtrlZ && before.find("(config") != std::string::npos && !mEditor->isSearching()) {
+      return ctrlZ(typed);
+    }
     const bool enter = (key == '\n' || key == '\r') && !mEditor->isSearching();
     if (enter && mTwin.answer(typed, before, answer)) {
       show(answered(buffer, answer));
@@ -86,6 +91,26 @@ class Console {
     if (enter && mEditor->getNewLine()) followLine(typed, before, output);
     show(output);
     return !leave;
+  }
+
+  // Ctrl-Z in a configuration mode: a line typed so far is entered first,
+  // then the session leaves the configuration as `end` does, shown as "^Z".
+  bool ctrlZ(const std::string& typed) {
+    if (!typed.empty() && !key('\n')) return false;
+    std::string prompt;
+    mVty.getPrompt(prompt);
+    if (prompt.find("(config") == std::string::npos) return true;
+    auto command = std::make_unique<qxparser::CiscoCommandLine>();
+    mVty.parse("end \n", true, command.get());
+    std::string answer;
+    mVty.getOutputString(answer);
+    std::string after;
+    mVty.getPrompt(after);
+    mTwin.record("end", prompt, after);
+    mEditor->clearOutput();
+    newPrompt();
+    show("^Z\n" + answer + takeOutput());
+    return true;
   }
 
   // Finishes a line that the device state answers: the editor ends it (on
