@@ -34,7 +34,8 @@ class ConsoleTwin {
   std::string running() const;
   // The commands that undo the session's changes.
   std::string changes() const;
-  // The host name the running configuration gives ("" when it gives none).
+  // The host name the running configuration gives ("Router" when it gives
+  // none, as the device names itself).
   std::string hostName() const;
 
  private:
