@@ -1,4 +1,4 @@
-// The program runs of tests/data/cli/cases.txt, each with a fresh folder
+// The program runs of tests/data/cli/cases.txt and console_twin.txt, each with a fresh folder
 // {dir} that holds the case's files: exit code, standard output and standard
 // error as the case gives them.
 #include <gtest/gtest.h>
@@ -65,7 +65,9 @@ TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
   const std::set<std::string> known = {"args",       "stdin",      "exit",       "stdout",      "stderr",
                                        "stdout has", "stdout lacks", "stderr has", "stderr lacks"};
   int serial = 0;
-  for (const testsupport::Case& c : testsupport::readCases("cli/cases.txt")) {
+  std::vector<testsupport::Case> cases = testsupport::readCases("cli/cases.txt");
+  for (testsupport::Case& c : testsupport::readCases("cli/console_twin.txt")) cases.push_back(std::move(c));
+  for (const testsupport::Case& c : cases) {
     const std::string dir = testsupport::scratchFolder("cli-case-" + std::to_string(++serial));
     for (const auto& [key, text] : c.sections) {
       if (key.compare(0, 5, "file ") == 0) testsupport::writeFile(dir + key.substr(5), text);

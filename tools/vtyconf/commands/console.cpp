@@ -5,13 +5,21 @@
 // Delete keys become the editor's one-byte console codes, and the backspace
 // key (DEL) becomes Ctrl-H. When standard input is not a terminal, it is read
 // line by line and each line is typed, so a session can be scripted.
+//
+// Around the terminal stands the device's state (ConsoleTwin): a finished
+// line that looks at or saves the configurations is answered from it and
+// never reaches the terminal; a configuration line the terminal accepts is
+// kept, and `hostname` renames the prompt.
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "ConsoleTwin.h"
+#include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
 #include "editor/GetLineData.h"
 #include "main.h"
@@ -22,11 +30,14 @@ namespace vtycli {
 namespace {
 
 struct ConsoleOptions {
-  std::string hostname = "Router";
+  std::string hostname;  // empty: the configuration's, else "Router"
   std::string history = "-";
+  std::string config;
+  std::string save;
 };
 
 constexpr int kMinWidth = 21;
+constexpr char kCtrlZ = 26;
 // How long a lone ESC waits for the rest of a sequence before it counts as a key.
 constexpr int kEscapeWaitMs = 50;
 
@@ -45,8 +56,11 @@ int screenWidth() {
 
 class Console {
  public:
-  Console(const ConsoleOptions& options, bool interactive)
-      : mVty(options.hostname, true), mEditor(std::make_unique<GetLineData>()), mInteractive(interactive) {
+  Console(const ConsoleOptions& options, ConsoleTwin& twin, bool interactive)
+      : mVty(options.hostname.empty() ? twin.hostName() : options.hostname, true),
+        mEditor(std::make_unique<GetLineData>()),
+        mTwin(twin),
+        mInteractive(interactive) {
     // `int Po1` and `int Se0/0/0` name the types the device prefers.
     mVty.setPreferInterfaceTypes(true);
     show(vtysh_console_init(&mVty, mEditor.get(), interactive ? screenWidth() : 80, options.history.c_str()));
@@ -56,14 +70,102 @@ class Console {
   bool key(char key) {
     bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
     char buffer[2] = {key, '\0'};
+    const std::string typed = mEditor->getLine();
+    std::string before;
+    mVty.getPrompt(before);
+    std::string answer;
+    if (key == kCtrlZ && before.find("(config") != std::string::npos && !mEditor->isSearching()) {
+      return ctrlZ(typed);
+    }
+    const bool enter = (key == '\n' || key == '\r') && !mEditor->isSearching();
+    if (enter && mTwin.answer(typed, before, answer)) {
+      show(answered(buffer, answer));
+      return true;
+    }
     std::string output;
     try {
       parser_main(&mVty, mEditor.get(), buffer, output, &mDelta);
     } catch (const std::exception& e) {
       output = recover(e.what());
     }
+    if (enter && mEditor->getNewLine()) followLine(typed, before, output);
     show(output);
     return !leave;
+  }
+
+  // Ctrl-Z in a configuration mode: a line typed so far is entered first,
+  // then the session leaves the configuration as `end` does, shown as "^Z".
+  bool ctrlZ(const std::string& typed) {
+    if (!typed.empty() && !key('\n')) return false;
+    std::string prompt;
+    mVty.getPrompt(prompt);
+    if (prompt.find("(config") == std::string::npos) return true;
+    auto command = std::make_unique<qxparser::CiscoCommandLine>();
+    mVty.parse("end \n", true, command.get());
+    std::string answer;
+    mVty.getOutputString(answer);
+    std::string after;
+    mVty.getPrompt(after);
+    mTwin.record("end", prompt, after);
+    mEditor->clearOutput();
+    newPrompt();
+    show("^Z\n" + answer + takeOutput());
+    return true;
+  }
+
+  // Finishes a line that the device state answers: the editor ends it (on
+  // the screen and in the history) and the next prompt follows the answer.
+  std::string answered(char* buffer, const std::string& answer) {
+    mEditor->clearOutput();
+    try {
+      mEditor->vtysh_rl_gets(buffer, &mVty);
+    } catch (const GetLineError&) {
+      mEditor->gl_redraw();
+    }
+    std::string shown = mEditor->outputString() + answer;
+    mEditor->clearOutput();
+    newPrompt();
+    return shown + takeOutput();
+  }
+
+  // A line the terminal took: kept when it was accepted, and the prompt
+  // drawn again when it renamed the device.
+  void followLine(const std::string& typed, const std::string& before, std::string& output) {
+    if (output.find("\n% ") != std::string::npos) return;
+    std::string after;
+    mVty.getPrompt(after);
+    mTwin.record(typed, before, after);
+    if (!namesHost(typed)) return;
+    const std::string name = mTwin.hostName();
+    if (name == mVty.getHostName()) return;
+    const size_t at = output.rfind(vtysh_prompt(&mVty));
+    if (at != std::string::npos) output.erase(at);
+    mVty.setHostName(name);
+    mEditor->clearOutput();
+    newPrompt();
+    output += takeOutput();
+  }
+
+  static bool namesHost(const std::string& typed) {
+    std::istringstream in(typed);
+    std::string word;
+    in >> word;
+    if (word == "no") in >> word;
+    return word.size() >= 4 && std::string("hostname").compare(0, word.size(), word) == 0;
+  }
+
+  void newPrompt() {
+    char* prompt = vtysh_prompt(&mVty);
+    mEditor->gl_init();
+    mEditor->setPrompt(prompt);
+    mEditor->clearLine();
+    mEditor->gl_fixup(prompt, -2, GetLineData::kBufSize);
+  }
+
+  std::string takeOutput() {
+    std::string shown = mEditor->outputString();
+    mEditor->clearOutput();
+    return shown;
   }
 
   void resized() { mEditor->Gl_setwidth(screenWidth()); }
@@ -105,10 +207,11 @@ class Console {
   qxparser::VTY mVty;
   std::unique_ptr<GetLineData> mEditor;
   std::string mDelta;
+  ConsoleTwin& mTwin;
   bool mInteractive;
 };
 
-int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
+int runInteractive(const ConsoleOptions& options, ConsoleTwin& twin, const GlobalOptions& global) {
   RawModeGuard guard;
   guard.active = platform::terminalEnterRaw(0);
   if (!guard.active) {
@@ -116,7 +219,7 @@ int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
     return 2;
   }
   if (!global.quiet) platform::writeAll(2, "vtyconf console: Ctrl-D on an empty line leaves.\r\n");
-  Console console(options, true);
+  Console console(options, twin, true);
   platform::TerminalKeyDecoder decoder;
   for (;;) {
     char byte = 0;
@@ -137,8 +240,8 @@ int runInteractive(const ConsoleOptions& options, const GlobalOptions& global) {
   }
 }
 
-int runScripted(const ConsoleOptions& options) {
-  Console console(options, false);
+int runScripted(const ConsoleOptions& options, ConsoleTwin& twin) {
+  Console console(options, twin, false);
   platform::TerminalKeyDecoder decoder;
   std::string line;
   while (std::getline(std::cin, line)) {
@@ -159,17 +262,26 @@ CommandRegistration registration{CommandSpec{
     "console", "an emulated device console on the terminal, key by key",
     [](CLI::App& sub, const GlobalOptions& global) -> std::function<int()> {
       auto options = std::make_shared<ConsoleOptions>();
-      sub.add_option("--hostname", options->hostname, "host name shown in the prompt")->capture_default_str();
+      sub.add_option("--hostname", options->hostname,
+                     "host name shown in the prompt (default: the configuration's, else Router)");
+      sub.add_option("--config", options->config, "the running configuration the device starts with");
+      sub.add_option("--save", options->save, "file that `write memory` writes (default: the --config file)");
       sub.add_option("--history", options->history, "file that keeps the line history ('-': none)")
           ->capture_default_str();
       sub.footer(
           "Keys: arrows, Home/End, Delete, Ctrl-A/E/K/U/W/Y, Ctrl-R search, '?' help, Tab completion; "
           "Ctrl-D on an empty line leaves.\n"
           "Without a terminal, standard input is typed line by line.\n"
-          "Example: vtyconf console --hostname R1 --history ~/.vtyconf_history");
+          "At the privileged prompt (and through `do`): show running-config [interface NAME] "
+          "[| include|exclude|begin|section RE], show startup-config, show changes, write memory, "
+          "copy running-config startup-config.\n"
+          "Example: vtyconf console --config r1.cfg --save r1-new.cfg --history ~/.vtyconf_history");
       return [options, &global]() {
         if (!loadResources()) return 2;
-        int rc = platform::isTerminal(0) ? runInteractive(*options, global) : runScripted(*options);
+        std::string startup;
+        if (!options->config.empty() && !readInput(options->config, startup)) return 2;
+        ConsoleTwin twin(startup, options->save.empty() ? options->config : options->save);
+        int rc = platform::isTerminal(0) ? runInteractive(*options, twin, global) : runScripted(*options, twin);
         qxparser::QxParserUtil::destroyParserResource();
         return rc;
       };

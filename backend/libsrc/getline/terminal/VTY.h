@@ -48,6 +48,9 @@ class VTYCONF_API VTY : public std::stringstream {
   void reset();
   // The host name, or an empty string while a banner is open.
   std::string getHostName() const;
+  // vtyconf's own: the name the prompt shows from now on (a console that
+  // follows `hostname`).
+  void setHostName(const std::string& name) { mHostName = name; }
   void getPrompt(std::string& text) const;
   int getType() const { return mType; }
   std::string getConfigFile() const { return mConfigFile; }
