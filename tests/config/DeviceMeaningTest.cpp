@@ -11,23 +11,13 @@
 #include <set>
 
 #include "ShippedGrammar.h"
+#include "support/CaseFile.h"
 #include "config/DeviceTextReader.h"
 
 namespace qxparser {
 namespace {
 
-std::string unescaped(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\' || i + 1 == text.size()) {
-      out += text[i];
-      continue;
-    }
-    const char code = text[++i];
-    out += code == 'n' ? '\n' : code == 't' ? '\t' : code;
-  }
-  return out;
-}
+using testsupport::unescaped;
 
 // Lines that state a default, shown by some platforms only (shown_defaults.txt).
 const std::set<std::string>& shownDefaults() {

@@ -5,23 +5,13 @@
 #include <set>
 
 #include "ShippedGrammar.h"
+#include "support/CaseFile.h"
 #include "config/ConfigDiff.h"
 
 namespace qxparser {
 namespace {
 
-std::string unescaped(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\' || i + 1 == text.size()) {
-      out += text[i];
-      continue;
-    }
-    const char code = text[++i];
-    out += code == 'n' ? '\n' : code == 't' ? '\t' : code == '0' ? '\0' : code;
-  }
-  return out;
-}
+using testsupport::unescaped;
 
 std::string run(const std::string& operation, const std::string& first, const std::string& second) {
   if (operation == "merge") return QxParserUtil::mergeConfigCmdsDeviceText(first, second);

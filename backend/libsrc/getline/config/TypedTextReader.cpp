@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "config/CiscoCommandLine.h"
+#include "toolkit/TextWords.h"
 #include "grammar/InterfaceTypeOrder.h"
 #include "terminal/VTY.h"
 
@@ -15,22 +16,7 @@ namespace {
 const char* const kBlanks = " \t";
 const std::string kInvalidInput = "% Invalid input detected at ^";
 
-std::string lowered(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
 
-// The words of a line with the offset of each.
-std::vector<std::pair<size_t, std::string>> wordsOf(const std::string& line) {
-  std::vector<std::pair<size_t, std::string>> words;
-  size_t start = line.find_first_not_of(kBlanks);
-  while (start != std::string::npos) {
-    size_t end = line.find_first_of(kBlanks, start);
-    words.emplace_back(start, line.substr(start, end == std::string::npos ? std::string::npos : end - start));
-    start = end == std::string::npos ? end : line.find_first_not_of(kBlanks, end);
-  }
-  return words;
-}
 
 // `word` abbreviates `full` (at least `least` letters of it).
 bool abbreviates(const std::string& word, const std::string& full, size_t least) {
@@ -38,8 +24,8 @@ bool abbreviates(const std::string& word, const std::string& full, size_t least)
 }
 
 bool isConfigureTerminal(const std::vector<std::pair<size_t, std::string>>& words) {
-  if (words.empty() || words.size() > 2 || !abbreviates(lowered(words[0].second), "configure", 4)) return false;
-  return words.size() == 1 || abbreviates(lowered(words[1].second), "terminal", 1);
+  if (words.empty() || words.size() > 2 || !abbreviates(loweredWord(words[0].second), "configure", 4)) return false;
+  return words.size() == 1 || abbreviates(loweredWord(words[1].second), "terminal", 1);
 }
 
 // The non-empty pieces of a text cut at carriage returns and line feeds, as
@@ -97,7 +83,7 @@ class Reading {
       mCommands.push_back(record.release());
       return;
     }
-    const auto words = wordsOf(text);
+    const auto words = wordsWithOffsets(text);
     if (steers(words)) {
       record->setFlag(CMD_TEXT);
       record->setOriginalStr(text);
@@ -117,7 +103,7 @@ class Reading {
   // hold no configuration. True when the line was taken here.
   bool steers(const std::vector<std::pair<size_t, std::string>>& words) {
     if (words.empty() || words[0].second[0] == '!') return true;
-    const std::string first = lowered(words[0].second);
+    const std::string first = loweredWord(words[0].second);
     const bool configuring = mVty.currentMode() == CONFIG_MODE;
     if (isConfigureTerminal(words)) {
       if (!configuring) mVty.parse("configure terminal \n", true, nullptr);

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "toolkit/TextWords.h"
 #include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
 
@@ -12,27 +13,12 @@ namespace qxparser {
 
 namespace {
 
-const char* const kBlanks = " \t";
 
 bool abbreviates(const std::string& word, const std::string& full) {
   return !word.empty() && word.size() <= full.size() && full.compare(0, word.size(), word) == 0;
 }
 
-std::string lowered(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
 
-std::vector<std::pair<size_t, std::string>> wordsOf(const std::string& line) {
-  std::vector<std::pair<size_t, std::string>> words;
-  size_t start = line.find_first_not_of(kBlanks);
-  while (start != std::string::npos) {
-    size_t end = line.find_first_of(kBlanks, start);
-    words.emplace_back(start, line.substr(start, end == std::string::npos ? std::string::npos : end - start));
-    start = end == std::string::npos ? end : line.find_first_not_of(kBlanks, end);
-  }
-  return words;
-}
 
 }  // namespace
 
@@ -66,7 +52,7 @@ std::string InterfaceTypeOrder::preferredType(const std::string& word) {
 std::string InterfaceTypeOrder::withPreferredTypes(const std::string& line) {
   std::string rewritten = line;
   bool changed = false;
-  const auto words = wordsOf(line);
+  const auto words = wordsWithOffsets(line);
   for (size_t i = words.size(); i-- > 0;) {
     const std::string& word = words[i].second;
     size_t digit = 0;
@@ -76,7 +62,7 @@ std::string InterfaceTypeOrder::withPreferredTypes(const std::string& line) {
     const bool numberFollows = digit == word.size() && i + 1 < words.size() &&
                                std::isdigit(static_cast<unsigned char>(words[i + 1].second[0]));
     if (digit == word.size() && !numberFollows) continue;
-    const std::string type = preferredType(lowered(word.substr(0, digit)));
+    const std::string type = preferredType(loweredWord(word.substr(0, digit)));
     if (type.empty()) continue;
     rewritten.replace(words[i].first, digit, type);
     changed = true;
