@@ -1,5 +1,6 @@
 #include "config/TypedTextReader.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <memory>
@@ -42,6 +43,17 @@ std::vector<std::string> piecesOf(const std::string& text) {
   return pieces;
 }
 
+// Drops the record of a walk that is not kept. A walk may have linked it to
+// the command of its mode before it failed; the link goes with it.
+void discard(std::unique_ptr<CiscoCommandLine>& record) {
+  if (!record) return;
+  if (CiscoCommandLine* parent = record->getParentCommand()) {
+    std::vector<CiscoCommandLine*>& siblings = parent->getChildCommands();
+    siblings.erase(std::remove(siblings.begin(), siblings.end(), record.get()), siblings.end());
+  }
+  record.reset();
+}
+
 class Reading {
  public:
   Reading(const std::string& hostName, std::vector<CiscoCommandLine*>& commands, std::vector<RefusedLine>& refused,
@@ -73,6 +85,7 @@ class Reading {
       // what stands before the closing delimiter as the banner's last line
       // ("*****^C"), which the grammar cannot read: it is text, not refused.
       if (!mVty.parseRecordLine(text, *record)) {
+        discard(record);
         record = std::make_unique<CiscoCommandLine>();
         record->setLineNo(number);
         record->setFlag(CMD_TEXT);
@@ -143,6 +156,7 @@ class Reading {
       const std::string preferred = InterfaceTypeOrder::withPreferredTypes(text);
       std::unique_ptr<CiscoCommandLine> retry;
       if (!preferred.empty() && attempt(number, preferred, true, retry)) {
+        discard(record);
         record = std::move(retry);
       } else {
         refuse(number, text, position, message);
@@ -155,6 +169,7 @@ class Reading {
         refused->setMajorCommands(context);
         refused->setCurrentCommand(record->getOriginalCmd());
         refused->setOriginalCmd(record->getOriginalCmd());
+        discard(record);
         record = std::move(refused);
       }
     }
@@ -163,6 +178,7 @@ class Reading {
 
   // One reading of the line into a fresh record (kept in `record` either way).
   bool attempt(int number, const std::string& text, bool abbreviations, std::unique_ptr<CiscoCommandLine>& record) {
+    discard(record);
     record = std::make_unique<CiscoCommandLine>();
     record->setLineNo(number);
     mVty.setCliMode(abbreviations);
