@@ -192,9 +192,12 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                                                        std::vector<RefusedLine>* secondRefused) {
   const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
+  // A configuration's own spelling first: in delta mode the change set was
+  // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
+  // device's words rather than in its abbreviations.
   std::map<std::string, TypedLine> typedLines;
-  collectTypedLines(nulAsBlank(first), typedLines);
   collectTypedLines(nulAsBlank(second), typedLines);
+  if (mode != 0) collectTypedLines(nulAsBlank(first), typedLines);
   std::vector<CiscoCommandLine*> out;
   RecordsGuard guard(out);
   DeviceTextReader::read(written, out, nullptr, true, true);
