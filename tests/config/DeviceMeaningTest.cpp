@@ -102,16 +102,9 @@ bool returns(const std::string& from, const std::string& to, std::string* why = 
 // Columns: name, reference, base, change, running, rollback (escaped text).
 std::vector<std::vector<std::string>> table(const std::string& file) {
   std::vector<std::vector<std::string>> rows;
-  std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/device_meaning/" + file);
-  std::string row;
-  while (std::getline(in, row)) {
-    if (row.empty() || row[0] == '#') continue;
-    std::vector<std::string> fields;
-    size_t start = 0;
-    for (size_t tab = row.find('\t'); tab != std::string::npos; tab = row.find('\t', start = tab + 1)) {
-      fields.push_back(row.substr(start, tab - start));
-    }
-    fields.push_back(row.substr(start));
+  const std::string text = testsupport::readFile(std::string(VTYCONF_TEST_DATA_DIR) + "/device_meaning/" + file);
+  for (const std::string& row : testsupport::dataLines(text)) {
+    std::vector<std::string> fields = testsupport::splitFields(row);
     for (size_t i = 2; i < fields.size(); ++i) fields[i] = unescaped(fields[i]);
     rows.push_back(fields);
   }

@@ -47,18 +47,11 @@ std::vector<std::string> corpusFolders() {
 class DeviceTextTest : public ShippedGrammarTest {};
 
 TEST_F(DeviceTextTest, TableOfCases) {
-  std::ifstream in(std::string(VTYCONF_TEST_DATA_DIR) + "/device_text/cases.tsv");
-  ASSERT_TRUE(in) << "cases.tsv missing";
-  std::string row;
+  const std::string text = testsupport::readFile(std::string(VTYCONF_TEST_DATA_DIR) + "/device_text/cases.tsv");
+  ASSERT_FALSE(text.empty()) << "cases.tsv missing";
   int cases = 0;
-  while (std::getline(in, row)) {
-    if (row.empty() || row[0] == '#') continue;
-    std::vector<std::string> fields;
-    size_t start = 0;
-    for (size_t tab = row.find('\t'); tab != std::string::npos; tab = row.find('\t', start = tab + 1)) {
-      fields.push_back(row.substr(start, tab - start));
-    }
-    fields.push_back(row.substr(start));
+  for (const std::string& row : testsupport::dataLines(text)) {
+    const std::vector<std::string> fields = testsupport::splitFields(row);
     ASSERT_EQ(fields.size(), 5u) << row;
     SCOPED_TRACE(fields[0]);
     EXPECT_EQ(run(fields[1], unescaped(fields[2]), unescaped(fields[3])), unescaped(fields[4]));
