@@ -18,6 +18,9 @@
 
 #include "CommandRegistry.h"
 #include "ConfigInput.h"
+#include "ConsoleCaret.h"
+#include "ConsoleExecLine.h"
+#include "ConsoleFilter.h"
 #include "ConsoleTwin.h"
 #include "config/CiscoCommandLine.h"
 #include "config/QxParserUtil.h"
@@ -37,6 +40,7 @@ struct ConsoleOptions {
 };
 
 constexpr int kMinWidth = 21;
+constexpr char kCtrlC = 3;
 constexpr char kCtrlZ = 26;
 // How long a lone ESC waits for the rest of a sequence before it counts as a key.
 constexpr int kEscapeWaitMs = 50;
@@ -68,18 +72,26 @@ class Console {
 
   // Types one key; false when the session ends with it.
   bool key(char key) {
+    if (key == kCtrlC) return abandonLine();
     bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
     char buffer[2] = {key, '\0'};
     const std::string typed = mEditor->getLine();
+    const std::string prompt = mEditor->getPrompt();
     std::string before;
     mVty.getPrompt(before);
     std::string answer;
-    if (key == kCtrlZ && before.find("(config") != std::string::npos && !mEditor->isSearching()) {
-      return ctrlZ(typed);
-    }
-    const bool enter = (key == '\n' || key == '\r') && !mEditor->isSearching();
+    const bool configuring = before.find("(config") != std::string::npos;
+    if (key == kCtrlZ && configuring && !mEditor->isSearching()) return ctrlZ(typed);
+    // Enter also ends a search, and runs the line found.
+    const bool enter = key == '\n' || key == '\r';
+    if (enter && !configuring && endsSession(typed)) return leaveSession(buffer);
     if (enter && mTwin.answer(typed, before, answer)) {
       show(answered(buffer, answer));
+      return true;
+    }
+    const size_t execAt = configuring && enter ? execAfterDo(typed) : std::string::npos;
+    if (execAt != std::string::npos) {
+      show(answered(buffer, answerDo(typed, execAt, prompt)));
       return true;
     }
     std::string output;
@@ -88,9 +100,68 @@ class Console {
     } catch (const std::exception& e) {
       output = recover(e.what());
     }
-    if (enter && mEditor->getNewLine()) followLine(typed, before, output);
+    if (enter && mEditor->getNewLine()) {
+      output = withCaretLine(output, caretColumn(prompt, mVty.lastErrorOffset()));
+      followLine(typed, before, output);
+    }
     show(output);
     return !leave;
+  }
+
+  // Ctrl-C: the line typed so far is dropped unrun (and kept out of the
+  // history); a new prompt of the same mode follows, shown after "^C".
+  bool abandonLine() {
+    if (mEditor->isSearching()) mEditor->search_term();
+    mEditor->clearOutput();
+    newPrompt();
+    show("^C\n" + takeOutput());
+    return true;
+  }
+
+  // `exit` or `logout` at an exec prompt ends the session, as it closes the
+  // connection to a device.
+  static bool endsSession(const std::string& typed) {
+    std::istringstream in(typed);
+    std::string word, more;
+    if (!(in >> word) || in >> more) return false;
+    return abbreviates(word, "exit", 3) || abbreviates(word, "logout", 4);
+  }
+
+  bool leaveSession(char* buffer) {
+    mEditor->clearOutput();
+    try {
+      mEditor->vtysh_rl_gets(buffer, &mVty);
+    } catch (const GetLineError&) {
+    }
+    show(takeOutput());
+    return false;
+  }
+
+  // Where the exec command of a `do` line starts; npos for any other line.
+  static size_t execAfterDo(const std::string& typed) {
+    const size_t start = typed.find_first_not_of(' ');
+    if (start == std::string::npos) return std::string::npos;
+    const size_t end = std::min(typed.find(' ', start), typed.size());
+    if (!abbreviates(typed.substr(start, end - start), "do", 2)) return std::string::npos;
+    if (typed.find_first_not_of(' ', end) == std::string::npos) return std::string::npos;
+    return end;
+  }
+
+  // The terminal's answer to the exec command of a `do` line, with the caret
+  // under its word when it is refused.
+  std::string answerDo(const std::string& typed, size_t execAt, const std::string& prompt) const {
+    const ExecAnswer exec = answerExecLine(typed.substr(execAt));
+    if (!exec.refused) return exec.text;
+    return withCaretLine("\n" + exec.text, caretColumn(prompt, execAt + exec.errorOffset)).substr(1);
+  }
+
+  // The column of the caret under a refused line: the prompt, then the word
+  // where the walk stopped. None (npos) where the line was scrolled on the
+  // screen, whose columns then no longer match the text.
+  size_t caretColumn(const std::string& prompt, size_t offset) const {
+    const size_t column = prompt.size() + offset;
+    if (mInteractive && column + 1 >= static_cast<size_t>(screenWidth())) return std::string::npos;
+    return column;
   }
 
   // Ctrl-Z in a configuration mode: a line typed so far is entered first,
