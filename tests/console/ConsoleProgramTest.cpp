@@ -1,13 +1,8 @@
 // The vtyconf console program end to end: through a pseudo-terminal, as a
 // person would use it, and scripted on standard input.
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <pty.h>
 #include <signal.h>
-#include <sys/ioctl.h>
 #include <sys/wait.h>
-#include <termios.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,110 +10,25 @@
 
 #include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
+#include "PtySession.h"
 #include "support/CliRun.h"
 
 namespace {
 
-const std::string kCli = VTYCONF_CLI_PATH;
 const std::string kResources = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
-// Only a guard against a hung program; no test depends on speed.
-constexpr int kPatienceMs = 30000;
 
 using testsupport::cliBuilt;
 
-class PtySession {
+// The console with the shipped grammar and `hostname` in the prompt.
+class NamedSession : public testsupport::PtySession {
  public:
-  explicit PtySession(const char* hostname) {
-    struct winsize size {};
-    size.ws_row = 24;
-    size.ws_col = 100;
-    pid_ = forkpty(&master_, nullptr, nullptr, &size);
-    if (pid_ == 0) {
-      execl(kCli.c_str(), kCli.c_str(), "--resources", kResources.c_str(), "console", "--hostname", hostname,
-            static_cast<char*>(nullptr));
-      _exit(127);
-    }
-  }
-  ~PtySession() {
-    if (pid_ > 0 && !reaped_) {
-      kill(pid_, SIGKILL);
-      waitpid(pid_, nullptr, 0);
-    }
-    if (master_ >= 0) close(master_);
-  }
-  bool started() const { return pid_ > 0 && master_ >= 0; }
-  void type(const std::string& keys) {
-    ASSERT_EQ(write(master_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-  }
-  // Reads the screen until it holds `needle` after `from`; true when it did.
-  bool waitFor(const std::string& needle, size_t from = std::string::npos) {
-    if (from == std::string::npos) from = mark_;
-    for (int waited = 0; waited < kPatienceMs; waited += 100) {
-      size_t found = screen_.find(needle, from);
-      if (found != std::string::npos) {
-        mark_ = found + needle.size();
-        return true;
-      }
-      if (!drain(100)) break;
-    }
-    return screen_.find(needle, from) != std::string::npos;
-  }
-  // Reads what arrives within `ms`; false once the terminal is closed.
-  bool drain(int ms) {
-    struct pollfd p {};
-    p.fd = master_;
-    p.events = POLLIN;
-    if (poll(&p, 1, ms) <= 0) return true;
-    char buf[4096];
-    ssize_t n = read(master_, buf, sizeof buf);
-    if (n <= 0) return false;
-    screen_.append(buf, static_cast<size_t>(n));
-    return true;
-  }
-  // Waits for the program to end; its wait status.
-  int finish() {
-    int status = 0;
-    for (int waited = 0; waited < kPatienceMs; waited += 100) {
-      if (waitpid(pid_, &status, WNOHANG) == pid_) {
-        reaped_ = true;
-        return status;
-      }
-      // Keep draining the screen so that the program never blocks on output;
-      // once the terminal is closed the program is about to end.
-      if (!drain(100)) {
-        waitpid(pid_, &status, 0);
-        reaped_ = true;
-        return status;
-      }
-    }
-    return -1;
-  }
-  bool keyByKey() const {
-    struct termios mode {};
-    tcgetattr(master_, &mode);
-    return (mode.c_lflag & (ICANON | ECHO)) == 0;
-  }
-  void resize(int columns) {
-    struct winsize size {};
-    size.ws_row = 24;
-    size.ws_col = static_cast<unsigned short>(columns);
-    ioctl(master_, TIOCSWINSZ, &size);
-  }
-  pid_t pid() const { return pid_; }
-  const std::string& screen() const { return screen_; }
-  size_t mark() const { return mark_; }
-
- private:
-  pid_t pid_ = -1;
-  int master_ = -1;
-  bool reaped_ = false;
-  std::string screen_;
-  size_t mark_ = 0;
+  explicit NamedSession(const char* hostname)
+      : PtySession({"--resources", kResources, "console", "--hostname", hostname}) {}
 };
 
 TEST(ConsoleProgramTest, PersonAtAPseudoTerminalGetsADeviceConsole) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  PtySession session("R1");
+  NamedSession session("R1");
   ASSERT_TRUE(session.started());
   ASSERT_TRUE(session.waitFor("R1>")) << session.screen();
   EXPECT_TRUE(session.keyByKey()) << "raw mode while the console runs";
@@ -175,7 +85,7 @@ TEST(ConsoleProgramTest, PersonAtAPseudoTerminalGetsADeviceConsole) {
 TEST(ConsoleProgramTest, TerminalIsRestoredWhenTheProgramIsTerminated) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
   for (int sig : {SIGTERM, SIGHUP, SIGINT}) {
-    PtySession session("R2");
+    NamedSession session("R2");
     ASSERT_TRUE(session.started());
     ASSERT_TRUE(session.waitFor("R2>")) << session.screen();
     ASSERT_TRUE(session.keyByKey());
@@ -189,7 +99,7 @@ TEST(ConsoleProgramTest, TerminalIsRestoredWhenTheProgramIsTerminated) {
 
 TEST(ConsoleProgramTest, NewTerminalWidthTakesEffectAtTheNextLine) {
   if (!cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  PtySession session("R5");
+  NamedSession session("R5");
   ASSERT_TRUE(session.started());
   ASSERT_TRUE(session.waitFor("R5>")) << session.screen();
   const std::string words = "abcdefghij abcdefghij abcdefghij abcdefghij";
