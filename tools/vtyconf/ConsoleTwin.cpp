@@ -36,6 +36,18 @@ std::string blockOf(const std::string& config, const std::string& head) {
 
 std::string firstLine(const std::string& text) { return text.substr(0, text.find('\n')); }
 
+// Where the `index`-th blank-separated word of `text` starts (its length
+// when the text has fewer words).
+size_t wordOffset(const std::string& text, size_t index) {
+  size_t at = text.find_first_not_of(' ');
+  for (; index > 0 && at != std::string::npos; --index) {
+    at = text.find_first_not_of(' ', text.find(' ', at));
+  }
+  return at == std::string::npos ? text.size() : at;
+}
+
+constexpr const char* kInvalidInput = "% Invalid input detected at '^' marker.\n";
+
 }  // namespace
 
 ConsoleTwin::ConsoleTwin(std::string startup, std::string savePath)
@@ -63,7 +75,9 @@ bool ConsoleTwin::answer(const std::string& line, const std::string& promptSuffi
   const bool copy = words.size() == 3 && abbreviates(words[0], "copy", 3) &&
                     abbreviates(words[1], "running-config", 3) && abbreviates(words[2], "startup-config", 3);
   if (!showRun && !showStart && !showChanges && !write && !copy) return false;
+  mRefusedAt = std::string::npos;
   out = answerExec(exec);
+  if (mRefusedAt != std::string::npos) mRefusedAt += line.size() - exec.size();
   return true;
 }
 
@@ -81,19 +95,27 @@ std::string ConsoleTwin::answerExec(const std::string& line) {
   }
   if (bar == std::string::npos) return text;
   std::string filtered, error;
-  if (!applyConsoleFilter(line.substr(bar + 1), text, filtered, error)) return error + "\n";
-  return filtered;
+  if (applyConsoleFilter(line.substr(bar + 1), text, filtered, error)) return filtered;
+  if (error + "\n" == kInvalidInput) mRefusedAt = bar + 1 + wordOffset(line.substr(bar + 1), 0);
+  return error + "\n";
 }
 
 // `rest` is the show line before any filter: "show running-config" with an
 // optional "interface NAME".
-std::string ConsoleTwin::showRunning(const std::string& rest) const {
+std::string ConsoleTwin::showRunning(const std::string& rest) {
   const std::vector<std::string> words = wordsOf(rest);
   if (words.size() == 2) return running();
-  if (words.size() != 4 || !abbreviates(words[2], "interface", 3)) return "% Invalid input detected at '^' marker.\n";
+  if (!abbreviates(words[2], "interface", 3)) return refuse(rest, 2);
+  if (words.size() == 3) return "% Incomplete command.\n";
+  if (words.size() > 4) return refuse(rest, 4);
   const std::string head = firstLine(QxParserUtil::deviceText("interface " + words[3] + "\n"));
   const std::string block = blockOf(running(), head);
-  return block.empty() ? "% Invalid input detected at '^' marker.\n" : block;
+  return block.empty() ? refuse(rest, 3) : block;
+}
+
+std::string ConsoleTwin::refuse(const std::string& line, size_t word) {
+  mRefusedAt = wordOffset(line, word);
+  return kInvalidInput;
 }
 
 std::string ConsoleTwin::writeMemory() {

@@ -26,6 +26,10 @@ class ConsoleTwin {
   // ("#", "(config-if)#"), or false when the line is the terminal's.
   bool answer(const std::string& line, const std::string& promptSuffix, std::string& out);
 
+  // Where the word stands in the last answered line at which the answer
+  // refused it (for the caret under it); npos when the line was taken.
+  size_t refusedAt() const { return mRefusedAt; }
+
   // Keeps a line the terminal accepted; `promptSuffix` is the prompt it was
   // typed at and `afterSuffix` the prompt it left.
   void record(const std::string& line, const std::string& promptSuffix, const std::string& afterSuffix);
@@ -40,13 +44,16 @@ class ConsoleTwin {
 
  private:
   std::string answerExec(const std::string& line);
-  std::string showRunning(const std::string& rest) const;
+  std::string showRunning(const std::string& rest);
+  // The device's refusal of `line` at its `word`-th word.
+  std::string refuse(const std::string& line, size_t word);
   std::string writeMemory();
 
   std::string mStartup;   // the configuration the device started with
   std::string mSaved;     // the startup configuration: as loaded or last saved
   std::string mSavePath;  // where `write memory` writes ("" when nowhere)
   std::string mSession;   // the configuration lines as typed, with mode changes
+  size_t mRefusedAt = std::string::npos;
 };
 
 }  // namespace vtycli

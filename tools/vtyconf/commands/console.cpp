@@ -86,6 +86,9 @@ class Console {
     const bool enter = key == '\n' || key == '\r';
     if (enter && !configuring && endsSession(typed)) return leaveSession(buffer);
     if (enter && mTwin.answer(typed, before, answer)) {
+      if (mTwin.refusedAt() != std::string::npos) {
+        answer = withCaretLine("\n" + answer, caretColumn(prompt, mTwin.refusedAt())).substr(1);
+      }
       show(answered(buffer, answer));
       return true;
     }
