@@ -9,7 +9,10 @@
 // Around the terminal stands the device's state (ConsoleTwin): a finished
 // line that looks at or saves the configurations is answered from it and
 // never reaches the terminal; a configuration line the terminal accepts is
-// kept, and `hostname` renames the prompt.
+// kept, and `hostname` renames the prompt. The console adds what a device's
+// console does around its lines: the caret line under a refused line, `do`
+// for exec commands in the configuration modes, Ctrl-Z, Ctrl-C (the line
+// is dropped) and `exit`/`logout` at an exec prompt (the session ends).
 #include <algorithm>
 #include <iostream>
 #include <memory>
@@ -344,7 +347,8 @@ CommandRegistration registration{CommandSpec{
           ->capture_default_str();
       sub.footer(
           "Keys: arrows, Home/End, Delete, Ctrl-A/E/K/U/W/Y, Ctrl-R search, '?' help, Tab completion; "
-          "Ctrl-D on an empty line leaves.\n"
+          "Ctrl-Z leaves the configuration, Ctrl-C drops the line; Ctrl-D on an empty line, or exit/logout at "
+          "an exec prompt, leaves.\n"
           "Without a terminal, standard input is typed line by line.\n"
           "At the privileged prompt (and through `do`): show running-config [interface NAME] "
           "[| include|exclude|begin|section RE], show startup-config, show changes, write memory, "
