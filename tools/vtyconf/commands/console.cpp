@@ -90,7 +90,7 @@ class Console {
     if (enter && !configuring && endsSession(typed)) return leaveSession(buffer);
     if (enter && mTwin.answer(typed, before, answer)) {
       if (mTwin.refusedAt() != std::string::npos) {
-        answer = withCaretLine("\n" + answer, caretColumn(prompt, mTwin.refusedAt())).substr(1);
+        answer = withCaretLine("\n" + answer, caretColumn(prompt, typed, mTwin.refusedAt())).substr(1);
       }
       show(answered(buffer, answer));
       return true;
@@ -107,7 +107,7 @@ class Console {
       output = recover(e.what());
     }
     if (enter && mEditor->getNewLine()) {
-      output = withCaretLine(output, caretColumn(prompt, mVty.lastErrorOffset()));
+      output = withCaretLine(output, caretColumn(prompt, typed, mVty.lastErrorOffset()));
       followLine(typed, before, output);
     }
     show(output);
@@ -158,15 +158,18 @@ class Console {
   std::string answerDo(const std::string& typed, size_t execAt, const std::string& prompt) const {
     const ExecAnswer exec = answerExecLine(typed.substr(execAt));
     if (!exec.refused) return exec.text;
-    return withCaretLine("\n" + exec.text, caretColumn(prompt, execAt + exec.errorOffset)).substr(1);
+    return withCaretLine("\n" + exec.text, caretColumn(prompt, typed, execAt + exec.errorOffset)).substr(1);
   }
 
-  // The column of the caret under a refused line: the prompt, then the word
-  // where the walk stopped. None (npos) where the line was scrolled on the
-  // screen, whose columns then no longer match the text.
-  size_t caretColumn(const std::string& prompt, size_t offset) const {
+  // The column of the caret under `typed`: the prompt, then the word where
+  // the walk stopped. None (npos) at a terminal where prompt and line did
+  // not fit on the screen: the line was scrolled, and its columns no longer
+  // match the text.
+  size_t caretColumn(const std::string& prompt, const std::string& typed, size_t offset) const {
     const size_t column = prompt.size() + offset;
-    if (mInteractive && column + 1 >= static_cast<size_t>(screenWidth())) return std::string::npos;
+    if (mInteractive && prompt.size() + typed.size() + 1 >= static_cast<size_t>(screenWidth())) {
+      return std::string::npos;
+    }
     return column;
   }
 
