@@ -76,30 +76,15 @@ class Console {
   // Types one key; false when the session ends with it.
   bool key(char key) {
     if (key == kCtrlC) return abandonLine();
-    bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
+    const bool leave = key == 4 && mEditor->getLine()[0] == '\0' && !mEditor->isSearching();
     char buffer[2] = {key, '\0'};
-    const std::string typed = mEditor->getLine();
-    const std::string prompt = mEditor->getPrompt();
-    std::string before;
-    mVty.getPrompt(before);
-    std::string answer;
-    const bool configuring = before.find("(config") != std::string::npos;
-    if (key == kCtrlZ && configuring && !mEditor->isSearching()) return ctrlZ(typed);
+    Line line{mEditor->getLine(), mEditor->getPrompt(), ""};
+    mVty.getPrompt(line.suffix);
+    if (key == kCtrlZ && line.configuring() && !mEditor->isSearching()) return ctrlZ(line.typed);
     // Enter also ends a search, and runs the line found.
     const bool enter = key == '\n' || key == '\r';
-    if (enter && !configuring && endsSession(typed)) return leaveSession(buffer);
-    if (enter && mTwin.answer(typed, before, answer)) {
-      if (mTwin.refusedAt() != std::string::npos) {
-        answer = withCaretLine("\n" + answer, caretColumn(prompt, typed, mTwin.refusedAt())).substr(1);
-      }
-      show(answered(buffer, answer));
-      return true;
-    }
-    const size_t execAt = configuring && enter ? execAfterDo(typed) : std::string::npos;
-    if (execAt != std::string::npos) {
-      show(answered(buffer, answerDo(typed, execAt, prompt)));
-      return true;
-    }
+    bool goOn = true;
+    if (enter && answerAround(buffer, line, goOn)) return goOn;
     std::string output;
     try {
       parser_main(&mVty, mEditor.get(), buffer, output, &mDelta);
@@ -107,11 +92,48 @@ class Console {
       output = recover(e.what());
     }
     if (enter && mEditor->getNewLine()) {
-      output = withCaretLine(output, caretColumn(prompt, typed, mVty.lastErrorOffset()));
-      followLine(typed, before, output);
+      output = withCaretLine(output, caretColumn(line, mVty.lastErrorOffset()));
+      followLine(line.typed, line.suffix, output);
     }
     show(output);
     return !leave;
+  }
+
+  // A line as Enter finds it: its text, the prompt drawn before it, and the
+  // terminal's prompt suffix ("#", "(config-if)#").
+  struct Line {
+    std::string typed;
+    std::string prompt;
+    std::string suffix;
+    bool configuring() const { return suffix.find("(config") != std::string::npos; }
+  };
+
+  // The finished lines the console answers itself, never the terminal: the
+  // end of the session, a line of the device's state, an exec command
+  // through `do`. False for the terminal's lines; `goOn` false when the
+  // session ends.
+  bool answerAround(char* buffer, const Line& line, bool& goOn) {
+    std::string answer;
+    if (!line.configuring() && endsSession(line.typed)) {
+      goOn = leaveSession(buffer);
+    } else if (mTwin.answer(line.typed, line.suffix, answer)) {
+      show(answered(buffer, withCaret(answer, line, mTwin.refusedAt())));
+    } else if (const size_t at = line.configuring() ? execAfterDo(line.typed) : std::string::npos;
+               at != std::string::npos) {
+      const ExecAnswer exec = answerExecLine(line.typed.substr(at));
+      show(answered(buffer, withCaret(exec.text, line, exec.refused ? at + exec.errorOffset : std::string::npos)));
+    } else {
+      return false;
+    }
+    return true;
+  }
+
+  // `answer` with the caret line above its invalid-input message, the "^"
+  // under the line's byte `offset` (none for npos).
+  std::string withCaret(const std::string& answer, const Line& line, size_t offset) const {
+    if (offset == std::string::npos) return answer;
+    // withCaretLine looks for the message at the start of a line.
+    return withCaretLine("\n" + answer, caretColumn(line, offset)).substr(1);
   }
 
   // Ctrl-C: the line typed so far is dropped unrun (and kept out of the
@@ -153,21 +175,13 @@ class Console {
     return end;
   }
 
-  // The terminal's answer to the exec command of a `do` line, with the caret
-  // under its word when it is refused.
-  std::string answerDo(const std::string& typed, size_t execAt, const std::string& prompt) const {
-    const ExecAnswer exec = answerExecLine(typed.substr(execAt));
-    if (!exec.refused) return exec.text;
-    return withCaretLine("\n" + exec.text, caretColumn(prompt, typed, execAt + exec.errorOffset)).substr(1);
-  }
-
-  // The column of the caret under `typed`: the prompt, then the word where
-  // the walk stopped. None (npos) at a terminal where prompt and line did
-  // not fit on the screen: the line was scrolled, and its columns no longer
-  // match the text.
-  size_t caretColumn(const std::string& prompt, const std::string& typed, size_t offset) const {
-    const size_t column = prompt.size() + offset;
-    if (mInteractive && prompt.size() + typed.size() + 1 >= static_cast<size_t>(screenWidth())) {
+  // The column of the caret under the line's byte `offset`: the prompt,
+  // then the word where the walk stopped. None (npos) at a terminal where
+  // prompt and line did not fit on the screen: the line was scrolled, and
+  // its columns no longer match the text.
+  size_t caretColumn(const Line& line, size_t offset) const {
+    const size_t column = line.prompt.size() + offset;
+    if (mInteractive && line.prompt.size() + line.typed.size() + 1 >= static_cast<size_t>(screenWidth())) {
       return std::string::npos;
     }
     return column;
