@@ -3,6 +3,8 @@
 #include <map>
 #include <set>
 
+#include "config/AccessListMeaning.h"
+#include "config/BgpNeighbourMeaning.h"
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
@@ -84,7 +86,7 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
   DeviceMeaning::dropUnchangedNegations(out, from, to);
   std::vector<std::string> heads;
   std::string missed = DeviceMeaning::missedCommands(from, to);
-  const std::string lists = DeviceMeaning::changedNamedLists(from, to, heads);
+  const std::string lists = AccessListMeaning::changedNamedLists(from, to, heads);
   // A named list that changed is written by its entries alone.
   for (auto it = out.begin(); it != out.end();) {
     if (std::find(heads.begin(), heads.end(), (*it)->getOriginalCmd()) != heads.end()) {
@@ -107,7 +109,7 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
 // of one of its entries would delete it whole on the device.
 void rewriteChangedLists(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
   std::vector<std::string> numbers;
-  const std::string lists = DeviceMeaning::changedNumberedLists(first, second, numbers);
+  const std::string lists = AccessListMeaning::changedNumberedLists(first, second, numbers);
   if (lists.empty()) return;
   std::vector<CiscoCommandLine*> gone;
   RecordsGuard goneGuard(gone);
@@ -147,16 +149,16 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
   std::set<std::string> goneNeighbours;
-  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
+  DeviceTextReader::read(BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(changes), goneNeighbours),
                          changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
-  DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
+  AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
-  DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  BgpNeighbourMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
-  DeviceMeaning::entriesBySequence(configCmds);
+  AccessListMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
@@ -215,7 +217,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
     addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
-  DeviceMeaning::orderNeighbours(out);
+  BgpNeighbourMeaning::orderNeighbours(out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }

@@ -1,0 +1,192 @@
+// Access-list edits as the device makes them.
+#include "config/AccessListMeaning.h"
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+std::string trimmed(std::string text) {
+  text.erase(text.find_last_not_of(" \r\n") + 1);
+  return text;
+}
+
+bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+
+void freeRecord(CiscoCommandLine* record) {
+  std::vector<CiscoCommandLine*> alone{record};
+  QxParserUtil::deleteCommands(alone);
+}
+
+CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
+  for (CiscoCommandLine* record : records) {
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd()) return record;
+  }
+  return nullptr;
+}
+
+bool isNamedList(const std::string& head) {
+  return startsWith(head, "ip access-list ") || startsWith(head, "ipv6 access-list ");
+}
+
+// The number of a top-level "access-list N ..." line ("no " allowed), or "".
+std::string listNumber(const std::string& line, bool negated) {
+  const std::string lead = negated ? "no access-list " : "access-list ";
+  if (line.compare(0, lead.size(), lead) != 0) return {};
+  const size_t end = line.find_first_not_of("0123456789", lead.size());
+  if (end == lead.size() || end == std::string::npos || line[end] != ' ') return {};
+  return line.substr(lead.size(), end - lead.size());
+}
+
+std::map<std::string, std::vector<std::string>> numberedLists(const std::string& text) {
+  std::map<std::string, std::vector<std::string>> lists;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) {
+    line.erase(line.find_last_not_of(" \t\r") + 1);
+    const std::string number = listNumber(line, false);
+    if (!number.empty()) lists[number].push_back(line);
+  }
+  return lists;
+}
+
+// The sequence number that begins an entry, or -1.
+long sequenceOf(const CiscoCommandLine& entry) {
+  const std::string& text = entry.getOriginalCmd();
+  const size_t end = text.find_first_not_of("0123456789");
+  if (end == 0 || end == std::string::npos || text[end] != ' ' || end > 9) return -1;
+  return std::stol(text.substr(0, end));
+}
+
+void placeBySequence(std::vector<CiscoCommandLine*>& entries) {
+  std::vector<long> numbers;
+  long last = 0;
+  for (const CiscoCommandLine* entry : entries) {
+    const long own = sequenceOf(*entry);
+    const bool added = entry->getLineNo() < 1 || entry->hasFlags(CMDBIT_FROM_CHANGES);
+    if (entry->getTreeNodeSize() > 0 && !added) last = own >= 0 ? own : last + 10;
+    numbers.push_back(own >= 0 ? own : last);
+  }
+  for (size_t i = 0; i < entries.size(); ++i) {
+    CiscoCommandLine* entry = entries[i];
+    const bool added = entry->getLineNo() < 1 || entry->hasFlags(CMDBIT_FROM_CHANGES);
+    const long own = sequenceOf(*entry);
+    if (!added || own < 0) continue;
+    size_t to = 0;
+    while (to < i && (numbers[to] <= own || entries[to]->getTreeNodeSize() == 0)) ++to;
+    if (to == i) continue;
+    entries.erase(entries.begin() + static_cast<long>(i));
+    numbers.erase(numbers.begin() + static_cast<long>(i));
+    entries.insert(entries.begin() + static_cast<long>(to), entry);
+    numbers.insert(numbers.begin() + static_cast<long>(to), own);
+  }
+}
+
+std::vector<std::string> entryTexts(const CiscoCommandLine& list) {
+  std::vector<std::string> texts;
+  for (const CiscoCommandLine* entry : list.getChildCommands()) {
+    if (entry->getTreeNodeSize() > 0) texts.push_back(trimmed(entry->getOriginalCmd()));
+  }
+  return texts;
+}
+
+}  // namespace
+
+std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
+  std::istringstream in(changes);
+  std::string out;
+  for (std::string line; std::getline(in, line);) {
+    const std::string number = listNumber(line, true);
+    out += number.empty() ? line : "no access-list " + number;
+    out += "\n";
+  }
+  return out;
+}
+
+std::string AccessListMeaning::changedNumberedLists(const std::string& first, const std::string& second,
+                                                std::vector<std::string>& numbers) {
+  const auto before = numberedLists(first);
+  const auto after = numberedLists(second);
+  std::string out;
+  for (const auto& [number, entries] : before) {
+    const auto found = after.find(number);
+    if (found == after.end() || found->second == entries) continue;
+    numbers.push_back(number);
+    out += "no access-list " + number + "\n";
+    for (const std::string& entry : found->second) out += entry + "\n";
+  }
+  return out;
+}
+
+void AccessListMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& records) {
+  for (CiscoCommandLine* record : records) {
+    const std::string& text = record->getOriginalCmd();
+    if (isNamedList(text)) {
+      placeBySequence(record->getChildCommands());
+    }
+  }
+}
+
+void AccessListMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
+                                       std::vector<CiscoCommandLine*>& config) {
+  for (CiscoCommandLine* change : changes) {
+    const std::string& head = change->getOriginalCmd();
+    if (!isNamedList(head)) continue;
+    CiscoCommandLine* list = sameHead(config, *change);
+    if (!list) continue;
+    std::vector<CiscoCommandLine*>& asked = change->getChildCommands();
+    std::vector<CiscoCommandLine*>& entries = list->getChildCommands();
+    for (auto it = asked.begin(); it != asked.end();) {
+      const std::string text = trimmed((*it)->getOriginalCmd());
+      if (!(*it)->hasFlags(CMDBIT_NO) || !startsWith(text, "no ") || sequenceOf(**it) >= 0 ||
+          text.find_first_not_of("0123456789", 3) == std::string::npos) {
+        ++it;
+        continue;
+      }
+      const std::string entry = text.substr(3);
+      const auto found = std::find_if(entries.begin(), entries.end(), [&entry](const CiscoCommandLine* line) {
+        const std::string own = trimmed(line->getOriginalCmd());
+        return own == entry || (sequenceOf(*line) >= 0 && own.substr(own.find(' ') + 1) == entry);
+      });
+      if (found == entries.end()) {
+        ++it;
+        continue;
+      }
+      freeRecord(*found);
+      entries.erase(found);
+      freeRecord(*it);
+      it = asked.erase(it);
+    }
+  }
+}
+
+std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandLine*>& from,
+                                             const std::vector<CiscoCommandLine*>& to,
+                                             std::vector<std::string>& heads) {
+  std::string out;
+  for (const CiscoCommandLine* list : from) {
+    const std::string& head = list->getOriginalCmd();
+    if (!isNamedList(head)) continue;
+    const CiscoCommandLine* other = sameHead(to, *list);
+    if (!other) continue;
+    const auto before = entryTexts(*list);
+    const auto after = entryTexts(*other);
+    if (before == after) continue;
+    heads.push_back(head);
+    std::string lines;
+    for (const std::string& entry : before) {
+      if (std::find(after.begin(), after.end(), entry) == after.end()) lines += " no " + entry + "\n";
+    }
+    for (const std::string& entry : after) {
+      if (std::find(before.begin(), before.end(), entry) == before.end()) lines += " " + entry + "\n";
+    }
+    if (!lines.empty()) out += trimmed(head) + "\n" + lines;
+  }
+  return out;
+}
+
+}  // namespace qxparser

@@ -1,0 +1,149 @@
+// BGP neighbour edits as the device makes them.
+#include "config/BgpNeighbourMeaning.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "config/DeviceTextReader.h"
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+
+void freeRecord(CiscoCommandLine* record) {
+  std::vector<CiscoCommandLine*> alone{record};
+  QxParserUtil::deleteCommands(alone);
+}
+
+// The neighbour of a "no neighbor X remote-as ..." line, or "".
+std::string goneNeighbour(const CiscoCommandLine& record) {
+  const std::string& text = record.getOriginalCmd();
+  if (!startsWith(text, "no neighbor ")) return {};
+  const size_t end = text.find(' ', 12);
+  if (end == std::string::npos || text.compare(end, 11, " remote-as ") != 0) return {};
+  return text.substr(12, end - 12);
+}
+
+// Drops every "no neighbor X ..." line of `records` and of the modes below.
+void dropNeighbourLines(std::vector<CiscoCommandLine*>& records, const std::set<std::string>& gone) {
+  for (auto it = records.begin(); it != records.end();) {
+    const std::string& text = (*it)->getOriginalCmd();
+    const size_t end = text.find(' ', 12);
+    if (startsWith(text, "no neighbor ") && end != std::string::npos && gone.count(text.substr(12, end - 12))) {
+      freeRecord(*it);
+      it = records.erase(it);
+      continue;
+    }
+    std::vector<CiscoCommandLine*>& inner = (*it)->getChildCommands();
+    const bool had = !inner.empty();
+    dropNeighbourLines(inner, gone);
+    // A mode head that held only such lines has nothing left to say.
+    if (had && inner.empty()) {
+      freeRecord(*it);
+      it = records.erase(it);
+      continue;
+    }
+    ++it;
+  }
+}
+
+size_t indentOf(const CiscoCommandLine& record) {
+  const std::string& raw = record.getRawText();
+  const size_t lead = raw.find_first_not_of(' ');
+  return lead == std::string::npos ? 0 : lead;
+}
+
+// A line written at the level of the router behind an address family was read
+// into the family (the device reads pasted text so too); it goes back up.
+void liftOutdented(std::vector<CiscoCommandLine*>& children) {
+  for (size_t i = 0; i < children.size(); ++i) {
+    CiscoCommandLine* family = children[i];
+    if (!family->hasFlags(CMDBIT_OPENS_MODE) || family->getRawText().empty()) continue;
+    std::vector<CiscoCommandLine*>& inner = family->getChildCommands();
+    const auto cut = std::find_if(inner.begin(), inner.end(), [family](const CiscoCommandLine* line) {
+      return !line->getRawText().empty() && indentOf(*line) <= indentOf(*family);
+    });
+    std::vector<CiscoCommandLine*> lifted(cut, inner.end());
+    inner.erase(cut, inner.end());
+    for (CiscoCommandLine* line : lifted) line->setParentCommand(family->getParentCommand(), false);
+    children.insert(children.begin() + static_cast<long>(i) + 1, lifted.begin(), lifted.end());
+  }
+}
+
+void neighboursOf(CiscoCommandLine& router) {
+  std::set<std::string> gone;
+  for (const CiscoCommandLine* child : router.getChildCommands()) {
+    const std::string neighbour = goneNeighbour(*child);
+    if (!neighbour.empty()) gone.insert(neighbour);
+  }
+  std::vector<CiscoCommandLine*>& children = router.getChildCommands();
+  if (!gone.empty()) {
+    dropNeighbourLines(children, gone);
+    std::string text = router.getOriginalCmd();
+    text.erase(text.find_last_not_of(" \r\n") + 1);
+    text += "\n";
+    for (const std::string& neighbour : gone) text += " no neighbor " + neighbour + "\n";
+    std::vector<CiscoCommandLine*> read;
+    DeviceTextReader::read(text, read);
+    for (CiscoCommandLine* head : read) {
+      if (head->getFlag() == CMD_TEXT) continue;
+      for (CiscoCommandLine* line : head->getChildCommands()) line->setParentCommand(&router, false);
+      children.insert(children.begin(), head->getChildCommands().begin(), head->getChildCommands().end());
+      head->getChildCommands().clear();
+    }
+    QxParserUtil::deleteCommands(read);
+  }
+  liftOutdented(children);
+  std::stable_partition(children.begin(), children.end(),
+                        [](const CiscoCommandLine* child) { return !child->hasFlags(CMDBIT_OPENS_MODE); });
+}
+
+}  // namespace
+
+std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone) {
+  std::istringstream in(changes);
+  std::string out;
+  for (std::string line; std::getline(in, line);) {
+    std::istringstream words(line);
+    std::string no, neighbor, who, what;
+    words >> no >> neighbor >> who >> what;
+    if (no == "no" && neighbor == "neighbor" && !who.empty() && (what.empty() || what == "remote-as")) {
+      gone.insert(who);
+      line = line.substr(0, line.find_first_not_of(' ')) + "no neighbor " + who;
+    }
+    out += line + "\n";
+  }
+  return out;
+}
+
+void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone) {
+  if (gone.empty()) return;
+  for (CiscoCommandLine* record : config) {
+    if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
+    for (CiscoCommandLine* family : record->getChildCommands()) {
+      if (!family->hasFlags(CMDBIT_OPENS_MODE)) continue;
+      std::vector<CiscoCommandLine*>& lines = family->getChildCommands();
+      for (auto it = lines.begin(); it != lines.end();) {
+        const std::string& text = (*it)->getOriginalCmd();
+        const size_t end = text.find(' ', 9);
+        if (startsWith(text, "neighbor ") && end != std::string::npos && gone.count(text.substr(9, end - 9))) {
+          freeRecord(*it);
+          it = lines.erase(it);
+        } else {
+          ++it;
+        }
+      }
+    }
+  }
+}
+
+void BgpNeighbourMeaning::orderNeighbours(std::vector<CiscoCommandLine*>& out) {
+  for (CiscoCommandLine* record : out) {
+    if (startsWith(record->getOriginalCmd(), "router bgp ")) neighboursOf(*record);
+  }
+}
+
+}  // namespace qxparser
