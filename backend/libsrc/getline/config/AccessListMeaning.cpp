@@ -16,7 +16,9 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+bool startsWith(const std::string& text, const std::string& lead) {
+  return text.compare(0, lead.size(), lead) == 0;
+}
 
 void freeRecord(CiscoCommandLine* record) {
   std::vector<CiscoCommandLine*> alone{record};
@@ -25,7 +27,8 @@ void freeRecord(CiscoCommandLine* record) {
 
 CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
   for (CiscoCommandLine* record : records) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd()) return record;
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd())
+      return record;
   }
   return nullptr;
 }
@@ -108,7 +111,7 @@ std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
 }
 
 std::string AccessListMeaning::changedNumberedLists(const std::string& first, const std::string& second,
-                                                std::vector<std::string>& numbers) {
+                                                    std::vector<std::string>& numbers) {
   const auto before = numberedLists(first);
   const auto after = numberedLists(second);
   std::string out;
@@ -132,7 +135,7 @@ void AccessListMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& record
 }
 
 void AccessListMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
-                                       std::vector<CiscoCommandLine*>& config) {
+                                           std::vector<CiscoCommandLine*>& config) {
   for (CiscoCommandLine* change : changes) {
     const std::string& head = change->getOriginalCmd();
     if (!isNamedList(head)) continue;
@@ -165,8 +168,8 @@ void AccessListMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& chang
 }
 
 std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandLine*>& from,
-                                             const std::vector<CiscoCommandLine*>& to,
-                                             std::vector<std::string>& heads) {
+                                                 const std::vector<CiscoCommandLine*>& to,
+                                                 std::vector<std::string>& heads) {
   std::string out;
   for (const CiscoCommandLine* list : from) {
     const std::string& head = list->getOriginalCmd();

@@ -39,13 +39,15 @@ class AccessListMeaning {
   // of the same list in `config` (with or without its sequence number), not
   // the run of entries that the comparison by grammar path finds; the change
   // is then used up and leaves `changes`.
-  static void removeNamedEntries(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
+  static void removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
+                                 std::vector<CiscoCommandLine*>& config);
 
   // For each named access list that `from` and `to` both hold with other
   // entries: its head, "no <entry>" for each entry that goes and each entry
   // that comes, as text. The heads go to `heads` (their full form).
   static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
-                                       const std::vector<CiscoCommandLine*>& to, std::vector<std::string>& heads);
+                                       const std::vector<CiscoCommandLine*>& to,
+                                       std::vector<std::string>& heads);
 };
 
 }  // namespace qxparser

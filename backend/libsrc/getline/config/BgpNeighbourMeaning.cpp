@@ -11,7 +11,9 @@ namespace qxparser {
 
 namespace {
 
-bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+bool startsWith(const std::string& text, const std::string& lead) {
+  return text.compare(0, lead.size(), lead) == 0;
+}
 
 void freeRecord(CiscoCommandLine* record) {
   std::vector<CiscoCommandLine*> alone{record};
@@ -32,7 +34,8 @@ void dropNeighbourLines(std::vector<CiscoCommandLine*>& records, const std::set<
   for (auto it = records.begin(); it != records.end();) {
     const std::string& text = (*it)->getOriginalCmd();
     const size_t end = text.find(' ', 12);
-    if (startsWith(text, "no neighbor ") && end != std::string::npos && gone.count(text.substr(12, end - 12))) {
+    if (startsWith(text, "no neighbor ") && end != std::string::npos &&
+        gone.count(text.substr(12, end - 12))) {
       freeRecord(*it);
       it = records.erase(it);
       continue;
@@ -103,7 +106,8 @@ void neighboursOf(CiscoCommandLine& router) {
 
 }  // namespace
 
-std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone) {
+std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
+                                                       std::set<std::string>& gone) {
   std::istringstream in(changes);
   std::string out;
   for (std::string line; std::getline(in, line);) {
@@ -119,7 +123,8 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
   return out;
 }
 
-void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone) {
+void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config,
+                                             const std::set<std::string>& gone) {
   if (gone.empty()) return;
   for (CiscoCommandLine* record : config) {
     if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
@@ -129,7 +134,8 @@ void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& con
       for (auto it = lines.begin(); it != lines.end();) {
         const std::string& text = (*it)->getOriginalCmd();
         const size_t end = text.find(' ', 9);
-        if (startsWith(text, "neighbor ") && end != std::string::npos && gone.count(text.substr(9, end - 9))) {
+        if (startsWith(text, "neighbor ") && end != std::string::npos &&
+            gone.count(text.substr(9, end - 9))) {
           freeRecord(*it);
           it = lines.erase(it);
         } else {

@@ -1,10 +1,9 @@
 // Rollback lines that the comparison by grammar path leaves out.
 #include "config/DeviceMeaning.h"
 
-#include <sstream>
-
 #include <algorithm>
 #include <set>
+#include <sstream>
 
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
@@ -18,9 +17,11 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
+const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& records,
+                                    const CiscoCommandLine& wanted) {
   for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() > 0 && record->getCurrentCommand() == wanted.getCurrentCommand()) return record;
+    if (record->getTreeNodeSize() > 0 && record->getCurrentCommand() == wanted.getCurrentCommand())
+      return record;
   }
   return nullptr;
 }
@@ -40,7 +41,8 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
              const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
   for (CiscoCommandLine* command : to) {
-    if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) || !command->hasFlags(CMDBIT_STORED)) {
+    if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) ||
+        !command->hasFlags(CMDBIT_STORED)) {
       continue;
     }
     const CiscoCommandLine* same = sameCommand(from, *command);
@@ -57,28 +59,22 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
 
 CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
   for (CiscoCommandLine* record : records) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd()) return record;
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd())
+      return record;
   }
   return nullptr;
 }
 
-
-
-bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
-
+bool startsWith(const std::string& text, const std::string& lead) {
+  return text.compare(0, lead.size(), lead) == 0;
+}
 
 void freeRecord(CiscoCommandLine* record) {
   std::vector<CiscoCommandLine*> alone{record};
   QxParserUtil::deleteCommands(alone);
 }
 
-
-
-
-
 }  // namespace
-
-
 
 void DeviceMeaning::exitLinesLast(std::vector<CiscoCommandLine*>& records) {
   for (CiscoCommandLine* record : records) {
@@ -92,8 +88,6 @@ void DeviceMeaning::exitLinesLast(std::vector<CiscoCommandLine*>& records) {
     exitLinesLast(inner);
   }
 }
-
-
 
 namespace {
 
@@ -147,7 +141,8 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     if (kind.empty()) continue;
     for (size_t to = 0; to < records.size(); ++to) {
       std::vector<long> other;
-      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other)) continue;
+      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other))
+        continue;
       if (to < i) {
         records.erase(records.begin() + static_cast<long>(i));
         records.insert(records.begin() + static_cast<long>(to), record);
@@ -159,7 +154,8 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
 
 namespace {
 
-void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode, std::set<std::string>& keys) {
+void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode,
+            std::set<std::string>& keys) {
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
     const std::string key = mode + trimmed(record->getOriginalCmd());
@@ -168,8 +164,8 @@ void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mo
   }
 }
 
-void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode, const std::set<std::string>& before,
-            const std::set<std::string>& after) {
+void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
+            const std::set<std::string>& before, const std::set<std::string>& after) {
   for (auto it = records.begin(); it != records.end();) {
     const std::string own = trimmed((*it)->getOriginalCmd());
     if (startsWith(own, "no ") && (*it)->getChildCommands().empty()) {
@@ -203,10 +199,6 @@ void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
   keysOf(to, "", after);
   dropIn(out, "", before, after);
 }
-
-
-
-
 
 std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& from,
                                           const std::vector<CiscoCommandLine*>& to) {

@@ -38,7 +38,8 @@ class DeviceMeaning {
   // Takes out of a rollback `out` each "no X" whose X stands unchanged in both
   // `from` and `to` (in the same mode) while `to` holds no "no X": the
   // comparison by grammar path negated a line that nobody changed.
-  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
+                                     const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
 
   // Moves the records of `extra` into `into`: a mode head that `into` holds

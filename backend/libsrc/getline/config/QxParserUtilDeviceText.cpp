@@ -76,7 +76,8 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
 
 // A line that `first` states only in its "no" form and `second` holds
 // positive is written too: the comparison takes the two for one.
-void addMissedCommands(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+void addMissedCommands(const std::string& first, const std::string& second,
+                       std::vector<CiscoCommandLine*>& out) {
   std::vector<CiscoCommandLine*> from;
   std::vector<CiscoCommandLine*> to;
   RecordsGuard fromGuard(from);
@@ -107,7 +108,8 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
 
 // A numbered access list that changed is deleted and written anew: a "no"
 // of one of its entries would delete it whole on the device.
-void rewriteChangedLists(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+void rewriteChangedLists(const std::string& first, const std::string& second,
+                         std::vector<CiscoCommandLine*>& out) {
   std::vector<std::string> numbers;
   const std::string lists = AccessListMeaning::changedNumberedLists(first, second, numbers);
   if (lists.empty()) return;
@@ -149,7 +151,8 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
   std::set<std::string> goneNeighbours;
-  DeviceTextReader::read(BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(changes), goneNeighbours),
+  DeviceTextReader::read(BgpNeighbourMeaning::wholeNeighbourChanges(
+                             AccessListMeaning::wholeListChanges(changes), goneNeighbours),
                          changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
@@ -190,9 +193,11 @@ std::string QxParserUtil::deviceText(const std::string& text) {
 }
 
 std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
-                                                       unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                                       unsigned int mode,
+                                                       std::vector<RefusedLine>* firstRefused,
                                                        std::vector<RefusedLine>* secondRefused) {
-  const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
+  const std::string written =
+      nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
