@@ -1730,7 +1730,7 @@ route-map|create route-map or enter route-map command mode|k||
   word|Route map tag|k||
     <cr>||||@(config-route-map)# route_map.cfm
     !
-    permit|Route map permits set operations|k||
+    permit|Route map permits set operations|o||
       <cr>||||@(config-route-map)# route_map.cfm
       !
       0-65535|Sequence to insert to/delete from existing route-map entry|k||
@@ -1738,7 +1738,7 @@ route-map|create route-map or enter route-map command mode|k||
         !
       !
     !
-    deny|Route map denies set operations|k||
+    deny|Route map denies set operations|o||
       <cr>||||@(config-route-map)# route_map.cfm
       !
       0-65535|Sequence to insert to/delete from existing route-map entry|k||

@@ -917,7 +917,59 @@ prefix-list|prefix-list|k||
     <cr>||||
     !
   !
-  word|word|k||
+  word|word|k/n||
+    seq|seq|k||
+      id|id|k/n||
+        permit|permit|o||
+          ipv6/prefix|ipv6/prefix|o||
+            <cr>||||
+            !
+            ge|ge|k||
+              id|id|||
+                <cr>||||
+                !
+                le|le|k||
+                  id|id|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        deny|deny|o||
+          ipv6/prefix|ipv6/prefix|o||
+            <cr>||||
+            !
+            ge|ge|k||
+              id|id|||
+                <cr>||||
+                !
+                le|le|k||
+                  id|id|||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|k||
+              id|id|||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
     line|line|lb/le/wa||
       <cr>||||
       !

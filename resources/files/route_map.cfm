@@ -157,19 +157,19 @@ match|match values from routing table|k||
   !
 !
 set|set values in destination routing protocol|k||
-  community|community|k||
-    <aa:nn>|community value|wa/lb/le||
+  community|community|k/n||
+    <aa:nn>|community value|wa/lb/le/o||
       <cr>||||
       !
     !
   !
-  local-preference|local-preference|k||
+  local-preference|local-preference|k/n||
     id|id|o||
       <cr>||||
       !
     !
   !
-  metric|metric|k||
+  metric|metric|k/n||
     +/-<metric>|+/-<metric|||
       <cr>||||
       !
@@ -279,7 +279,7 @@ set|set values in destination routing protocol|k||
       !
     !
   !
-  weight|weight|k||
+  weight|weight|k/n||
     id|id|o||
       <cr>||||
       !

@@ -57,7 +57,7 @@ password|set a password|k||
 ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
   <cr>||||
   !
-  id|id|||
+  id|id|o||
     <cr>||||
     !
   !

@@ -235,11 +235,11 @@ match "match values from routing table"
   policy-list
     word $
 set "set values in destination routing protocol"
-  community
-    %COMMUNITY
-  local-preference
+  community :n
+    <aa:nn> :wa/lb/le/o "community value" $
+  local-preference :n
     id :o $
-  metric
+  metric :n
     +/-<metric> $
     id :o $
       line *
@@ -274,7 +274,7 @@ set "set values in destination routing protocol"
     prepend
       line *
     tag $
-  weight
+  weight :n
     id :o $
   origin
     line *

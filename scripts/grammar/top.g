@@ -369,9 +369,9 @@ spanning-tree "spanning tree subsystem"
         global $
 route-map "create route-map or enter route-map command mode"
   word :k "Route map tag" @(config-route-map)#=route_map.cfm
-    permit "Route map permits set operations" @(config-route-map)#=route_map.cfm
+    permit :-k/o "Route map permits set operations" @(config-route-map)#=route_map.cfm
       0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    deny "Route map denies set operations" @(config-route-map)#=route_map.cfm
+    deny :-k/o "Route map denies set operations" @(config-route-map)#=route_map.cfm
       0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
     0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
 control-plane-policing $ "control plane policing settings"
