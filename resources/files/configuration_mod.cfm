@@ -634,6 +634,22 @@ interface|select an interface to configure|k||
     !
   !
 !
+default|set a command to its defaults|k||
+  interface|every setting of an interface back to its default|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+    range|interface range|k||
+      line|line|lb/le/wa/k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
 version|version of the configuration|k||
   <value>|value|o||
     <cr>||||

@@ -36,6 +36,12 @@ interface "select an interface to configure"
     <number> :k "interface number" @(config-if)#=interface.cfm
   range "interface range"
     line :k * @(config-if-range)#=interface.cfm
+default "set a command to its defaults"
+  interface "every setting of an interface back to its default"
+    &interfacefile.cfm "interface type"
+      <number> :k "interface number" $
+    range "interface range"
+      line :k *
 version "version of the configuration"
   <value> :o $
 boot-start-marker "boot marker" $

@@ -8,6 +8,7 @@
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
+#include "config/InterfaceRangeMeaning.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
@@ -156,6 +157,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
                          changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
+  InterfaceRangeMeaning::expand(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
