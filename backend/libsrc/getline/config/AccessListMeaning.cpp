@@ -5,6 +5,7 @@
 #include <map>
 #include <sstream>
 
+#include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
@@ -95,6 +96,99 @@ std::vector<std::string> entryTexts(const CiscoCommandLine& list) {
     if (entry->getTreeNodeSize() > 0) texts.push_back(trimmed(entry->getOriginalCmd()));
   }
   return texts;
+}
+
+// One entry of a list: its sequence number and its text without the number.
+struct Entry {
+  long sequence;
+  std::string text;
+};
+
+// The number of a list head "ip access-list standard|extended N", or "".
+std::string numberedHead(const std::string& head) {
+  for (const std::string lead : {"ip access-list standard ", "ip access-list extended "}) {
+    if (!startsWith(head, lead)) continue;
+    const std::string number = head.substr(lead.size());
+    if (!number.empty() && number.find_first_not_of("0123456789") == std::string::npos) return number;
+  }
+  return {};
+}
+
+// The entry text of a line, without a leading sequence number (whose value
+// goes to `sequence`, -1 without one).
+std::string entryText(const std::string& line, long& sequence) {
+  const size_t end = line.find_first_not_of("0123456789");
+  if (end == 0 || end == std::string::npos || line[end] != ' ' || end > 9) {
+    sequence = -1;
+    return line;
+  }
+  sequence = std::stol(line.substr(0, end));
+  return line.substr(end + 1);
+}
+
+// One line of a named block applied to the entries of a list.
+void applyEdit(std::vector<Entry>& entries, const std::string& line) {
+  const bool negated = startsWith(line, "no ");
+  long sequence = -1;
+  const std::string text = entryText(negated ? line.substr(3) : line, sequence);
+  const auto bySequence = [sequence](const Entry& e) { return e.sequence == sequence; };
+  if (negated) {
+    auto found = sequence >= 0 && text.empty() ? entries.end() : entries.end();
+    if (text.find_first_not_of("0123456789") == std::string::npos && !text.empty()) {
+      const long number = std::stol(text);
+      found = std::find_if(entries.begin(), entries.end(),
+                           [number](const Entry& e) { return e.sequence == number; });
+    } else {
+      found =
+          std::find_if(entries.begin(), entries.end(), [&text](const Entry& e) { return e.text == text; });
+    }
+    if (found != entries.end()) entries.erase(found);
+    return;
+  }
+  if (sequence < 0) {
+    entries.push_back({entries.empty() ? 10 : entries.back().sequence + 10, text});
+    return;
+  }
+  if (std::find_if(entries.begin(), entries.end(), bySequence) != entries.end()) return;
+  const auto at = std::find_if(entries.begin(), entries.end(),
+                               [sequence](const Entry& e) { return e.sequence > sequence; });
+  entries.insert(at, {sequence, text});
+}
+
+// The entries of numbered list `number` in `config`, numbered 10, 20, ...
+std::vector<Entry> numberedEntries(const std::vector<CiscoCommandLine*>& config, const std::string& number) {
+  std::vector<Entry> entries;
+  const std::string lead = "access-list " + number + " ";
+  for (const CiscoCommandLine* record : config) {
+    const std::string text = trimmed(record->getOriginalCmd());
+    if (startsWith(text, lead))
+      entries.push_back({static_cast<long>(entries.size() + 1) * 10, text.substr(lead.size())});
+  }
+  return entries;
+}
+
+// The level-0 records of `text`, each given line number `lineNo`.
+std::vector<CiscoCommandLine*> recordsOf(const std::string& text, int lineNo) {
+  std::vector<CiscoCommandLine*> read;
+  DeviceTextReader::read(text, read);
+  for (auto it = read.begin(); it != read.end();) {
+    if ((*it)->getFlag() == CMD_TEXT) {
+      freeRecord(*it);
+      it = read.erase(it);
+    } else {
+      (*it)->setLineNo(lineNo);
+      ++it;
+    }
+  }
+  return read;
+}
+
+// Puts `records` in place of `list[at]`, which is freed.
+void replaceAt(std::vector<CiscoCommandLine*>& list, size_t at,
+               const std::vector<CiscoCommandLine*>& records) {
+  freeRecord(list[at]);
+  list.erase(list.begin() + static_cast<long>(at));
+  list.insert(list.begin() + static_cast<long>(at), records.begin(), records.end());
 }
 
 }  // namespace
@@ -190,6 +284,54 @@ std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandL
     if (!lines.empty()) out += trimmed(head) + "\n" + lines;
   }
   return out;
+}
+
+void AccessListMeaning::numberedThroughNamed(std::vector<CiscoCommandLine*>& changes,
+                                             const std::vector<CiscoCommandLine*>& config) {
+  for (size_t i = 0; i < changes.size(); ++i) {
+    const std::string number = numberedHead(trimmed(changes[i]->getOriginalCmd()));
+    if (number.empty() || !changes[i]->hasFlags(CMDBIT_OPENS_MODE)) continue;
+    std::vector<Entry> entries = numberedEntries(config, number);
+    for (const CiscoCommandLine* line : changes[i]->getChildCommands()) {
+      if (line->getTreeNodeSize() > 0) applyEdit(entries, trimmed(line->getOriginalCmd()));
+    }
+    std::string text = "no access-list " + number + "\n";
+    for (const Entry& entry : entries) text += "access-list " + number + " " + entry.text + "\n";
+    const std::vector<CiscoCommandLine*> records = recordsOf(text, changes[i]->getLineNo());
+    replaceAt(changes, i, records);
+    i += records.size() - 1;
+  }
+}
+
+void AccessListMeaning::resequence(std::vector<CiscoCommandLine*>& changes,
+                                   std::vector<CiscoCommandLine*>& config) {
+  for (size_t i = 0; i < changes.size();) {
+    std::istringstream words(trimmed(changes[i]->getOriginalCmd()));
+    std::string ip, accessList, verb, name;
+    long start = 10, step = 10;
+    words >> ip >> accessList >> verb >> name;
+    if (ip != "ip" || accessList != "access-list" || verb != "resequence" || name.empty()) {
+      ++i;
+      continue;
+    }
+    if (!(words >> start)) start = 10;
+    if (!(words >> step)) step = 10;
+    for (size_t at = 0; at < config.size(); ++at) {
+      const std::string head = trimmed(config[at]->getOriginalCmd());
+      if (!isNamedList(head) || head.substr(head.rfind(' ') + 1) != name) continue;
+      std::string text = head + "\n";
+      long next = start;
+      for (const CiscoCommandLine* entry : config[at]->getChildCommands()) {
+        long sequence = -1;
+        const std::string own = entryText(trimmed(entry->getOriginalCmd()), sequence);
+        text += " " + (sequence >= 0 ? std::to_string(next) + " " : std::string()) + own + "\n";
+        next += step;
+      }
+      replaceAt(config, at, recordsOf(text, config[at]->getLineNo()));
+    }
+    freeRecord(changes[i]);
+    changes.erase(changes.begin() + static_cast<long>(i));
+  }
 }
 
 }  // namespace qxparser

@@ -8,7 +8,9 @@
 // entry with a sequence number stands by its number (`removeNamedEntries`,
 // `entriesBySequence`, `changedNamedLists`). The functions work on records as
 // DeviceTextReader returns them, or on device text; they own nothing they are
-// given. Same threading rule as every reading operation.
+// given. A numbered list edited in its named form ("ip access-list extended
+// 101") and "ip access-list resequence" are applied to the configuration's
+// list (`numberedThroughNamed`, `resequence`). Same threading rule as every reading operation.
 #pragma once
 
 #include <string>
@@ -48,6 +50,19 @@ class AccessListMeaning {
   static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
                                        const std::vector<CiscoCommandLine*>& to,
                                        std::vector<std::string>& heads);
+
+  // Each "ip access-list standard|extended N" block of `changes` that edits a
+  // numbered list becomes "no access-list N" and the entries the list has
+  // after the edits, in its numbered form (the form the device shows). The
+  // entries of the list in `config` count 10, 20, ... for the block's
+  // sequence numbers.
+  static void numberedThroughNamed(std::vector<CiscoCommandLine*>& changes,
+                                   const std::vector<CiscoCommandLine*>& config);
+
+  // "ip access-list resequence NAME START STEP" in `changes` renumbers the
+  // entries of that named list of `config` (when they show their numbers)
+  // and leaves `changes`.
+  static void resequence(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
 };
 
 }  // namespace qxparser

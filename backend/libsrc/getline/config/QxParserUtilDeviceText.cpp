@@ -10,6 +10,7 @@
 #include "config/DeviceTextWriter.h"
 #include "config/InterfaceRangeMeaning.h"
 #include "config/QxParserUtil.h"
+#include "config/RouteFilterMeaning.h"
 
 namespace qxparser {
 
@@ -158,6 +159,10 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
   InterfaceRangeMeaning::expand(changeCmds, configCmds);
+  AccessListMeaning::numberedThroughNamed(changeCmds, configCmds);
+  AccessListMeaning::resequence(changeCmds, configCmds);
+  RouteFilterMeaning::numberPrefixEntries(changeCmds, configCmds);
+  RouteFilterMeaning::changeEntryActions(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);

@@ -1,0 +1,126 @@
+// Prefix-list numbers and route-map entry actions as the device gives them.
+#include "config/RouteFilterMeaning.h"
+
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "config/DeviceTextReader.h"
+#include "config/QxParserUtil.h"
+
+namespace qxparser {
+
+namespace {
+
+std::string trimmed(std::string text) {
+  text.erase(text.find_last_not_of(" \r\n") + 1);
+  return text;
+}
+
+std::vector<std::string> wordsOf(const std::string& text) {
+  std::istringstream in(text);
+  std::vector<std::string> words;
+  for (std::string word; in >> word;) words.push_back(word);
+  return words;
+}
+
+bool isNumber(const std::string& word) {
+  return !word.empty() && word.size() < 10 && word.find_first_not_of("0123456789") == std::string::npos;
+}
+
+void freeRecord(CiscoCommandLine* record) {
+  std::vector<CiscoCommandLine*> alone{record};
+  QxParserUtil::deleteCommands(alone);
+}
+
+// The first command record of `text`, or nullptr.
+CiscoCommandLine* recordOf(const std::string& text) {
+  std::vector<CiscoCommandLine*> read;
+  DeviceTextReader::read(text, read);
+  CiscoCommandLine* found = nullptr;
+  for (CiscoCommandLine* record : read) {
+    if (!found && record->getFlag() != CMD_TEXT) {
+      found = record;
+    } else {
+      freeRecord(record);
+    }
+  }
+  return found;
+}
+
+// "ip|ipv6 prefix-list NAME": the words that name a list, and whether the
+// line is an entry of it ("seq N permit|deny ..." or "permit|deny ...").
+bool prefixEntry(const std::vector<std::string>& words, std::string& list, long& sequence) {
+  if (words.size() < 5 || (words[0] != "ip" && words[0] != "ipv6") || words[1] != "prefix-list") return false;
+  list = words[0] + " prefix-list " + words[2];
+  if (words[3] == "seq" && isNumber(words[4])) {
+    sequence = std::stol(words[4]);
+    return true;
+  }
+  sequence = -1;
+  return words[3] == "permit" || words[3] == "deny";
+}
+
+bool numbersOff(const std::vector<CiscoCommandLine*>& config) {
+  for (const CiscoCommandLine* record : config) {
+    const std::string text = trimmed(record->getOriginalCmd());
+    if (text == "no ip prefix-list sequence-number" || text == "no ipv6 prefix-list sequence-number")
+      return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void RouteFilterMeaning::numberPrefixEntries(std::vector<CiscoCommandLine*>& changes,
+                                             const std::vector<CiscoCommandLine*>& config) {
+  if (numbersOff(config)) return;
+  std::map<std::string, long> highest;
+  std::string list;
+  long sequence = -1;
+  for (const CiscoCommandLine* record : config) {
+    if (prefixEntry(wordsOf(record->getOriginalCmd()), list, sequence) && sequence > highest[list]) {
+      highest[list] = sequence;
+    }
+  }
+  for (CiscoCommandLine*& record : changes) {
+    const std::vector<std::string> words = wordsOf(record->getOriginalCmd());
+    if (!prefixEntry(words, list, sequence)) continue;
+    if (sequence >= 0) {
+      if (sequence > highest[list]) highest[list] = sequence;
+      continue;
+    }
+    highest[list] += 5;
+    std::string text = list + " seq " + std::to_string(highest[list]);
+    for (size_t i = 3; i < words.size(); ++i) text += " " + words[i];
+    CiscoCommandLine* numbered = recordOf(text + "\n");
+    if (!numbered) continue;
+    numbered->setLineNo(record->getLineNo());
+    freeRecord(record);
+    record = numbered;
+  }
+}
+
+void RouteFilterMeaning::changeEntryActions(const std::vector<CiscoCommandLine*>& changes,
+                                            std::vector<CiscoCommandLine*>& config) {
+  for (const CiscoCommandLine* change : changes) {
+    const std::vector<std::string> wanted = wordsOf(change->getOriginalCmd());
+    if (wanted.size() != 4 || wanted[0] != "route-map" || !isNumber(wanted[3])) continue;
+    for (CiscoCommandLine*& record : config) {
+      const std::vector<std::string> own = wordsOf(record->getOriginalCmd());
+      if (own.size() != 4 || own[0] != "route-map" || own[1] != wanted[1] || own[3] != wanted[3] ||
+          own[2] == wanted[2]) {
+        continue;
+      }
+      CiscoCommandLine* head = recordOf(trimmed(change->getOriginalCmd()) + "\n");
+      if (!head) continue;
+      head->setLineNo(record->getLineNo());
+      head->getChildCommands().swap(record->getChildCommands());
+      for (CiscoCommandLine* line : head->getChildCommands()) line->setParentCommand(head, false);
+      freeRecord(record);
+      record = head;
+    }
+  }
+}
+
+}  // namespace qxparser
