@@ -104,6 +104,40 @@ void neighboursOf(CiscoCommandLine& router) {
                         [](const CiscoCommandLine* child) { return !child->hasFlags(CMDBIT_OPENS_MODE); });
 }
 
+// The neighbour that a "neighbor X ..." line configures, or "".
+std::string neighbourOf(const std::string& text) {
+  const size_t end = text.find(' ', 9);
+  return startsWith(text, "neighbor ") && end != std::string::npos ? text.substr(9, end - 9) : std::string();
+}
+
+// Adds to `gone` the members of the peer groups it holds: the device takes
+// them away with their group.
+void addMembers(const CiscoCommandLine& router, std::set<std::string>& gone) {
+  std::vector<const CiscoCommandLine*> lines(router.getChildCommands().begin(),
+                                             router.getChildCommands().end());
+  for (const CiscoCommandLine* family : router.getChildCommands()) {
+    lines.insert(lines.end(), family->getChildCommands().begin(), family->getChildCommands().end());
+  }
+  for (const CiscoCommandLine* line : lines) {
+    std::istringstream words(line->getOriginalCmd());
+    std::string neighbor, who, peerGroup, group;
+    words >> neighbor >> who >> peerGroup >> group;
+    if (neighbor == "neighbor" && peerGroup == "peer-group" && gone.count(group)) gone.insert(who);
+  }
+}
+
+// Takes the "neighbor X ..." lines of the `gone` neighbours out of `lines`.
+void dropLinesOf(std::vector<CiscoCommandLine*>& lines, const std::set<std::string>& gone) {
+  for (auto it = lines.begin(); it != lines.end();) {
+    if (gone.count(neighbourOf((*it)->getOriginalCmd()))) {
+      freeRecord(*it);
+      it = lines.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
 }  // namespace
 
 std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
@@ -114,7 +148,11 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
     std::istringstream words(line);
     std::string no, neighbor, who, what;
     words >> no >> neighbor >> who >> what;
-    if (no == "no" && neighbor == "neighbor" && !who.empty() && (what.empty() || what == "remote-as")) {
+    std::string more;
+    words >> more;
+    const bool group = what == "peer-group" && more.empty();
+    if (no == "no" && neighbor == "neighbor" && !who.empty() &&
+        (what.empty() || what == "remote-as" || group)) {
       gone.insert(who);
       line = line.substr(0, line.find_first_not_of(' ')) + "no neighbor " + who;
     }
@@ -126,22 +164,15 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
 void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config,
                                              const std::set<std::string>& gone) {
   if (gone.empty()) return;
+  std::set<std::string> all(gone);
+  for (CiscoCommandLine* record : config) {
+    if (startsWith(record->getOriginalCmd(), "router bgp ")) addMembers(*record, all);
+  }
   for (CiscoCommandLine* record : config) {
     if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
+    dropLinesOf(record->getChildCommands(), all);
     for (CiscoCommandLine* family : record->getChildCommands()) {
-      if (!family->hasFlags(CMDBIT_OPENS_MODE)) continue;
-      std::vector<CiscoCommandLine*>& lines = family->getChildCommands();
-      for (auto it = lines.begin(); it != lines.end();) {
-        const std::string& text = (*it)->getOriginalCmd();
-        const size_t end = text.find(' ', 9);
-        if (startsWith(text, "neighbor ") && end != std::string::npos &&
-            gone.count(text.substr(9, end - 9))) {
-          freeRecord(*it);
-          it = lines.erase(it);
-        } else {
-          ++it;
-        }
-      }
+      if (family->hasFlags(CMDBIT_OPENS_MODE)) dropLinesOf(family->getChildCommands(), all);
     }
   }
 }

@@ -26,13 +26,14 @@ class BgpNeighbourMeaning {
   // "neighbor X activate" for a neighbour it does not know yet.
   static void orderNeighbours(std::vector<CiscoCommandLine*>& out);
 
-  // `changes` with "no neighbor X remote-as ..." cut to "no neighbor X" (the
-  // device takes the whole neighbour away); the neighbours that go this way
-  // are added to `gone`.
+  // `changes` with "no neighbor X remote-as ..." and "no neighbor GROUP
+  // peer-group" cut to "no neighbor X" (the device takes the whole neighbour
+  // or peer group away); the neighbours that go this way are added to `gone`.
   static std::string wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone);
 
-  // Takes the lines of the `gone` neighbours out of the address families of
-  // every "router bgp" record of `config`.
+  // Takes the lines of the `gone` neighbours, and of the members of `gone`
+  // peer groups, out of every "router bgp" record of `config` and out of its
+  // address families.
   static void dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone);
 };
 
