@@ -191,6 +191,43 @@ void replaceAt(std::vector<CiscoCommandLine*>& list, size_t at,
   list.insert(list.begin() + static_cast<long>(at), records.begin(), records.end());
 }
 
+bool allNumbered(const std::vector<std::string>& entries) {
+  long sequence = -1;
+  for (const std::string& entry : entries) {
+    entryText(entry, sequence);
+    if (sequence < 0) return false;
+  }
+  return true;
+}
+
+// The lines that turn the entries `before` into `after` on the device: "no"
+// for each entry that goes, and each entry that comes. An entry without a
+// number goes to the end of its list, so where one must stand ahead of kept
+// entries, those are taken away and written again behind it.
+std::string entryEdits(const std::vector<std::string>& before, const std::vector<std::string>& after) {
+  std::string lines;
+  std::vector<std::string> kept;
+  for (const std::string& entry : before) {
+    if (std::find(after.begin(), after.end(), entry) == after.end()) {
+      lines += " no " + entry + "\n";
+    } else {
+      kept.push_back(entry);
+    }
+  }
+  size_t same = 0;
+  if (allNumbered(before) && allNumbered(after)) {
+    same = after.size();
+    for (const std::string& entry : after) {
+      if (std::find(before.begin(), before.end(), entry) == before.end()) lines += " " + entry + "\n";
+    }
+    return lines;
+  }
+  while (same < kept.size() && same < after.size() && kept[same] == after[same]) ++same;
+  for (size_t i = same; i < kept.size(); ++i) lines += " no " + kept[i] + "\n";
+  for (size_t i = same; i < after.size(); ++i) lines += " " + after[i] + "\n";
+  return lines;
+}
+
 }  // namespace
 
 std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
@@ -274,13 +311,7 @@ std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandL
     const auto after = entryTexts(*other);
     if (before == after) continue;
     heads.push_back(head);
-    std::string lines;
-    for (const std::string& entry : before) {
-      if (std::find(after.begin(), after.end(), entry) == after.end()) lines += " no " + entry + "\n";
-    }
-    for (const std::string& entry : after) {
-      if (std::find(before.begin(), before.end(), entry) == before.end()) lines += " " + entry + "\n";
-    }
+    const std::string lines = entryEdits(before, after);
     if (!lines.empty()) out += trimmed(head) + "\n" + lines;
   }
   return out;
