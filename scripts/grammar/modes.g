@@ -186,12 +186,9 @@ file route_map.cfm
 match "match values from routing table"
   ip
     address
-      word :m $
-        word :m $
-          word :m $
+      word :m/lb/le $
       prefix-list
-        word :m $
-          word :m $
+        word :m/lb/le $
     next-hop
       line *
     route-source
@@ -206,13 +203,12 @@ match "match values from routing table"
     next-hop
       line *
   community
-    word :m $
+    word :m/lb/le $
       exact-match $
-      word :m $
   extcommunity
     line *
   as-path
-    id :m $
+    id :m/lb/le $
   interface "match first hop interface of route"
     %IF
       line * "more interfaces"
