@@ -1294,20 +1294,20 @@ prefix-list|build a prefix list|k||
           a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !
@@ -1318,20 +1318,20 @@ prefix-list|build a prefix list|k||
           a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !

@@ -924,20 +924,20 @@ prefix-list|prefix-list|k||
           ipv6/prefix|ipv6/prefix|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !
@@ -948,20 +948,20 @@ prefix-list|prefix-list|k||
           ipv6/prefix|ipv6/prefix|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !

@@ -316,20 +316,20 @@ prefix-list "build a prefix list"
       id :k/n
         permit :-k/o
           a.b.c.d/<1-32> :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
         deny :-k/o
           a.b.c.d/<1-32> :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
     permit
       a.b.c.d/<1-32> :k $
         ge
@@ -752,20 +752,20 @@ prefix-list
       id :k/n
         permit :-k/o
           ipv6/prefix :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
         deny :-k/o
           ipv6/prefix :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
     line *
 source-route $ :sn
 traffic "ipv6 traffic"

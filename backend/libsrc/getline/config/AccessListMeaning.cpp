@@ -228,6 +228,46 @@ std::string entryEdits(const std::vector<std::string>& before, const std::vector
   return lines;
 }
 
+// The lines of the blocks of named list `name` that stand in `changes` before
+// `before`; the blocks leave `changes` (the device applies them before a
+// resequence that follows). `before` is moved back by the blocks that went.
+std::vector<std::string> takeEarlierEdits(std::vector<CiscoCommandLine*>& changes, size_t& before,
+                                          const std::string& name) {
+  std::vector<std::string> lines;
+  for (size_t at = 0; at < before;) {
+    const std::string head = trimmed(changes[at]->getOriginalCmd());
+    if (!isNamedList(head) || head.substr(head.rfind(' ') + 1) != name) {
+      ++at;
+      continue;
+    }
+    for (const CiscoCommandLine* line : changes[at]->getChildCommands()) {
+      if (line->getTreeNodeSize() > 0) lines.push_back(trimmed(line->getOriginalCmd()));
+    }
+    freeRecord(changes[at]);
+    changes.erase(changes.begin() + static_cast<long>(at));
+    --before;
+  }
+  return lines;
+}
+
+// The entries of a named list, entries without a number counted 10 after the
+// one before; `shown` tells whether they all show their numbers.
+std::vector<Entry> namedEntries(const CiscoCommandLine& list, bool& shown) {
+  std::vector<Entry> entries;
+  shown = true;
+  for (const CiscoCommandLine* line : list.getChildCommands()) {
+    if (line->getTreeNodeSize() == 0) continue;
+    long sequence = -1;
+    const std::string text = entryText(trimmed(line->getOriginalCmd()), sequence);
+    if (sequence < 0) {
+      shown = false;
+      sequence = entries.empty() ? 10 : entries.back().sequence + 10;
+    }
+    entries.push_back({sequence, text});
+  }
+  return entries;
+}
+
 }  // namespace
 
 std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
@@ -347,15 +387,17 @@ void AccessListMeaning::resequence(std::vector<CiscoCommandLine*>& changes,
     }
     if (!(words >> start)) start = 10;
     if (!(words >> step)) step = 10;
+    const std::vector<std::string> earlier = takeEarlierEdits(changes, i, name);
     for (size_t at = 0; at < config.size(); ++at) {
       const std::string head = trimmed(config[at]->getOriginalCmd());
       if (!isNamedList(head) || head.substr(head.rfind(' ') + 1) != name) continue;
+      bool shown = true;
+      std::vector<Entry> entries = namedEntries(*config[at], shown);
+      for (const std::string& line : earlier) applyEdit(entries, line);
       std::string text = head + "\n";
       long next = start;
-      for (const CiscoCommandLine* entry : config[at]->getChildCommands()) {
-        long sequence = -1;
-        const std::string own = entryText(trimmed(entry->getOriginalCmd()), sequence);
-        text += " " + (sequence >= 0 ? std::to_string(next) + " " : std::string()) + own + "\n";
+      for (const Entry& entry : entries) {
+        text += " " + (shown ? std::to_string(next) + " " : std::string()) + entry.text + "\n";
         next += step;
       }
       replaceAt(config, at, recordsOf(text, config[at]->getLineNo()));
