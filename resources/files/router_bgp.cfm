@@ -456,7 +456,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -808,7 +808,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -1164,7 +1164,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -1682,7 +1682,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -2034,7 +2034,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||

@@ -44,7 +44,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -396,7 +396,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||

@@ -42,7 +42,7 @@ timers|bgp per neighbor timers|k||
     !
   !
 !
-password|set a password|k||
+password|set a password|k/n||
   id|id|||
     line|line|lb/le/wa||
       <cr>||||

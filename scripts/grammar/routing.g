@@ -38,7 +38,7 @@ def BGPSESSION
     id
       id $
         id $
-  password "set a password"
+  password :n "set a password"
     id
       line *
     line *

@@ -126,6 +126,11 @@ void addMembers(const CiscoCommandLine& router, std::set<std::string>& gone) {
   }
 }
 
+bool hasCommands(const std::vector<CiscoCommandLine*>& lines) {
+  return std::any_of(lines.begin(), lines.end(),
+                     [](const CiscoCommandLine* line) { return line->getTreeNodeSize() > 0; });
+}
+
 // Takes the "neighbor X ..." lines of the `gone` neighbours out of `lines`.
 void dropLinesOf(std::vector<CiscoCommandLine*>& lines, const std::set<std::string>& gone) {
   for (auto it = lines.begin(); it != lines.end();) {
@@ -171,8 +176,17 @@ void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& con
   for (CiscoCommandLine* record : config) {
     if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
     dropLinesOf(record->getChildCommands(), all);
-    for (CiscoCommandLine* family : record->getChildCommands()) {
-      if (family->hasFlags(CMDBIT_OPENS_MODE)) dropLinesOf(family->getChildCommands(), all);
+    std::vector<CiscoCommandLine*>& families = record->getChildCommands();
+    for (auto it = families.begin(); it != families.end();) {
+      const bool had = (*it)->hasFlags(CMDBIT_OPENS_MODE) && hasCommands((*it)->getChildCommands());
+      if (had) dropLinesOf((*it)->getChildCommands(), all);
+      // A family that only the gone neighbours filled goes with them.
+      if (had && !hasCommands((*it)->getChildCommands())) {
+        freeRecord(*it);
+        it = families.erase(it);
+      } else {
+        ++it;
+      }
     }
   }
 }

@@ -163,6 +163,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   AccessListMeaning::resequence(changeCmds, configCmds);
   RouteFilterMeaning::numberPrefixEntries(changeCmds, configCmds);
   RouteFilterMeaning::changeEntryActions(changeCmds, configCmds);
+  RouteFilterMeaning::removeExactEntries(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);

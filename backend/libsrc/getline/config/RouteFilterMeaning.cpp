@@ -1,6 +1,7 @@
 // Prefix-list numbers and route-map entry actions as the device gives them.
 #include "config/RouteFilterMeaning.h"
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 #include <string>
@@ -120,6 +121,27 @@ void RouteFilterMeaning::changeEntryActions(const std::vector<CiscoCommandLine*>
       freeRecord(record);
       record = head;
     }
+  }
+}
+
+void RouteFilterMeaning::removeExactEntries(std::vector<CiscoCommandLine*>& changes,
+                                            std::vector<CiscoCommandLine*>& config) {
+  for (auto change = changes.begin(); change != changes.end();) {
+    const std::string text = trimmed((*change)->getOriginalCmd());
+    const bool listEntry =
+        text.rfind("no ip as-path access-list ", 0) == 0 || text.rfind("no ip community-list ", 0) == 0;
+    const std::string entry = listEntry ? text.substr(3) : std::string();
+    const auto found = std::find_if(config.begin(), config.end(), [&entry](const CiscoCommandLine* record) {
+      return !entry.empty() && trimmed(record->getOriginalCmd()) == entry;
+    });
+    if (!(*change)->hasFlags(CMDBIT_NO) || found == config.end()) {
+      ++change;
+      continue;
+    }
+    freeRecord(*found);
+    config.erase(found);
+    freeRecord(*change);
+    change = changes.erase(change);
   }
 }
 

@@ -6,7 +6,8 @@
 // shows it with that number, by which a later change names it. A route-map
 // entry is named by its map and sequence number: "route-map M deny 10" turns
 // an existing "route-map M permit 10" into a deny entry and keeps its match
-// and set lines. Works on records as DeviceTextReader returns them; a record
+// and set lines. An as-path or community list loses one entry to "no <entry>".
+// Works on records as DeviceTextReader returns them; a record
 // it replaces it frees. Same threading rule as every reading operation.
 #pragma once
 
@@ -23,6 +24,12 @@ class RouteFilterMeaning {
   // (unless `config` turns the numbers off).
   static void numberPrefixEntries(std::vector<CiscoCommandLine*>& changes,
                                   const std::vector<CiscoCommandLine*>& config);
+
+  // "no <entry>" of an as-path or community list in `changes` takes that one
+  // entry out of `config` (the comparison by grammar path would take the run
+  // of entries it finds) and leaves `changes`.
+  static void removeExactEntries(std::vector<CiscoCommandLine*>& changes,
+                                 std::vector<CiscoCommandLine*>& config);
 
   // A route-map head of `changes` whose map and sequence number `config`
   // holds with the other action changes that entry's action in `config`.
