@@ -10,6 +10,7 @@
 #include "config/DeviceTextWriter.h"
 #include "config/InterfaceRangeMeaning.h"
 #include "config/QxParserUtil.h"
+#include "config/ResultRollback.h"
 #include "config/RouteFilterMeaning.h"
 
 namespace qxparser {
@@ -204,6 +205,11 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
                                                        unsigned int mode,
                                                        std::vector<RefusedLine>* firstRefused,
                                                        std::vector<RefusedLine>* secondRefused) {
+  if (mode == 0 && ResultRollback::needed(first)) {
+    // Undone through the configuration the changes give (see ResultRollback).
+    const std::string result = mergeConfigCmdsDeviceText(first, second, firstRefused, secondRefused);
+    return fallbackConfigCmdsDeviceText(result, second, 1);
+  }
   const std::string written =
       nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
