@@ -2,6 +2,7 @@
 #include "config/BgpNeighbourMeaning.h"
 
 #include <algorithm>
+#include <map>
 #include <sstream>
 
 #include "config/DeviceTextReader.h"
@@ -143,6 +144,32 @@ void dropLinesOf(std::vector<CiscoCommandLine*>& lines, const std::set<std::stri
   }
 }
 
+bool isAdded(const CiscoCommandLine& record) {
+  return record.getLineNo() < 1 || record.hasFlags(CMDBIT_FROM_CHANGES);
+}
+
+// The lines of `lines` that name a neighbour, grouped per neighbour in the
+// order the neighbours first appear; other lines keep their places.
+void groupLevel(std::vector<CiscoCommandLine*>& lines) {
+  std::vector<size_t> places;
+  std::vector<std::string> order;
+  std::map<std::string, std::vector<CiscoCommandLine*>> byNeighbour;
+  bool added = false;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string who = neighbourOf(lines[i]->getOriginalCmd());
+    if (who.empty()) continue;
+    added = added || isAdded(*lines[i]);
+    places.push_back(i);
+    if (byNeighbour[who].empty()) order.push_back(who);
+    byNeighbour[who].push_back(lines[i]);
+  }
+  if (!added) return;
+  size_t next = 0;
+  for (const std::string& who : order) {
+    for (CiscoCommandLine* line : byNeighbour[who]) lines[places[next++]] = line;
+  }
+}
+
 }  // namespace
 
 std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
@@ -194,6 +221,16 @@ void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& con
 void BgpNeighbourMeaning::orderNeighbours(std::vector<CiscoCommandLine*>& out) {
   for (CiscoCommandLine* record : out) {
     if (startsWith(record->getOriginalCmd(), "router bgp ")) neighboursOf(*record);
+  }
+}
+
+void BgpNeighbourMeaning::groupNeighbourLines(std::vector<CiscoCommandLine*>& config) {
+  for (CiscoCommandLine* record : config) {
+    if (!startsWith(record->getOriginalCmd(), "router bgp ")) continue;
+    groupLevel(record->getChildCommands());
+    for (CiscoCommandLine* family : record->getChildCommands()) {
+      if (family->hasFlags(CMDBIT_OPENS_MODE)) groupLevel(family->getChildCommands());
+    }
   }
 }
 

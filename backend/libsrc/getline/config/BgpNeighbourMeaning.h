@@ -35,6 +35,12 @@ class BgpNeighbourMeaning {
   // peer groups, out of every "router bgp" record of `config` and out of its
   // address families.
   static void dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone);
+
+  // In each "router bgp" record of a merged `config` (and in each of its
+  // address families) where the merge added neighbour lines, the lines of one
+  // neighbour stand together, where its first line stood: the device shows
+  // them so.
+  static void groupNeighbourLines(std::vector<CiscoCommandLine*>& config);
 };
 
 }  // namespace qxparser

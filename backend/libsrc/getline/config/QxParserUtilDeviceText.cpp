@@ -169,6 +169,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
   BgpNeighbourMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  BgpNeighbourMeaning::groupNeighbourLines(configCmds);
   DeviceMeaning::exitLinesLast(configCmds);
   AccessListMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
