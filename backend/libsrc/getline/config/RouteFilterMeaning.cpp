@@ -62,6 +62,22 @@ bool prefixEntry(const std::vector<std::string>& words, std::string& list, long&
   return words[3] == "permit" || words[3] == "deny";
 }
 
+// The words of a prefix-list entry behind its list and sequence number.
+std::string afterNumber(const std::vector<std::string>& words) {
+  std::string text;
+  for (size_t i = words[3] == "seq" ? 5 : 3; i < words.size(); ++i) text += " " + words[i];
+  return text;
+}
+
+// The words of a "route-map NAME permit|deny SEQ" head, or none.
+std::vector<std::string> routeMapHead(const CiscoCommandLine& record) {
+  const std::string& text = record.getOriginalCmd();
+  if (text.compare(0, 10, "route-map ") != 0) return {};
+  std::vector<std::string> words = wordsOf(text);
+  if (words.size() != 4 || !isNumber(words[3])) return {};
+  return words;
+}
+
 bool numbersOff(const std::vector<CiscoCommandLine*>& config) {
   for (const CiscoCommandLine* record : config) {
     const std::string text = trimmed(record->getOriginalCmd());
@@ -77,50 +93,64 @@ void RouteFilterMeaning::numberPrefixEntries(std::vector<CiscoCommandLine*>& cha
                                              const std::vector<CiscoCommandLine*>& config) {
   if (numbersOff(config)) return;
   std::map<std::string, long> highest;
+  // The number of each entry by its list and what follows the number.
+  std::map<std::string, long> numbered;
   std::string list;
   long sequence = -1;
-  for (const CiscoCommandLine* record : config) {
-    if (prefixEntry(wordsOf(record->getOriginalCmd()), list, sequence) && sequence > highest[list]) {
-      highest[list] = sequence;
-    }
-  }
+  const auto note = [&](const std::vector<std::string>& words) {
+    if (!prefixEntry(words, list, sequence) || sequence < 0) return;
+    if (sequence > highest[list]) highest[list] = sequence;
+    numbered.emplace(list + " " + afterNumber(words), sequence);
+  };
+  for (const CiscoCommandLine* record : config) note(wordsOf(record->getOriginalCmd()));
   for (CiscoCommandLine*& record : changes) {
     const std::vector<std::string> words = wordsOf(record->getOriginalCmd());
     if (!prefixEntry(words, list, sequence)) continue;
     if (sequence >= 0) {
-      if (sequence > highest[list]) highest[list] = sequence;
+      note(words);
       continue;
     }
-    highest[list] += 5;
-    std::string text = list + " seq " + std::to_string(highest[list]);
+    // An entry the list holds already keeps its number.
+    const auto known = numbered.find(list + " " + afterNumber(words));
+    const long number = known != numbered.end() ? known->second : (highest[list] += 5);
+    std::string text = list + " seq " + std::to_string(number);
     for (size_t i = 3; i < words.size(); ++i) text += " " + words[i];
-    CiscoCommandLine* numbered = recordOf(text + "\n");
-    if (!numbered) continue;
-    numbered->setLineNo(record->getLineNo());
+    CiscoCommandLine* renumbered = recordOf(text + "\n");
+    if (!renumbered) continue;
+    numbered.emplace(list + " " + afterNumber(words), number);
+    renumbered->setLineNo(record->getLineNo());
     freeRecord(record);
-    record = numbered;
+    record = renumbered;
   }
 }
 
 void RouteFilterMeaning::changeEntryActions(const std::vector<CiscoCommandLine*>& changes,
                                             std::vector<CiscoCommandLine*>& config) {
+  // Route-map heads of `config` by map and sequence number, made when a
+  // change names one.
+  std::map<std::string, size_t> heads;
+  bool indexed = false;
   for (const CiscoCommandLine* change : changes) {
-    const std::vector<std::string> wanted = wordsOf(change->getOriginalCmd());
-    if (wanted.size() != 4 || wanted[0] != "route-map" || !isNumber(wanted[3])) continue;
-    for (CiscoCommandLine*& record : config) {
-      const std::vector<std::string> own = wordsOf(record->getOriginalCmd());
-      if (own.size() != 4 || own[0] != "route-map" || own[1] != wanted[1] || own[3] != wanted[3] ||
-          own[2] == wanted[2]) {
-        continue;
+    const std::vector<std::string> wanted = routeMapHead(*change);
+    if (wanted.empty()) continue;
+    if (!indexed) {
+      indexed = true;
+      for (size_t i = 0; i < config.size(); ++i) {
+        const std::vector<std::string> own = routeMapHead(*config[i]);
+        if (!own.empty()) heads.emplace(own[1] + " " + own[3], i);
       }
-      CiscoCommandLine* head = recordOf(trimmed(change->getOriginalCmd()) + "\n");
-      if (!head) continue;
-      head->setLineNo(record->getLineNo());
-      head->getChildCommands().swap(record->getChildCommands());
-      for (CiscoCommandLine* line : head->getChildCommands()) line->setParentCommand(head, false);
-      freeRecord(record);
-      record = head;
     }
+    const auto found = heads.find(wanted[1] + " " + wanted[3]);
+    if (found == heads.end()) continue;
+    CiscoCommandLine*& record = config[found->second];
+    if (routeMapHead(*record)[2] == wanted[2]) continue;
+    CiscoCommandLine* head = recordOf(trimmed(change->getOriginalCmd()) + "\n");
+    if (!head) continue;
+    head->setLineNo(record->getLineNo());
+    head->getChildCommands().swap(record->getChildCommands());
+    for (CiscoCommandLine* line : head->getChildCommands()) line->setParentCommand(head, false);
+    freeRecord(record);
+    record = head;
   }
 }
 
