@@ -5,6 +5,7 @@
 #include <map>
 #include <sstream>
 
+#include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
 
@@ -170,6 +171,29 @@ void groupLevel(std::vector<CiscoCommandLine*>& lines) {
   }
 }
 
+std::string trimmedText(std::string text) {
+  text.erase(text.find_last_not_of(" \r\n") + 1);
+  return text;
+}
+
+bool isFamilyLine(const std::string& text) {
+  const std::string bare = startsWith(text, "no ") ? text.substr(3) : text;
+  return startsWith(bare, "network ") || startsWith(bare, "aggregate-address ") ||
+         startsWith(bare, "redistribute ");
+}
+
+// The head of the IPv4 unicast family of the router `head` in `config`, or "".
+std::string ipv4FamilyOf(const std::vector<CiscoCommandLine*>& config, const std::string& head) {
+  for (const CiscoCommandLine* router : config) {
+    if (trimmedText(router->getOriginalCmd()) != head) continue;
+    for (const CiscoCommandLine* family : router->getChildCommands()) {
+      const std::string text = trimmedText(family->getOriginalCmd());
+      if (text == "address-family ipv4" || text == "address-family ipv4 unicast") return text;
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
@@ -231,6 +255,35 @@ void BgpNeighbourMeaning::groupNeighbourLines(std::vector<CiscoCommandLine*>& co
     for (CiscoCommandLine* family : record->getChildCommands()) {
       if (family->hasFlags(CMDBIT_OPENS_MODE)) groupLevel(family->getChildCommands());
     }
+  }
+}
+
+void BgpNeighbourMeaning::intoIpv4Family(std::vector<CiscoCommandLine*>& changes,
+                                         const std::vector<CiscoCommandLine*>& config) {
+  for (CiscoCommandLine* router : changes) {
+    const std::string head = trimmedText(router->getOriginalCmd());
+    if (!startsWith(head, "router bgp ")) continue;
+    const std::string family = ipv4FamilyOf(config, head);
+    if (family.empty()) continue;
+    std::string text = head + "\n " + family + "\n";
+    std::vector<CiscoCommandLine*>& lines = router->getChildCommands();
+    for (auto it = lines.begin(); it != lines.end();) {
+      const std::string own = trimmedText((*it)->getOriginalCmd());
+      if ((*it)->getTreeNodeSize() > 0 && isFamilyLine(own)) {
+        text += "  " + own + "\n";
+        freeRecord(*it);
+        it = lines.erase(it);
+      } else {
+        ++it;
+      }
+    }
+    if (text.size() == head.size() + family.size() + 3) continue;
+    std::vector<CiscoCommandLine*> read;
+    DeviceTextReader::read(text, read);
+    for (CiscoCommandLine* record : read) {
+      DeviceMeaning::graft(record->getChildCommands(), lines, router);
+    }
+    QxParserUtil::deleteCommands(read);
   }
 }
 

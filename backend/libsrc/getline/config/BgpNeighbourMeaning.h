@@ -4,7 +4,9 @@
 // A neighbour is made by its "remote-as" line (or by joining a peer group) and
 // taken away whole by "no neighbor X" or "no neighbor X remote-as ...": its
 // lines go from the router and from every address family. The device refuses
-// "neighbor X activate" in an address family before it knows X. The functions
+// "neighbor X activate" in an address family before it knows X. Lines of
+// the IPv4 unicast family typed at the router's level stand in that family
+// when the configuration shows it. The functions
 // work on records as DeviceTextReader returns them, or on device text; they own
 // nothing they are given. Same threading rule as every reading operation.
 #pragma once
@@ -41,6 +43,13 @@ class BgpNeighbourMeaning {
   // neighbour stand together, where its first line stood: the device shows
   // them so.
   static void groupNeighbourLines(std::vector<CiscoCommandLine*>& config);
+
+  // A "network", "aggregate-address" or "redistribute" line that `changes`
+  // gives at the level of a "router bgp" whose `config` shows an IPv4
+  // unicast address family goes into that family: the device shows the
+  // IPv4 unicast lines there.
+  static void intoIpv4Family(std::vector<CiscoCommandLine*>& changes,
+                             const std::vector<CiscoCommandLine*>& config);
 };
 
 }  // namespace qxparser

@@ -165,6 +165,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RouteFilterMeaning::numberPrefixEntries(changeCmds, configCmds);
   RouteFilterMeaning::changeEntryActions(changeCmds, configCmds);
   RouteFilterMeaning::removeExactEntries(changeCmds, configCmds);
+  BgpNeighbourMeaning::intoIpv4Family(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
