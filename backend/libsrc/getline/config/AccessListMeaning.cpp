@@ -133,15 +133,13 @@ void applyEdit(std::vector<Entry>& entries, const std::string& line) {
   const std::string text = entryText(negated ? line.substr(3) : line, sequence);
   const auto bySequence = [sequence](const Entry& e) { return e.sequence == sequence; };
   if (negated) {
-    auto found = sequence >= 0 && text.empty() ? entries.end() : entries.end();
-    if (text.find_first_not_of("0123456789") == std::string::npos && !text.empty()) {
-      const long number = std::stol(text);
-      found = std::find_if(entries.begin(), entries.end(),
-                           [number](const Entry& e) { return e.sequence == number; });
-    } else {
-      found =
-          std::find_if(entries.begin(), entries.end(), [&text](const Entry& e) { return e.text == text; });
-    }
+    // "no N" names the entry by its number, "no <entry>" by its text.
+    const bool byNumber =
+        !text.empty() && text.size() < 10 && text.find_first_not_of("0123456789") == std::string::npos;
+    const long number = byNumber ? std::stol(text) : -1;
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& e) {
+      return byNumber ? e.sequence == number : e.text == text;
+    });
     if (found != entries.end()) entries.erase(found);
     return;
   }

@@ -120,8 +120,9 @@ std::vector<std::string> InterfaceRangeMeaning::members(const std::string& range
     const std::string first = withoutBlanks(part.substr(0, dash));
     const std::string last = trimmed(part.substr(dash + 1));
     const size_t digits = first.find_last_not_of("0123456789") + 1;
-    if (digits >= first.size() || last.empty() || last.find_first_not_of("0123456789") != std::string::npos) {
-      out.push_back(withoutBlanks(part));
+    if (digits >= first.size() || first.size() - digits > 6 || last.empty() || last.size() > 6 ||
+        last.find_first_not_of("0123456789") != std::string::npos) {
+      // A span the device refuses names no interface.
       continue;
     }
     const long low = std::stol(first.substr(digits));
