@@ -634,6 +634,22 @@ interface|select an interface to configure|k||
     !
   !
 !
+default|set a command to its defaults|k||
+  interface|every setting of an interface back to its default|k||
+    &interfacefile.cfm|interface type|k||
+      <number>|interface number|k||
+        <cr>||||
+        !
+      !
+    !
+    range|interface range|k||
+      line|line|lb/le/wa/k||
+        <cr>||||
+        !
+      !
+    !
+  !
+!
 version|version of the configuration|k||
   <value>|value|o||
     <cr>||||
@@ -1730,7 +1746,7 @@ route-map|create route-map or enter route-map command mode|k||
   word|Route map tag|k||
     <cr>||||@(config-route-map)# route_map.cfm
     !
-    permit|Route map permits set operations|k||
+    permit|Route map permits set operations|o||
       <cr>||||@(config-route-map)# route_map.cfm
       !
       0-65535|Sequence to insert to/delete from existing route-map entry|k||
@@ -1738,7 +1754,7 @@ route-map|create route-map or enter route-map command mode|k||
         !
       !
     !
-    deny|Route map denies set operations|k||
+    deny|Route map denies set operations|o||
       <cr>||||@(config-route-map)# route_map.cfm
       !
       0-65535|Sequence to insert to/delete from existing route-map entry|k||

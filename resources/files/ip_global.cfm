@@ -1287,27 +1287,27 @@ access-list|named access list|k||
   !
 !
 prefix-list|build a prefix list|k||
-  word|word|k||
+  word|word|k/n||
     seq|seq|k||
-      id|id|k||
+      id|id|k/n||
         permit|permit|o||
           a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !
@@ -1318,20 +1318,20 @@ prefix-list|build a prefix list|k||
           a.b.c.d/<1-32>|a.b.c.d/<1-32|o||
             <cr>||||
             !
-            ge|ge|k||
-              id|id|||
+            ge|ge|||
+              id|id|o||
                 <cr>||||
                 !
-                le|le|k||
-                  id|id|||
+                le|le|||
+                  id|id|o||
                     <cr>||||
                     !
                   !
                 !
               !
             !
-            le|le|k||
-              id|id|||
+            le|le|||
+              id|id|o||
                 <cr>||||
                 !
               !
@@ -1402,7 +1402,7 @@ prefix-list|build a prefix list|k||
 !
 community-list|add a community list entry|k||
   standard|standard|k||
-    word|word|k||
+    word|word|k/n||
       permit|permit|k||
         <aa:nn>|community value|wa/lb/le||
           <cr>||||
@@ -1418,7 +1418,7 @@ community-list|add a community list entry|k||
     !
   !
   expanded|expanded|k||
-    word|word|k||
+    word|word|k/n||
       permit|permit|k||
         line|text|lb/le/wa||
           <cr>||||
@@ -1433,7 +1433,7 @@ community-list|add a community list entry|k||
       !
     !
   !
-  id|id|k||
+  id|id|k/n||
     permit|permit|k||
       <aa:nn>|community value|wa/lb/le||
         <cr>||||
@@ -1498,7 +1498,7 @@ extcommunity-list|extcommunity-list|k||
 !
 as-path|as-path|k||
   access-list|access-list|k||
-    id|id|k||
+    id|id|k/n||
       permit|permit|k||
         line|text|lb/le/wa||
           <cr>||||

@@ -917,7 +917,59 @@ prefix-list|prefix-list|k||
     <cr>||||
     !
   !
-  word|word|k||
+  word|word|k/n||
+    seq|seq|k||
+      id|id|k/n||
+        permit|permit|o||
+          ipv6/prefix|ipv6/prefix|o||
+            <cr>||||
+            !
+            ge|ge|||
+              id|id|o||
+                <cr>||||
+                !
+                le|le|||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|||
+              id|id|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+        deny|deny|o||
+          ipv6/prefix|ipv6/prefix|o||
+            <cr>||||
+            !
+            ge|ge|||
+              id|id|o||
+                <cr>||||
+                !
+                le|le|||
+                  id|id|o||
+                    <cr>||||
+                    !
+                  !
+                !
+              !
+            !
+            le|le|||
+              id|id|o||
+                <cr>||||
+                !
+              !
+            !
+          !
+        !
+      !
+    !
     line|line|lb/le/wa||
       <cr>||||
       !

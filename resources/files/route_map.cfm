@@ -1,25 +1,13 @@
 match|match values from routing table|k||
   ip|ip|k||
     address|address|k||
-      word|word|m||
+      word|word|m/lb/le||
         <cr>||||
-        !
-        word|word|m||
-          <cr>||||
-          !
-          word|word|m||
-            <cr>||||
-            !
-          !
         !
       !
       prefix-list|prefix-list|k||
-        word|word|m||
+        word|word|m/lb/le||
           <cr>||||
-          !
-          word|word|m||
-            <cr>||||
-            !
           !
         !
       !
@@ -64,14 +52,10 @@ match|match values from routing table|k||
     !
   !
   community|community|k||
-    word|word|m||
+    word|word|m/lb/le||
       <cr>||||
       !
       exact-match|exact-match|k||
-        <cr>||||
-        !
-      !
-      word|word|m||
         <cr>||||
         !
       !
@@ -84,7 +68,7 @@ match|match values from routing table|k||
     !
   !
   as-path|as-path|k||
-    id|id|m||
+    id|id|m/lb/le||
       <cr>||||
       !
     !
@@ -157,19 +141,19 @@ match|match values from routing table|k||
   !
 !
 set|set values in destination routing protocol|k||
-  community|community|k||
-    <aa:nn>|community value|wa/lb/le||
+  community|community|k/n||
+    <aa:nn>|community value|wa/lb/le/o||
       <cr>||||
       !
     !
   !
-  local-preference|local-preference|k||
+  local-preference|local-preference|k/n||
     id|id|o||
       <cr>||||
       !
     !
   !
-  metric|metric|k||
+  metric|metric|k/n||
     +/-<metric>|+/-<metric|||
       <cr>||||
       !
@@ -279,7 +263,7 @@ set|set values in destination routing protocol|k||
       !
     !
   !
-  weight|weight|k||
+  weight|weight|k/n||
     id|id|o||
       <cr>||||
       !

@@ -456,7 +456,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -471,7 +471,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -549,7 +549,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -609,7 +609,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -621,7 +621,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -633,7 +633,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -808,7 +808,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -823,7 +823,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -901,7 +901,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -961,7 +961,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -973,7 +973,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -985,7 +985,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1164,7 +1164,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -1179,7 +1179,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -1257,7 +1257,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1317,7 +1317,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -1329,7 +1329,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1341,7 +1341,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1682,7 +1682,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -1697,7 +1697,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -1775,7 +1775,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1835,7 +1835,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -1847,7 +1847,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -1859,7 +1859,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -2034,7 +2034,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -2049,7 +2049,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -2127,7 +2127,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -2187,7 +2187,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -2199,7 +2199,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -2211,7 +2211,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -2495,18 +2495,18 @@ aggregate-address|configure bgp aggregate entries|k||
   !
 !
 maximum-paths|forward packets over multiple paths|k||
-  id|id|||
+  id|id|o||
     <cr>||||
     !
   !
   ibgp|ibgp|k||
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !
   !
   eibgp|eibgp|k||
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !

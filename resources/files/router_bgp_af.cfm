@@ -44,7 +44,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -59,7 +59,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -137,7 +137,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -197,7 +197,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -209,7 +209,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -221,7 +221,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -396,7 +396,7 @@ neighbor|specify a neighbor router|k||
         !
       !
     !
-    password|set a password|k||
+    password|set a password|k/n||
       id|id|||
         line|line|lb/le/wa||
           <cr>||||
@@ -411,7 +411,7 @@ neighbor|specify a neighbor router|k||
     ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
       <cr>||||
       !
-      id|id|||
+      id|id|o||
         <cr>||||
         !
       !
@@ -489,7 +489,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     route-map|apply route map to neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -549,7 +549,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     filter-list|establish bgp filters|k||
-      id|id|||
+      id|id|o||
         in|in|k||
           <cr>||||
           !
@@ -561,7 +561,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     prefix-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -573,7 +573,7 @@ neighbor|specify a neighbor router|k||
       !
     !
     distribute-list|filter updates to/from this neighbor|k||
-      word|word|||
+      word|word|o||
         in|in|k||
           <cr>||||
           !
@@ -857,18 +857,18 @@ aggregate-address|configure bgp aggregate entries|k||
   !
 !
 maximum-paths|forward packets over multiple paths|k||
-  id|id|||
+  id|id|o||
     <cr>||||
     !
   !
   ibgp|ibgp|k||
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !
   !
   eibgp|eibgp|k||
-    id|id|||
+    id|id|o||
       <cr>||||
       !
     !

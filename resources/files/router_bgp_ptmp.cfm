@@ -15,7 +15,7 @@ send-community|send community attribute to this neighbor|k||
   !
 !
 route-map|apply route map to neighbor|k||
-  word|word|||
+  word|word|o||
     in|in|k||
       <cr>||||
       !
@@ -75,7 +75,7 @@ send-label|send nlri + mpls label to this peer|k||
   !
 !
 filter-list|establish bgp filters|k||
-  id|id|||
+  id|id|o||
     in|in|k||
       <cr>||||
       !
@@ -87,7 +87,7 @@ filter-list|establish bgp filters|k||
   !
 !
 prefix-list|filter updates to/from this neighbor|k||
-  word|word|||
+  word|word|o||
     in|in|k||
       <cr>||||
       !
@@ -99,7 +99,7 @@ prefix-list|filter updates to/from this neighbor|k||
   !
 !
 distribute-list|filter updates to/from this neighbor|k||
-  word|word|||
+  word|word|o||
     in|in|k||
       <cr>||||
       !

@@ -42,7 +42,7 @@ timers|bgp per neighbor timers|k||
     !
   !
 !
-password|set a password|k||
+password|set a password|k/n||
   id|id|||
     line|line|lb/le/wa||
       <cr>||||
@@ -57,7 +57,7 @@ password|set a password|k||
 ebgp-multihop|allow ebgp neighbors not on directly connected networks|k||
   <cr>||||
   !
-  id|id|||
+  id|id|o||
     <cr>||||
     !
   !

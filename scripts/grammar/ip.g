@@ -311,25 +311,25 @@ access-list "named access list"
     egress
       check $
 prefix-list "build a prefix list"
-  word :k
+  word :k/n
     seq
-      id :k
+      id :k/n
         permit :-k/o
           a.b.c.d/<1-32> :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
         deny :-k/o
           a.b.c.d/<1-32> :o $
-            ge
-              id $
-                le
-                  id $
-            le
-              id $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
     permit
       a.b.c.d/<1-32> :k $
         ge
@@ -351,18 +351,18 @@ prefix-list "build a prefix list"
   sequence-number $
 community-list "add a community list entry"
   standard
-    word :k
+    word :k/n
       permit
         %COMMUNITY
       deny
         %COMMUNITY
   expanded
-    word :k
+    word :k/n
       permit
         %TEXT
       deny
         %TEXT
-  id :k
+  id :k/n
     permit
       %COMMUNITY
     deny
@@ -387,7 +387,7 @@ extcommunity-list
       line *
 as-path
   access-list
-    id :k
+    id :k/n
       permit
         %TEXT
       deny
@@ -747,7 +747,25 @@ access-list
   word :k @(config-ipv6-acl)#=acl_ipv6.cfm
 prefix-list
   sequence-number "sequence numbers in prefix lists" $
-  word :k
+  word :k/n
+    seq
+      id :k/n
+        permit :-k/o
+          ipv6/prefix :o $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
+        deny :-k/o
+          ipv6/prefix :o $
+            ge :-k
+              id :o $
+                le :-k
+                  id :o $
+            le :-k
+              id :o $
     line *
 source-route $ :sn
 traffic "ipv6 traffic"

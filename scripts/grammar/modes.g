@@ -186,12 +186,9 @@ file route_map.cfm
 match "match values from routing table"
   ip
     address
-      word :m $
-        word :m $
-          word :m $
+      word :m/lb/le $
       prefix-list
-        word :m $
-          word :m $
+        word :m/lb/le $
     next-hop
       line *
     route-source
@@ -206,13 +203,12 @@ match "match values from routing table"
     next-hop
       line *
   community
-    word :m $
+    word :m/lb/le $
       exact-match $
-      word :m $
   extcommunity
     line *
   as-path
-    id :m $
+    id :m/lb/le $
   interface "match first hop interface of route"
     %IF
       line * "more interfaces"
@@ -235,11 +231,11 @@ match "match values from routing table"
   policy-list
     word $
 set "set values in destination routing protocol"
-  community
-    %COMMUNITY
-  local-preference
+  community :n
+    <aa:nn> :wa/lb/le/o "community value" $
+  local-preference :n
     id :o $
-  metric
+  metric :n
     +/-<metric> $
     id :o $
       line *
@@ -274,7 +270,7 @@ set "set values in destination routing protocol"
     prepend
       line *
     tag $
-  weight
+  weight :n
     id :o $
   origin
     line *

@@ -38,12 +38,12 @@ def BGPSESSION
     id
       id $
         id $
-  password "set a password"
+  password :n "set a password"
     id
       line *
     line *
   ebgp-multihop $ "allow ebgp neighbors not on directly connected networks"
-    id $
+    id :o $
   shutdown $ "administratively shut down this neighbor"
   local-as "specify a local-as number"
     <as> $
@@ -70,7 +70,7 @@ def BGPPOLICY
     standard $
     extended $
   route-map "apply route map to neighbor"
-    word
+    word :o
       in :k $
       out :k $
   next-hop-self $ "disable the next hop calculation for this neighbor"
@@ -88,15 +88,15 @@ def BGPPOLICY
   send-label $ "send nlri + mpls label to this peer"
     explicit-null $
   filter-list "establish bgp filters"
-    id
-      in $
-      out $
+    id :o
+      in :k $
+      out :k $
   prefix-list "filter updates to/from this neighbor"
-    word
+    word :o
       in :k $
       out :k $
   distribute-list "filter updates to/from this neighbor"
-    word
+    word :o
       in :k $
       out :k $
   maximum-prefix "maximum number of prefixes accepted from this peer"
@@ -191,11 +191,11 @@ def AFBODY
   aggregate-address "configure bgp aggregate entries"
     line *
   maximum-paths "forward packets over multiple paths"
-    id $
+    id :o $
     ibgp
-      id $
+      id :o $
     eibgp
-      id $
+      id :o $
   synchronization $ :sn "perform igp synchronization"
   auto-summary $ :sn "enable automatic network number summarization"
   default-information "control distribution of default information"

@@ -36,6 +36,12 @@ interface "select an interface to configure"
     <number> :k "interface number" @(config-if)#=interface.cfm
   range "interface range"
     line :k * @(config-if-range)#=interface.cfm
+default "set a command to its defaults"
+  interface "every setting of an interface back to its default"
+    &interfacefile.cfm "interface type"
+      <number> :k "interface number" $
+    range "interface range"
+      line :k *
 version "version of the configuration"
   <value> :o $
 boot-start-marker "boot marker" $
@@ -369,9 +375,9 @@ spanning-tree "spanning tree subsystem"
         global $
 route-map "create route-map or enter route-map command mode"
   word :k "Route map tag" @(config-route-map)#=route_map.cfm
-    permit "Route map permits set operations" @(config-route-map)#=route_map.cfm
+    permit :-k/o "Route map permits set operations" @(config-route-map)#=route_map.cfm
       0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
-    deny "Route map denies set operations" @(config-route-map)#=route_map.cfm
+    deny :-k/o "Route map denies set operations" @(config-route-map)#=route_map.cfm
       0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
     0-65535 :k "Sequence to insert to/delete from existing route-map entry" @(config-route-map)#=route_map.cfm
 control-plane-policing $ "control plane policing settings"

@@ -7,13 +7,10 @@
 // writes nothing for it; the device needs the positive line. `missedCommands`
 // finds such lines, `graft` puts records under the mode heads of another list.
 // Both work on records as DeviceTextReader returns them; they own nothing they
-// are given. A numbered access list is one setting to the device: "no
-// access-list N" followed by anything deletes the whole list, and a list
-// that changed is written anew (`wholeListChanges`, `changedNumberedLists`).
-// Same threading rule as every reading operation.
+// are given. Ordered lists have AccessListMeaning, BGP neighbours
+// BgpNeighbourMeaning. Same threading rule as every reading operation.
 #pragma once
 
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -29,52 +26,9 @@ class DeviceMeaning {
   static std::string missedCommands(const std::vector<CiscoCommandLine*>& from,
                                     const std::vector<CiscoCommandLine*>& to);
 
-  // `changes` with every top-level "no access-list N ..." of a numbered list
-  // cut to "no access-list N", which is what the device does with it.
-  static std::string wholeListChanges(const std::string& changes);
-
-  // For each numbered access list that `first` holds and `second` holds with
-  // other entries (or in another order): "no access-list N" and the entries of
-  // `second`. The numbers go to `numbers`.
-  static std::string changedNumberedLists(const std::string& first, const std::string& second,
-                                          std::vector<std::string>& numbers);
-
-  // Under each "router bgp" head of a rollback `out`: a neighbour whose
-  // remote-as goes is taken away whole ("no neighbor X", which the device
-  // applies to its lines in every address family too), and neighbour lines
-  // stand ahead of the address families, since the device refuses
-  // "neighbor X activate" for a neighbour it does not know yet.
-  static void orderNeighbours(std::vector<CiscoCommandLine*>& out);
-
-  // `changes` with "no neighbor X remote-as ..." cut to "no neighbor X" (the
-  // device takes the whole neighbour away); the neighbours that go this way
-  // are added to `gone`.
-  static std::string wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone);
-
-  // Takes the lines of the `gone` neighbours out of the address families of
-  // every "router bgp" record of `config`.
-  static void dropGoneNeighbours(std::vector<CiscoCommandLine*>& config, const std::set<std::string>& gone);
-
   // An "exit-address-family" line (and its kind) read with a mode block stays
   // the block's last line when a merge added commands to the block.
   static void exitLinesLast(std::vector<CiscoCommandLine*>& records);
-
-  // In each named access list of `records`, an entry that a merge added with
-  // a sequence number stands before the first entry of a higher number (an
-  // entry without one has the number the device gave it: 10, 20, ...).
-  static void entriesBySequence(std::vector<CiscoCommandLine*>& records);
-
-  // "no <entry>" in a named access list of `changes` takes away that one entry
-  // of the same list in `config` (with or without its sequence number), not
-  // the run of entries that the comparison by grammar path finds; the change
-  // is then used up and leaves `changes`.
-  static void removeNamedEntries(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
-
-  // For each named access list that `from` and `to` both hold with other
-  // entries: its head, "no <entry>" for each entry that goes and each entry
-  // that comes, as text. The heads go to `heads` (their full form).
-  static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
-                                       const std::vector<CiscoCommandLine*>& to, std::vector<std::string>& heads);
 
   // A top-level "vlan N", "interface TYPE N" or "ip route ..." that a merge
   // added stands where the device shows it: before the first one of its
@@ -84,7 +38,8 @@ class DeviceMeaning {
   // Takes out of a rollback `out` each "no X" whose X stands unchanged in both
   // `from` and `to` (in the same mode) while `to` holds no "no X": the
   // comparison by grammar path negated a line that nobody changed.
-  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
+                                     const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
 
   // Moves the records of `extra` into `into`: a mode head that `into` holds

@@ -3,10 +3,15 @@
 #include <map>
 #include <set>
 
+#include "config/AccessListMeaning.h"
+#include "config/BgpNeighbourMeaning.h"
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
+#include "config/InterfaceRangeMeaning.h"
 #include "config/QxParserUtil.h"
+#include "config/ResultRollback.h"
+#include "config/RouteFilterMeaning.h"
 
 namespace qxparser {
 
@@ -74,7 +79,8 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
 
 // A line that `first` states only in its "no" form and `second` holds
 // positive is written too: the comparison takes the two for one.
-void addMissedCommands(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+void addMissedCommands(const std::string& first, const std::string& second,
+                       std::vector<CiscoCommandLine*>& out) {
   std::vector<CiscoCommandLine*> from;
   std::vector<CiscoCommandLine*> to;
   RecordsGuard fromGuard(from);
@@ -84,7 +90,7 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
   DeviceMeaning::dropUnchangedNegations(out, from, to);
   std::vector<std::string> heads;
   std::string missed = DeviceMeaning::missedCommands(from, to);
-  const std::string lists = DeviceMeaning::changedNamedLists(from, to, heads);
+  const std::string lists = AccessListMeaning::changedNamedLists(from, to, heads);
   // A named list that changed is written by its entries alone.
   for (auto it = out.begin(); it != out.end();) {
     if (std::find(heads.begin(), heads.end(), (*it)->getOriginalCmd()) != heads.end()) {
@@ -105,9 +111,10 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
 
 // A numbered access list that changed is deleted and written anew: a "no"
 // of one of its entries would delete it whole on the device.
-void rewriteChangedLists(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
+void rewriteChangedLists(const std::string& first, const std::string& second,
+                         std::vector<CiscoCommandLine*>& out) {
   std::vector<std::string> numbers;
-  const std::string lists = DeviceMeaning::changedNumberedLists(first, second, numbers);
+  const std::string lists = AccessListMeaning::changedNumberedLists(first, second, numbers);
   if (lists.empty()) return;
   std::vector<CiscoCommandLine*> gone;
   RecordsGuard goneGuard(gone);
@@ -147,16 +154,25 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
   std::set<std::string> goneNeighbours;
-  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
+  DeviceTextReader::read(BgpNeighbourMeaning::wholeNeighbourChanges(
+                             AccessListMeaning::wholeListChanges(changes), goneNeighbours),
                          changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
   if (changes.empty()) return config;
+  InterfaceRangeMeaning::expand(changeCmds, configCmds);
+  AccessListMeaning::numberedThroughNamed(changeCmds, configCmds);
+  AccessListMeaning::resequence(changeCmds, configCmds);
+  RouteFilterMeaning::numberPrefixEntries(changeCmds, configCmds);
+  RouteFilterMeaning::changeEntryActions(changeCmds, configCmds);
+  RouteFilterMeaning::removeExactEntries(changeCmds, configCmds);
+  BgpNeighbourMeaning::intoIpv4Family(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
-  DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
+  AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
-  DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  BgpNeighbourMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
+  BgpNeighbourMeaning::groupNeighbourLines(configCmds);
   DeviceMeaning::exitLinesLast(configCmds);
-  DeviceMeaning::entriesBySequence(configCmds);
+  AccessListMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
@@ -188,9 +204,16 @@ std::string QxParserUtil::deviceText(const std::string& text) {
 }
 
 std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
-                                                       unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                                       unsigned int mode,
+                                                       std::vector<RefusedLine>* firstRefused,
                                                        std::vector<RefusedLine>* secondRefused) {
-  const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
+  if (mode == 0 && ResultRollback::needed(first)) {
+    // Undone through the configuration the changes give (see ResultRollback).
+    const std::string result = mergeConfigCmdsDeviceText(first, second, firstRefused, secondRefused);
+    return fallbackConfigCmdsDeviceText(result, second, 1);
+  }
+  const std::string written =
+      nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
@@ -215,7 +238,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
     addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
-  DeviceMeaning::orderNeighbours(out);
+  BgpNeighbourMeaning::orderNeighbours(out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }

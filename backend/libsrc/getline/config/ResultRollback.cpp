@@ -1,0 +1,40 @@
+// Change sets undone through the configuration they give.
+#include "config/ResultRollback.h"
+
+#include <sstream>
+#include <vector>
+
+namespace qxparser {
+
+namespace {
+
+bool isNumber(const std::string& word) {
+  return !word.empty() && word.find_first_not_of("0123456789") == std::string::npos;
+}
+
+bool meansMore(const std::vector<std::string>& w) {
+  const size_t n = w.size();
+  if (n >= 3 && w[0] == "interface" && w[1] == "range") return true;
+  if (n >= 3 && w[0] == "default" && w[1] == "interface") return true;
+  if (n >= 4 && w[0] == "ip" && w[1] == "access-list" && w[2] == "resequence") return true;
+  if (n == 4 && w[0] == "ip" && w[1] == "access-list" && (w[2] == "standard" || w[2] == "extended") &&
+      isNumber(w[3])) {
+    return true;
+  }
+  return n == 4 && w[0] == "no" && w[1] == "neighbor" && w[3] == "peer-group";
+}
+
+}  // namespace
+
+bool ResultRollback::needed(const std::string& changes) {
+  std::istringstream in(changes);
+  for (std::string line; std::getline(in, line);) {
+    std::istringstream words(line);
+    std::vector<std::string> w;
+    for (std::string word; words >> word;) w.push_back(word);
+    if (meansMore(w)) return true;
+  }
+  return false;
+}
+
+}  // namespace qxparser
