@@ -17,11 +17,14 @@
 
 #include "config/QxParserUtil.h"
 #include "support/CaseFile.h"
+#include "support/ShippedGrammarSuite.h"
 #include "terminal/VTY.h"
 
 using qxparser::CiscoCommandLine;
 using qxparser::QxParserUtil;
 using qxparser::VTY;
+using testsupport::configFiles;
+using testsupport::isRefused;
 
 namespace {
 
@@ -29,32 +32,8 @@ namespace {
 // reached; raise the grammar, then lower this figure.
 constexpr double kRecordedRefusedShare = 0.463;
 
-std::string resourceFolder() {
-  const char* env = std::getenv("VTYCONF_RESOURCES");
-  if (env != nullptr && *env != '\0') return env;
-  return std::string(VTYCONF_SOURCE_DIR) + "/resources/";
-}
-
-// No path, or (an incomplete line) a path that never reached the end of a
-// command; a "no" line may stop early where the grammar lets it, and
-// elsewhere the device answered "% Incomplete command.".
-bool isRefused(const CiscoCommandLine& record) {
-  if (record.getFlag() == qxparser::CMD_TEXT) return false;
-  if (record.getTreeNodeSize() == 0) return true;
-  for (const auto& entry : record.getTreeNodes()) {
-    if (entry.words.count("\n") != 0) return false;
-  }
-  return !record.hasFlags(qxparser::CMDBIT_NO) || record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
-}
-
-class GrammarIos : public ::testing::Test {
+class GrammarIos : public testsupport::ShippedGrammarSuite {
  protected:
-  static void SetUpTestSuite() {
-    setenv("VTYCONF_RESOURCES", resourceFolder().c_str(), 1);
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
-
   // Reads `text` as the device reads a configuration pasted at its console
   // (short interface types such as Fa0/1 and loop0 included); fills the
   // refused lines (trimmed) and returns the records.
@@ -198,14 +177,7 @@ TEST_F(GrammarIos, HelpListingsOfModeRootsMatchTheGoldenFiles) {
       std::ofstream(folder + file, std::ios::binary) << listing;
       continue;
     }
-    std::ifstream in(folder + file, std::ios::binary);
-    if (!in) {
-      ADD_FAILURE() << "golden listing missing: " << file << " (run with VTYCONF_UPDATE_GOLDEN=1)";
-      continue;
-    }
-    std::stringstream golden;
-    golden << in.rdbuf();
-    EXPECT_EQ(listing, golden.str()) << file;
+    EXPECT_EQ(listing, testsupport::readFile(folder + file)) << file << " (VTYCONF_UPDATE_GOLDEN=1 writes it)";
   }
 }
 
@@ -260,20 +232,6 @@ const char* exclusionReason(const std::string& file, const std::string& line) {
     if (std::regex_match(text, std::regex(e[1]))) return e[2].c_str();
   }
   return nullptr;
-}
-
-// The ".cfg" files of a folder, by name, with their text.
-std::vector<std::pair<std::string, std::string>> configFiles(const std::filesystem::path& folder) {
-  std::vector<std::pair<std::string, std::string>> files;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".cfg") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    files.emplace_back(entry.path().filename().string(), buffer.str());
-  }
-  std::sort(files.begin(), files.end());
-  return files;
 }
 
 // Every refused line of the corpus is one of the documented exclusions, and
@@ -417,12 +375,7 @@ TEST_F(GrammarIos, DefinitionFilesEqualTheGeneratorsOutput) {
   const std::string command =
       "python3 \"" + (source / "scripts" / "grammar" / "gen.py").string() + "\" \"" + out.string() + "\"";
   ASSERT_EQ(std::system(command.c_str()), 0) << command;
-  auto readAll = [](const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    return buffer.str();
-  };
+  auto readAll = [](const fs::path& path) { return testsupport::readFile(path.string()); };
   size_t generated = 0;
   for (const auto& entry : fs::directory_iterator(out)) {
     ++generated;
