@@ -33,7 +33,9 @@ std::vector<std::string> parts(const std::string& joined) {
 TEST(DRTranslatorTable, TextsAreCutIntoTheirWordsAndArguments) {
   for (const testsupport::Case& c : testsupport::readCases("translator/reading.txt")) {
     if (c.has("words")) {
-      EXPECT_EQ(DRTranslatorTestAccess::words(c["text"]), parts(c["words"])) << c.where();
+      std::string rest;
+      EXPECT_EQ(DRTranslatorTestAccess::words(c["text"], &rest), parts(c["words"])) << c.where();
+      testsupport::expectSection(c, "rest", rest);
       continue;
     }
     if (c.has("pattern")) {
