@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
-#include "support/CaseFile.h"
+#include "support/CallTable.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
 
@@ -114,39 +114,18 @@ TEST(DRScriptFileTest, SettersSaveToTheFileTheyCameFrom) {
   EXPECT_EQ(back.getContext(), "a");
 }
 
-TEST(DRScriptFileTest, ScriptTypeAndExtension) {
-  struct Row {
-    std::string name;
-    DRScriptFileType type;
-    std::string base;
-  } rows[] = {
-      {"", ScriptTypeNone, ""},
-      {"a.py", ScriptTypePython, "a"},
-      {"A.PY", ScriptTypePython, "A"},
-      {"a.pyx.cmf", ScriptTypePython, "a"},  // ".py" is searched first, anywhere: intended
-      {"dir/n.cmf", ScriptTypeDesign, "dir/n"},
-      {"n.CMF", ScriptTypeDesign, "n"},
-      {"n.pl", ScriptTypeDesign, "n"},
-      {"notes.txt", ScriptTypeOther, "notes.txt"},
+// The rows of tests/data/notes/calls.tsv.
+TEST(DRScriptFileTest, NameHelpersGiveTheirRowsResult) {
+  const testsupport::Calls calls = {
+      {"scriptType", testsupport::oneText([](const std::string& name) {
+         std::string base = "junk";
+         const int type = DRScriptFile::getScriptType(name, &base);
+         return testsupport::joinFields({std::to_string(type), base});
+       })},
+      {"extName", testsupport::oneText([](const std::string& type) { return DRScriptFile::getExtName(std::stoi(type)); })},
+      {"baseName", testsupport::oneText(DesignNoteParser::getBaceNameFromScriptFilePath)},
   };
-  for (const Row& row : rows) {
-    std::string base = "junk";
-    EXPECT_EQ(DRScriptFile::getScriptType(row.name, &base), row.type) << row.name;
-    EXPECT_EQ(base, row.base) << row.name;
-  }
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeDesign), ".cmf");
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeOther), "");
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeNone), ".py") << "every other value gives .py: intended";
-  EXPECT_EQ(DRScriptFile::getExtName(99), ".py");
-}
-
-TEST(DRScriptFileTest, BaseNameOfAScriptPath) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"/d/a.cmf", "/d/a"},        {"/d/a.cmf.pl", "/d/a"},  {"/d/a.pl", "/d/a"},
-      {"/d/a.py", "/d/a"},         {"/d/a.txt", "/d/a"},     {"/d.x/noext", "/d"},
-      {"noext", "noext"},          {"/d/x.cmf/y.cmf", "/d/x.cmf/y"},
-  };
-  for (const auto& row : rows) EXPECT_EQ(DesignNoteParser::getBaceNameFromScriptFilePath(row.first), row.second);
+  testsupport::runCallTable("notes/calls.tsv", calls);
 }
 
 TEST(DRScriptFileTest, DeleteTakesTheSideFilesAlong) {

@@ -1,3 +1,4 @@
+// The UI lists handed to a note: values by kind, and the files they are saved to.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -12,15 +13,6 @@ namespace {
 using resultstest::freshFolder;
 using resultstest::readFile;
 using Values = std::set<std::string>;
-
-TEST(UIVariableTypeTest, FileNames) {
-  const std::pair<int, const char*> rows[] = {{1, "UI_InterfaceList"}, {2, "UI_ProtocolList"},
-                                              {3, "UI_IPAddressList"}, {4, "UI_InterfaceNameList"},
-                                              {5, "UI_VrfNameList"},   {6, "UI_RouteMapNameList"},
-                                              {7, "UI_NATList"},       {0, "UI_Unknown"},
-                                              {8, "UI_Unknown"},       {-1, "UI_Unknown"}};
-  for (const auto& [kind, name] : rows) EXPECT_EQ(UIVariableType::toString(kind), name) << kind;
-}
 
 TEST(UIVariableForDRTest, AddVariableValue) {
   UIVariableForDR ui("dev", UIVariableAction::Click);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "support/CaseFile.h"
+#include "support/CallTable.h"
 #include "toolkit/ParserToolCase.h"
 
 namespace qxparser {
@@ -30,28 +30,12 @@ namespace {
 
 using qxparser::ParserToolCase;
 using qxparser::ParserToolCasePeer;
-using Args = std::vector<std::string>;
+using testsupport::Args;
 
-std::string yesNo(bool answer) { return answer ? "true" : "false"; }
-
-// A helper's call: how many fields of a row are its arguments, and its
-// results joined by tabs.
-struct Call {
-  size_t arguments;
-  std::function<std::string(const Args&)> call;
-};
-
-Call twoWords(bool (*check)(const std::string&, const std::string&)) {
-  return {2, [check](const Args& a) { return yesNo(check(a.at(0), a.at(1))); }};
-}
-
-Call oneText(std::string (*op)(const std::string&)) {
-  return {1, [op](const Args& a) { return op(a.at(0)); }};
-}
-
-Call oneWord(bool (*check)(const std::string&)) {
-  return {1, [check](const Args& a) { return yesNo(check(a.at(0))); }};
-}
+using testsupport::oneText;
+using testsupport::oneWord;
+using testsupport::twoWords;
+using testsupport::yesNo;
 
 // The flag getCmdFlag gives `text` with the overwrite set `set` ("|" between keys).
 std::string flagOf(const std::string& set, const std::string& text) {
@@ -77,7 +61,7 @@ std::string aclTwins(const std::string& text) {
 std::string joined(const Args& words) { return testsupport::joinFields(words); }
 
 TEST(ParserToolCaseTable, CallsGiveTheirRowsResult) {
-  const std::map<std::string, Call> calls = {
+  const testsupport::Calls calls = {
       {"cleanLine", oneText(ParserToolCase::cleanLine)},
       {"getFirstKey", oneText(ParserToolCase::getFirstKey)},
       {"string2CutSpace", oneText(ParserToolCase::string2CutSpace)},
@@ -151,26 +135,7 @@ TEST(ParserToolCaseTable, CallsGiveTheirRowsResult) {
           return joined({inner, yesNo(open), yesNo(close)});
         }}},
   };
-  size_t rows = 0;
-  for (const std::string& line : testsupport::dataLines(testsupport::readDataFile("toolkit/calls.tsv"))) {
-    Args fields;
-    for (const std::string& field : testsupport::splitFields(line)) fields.push_back(testsupport::unescaped(field));
-    const auto call = calls.find(fields.front());
-    ASSERT_NE(call, calls.end()) << line;
-    const size_t arguments = call->second.arguments;
-    ASSERT_GE(fields.size(), arguments + 1) << line;
-    std::string expected;
-    for (size_t i = arguments + 1; i < fields.size(); ++i) expected += (i > arguments + 1 ? "\t" : "") + fields[i];
-    std::string result;
-    try {
-      result = call->second.call(Args(fields.begin() + 1, fields.begin() + 1 + arguments));
-    } catch (const std::exception& error) {
-      result = std::string("throws ") + error.what();
-    }
-    EXPECT_EQ(result, expected) << line;
-    ++rows;
-  }
-  EXPECT_GT(rows, 100u);
+  EXPECT_GT(testsupport::runCallTable("toolkit/calls.tsv", calls), 100u);
 }
 
 // The list form of splitString appends words that the caller then owns.
