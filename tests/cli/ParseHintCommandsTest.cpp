@@ -1,5 +1,4 @@
-// The dump of command records, the reuse of a terminal, and the parse and
-// hint subcommands of the vtyconf program.
+// The dump of command records and the reuse of a terminal.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,7 +6,6 @@
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
 #include "platform/Pathname.h"
-#include "support/CliRun.h"
 #include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
@@ -29,7 +27,6 @@ const char kSample[] =
     "  network 10.1.0.0\n";
 
 using testsupport::readFile;
-using testsupport::tempFile;
 
 // Reads `text` on a terminal brought into configuration mode as the reader's.
 std::string dumpOf(VTY& vty, const std::string& text) {
@@ -130,31 +127,6 @@ TEST(ShippedGrammarReuseTest, CorpusConfigurationsReadAlikeOnAReusedTerminal) {
   reused.reset();
   EXPECT_EQ(dumpOf(reused, two), expected) << files[0] << " then " << files[1];
   QxParserUtil::destroyParserResource();
-}
-
-// ------------------------------------------------------------ the program
-
-using ProgramRun = testsupport::CliRun;
-using testsupport::runCli;
-
-class ProgramTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  }
-};
-
-TEST_F(ProgramTest, WordUnknownAtTheDeepestLevelStillListsTheUpperLevels) {
-  // The program asks every level on its own (the library's hintCommand drops
-  // every level after one that answered "% Unrecognized command").
-  std::string config = tempFile("hint.cfg", kSample);
-  ProgramRun run =
-      runCli("--resources '" + kFixture + "' hint '" + config + "' 'ip route 1.1.1.1 255.0.0.0 '");
-  EXPECT_EQ(run.exitCode, 0) << run.err;
-  EXPECT_EQ(run.out.rfind("(config)#\n", 0), 0u) << run.out;
-  run = runCli("--resources '" + kFixture + "' hint '" + config + "' 'no-such-word '");
-  EXPECT_EQ(run.exitCode, 1);
-  EXPECT_EQ(run.err, "vtyconf: nothing can follow \"no-such-word \" at any level\n");
 }
 
 }  // namespace
