@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "TestFiles.h"
+#include "support/TestFiles.h"
 #include "support/CallTable.h"
 #include "notes/CDesignNoteHelper.h"
 #include "platform/MultiVendorFileSystem.h"
@@ -59,19 +59,19 @@ TEST(CDesignNoteHelperTest, FilterFolders) {
 
 TEST(CDesignNoteHelperTest, ScriptExistsAsPyBeforeCmf) {
   std::string previous = platform::getEnv("VTYCONF_NOTES_DIR");
-  std::string root = resultstest::freshFolder("notes-root");
+  std::string root = testsupport::scratchFolder("notes-root");
   platform::setEnv("VTYCONF_NOTES_DIR", root);
   std::string mapDir = root + MultiVendorFileSystem::s_DrMapPath;
   platform::makeDir(mapDir);
 
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(1, 0));
-  resultstest::writeFile(mapDir + kSep + "Interface NAT.cmf", "");
+  testsupport::writeFile(mapDir + kSep + "Interface NAT.cmf", "");
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(13, 0));
-  resultstest::writeFile(mapDir + kSep + "Interface Name.py", "");
+  testsupport::writeFile(mapDir + kSep + "Interface Name.py", "");
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(1, 0));
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(10, 0));
   // An unknown key never exists, even when the summary script does.
-  resultstest::writeFile(mapDir + kSep + "Configuration Summary.cmf", "");
+  testsupport::writeFile(mapDir + kSep + "Configuration Summary.cmf", "");
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(3, 0));
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(9, 0));
 

@@ -5,19 +5,19 @@
 #include <memory>
 #include <string>
 
-#include "TestFiles.h"
+#include "support/TestFiles.h"
 #include "results/DRResultTree.h"
 #include "results/SyntaxStringBuilder.h"
 #include "support/CaseFile.h"
 
 namespace {
 
-using resultstest::freshFolder;
-using resultstest::writeFile;
+using testsupport::scratchFolder;
+using testsupport::writeFile;
 
 std::unique_ptr<DRResultTree> treeOf(const std::string& content) {
   static int serial = 0;
-  std::string path = freshFolder("results-tree") + "r" + std::to_string(++serial) + ".txt";
+  std::string path = scratchFolder("results-tree") + "r" + std::to_string(++serial) + ".txt";
   writeFile(path, content);
   return std::make_unique<DRResultTree>(path);
 }
@@ -57,7 +57,7 @@ TEST(DRResultTreeTest, ReadsGroups) {
 }
 
 TEST(DRResultTreeTest, MissingFileGivesEmptyTree) {
-  DRResultTree tree(freshFolder("results-missing") + "nothing.txt");
+  DRResultTree tree(scratchFolder("results-missing") + "nothing.txt");
   EXPECT_TRUE(tree.isEmpty());
   EXPECT_TRUE(treeOf("")->isEmpty());
   EXPECT_FALSE(treeOf("x\n")->isEmpty());

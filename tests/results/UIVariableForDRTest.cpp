@@ -4,14 +4,14 @@
 #include <set>
 #include <string>
 
-#include "TestFiles.h"
+#include "support/TestFiles.h"
 #include "platform/Pathname.h"
 #include "results/UIVariableForDR.h"
 
 namespace {
 
-using resultstest::freshFolder;
-using resultstest::readFile;
+using testsupport::scratchFolder;
+using testsupport::readFile;
 using Values = std::set<std::string>;
 
 TEST(UIVariableForDRTest, AddVariableValue) {
@@ -47,7 +47,7 @@ TEST(UIVariableForDRTest, AddVariableValue) {
 }
 
 TEST(UIVariableForDRTest, SaveWritesOneSortedFilePerList) {
-  std::string dir = freshFolder("ui-save");
+  std::string dir = scratchFolder("ui-save");
   UIVariableForDR ui("dev", 0);
   ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/2");
   ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/1");
@@ -67,7 +67,7 @@ TEST(UIVariableForDRTest, SaveWritesOneSortedFilePerList) {
 }
 
 TEST(UIVariableForDRTest, SaveFolders) {
-  std::string dir = freshFolder("ui-folders");
+  std::string dir = scratchFolder("ui-folders");
   UIVariableForDR empty("dev", 0);
   EXPECT_TRUE(empty.save(dir, false));
   EXPECT_TRUE(Pathname(dir).dirContents().empty());
@@ -90,7 +90,7 @@ TEST(UIVariableForDRTest, SaveFolders) {
 }
 
 TEST(UIVariableForDRTest, UnknownKindsShareOneFileLaterWinsIntended) {
-  std::string dir = freshFolder("ui-unknown");
+  std::string dir = scratchFolder("ui-unknown");
   UIVariableForDR ui("dev", 0);
   ui.addVariableValue(9, "nine");
   ui.addVariableValue(8, "eight");
