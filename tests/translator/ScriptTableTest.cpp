@@ -10,7 +10,7 @@ TEST(DRTranslatorTable, ScriptsTranslateToTheirBodyOrMessage) {
   for (const testsupport::Case& c : testsupport::readCases("translator/scripts.txt")) {
     SCOPED_TRACE(c.where());
     if (c.has("message")) {
-      translatortest::expectMessages({{c["script"], c["message"]}});
+      translatortest::expectMessage(c["script"], c["message"]);
     } else {
       EXPECT_EQ(translatortest::validBody(c["script"], c.get("perl") != "no"), c["body"]);
     }
