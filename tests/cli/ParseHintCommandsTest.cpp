@@ -1,4 +1,5 @@
-// The dump of command records and the reuse of a terminal.
+// The names in the dump of command records, and the reuse of a terminal (the
+// dump itself is checked through the program's parse cases).
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -6,6 +7,7 @@
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
 #include "platform/Pathname.h"
+#include "support/CaseFile.h"
 #include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
@@ -13,18 +15,10 @@ using namespace qxparser;
 
 namespace {
 
-const std::string kFixture = testsupport::fixtureResources("terminal");
 const std::string kShipped = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 
-const char kSample[] =
-    "hostname R1\n"
-    "interface Ethernet0/1\n"
-    " description uplink\n"
-    " ip address 10.0.0.1 255.255.255.0\n"
-    "!\n"
-    "router bgp 65000\n"
-    " address-family ipv4\n"
-    "  network 10.1.0.0\n";
+// A configuration with modes two levels deep.
+const std::string kSample = testsupport::readDataFile("cli/sample.cfg");
 
 using testsupport::readFile;
 
@@ -45,29 +39,6 @@ std::string dumpOf(VTY& vty, const std::string& text) {
 }
 
 using CommandDumpTest = testsupport::TerminalFixture;
-
-TEST_F(CommandDumpTest, WholeConfigurationWithChildrenIndentedByLevel) {
-  std::vector<CiscoCommandLine*> records;
-  std::string errorText;
-  int errorLine = 0;
-  QxParserUtil::getCmdInfo(kSample, records, errorText, errorLine);
-  std::string out;
-  CommandDump::dumpCommands(records, out);
-  EXPECT_EQ(out,
-            "hostname R1\t[1 order 0 overwrite stored]\n"
-            "interface ethernet 0/1\t[2 order 0 additive stored mode]\n"
-            "  description uplink\t[3 order 0 overwrite stored]\n"
-            "  ip address 10.0.0.1 255.255.255.0\t[4 order 0 overwrite stored]\n"
-            "!\t[5 order 0 text]\n"
-            "router bgp 65000\t[6 order 0 additive stored mode]\n"
-            "  address-family ipv4\t[7 order 0 additive stored mode]\n"
-            "    network 10.1.0.0\t[8 order 0 additive stored]\n");
-
-  std::string one;
-  CommandDump::dumpCommand(*records[1], one, false, [](int line) { return line * 10; });
-  EXPECT_EQ(one, "interface ethernet 0/1\t[20 order 0 additive stored mode]\n") << "alone, with mapped line";
-  QxParserUtil::deleteCommands(records);
-}
 
 TEST_F(CommandDumpTest, NamesOfFlagsAndMarks) {
   const struct {
