@@ -47,17 +47,6 @@ inline std::vector<std::string> sortedLines(const std::string& text) {
   return lines;
 }
 
-class ShippedGrammarTest : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    QXFileSystem::SetSystemResourceFolder(std::string(VTYCONF_SOURCE_DIR) + "/resources/");
-    clearLoaderTables();
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() {
-    QxParserUtil::destroyParserResource();
-    clearLoaderTables();
-  }
-};
+using ShippedGrammarTest = testsupport::ShippedGrammarSuite;
 
 }  // namespace qxparser

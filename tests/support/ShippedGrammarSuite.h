@@ -15,6 +15,8 @@
 #include <vector>
 
 #include "config/QxParserUtil.h"
+#include "grammar/DefinitionLoader.h"
+#include "platform/QXFileSystem.h"
 #include "support/TestFiles.h"
 
 namespace testsupport {
@@ -29,9 +31,14 @@ class ShippedGrammarSuite : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
     setenv("VTYCONF_RESOURCES", shippedResources().c_str(), 1);
+    QXFileSystem::SetSystemResourceFolder(shippedResources());
+    qxparser::clearLoaderTables();
     qxparser::QxParserUtil::createNewParserResource();
   }
-  static void TearDownTestSuite() { qxparser::QxParserUtil::destroyParserResource(); }
+  static void TearDownTestSuite() {
+    qxparser::QxParserUtil::destroyParserResource();
+    qxparser::clearLoaderTables();
+  }
 };
 
 // Whether the path of a record reached the end of a command; a "no" line may
