@@ -2,9 +2,9 @@
 //
 // Each target defines LLVMFuzzerTestOneInput and is linked either with the
 // fuzzing engine or with ReplayMain.cpp, which feeds it files (and the hostile
-// inputs of HostileInputs.h) one by one. The helpers here cut one input into
-// several texts, write texts into the process's private temporary folder and
-// load the shipped grammar once per process. Nothing here is thread-safe; a
+// inputs of tests/data/fuzz/hostile_inputs.tsv) one by one. The helpers here
+// cut one input into several texts, write texts into the process's private
+// temporary folder and load the shipped grammar once per process. Nothing here is thread-safe; a
 // target runs one input at a time.
 #pragma once
 

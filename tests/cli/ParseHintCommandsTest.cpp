@@ -1,5 +1,5 @@
-// The dump of command records, the reuse of a terminal, and the parse and
-// hint subcommands of the vtyconf program.
+// The names in the dump of command records, and the reuse of a terminal (the
+// dump itself is checked through the program's parse cases).
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,7 +7,7 @@
 #include "config/CommandDump.h"
 #include "config/QxParserUtil.h"
 #include "platform/Pathname.h"
-#include "support/CliRun.h"
+#include "support/CaseFile.h"
 #include "support/TerminalFixture.h"
 #include "terminal/VTY.h"
 
@@ -15,21 +15,12 @@ using namespace qxparser;
 
 namespace {
 
-const std::string kFixture = testsupport::fixtureResources("terminal");
 const std::string kShipped = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 
-const char kSample[] =
-    "hostname R1\n"
-    "interface Ethernet0/1\n"
-    " description uplink\n"
-    " ip address 10.0.0.1 255.255.255.0\n"
-    "!\n"
-    "router bgp 65000\n"
-    " address-family ipv4\n"
-    "  network 10.1.0.0\n";
+// A configuration with modes two levels deep.
+const std::string kSample = testsupport::readDataFile("cli/sample.cfg");
 
 using testsupport::readFile;
-using testsupport::tempFile;
 
 // Reads `text` on a terminal brought into configuration mode as the reader's.
 std::string dumpOf(VTY& vty, const std::string& text) {
@@ -48,29 +39,6 @@ std::string dumpOf(VTY& vty, const std::string& text) {
 }
 
 using CommandDumpTest = testsupport::TerminalFixture;
-
-TEST_F(CommandDumpTest, WholeConfigurationWithChildrenIndentedByLevel) {
-  std::vector<CiscoCommandLine*> records;
-  std::string errorText;
-  int errorLine = 0;
-  QxParserUtil::getCmdInfo(kSample, records, errorText, errorLine);
-  std::string out;
-  CommandDump::dumpCommands(records, out);
-  EXPECT_EQ(out,
-            "hostname R1\t[1 order 0 overwrite stored]\n"
-            "interface ethernet 0/1\t[2 order 0 additive stored mode]\n"
-            "  description uplink\t[3 order 0 overwrite stored]\n"
-            "  ip address 10.0.0.1 255.255.255.0\t[4 order 0 overwrite stored]\n"
-            "!\t[5 order 0 text]\n"
-            "router bgp 65000\t[6 order 0 additive stored mode]\n"
-            "  address-family ipv4\t[7 order 0 additive stored mode]\n"
-            "    network 10.1.0.0\t[8 order 0 additive stored]\n");
-
-  std::string one;
-  CommandDump::dumpCommand(*records[1], one, false, [](int line) { return line * 10; });
-  EXPECT_EQ(one, "interface ethernet 0/1\t[20 order 0 additive stored mode]\n") << "alone, with mapped line";
-  QxParserUtil::deleteCommands(records);
-}
 
 TEST_F(CommandDumpTest, NamesOfFlagsAndMarks) {
   const struct {
@@ -130,31 +98,6 @@ TEST(ShippedGrammarReuseTest, CorpusConfigurationsReadAlikeOnAReusedTerminal) {
   reused.reset();
   EXPECT_EQ(dumpOf(reused, two), expected) << files[0] << " then " << files[1];
   QxParserUtil::destroyParserResource();
-}
-
-// ------------------------------------------------------------ the program
-
-using ProgramRun = testsupport::CliRun;
-using testsupport::runCli;
-
-class ProgramTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program was not built";
-  }
-};
-
-TEST_F(ProgramTest, WordUnknownAtTheDeepestLevelStillListsTheUpperLevels) {
-  // The program asks every level on its own (the library's hintCommand drops
-  // every level after one that answered "% Unrecognized command").
-  std::string config = tempFile("hint.cfg", kSample);
-  ProgramRun run =
-      runCli("--resources '" + kFixture + "' hint '" + config + "' 'ip route 1.1.1.1 255.0.0.0 '");
-  EXPECT_EQ(run.exitCode, 0) << run.err;
-  EXPECT_EQ(run.out.rfind("(config)#\n", 0), 0u) << run.out;
-  run = runCli("--resources '" + kFixture + "' hint '" + config + "' 'no-such-word '");
-  EXPECT_EQ(run.exitCode, 1);
-  EXPECT_EQ(run.err, "vtyconf: nothing can follow \"no-such-word \" at any level\n");
 }
 
 }  // namespace

@@ -18,9 +18,6 @@ namespace qxparser {
 
 // Reaches the private members of QxParserUtil.
 struct QxParserUtilPeer {
-  static void merge(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config) {
-    QxParserUtil::mergeCiscoCommands(changes, config, nullptr);
-  }
   static std::string expand(const std::vector<CiscoCommandLine*>& commands, int depth) {
     return QxParserUtil::expandMergedCmds(commands, depth);
   }

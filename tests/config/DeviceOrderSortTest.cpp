@@ -5,32 +5,45 @@
 #include <vector>
 
 #include "config/DeviceOrderSort.h"
+#include "config/QxParserUtil.h"
+#include "support/CaseFile.h"
 
 namespace qxparser {
 namespace {
 
 using Keys = std::vector<DeviceOrderKey>;
 
-TEST(DeviceOrderSortTest, SmallCasesFollowTheSelectionProcedure) {
-  struct Row {
-    const char* name;
+// The places of the sorted records, blank between them.
+std::string places(const std::vector<size_t>& order) {
+  std::string out;
+  for (size_t place : order) out += (out.empty() ? "" : " ") + std::to_string(place);
+  return out;
+}
+
+// The rows of tests/data/config/device_order.tsv.
+TEST(DeviceOrderSortTest, SmallLevelsFollowTheSelectionProcedure) {
+  for (const std::string& line : testsupport::dataLines(testsupport::readDataFile("config/device_order.tsv"))) {
+    const std::vector<std::string> row = testsupport::splitFields(line);
+    ASSERT_EQ(row.size(), 2u) << line;
     Keys keys;
-    std::vector<size_t> expected;
-  };
-  const std::vector<Row> rows = {
-      {"empty", {}, {}},
-      {"line numbers alone sort ascending", {{3, 0}, {1, 0}, {2, 0}}, {1, 2, 0}},
-      {"a command without numbers stays where it is", {{0, 0}, {2, 0}, {1, 0}}, {0, 2, 1}},
-      // The new command (order 1) takes the lead from line 5 (order 9) and
-      // keeps it against line 2, which it cannot be compared with by line.
-      {"order numbers place a new command", {{5, 9}, {0, 1}, {2, 3}}, {1, 2, 0}},
-      // Equal orders keep the candidate found first; the swap then moves
-      // the first element behind.
-      {"equal keys keep the first candidate", {{0, 4}, {0, 4}, {0, 2}}, {2, 1, 0}},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(selectionOrderPlain(row.keys), row.expected) << row.name;
-    EXPECT_EQ(selectionOrder(row.keys), row.expected) << row.name;
+    std::vector<CiscoCommandLine> records;
+    for (const std::string& key : testsupport::splitFields(row[0], ' ')) {
+      if (key.empty()) continue;
+      keys.push_back({std::stoi(key), std::stoi(key.substr(key.find(':') + 1))});
+    }
+    records.resize(keys.size());
+    std::vector<CiscoCommandLine*> level;
+    for (size_t i = 0; i < keys.size(); ++i) {
+      records[i].setLineNo(keys[i].lineNo);
+      records[i].setOrderNo(keys[i].orderNo);
+      level.push_back(&records[i]);
+    }
+    QxParserUtil::SortCiscoCommands(level);
+    std::vector<size_t> merged;
+    for (const CiscoCommandLine* record : level) merged.push_back(static_cast<size_t>(record - records.data()));
+    EXPECT_EQ(places(selectionOrderPlain(keys)), row[1]) << line;
+    EXPECT_EQ(places(selectionOrder(keys)), row[1]) << line;
+    EXPECT_EQ(places(merged), row[1]) << line;
   }
 }
 
@@ -72,23 +85,6 @@ TEST(DeviceOrderSortTest, IndexedSortGivesThePlainSequenceOnGeneratedLevels) {
       }
     }
   }
-}
-
-TEST(DeviceOrderSortTest, SortsRecordsByTheirNumbers) {
-  std::vector<CiscoCommandLine> records(4);
-  const int numbers[4][2] = {{4, 0}, {0, 2}, {1, 0}, {0, 1}};
-  std::vector<CiscoCommandLine*> level;
-  for (size_t i = 0; i < records.size(); ++i) {
-    records[i].setLineNo(numbers[i][0]);
-    records[i].setOrderNo(numbers[i][1]);
-    level.push_back(&records[i]);
-  }
-  Keys keys;
-  for (const CiscoCommandLine* record : level) keys.push_back({record->getLineNo(), record->getOrderNo()});
-  const std::vector<size_t> expected = selectionOrderPlain(keys);
-  sortByDeviceOrder(level);
-  for (size_t i = 0; i < level.size(); ++i) EXPECT_EQ(level[i], &records[expected[i]]) << i;
-  EXPECT_EQ(level.front()->getLineNo(), 1);
 }
 
 }  // namespace

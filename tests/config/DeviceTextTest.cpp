@@ -1,6 +1,7 @@
 // Device text: the table of new, changed and kept commands (and of diffs) in
 // tests/data/device_text/cases.tsv, and a merge of a change that changes
 // nothing over the corpora, which must give back every line it was given.
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -68,17 +69,9 @@ TEST_F(DeviceTextTest, NoOpMergeGivesEveryCorpusLineBack) {
   size_t distinct = 0;
   size_t kept = 0;
   for (const std::string& folder : corpusFolders()) {
-    DIR* dir = opendir(folder.c_str());
-    if (dir == nullptr) continue;
-    std::vector<std::string> names;
-    while (dirent* entry = readdir(dir)) {
-      const std::string name = entry->d_name;
-      if (name.size() > 4 && name.compare(name.size() - 4, 4, ".cfg") == 0) names.push_back(name);
-    }
-    closedir(dir);
-    for (const std::string& name : names) {
+    if (!std::filesystem::is_directory(folder)) continue;
+    for (const auto& [name, text] : testsupport::configFiles(folder)) {
       SCOPED_TRACE(folder + name);
-      const std::string text = readWholeFile(folder + name);
       std::vector<std::string> input = lines(text);
       const auto hostname = std::find_if(input.begin(), input.end(), [](const std::string& line) {
         return line.rfind("hostname ", 0) == 0;

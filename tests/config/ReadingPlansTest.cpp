@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "ShippedGrammar.h"
+#include "support/CaseFile.h"
 #include "config/CmdOrderTable.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/ParserTree.h"
@@ -62,20 +63,8 @@ TEST_F(ReadingPlansTest, CorpusFilesReadTheSameWithAndWithoutPlans) {
 }
 
 TEST_F(ReadingPlansTest, MixedCaseAndOddLinesReadTheSame) {
-  const std::string text =
-      "HOSTNAME R1\n"
-      "Interface GigabitEthernet0/1\n"
-      " IP ADDRESS 10.0.0.1 255.255.255.0\n"
-      " no shut\n"
-      "router bgp 65000\n"
-      " neighbor 192.0.2.1 remote-as 65001\n"
-      " address-family ipv4\n"
-      "  neighbor 192.0.2.1 activate\n"
-      "access-list 10 permit 0 0.0.0.255\n"
-      "ip route 0.0.0.0 0.0.0.0 Null0 250\n"
-      "snmp-server community s3cr3t RO 10\n"
-      "nonsense words here\n"
-      "interface Loopback00\n";
+  const std::string text = testsupport::readDataFile("config/odd_lines.cfg");
+  ASSERT_FALSE(text.empty());
   EXPECT_EQ(readWith(true, text), readWith(false, text));
 }
 

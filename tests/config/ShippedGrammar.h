@@ -4,9 +4,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <dirent.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -15,6 +15,7 @@
 #include "config/QxParserUtil.h"
 #include "grammar/DefinitionLoader.h"
 #include "platform/QXFileSystem.h"
+#include "support/ShippedGrammarSuite.h"
 #include "support/TestFiles.h"
 
 namespace qxparser {
@@ -31,15 +32,8 @@ inline std::string readWholeFile(const std::string& path) { return testsupport::
 // The *.cfg files of the public corpus, by name; empty when it is absent.
 inline std::vector<CorpusFile> corpusFiles() {
   std::vector<CorpusFile> files;
-  DIR* dir = opendir(corpusFolder().c_str());
-  if (!dir) return files;
-  while (dirent* entry = readdir(dir)) {
-    const std::string name = entry->d_name;
-    if (name.size() > 4 && name.compare(name.size() - 4, 4, ".cfg") == 0) files.push_back({name, ""});
-  }
-  closedir(dir);
-  std::sort(files.begin(), files.end(), [](const CorpusFile& a, const CorpusFile& b) { return a.name < b.name; });
-  for (CorpusFile& file : files) file.text = readWholeFile(corpusFolder() + file.name);
+  if (!std::filesystem::is_directory(corpusFolder())) return files;
+  for (auto& [name, text] : testsupport::configFiles(corpusFolder())) files.push_back({name, text});
   return files;
 }
 
@@ -53,17 +47,6 @@ inline std::vector<std::string> sortedLines(const std::string& text) {
   return lines;
 }
 
-class ShippedGrammarTest : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    QXFileSystem::SetSystemResourceFolder(std::string(VTYCONF_SOURCE_DIR) + "/resources/");
-    clearLoaderTables();
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() {
-    QxParserUtil::destroyParserResource();
-    clearLoaderTables();
-  }
-};
+using ShippedGrammarTest = testsupport::ShippedGrammarSuite;
 
 }  // namespace qxparser

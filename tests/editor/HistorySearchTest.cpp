@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "EditorFixture.h"
+#include "support/CaseFile.h"
 #include "support/TestFiles.h"
 
 namespace editortest {
@@ -60,14 +61,23 @@ TEST_F(HistoryTest, DashKeepsNoFile) {
   EXPECT_EQ(ed->getHistFileLines(), 0);
 }
 
-TEST_F(HistoryTest, MissingFileIsCreatedAndLinesAreAppended) {
+// The histories of tests/data/editor/history_files.tsv.
+TEST_F(HistoryTest, FileIsAppendedToAndCutAsTheRowsSay) {
   const std::string path = file("history");
-  ed->Gl_histinit(path.c_str());
-  EXPECT_TRUE(Pathname(path).exists());
-  EXPECT_EQ(ed->getHistFileLines(), 1);
-  add(1, 3);
-  EXPECT_EQ(readFile(path), numbered(1, 3));
-  EXPECT_EQ(ed->getHistFileLines(), 4);
+  for (const std::string& line : testsupport::dataLines(testsupport::readDataFile("editor/history_files.tsv"))) {
+    if (line == "-") {
+      SetUp();
+      ed->Gl_histinit(path.c_str());
+      EXPECT_EQ(ed->getHistFileLines(), 1);
+      continue;
+    }
+    const std::vector<std::string> row = testsupport::splitFields(line);
+    ASSERT_EQ(row.size(), 4u) << line;
+    add(std::stoi(row[0]), std::stoi(row[1]));
+    const size_t dash = row[3].find('-');
+    EXPECT_EQ(std::to_string(ed->getHistFileLines()), row[2]) << line;
+    EXPECT_EQ(readFile(path), numbered(std::stoi(row[3]), std::stoi(row[3].substr(dash + 1)))) << line;
+  }
 }
 
 TEST_F(HistoryTest, FileIsLoadedIntoTheRingWithoutWritingItAgain) {
@@ -80,29 +90,6 @@ TEST_F(HistoryTest, FileIsLoadedIntoTheRingWithoutWritingItAgain) {
   EXPECT_STREQ(ed->hist_prev(), "show c");
   EXPECT_STREQ(ed->hist_prev(), "show b");
   EXPECT_STREQ(ed->hist_prev(), "show a");
-}
-
-TEST_F(HistoryTest, HundredthAdditionCutsTheFirstFortyLines) {
-  const std::string path = file("history");
-  ed->Gl_histinit(path.c_str());
-  add(1, 99);
-  EXPECT_EQ(ed->getHistFileLines(), 100);
-  EXPECT_EQ(readFile(path), numbered(1, 99));
-  add(100, 100);
-  EXPECT_EQ(readFile(path), numbered(41, 100));
-}
-
-TEST_F(HistoryTest, CountStaysAtTwoAfterATrimIntended) {
-  const std::string path = file("history");
-  ed->Gl_histinit(path.c_str());
-  add(1, 100);
-  // The file holds 60 lines, but the count restarts at 2.
-  EXPECT_EQ(ed->getHistFileLines(), 2);
-  add(101, 198);
-  EXPECT_EQ(ed->getHistFileLines(), 100);
-  EXPECT_EQ(readFile(path), numbered(41, 198));
-  add(199, 199);
-  EXPECT_EQ(readFile(path), numbered(81, 199));
 }
 
 // ------------------------------------------------------------ search

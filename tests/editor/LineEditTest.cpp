@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "EditorFixture.h"
-#include "support/CaseFile.h"
+#include "support/CallTable.h"
 #include "platform/PlatformOs.h"
 
 namespace editortest {
@@ -21,7 +21,9 @@ std::string numbered(const std::string& key, int step) {
 TEST_F(EditorTest, KeysGiveExactScreenBytes) {
   for (const testsupport::Case& c : testsupport::readCases("editor/keys.txt")) {
     SetUp();
+    ed->Gl_setconsole(c.get("console") == "no" ? 0 : 1);
     start(c.get("prompt", "R#"), std::stoi(c.get("width", "80")));
+    ed->Gl_config("erase", c.get("erase") == "yes" ? 1 : 0);
     for (const std::string& entry : testsupport::splitFields(c.get("history"), '|')) {
       if (!entry.empty()) ed->Gl_histadd(entry.c_str());
     }
@@ -42,15 +44,32 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
   }
 }
 
-TEST_F(EditorTest, ConsoleByteMap) {
-  const std::vector<std::pair<unsigned char, int>> rows = {
-      {0xAD, 4}, {0xAE, 15}, {0xB0, 14}, {0xB1, 5}, {0xB3, 6},   {0xB5, 2},
-      {0xB8, 16}, {0xB9, 1}, {0x80, 0},  {0xB2, 0}, {0xFF, 0},   {0, 0},
-      {27, 21},  {127, 127}, {'a', 'a'}, {1, 1},    {'\r', '\r'},
+// The rows of tests/data/editor/calls.tsv.
+TEST_F(EditorTest, CallsGiveTheirRowsResult) {
+  const std::map<std::string, void (GetLineData::*)()> words = {{"forward", &GetLineData::gl_fwd_1_word},
+      {"back", &GetLineData::gl_back_1_word}, {"kill", &GetLineData::gl_kill_1_word},
+      {"kill back", &GetLineData::gl_kill_back_1_word}};
+  const testsupport::Calls calls = {
+      {"consoleByte", testsupport::oneText([](const std::string& hex) {
+         return std::to_string(GetLineData::gl_getc(static_cast<char>(std::stoi(hex, nullptr, 16))));
+       })},
+      {"tab", {3, [this](const testsupport::Args& a) {
+         char buf[32] = {};
+         a[0].copy(buf, sizeof buf - 1);
+         int loc = std::stoi(a[2]);
+         const int first = ed->gl_tab(buf, std::stoi(a[1]), loc);
+         return testsupport::joinFields({std::to_string(first), buf, std::to_string(loc)});
+       }}},
+      {"word", {3, [&](const testsupport::Args& a) {
+         SetUp();
+         start();
+         feed(a[1]);
+         ed->gl_fixup("R#", -1, std::stoi(a[2]));
+         (ed.get()->*words.at(a[0]))();
+         return testsupport::joinFields({line(), std::to_string(ed->getCursor()), ed->getKillBuffer()});
+       }}},
   };
-  for (const auto& [byte, code] : rows) {
-    EXPECT_EQ(GetLineData::gl_getc(static_cast<char>(byte)), code) << int(byte);
-  }
+  testsupport::runCallTable("editor/calls.tsv", calls);
 }
 
 TEST_F(EditorTest, ModeTwoAndModeMinusOneReturnNull) {
@@ -76,20 +95,6 @@ TEST_F(EditorTest, NoechoHidesTextButNotThePrompt) {
   EXPECT_EQ(feed("secret\r"), "\n");
   EXPECT_STREQ(last, "secret\n");
   EXPECT_EQ(ed->Gl_config("bogus", 1), -1);
-}
-
-TEST_F(EditorTest, EraseWipesTheFinishedLine) {
-  start();
-  ed->Gl_config("erase", 1);
-  EXPECT_EQ(feed("abc\r"), "abc" + bs(3) + sp(3) + bs(3));
-  EXPECT_STREQ(last, "abc\n");
-}
-
-TEST_F(EditorTest, NotAConsoleWritesNothing) {
-  ed->Gl_setconsole(0);
-  start();
-  EXPECT_EQ(feed("abc\x08\r"), "");
-  EXPECT_STREQ(last, "ab\n");
 }
 
 TEST_F(EditorTest, PromptChangeRedrawsOverTheOldPrompt) {
@@ -130,44 +135,6 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
 }
 
-// ------------------------------------------------------------ words and regions
-
-struct WordCase {
-  const char* name;
-  std::string text;
-  int cursor;
-  void (GetLineData::*op)();
-  std::string line;
-  int cursorAfter;
-  std::string kill;
-};
-
-TEST_F(EditorTest, WordMotionAndWordKills) {
-  const std::vector<WordCase> cases = {
-      {"fwd skips word then blanks", "ip route 10.0", 0, &GetLineData::gl_fwd_1_word, "ip route 10.0",
-       3, ""},
-      {"fwd stops at the end", "ip route", 4, &GetLineData::gl_fwd_1_word, "ip route", 8, ""},
-      {"fwd treats _ as a word character", "a_b c", 0, &GetLineData::gl_fwd_1_word, "a_b c", 4, ""},
-      {"back from the end", "ip route", 8, &GetLineData::gl_back_1_word, "ip route", 3, ""},
-      {"back from a word start", "ip route", 3, &GetLineData::gl_back_1_word, "ip route", 0, ""},
-      {"back over dots", "10.0.0", 6, &GetLineData::gl_back_1_word, "10.0.0", 5, ""},
-      {"kill word forward", "ip  route x", 2, &GetLineData::gl_kill_1_word, "ip x", 2, "  route"},
-      {"kill word back", "ip route", 8, &GetLineData::gl_kill_back_1_word, "ip ", 3, "route"},
-      {"kill word back over blanks", "ip route  ", 10, &GetLineData::gl_kill_back_1_word, "ip ", 3,
-       "route  "},
-  };
-  for (const WordCase& c : cases) {
-    SetUp();
-    start();
-    feed(c.text);
-    ed->gl_fixup("R#", -1, c.cursor);
-    (ed.get()->*c.op)();
-    EXPECT_EQ(line(), c.line) << c.name;
-    EXPECT_EQ(ed->getCursor(), c.cursorAfter) << c.name;
-    EXPECT_EQ(std::string(ed->getKillBuffer()), c.kill) << c.name;
-  }
-}
-
 TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
   start();
   feed("abcd\x02\x02\x0b\x01\x19");  // yank "cd" at 0: mark 0, cursor 2
@@ -182,16 +149,6 @@ TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
   // Mark equal to the cursor: wipe does nothing.
   EXPECT_EQ(feed("\x17"), "");
   EXPECT_EQ(line(), "ab");
-}
-
-TEST_F(EditorTest, GlTabPadsToTheNextStopOfEight) {
-  char buf[32] = "ab";
-  int loc = 2;
-  EXPECT_EQ(ed->gl_tab(buf, 3, loc), 2);  // column 5: three blanks to 8
-  EXPECT_EQ(loc, 5);
-  EXPECT_STREQ(buf, "ab   ");
-  EXPECT_EQ(ed->gl_tab(buf, 3, loc), 5);  // column 8: a full stop of eight
-  EXPECT_EQ(loc, 13);
 }
 
 // ------------------------------------------------------------ hooks

@@ -1,3 +1,4 @@
+// Which node a typed word leads to in a small grammar of competing branches.
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -5,54 +6,17 @@
 #include "grammar/DefinitionLoader.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/ParserTree.h"
+#include "support/CaseFile.h"
 #include "support/TestResources.h"
 
 using namespace qxparser;
 
 namespace {
 
-// One grammar with competing branches under "t", to see who wins.
-const char* kGrammar =
-    "t|test|k||\n"
-    "  access|literal access|k||\n"
-    "  !\n"
-    "  aaa|literal aaa|k||\n"
-    "  !\n"
-    "  <1-10>|a range|k||\n"
-    "  !\n"
-    "  a.b.c.d|an address|k||\n"
-    "  !\n"
-    "  &ifs.cfm|an interface|k||\n"
-    "  !\n"
-    "  word|any word|||\n"
-    "  !\n"
-    "!\n"
-    "u|unknown|k||\n"
-    "  <anything>|accepts all|||\n"
-    "  !\n"
-    "  id|a number|||\n"
-    "  !\n"
-    "!\n"
-    "opt|options|k||\n"
-    "  first|f|k/ob/cf|second|\n"
-    "    <cr>|||||\n"
-    "    !\n"
-    "  !\n"
-    "  second|s|k/ob||\n"
-    "    <cr>|||||\n"
-    "    !\n"
-    "  !\n"
-    "  third|th|k/ob||\n"
-    "    <cr>|||||\n"
-    "    !\n"
-    "  !\n"
-    "!\n";
-
 class LookupTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
-    testsupport::useResources(testsupport::writeResources(
-        "lookup", {{"main.cfm", kGrammar}, {"keyfiles/ifs.cfm", "ethernet|e\nloopback|l\n<0-7>|unit\n"}}));
+    testsupport::useResources(testsupport::fixtureResources("grammar/lookup"));
     loadKeyFiles();
     tree_ = new ParserTree("main.cfm", true);
   }
@@ -60,50 +24,31 @@ class LookupTest : public ::testing::Test {
   static ParserTreeNode* node(const std::string& key) { return tree_->mRoot->mChildren.at(key); }
 
   // The key of the child that `token` leads to under `parent`, or "-".
-  static std::string winner(ParserTreeNode* parent, const std::string& token, bool abbreviate,
-                            std::string* keyOut = nullptr) {
+  static std::string winner(ParserTreeNode* parent, const std::string& token) {
     bool flag = true;
     std::string key;
-    ParserTreeNode* found = lookupToken(parent, token, flag, key, abbreviate, nullptr);
-    EXPECT_FALSE(flag);
-    if (keyOut) *keyOut = key;
-    if (!found) return "-";
-    return found->firstKeyword();
+    ParserTreeNode* found = lookupToken(parent, token, flag, key, false, nullptr);
+    return found == nullptr ? "-" : found->firstKeyword();
   }
   static ParserTree* tree_;
 };
 
 ParserTree* LookupTest::tree_ = nullptr;
 
-TEST_F(LookupTest, PrecedenceLiteralTableAnglePlaceholderBareCatchAll) {
-  struct Row {
-    const char* token;
-    const char* expected;
-  } rows[] = {
-      {"access", "access"},        // literal beats everything
-      {"ethernet", "&ifs.cfm"},    // table word beats the catch-all
-      {"5", "&ifs.cfm"},           // a table placeholder <0-7> beats the <1-10> placeholder
-      {"9", "<1-10>"},             // angle placeholder
-      {"10.0.0.1", "a.b.c.d"},     // bare placeholder; the range refuses an address
-      {"zzz", "word"},             // catch-all last
-      {"ETHERNET", "word"},        // the catch-all takes it before the lower-case pass
-      {"\n", "-"},                 // a newline is never swallowed by the catch-all
-  };
-  for (const Row& row : rows) EXPECT_EQ(winner(node("t"), row.token, false), row.expected) << row.token;
-}
-
-TEST_F(LookupTest, AbbreviationCommonPrefixAndFullWord) {
-  std::string key;
-  EXPECT_EQ(winner(node("t"), "ac", true, &key), "access");
-  EXPECT_EQ(key, "access");
-  // "a" abbreviates access and aaa: ambiguous, the key is the common prefix,
-  // and the catch-all still takes the word.
-  EXPECT_EQ(winner(node("t"), "a", true, &key), "word");
-  EXPECT_EQ(key, "a");
-  EXPECT_EQ(winner(node("t"), "aa", true, &key), "aaa");
-  EXPECT_EQ(winner(node("t"), "ac", false, &key), "word") << "without abbreviation only whole words and patterns";
-  EXPECT_EQ(winner(node("t"), "lo", true, &key), "&ifs.cfm") << "table words abbreviate too";
-  EXPECT_EQ(key, "loopback");
+// The rows of tests/data/grammar/lookup.tsv.
+TEST_F(LookupTest, TokensLeadToTheirRowsNode) {
+  for (const std::string& line : testsupport::dataLines(testsupport::readDataFile("grammar/lookup.tsv"))) {
+    const std::vector<std::string> row = testsupport::splitFields(line);
+    ASSERT_EQ(row.size(), 6u) << line;
+    bool flag = true, retried = false;
+    std::string key;
+    ParserTreeNode* found =
+        lookupToken(node(row[0]), testsupport::unescaped(row[1]), flag, key, row[2] == "yes", &retried);
+    EXPECT_FALSE(flag) << line;
+    const std::vector<std::string> actual = {row[0], row[1], row[2], found == nullptr ? "-" : found->firstKeyword(),
+                                             key, retried ? "yes" : "no"};
+    EXPECT_EQ(testsupport::joinFields(actual), line);
+  }
 }
 
 TEST_F(LookupTest, AmbiguousAbbreviationLeavesCommonPrefixWithoutCatchAll) {
@@ -119,8 +64,7 @@ TEST_F(LookupTest, AmbiguousAbbreviationLeavesCommonPrefixWithoutCatchAll) {
   EXPECT_TRUE(key.empty());
 }
 
-TEST_F(LookupTest, UnknownAngleAcceptsAllBareAcceptsOnlyItsForm) {
-  EXPECT_EQ(winner(node("u"), "x-y", false), "<anything>");
+TEST_F(LookupTest, AnglePlaceholdersAreTriedBeforeBareOnes) {
   ParserTreeNode* u = node("u");
   EXPECT_EQ(findChild(u, "4294967295"), u->mChildren.at("<anything>"))
       << "angle placeholders are tried before bare ones";
@@ -153,19 +97,10 @@ TEST_F(LookupTest, RepeatedLiteralOptionIsFoundAgainByTheBarePatternStepIntended
   // the option is returned again, without the option check.
   ParserTreeNode* opt = node("opt");
   opt->mVisitedOptions.clear();
-  EXPECT_EQ(winner(opt, "first", false), "first");
-  EXPECT_EQ(winner(opt, "first", false), "first");
-  EXPECT_EQ(winner(opt, "second", false), "second") << "an excluded literal option is found the same way";
+  EXPECT_EQ(winner(opt, "first"), "first");
+  EXPECT_EQ(winner(opt, "first"), "first");
+  EXPECT_EQ(winner(opt, "second"), "second") << "an excluded literal option is found the same way";
   opt->mVisitedOptions.clear();
-}
-
-TEST_F(LookupTest, RetryFlagIsSetOnlyForAMissWithoutKey) {
-  bool flag = false, retried = false;
-  std::string key;
-  EXPECT_EQ(lookupToken(node("opt"), "nothing", flag, key, false, &retried), nullptr);
-  EXPECT_TRUE(retried);
-  EXPECT_NE(lookupToken(node("t"), "access", flag, key, false, &retried), nullptr);
-  EXPECT_FALSE(retried);
 }
 
 TEST_F(LookupTest, InterfaceWordsAndNodeStatus) {

@@ -17,11 +17,14 @@
 
 #include "config/QxParserUtil.h"
 #include "support/CaseFile.h"
+#include "support/ShippedGrammarSuite.h"
 #include "terminal/VTY.h"
 
 using qxparser::CiscoCommandLine;
 using qxparser::QxParserUtil;
 using qxparser::VTY;
+using testsupport::configFiles;
+using testsupport::isRefused;
 
 namespace {
 
@@ -29,32 +32,8 @@ namespace {
 // reached; raise the grammar, then lower this figure.
 constexpr double kRecordedRefusedShare = 0.463;
 
-std::string resourceFolder() {
-  const char* env = std::getenv("VTYCONF_RESOURCES");
-  if (env != nullptr && *env != '\0') return env;
-  return std::string(VTYCONF_SOURCE_DIR) + "/resources/";
-}
-
-// No path, or (an incomplete line) a path that never reached the end of a
-// command; a "no" line may stop early where the grammar lets it, and
-// elsewhere the device answered "% Incomplete command.".
-bool isRefused(const CiscoCommandLine& record) {
-  if (record.getFlag() == qxparser::CMD_TEXT) return false;
-  if (record.getTreeNodeSize() == 0) return true;
-  for (const auto& entry : record.getTreeNodes()) {
-    if (entry.words.count("\n") != 0) return false;
-  }
-  return !record.hasFlags(qxparser::CMDBIT_NO) || record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
-}
-
-class GrammarIos : public ::testing::Test {
+class GrammarIos : public testsupport::ShippedGrammarSuite {
  protected:
-  static void SetUpTestSuite() {
-    setenv("VTYCONF_RESOURCES", resourceFolder().c_str(), 1);
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
-
   // Reads `text` as the device reads a configuration pasted at its console
   // (short interface types such as Fa0/1 and loop0 included); fills the
   // refused lines (trimmed) and returns the records.
@@ -137,8 +116,8 @@ TEST_F(GrammarIos, LinesTheDeviceRefusesAreRefused) {
 }
 
 // The quit that ends certificate data is read at the chain and stays where
-// it was written, but it is no setting of its own (not stored): the quits of
-// two certificates are not one setting, so neither replaces the other.
+// it was written, but it is no setting of its own (not stored); a merge keeps
+// both quits of two certificates (merge_rollback.txt).
 TEST_F(GrammarIos, CertificateQuitStaysInPlaceAndIsNoSetting) {
   const char* chain =
       "crypto pki certificate chain TP\n certificate self-signed 01\n  \tquit\n certificate ca 02\n  \tquit\n";
@@ -150,9 +129,6 @@ TEST_F(GrammarIos, CertificateQuitStaysInPlaceAndIsNoSetting) {
   EXPECT_FALSE(records[2]->hasFlags(qxparser::CMDBIT_STORED));
   EXPECT_EQ(records[2]->getParentCommand(), records[0]);
   QxParserUtil::deleteCommands(records);
-  EXPECT_EQ(QxParserUtil::mergeConfigCmds("hostname R1\n", chain),
-            "hostname R1 \ncrypto pki certificate chain TP \n certificate self-signed 01 \n quit \n"
-            " certificate ca 02 \n quit \n!\n");
 }
 
 // The help listing at the root of a mode: `steps` of the way from view mode
@@ -184,41 +160,26 @@ std::vector<std::string> openingLines(const std::string& text) {
 
 // The help of each mode's root (golden_modes.tsv) is kept as a golden
 // listing: a change to the definition files that alters it must update the
-// listing on purpose (VTYCONF_UPDATE_GOLDEN=1 rewrites the files).
+// listing on purpose (VTYCONF_UPDATE_GOLDEN=1 rewrites the files). Listings
+// of different modes differ: a mode whose opening line failed would show its
+// parent's listing and still match a golden file written then.
 TEST_F(GrammarIos, HelpListingsOfModeRootsMatchTheGoldenFiles) {
   const std::string folder = std::string(VTYCONF_TEST_DATA_DIR) + "/grammar_ios/";
   const bool update = std::getenv("VTYCONF_UPDATE_GOLDEN") != nullptr;
+  std::set<std::string> listings;
   for (const std::string& row : testsupport::dataLines(testsupport::readDataFile("grammar_ios/golden_modes.tsv"))) {
     const std::vector<std::string> mode = testsupport::splitFields(row);
     ASSERT_EQ(mode.size(), 3u) << row;
     const std::string file = mode[0];
     const std::string listing = helpAt(std::stoi(mode[1]), openingLines(mode[2]));
     EXPECT_FALSE(listing.empty()) << file;
+    EXPECT_TRUE(listings.insert(listing).second) << file << " lists what another mode lists";
     if (update) {
       std::ofstream(folder + file, std::ios::binary) << listing;
       continue;
     }
-    std::ifstream in(folder + file, std::ios::binary);
-    if (!in) {
-      ADD_FAILURE() << "golden listing missing: " << file << " (run with VTYCONF_UPDATE_GOLDEN=1)";
-      continue;
-    }
-    std::stringstream golden;
-    golden << in.rdbuf();
-    EXPECT_EQ(listing, golden.str()) << file;
+    EXPECT_EQ(listing, testsupport::readFile(folder + file)) << file << " (VTYCONF_UPDATE_GOLDEN=1 writes it)";
   }
-}
-
-// Listings of different modes must differ: a mode whose opening line failed
-// would show its parent's listing and still match a golden file written then.
-TEST_F(GrammarIos, EachModeOpensItsOwnListing) {
-  const std::string config = helpAt(2, {});
-  EXPECT_NE(helpAt(2, {"interface GigabitEthernet0/0"}), config);
-  EXPECT_NE(helpAt(2, {"router ospf 1"}), config);
-  EXPECT_NE(helpAt(2, {"route-map RM permit 10"}), config);
-  EXPECT_NE(helpAt(2, {"ip access-list extended WEB"}), config);
-  EXPECT_NE(helpAt(1, {}), helpAt(0, {}));
-  EXPECT_NE(helpAt(1, {}), config);
 }
 
 // Commands whose help text only repeats the keyword, in the listings of the
@@ -260,20 +221,6 @@ const char* exclusionReason(const std::string& file, const std::string& line) {
     if (std::regex_match(text, std::regex(e[1]))) return e[2].c_str();
   }
   return nullptr;
-}
-
-// The ".cfg" files of a folder, by name, with their text.
-std::vector<std::pair<std::string, std::string>> configFiles(const std::filesystem::path& folder) {
-  std::vector<std::pair<std::string, std::string>> files;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".cfg") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    files.emplace_back(entry.path().filename().string(), buffer.str());
-  }
-  std::sort(files.begin(), files.end());
-  return files;
 }
 
 // Every refused line of the corpus is one of the documented exclusions, and
@@ -417,12 +364,7 @@ TEST_F(GrammarIos, DefinitionFilesEqualTheGeneratorsOutput) {
   const std::string command =
       "python3 \"" + (source / "scripts" / "grammar" / "gen.py").string() + "\" \"" + out.string() + "\"";
   ASSERT_EQ(std::system(command.c_str()), 0) << command;
-  auto readAll = [](const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    return buffer.str();
-  };
+  auto readAll = [](const fs::path& path) { return testsupport::readFile(path.string()); };
   size_t generated = 0;
   for (const auto& entry : fs::directory_iterator(out)) {
     ++generated;

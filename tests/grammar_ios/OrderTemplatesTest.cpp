@@ -14,6 +14,7 @@
 #include "config/CmdOrderTable.h"
 #include "config/QxParserUtil.h"
 #include "grammar/ParserTreeNode.h"
+#include "support/ShippedGrammarSuite.h"
 
 using qxparser::CiscoCommandLine;
 using qxparser::QxParserUtil;
@@ -31,40 +32,7 @@ namespace fs = std::filesystem;
 // the second load do not fit them (1.16 on a first load, 1.18 on later ones).
 constexpr double kRecordedOrderZeroShare = 1.18;
 
-std::string resourceFolder() {
-  const char* env = std::getenv("VTYCONF_RESOURCES");
-  if (env != nullptr && *env != '\0') return env;
-  return std::string(VTYCONF_SOURCE_DIR) + "/resources/";
-}
-
-std::string readFile(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream buffer;
-  buffer << in.rdbuf();
-  return buffer.str();
-}
-
-// The non-empty lines of a text, without a trailing carriage return.
-std::vector<std::string> nonEmptyLines(const std::string& text) {
-  std::vector<std::string> out;
-  std::istringstream in(text);
-  std::string line;
-  while (std::getline(in, line)) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (!line.empty()) out.push_back(line);
-  }
-  return out;
-}
-
-// A path that reached the end of a command; a "no" line may also stop early
-// where the grammar lets it.
-bool isComplete(const CiscoCommandLine& record) {
-  if (record.getTreeNodeSize() == 0) return false;
-  for (const auto& entry : record.getTreeNodes()) {
-    if (entry.words.count("\n") != 0) return true;
-  }
-  return record.hasFlags(qxparser::CMDBIT_NO) && !record.hasFlags(qxparser::CMDBIT_NO_COMPLETE);
-}
+using testsupport::readToTheEnd;
 
 // Whether the grammar took every word of the line: a template may stop short
 // of a whole command on purpose (it then covers every command that goes on
@@ -91,32 +59,16 @@ std::string modeFileOf(const CiscoCommandLine& record) {
   return file;
 }
 
-// Records of all levels, in line order.
-std::vector<CiscoCommandLine*> readAll(const std::string& text) {
-  std::vector<CiscoCommandLine*> records;
-  std::string errorText;
-  int errorLine = 0;
-  QxParserUtil::getCmdInfo(text, records, errorText, errorLine);
-  return records;
-}
-
 std::vector<fs::path> orderFiles() {
   std::vector<fs::path> files;
-  for (const auto& entry : fs::directory_iterator(fs::path(resourceFolder()) / "files" / "commandorder")) {
+  for (const auto& entry : fs::directory_iterator(fs::path(testsupport::shippedResources()) / "files" / "commandorder")) {
     if (entry.is_regular_file() && entry.path().filename().string()[0] != '.') files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
   return files;
 }
 
-class OrderTemplates : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    setenv("VTYCONF_RESOURCES", resourceFolder().c_str(), 1);
-    QxParserUtil::createNewParserResource();
-  }
-  static void TearDownTestSuite() { QxParserUtil::destroyParserResource(); }
-};
+class OrderTemplates : public testsupport::ShippedGrammarSuite {};
 
 // Each line of an order file is one command, or the start of one, at the
 // depth its indent says; a line the grammar refuses, a banner left open or a level that reads
@@ -127,15 +79,15 @@ class OrderTemplates : public ::testing::Test {
 TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
   const std::vector<fs::path> files = orderFiles();
   ASSERT_GE(files.size(), 6u);
-  const fs::path grammarFolder = fs::path(resourceFolder()) / "files";
+  const fs::path grammarFolder = fs::path(testsupport::shippedResources()) / "files";
   for (const fs::path& file : files) {
     const std::string key = file.stem().string();
     EXPECT_TRUE(fs::exists(grammarFolder / key)) << file.filename() << " names no grammar file";
     ASSERT_EQ(qxparser::gCmdOrderTable().count(key), 1u) << key;
 
-    const std::string text = readFile(file);
-    const std::vector<std::string> lines = nonEmptyLines(text);
-    std::vector<CiscoCommandLine*> records = readAll(text);
+    const std::string text = testsupport::readFile(file.string());
+    const std::vector<std::string> lines = testsupport::textLines(text);
+    std::vector<CiscoCommandLine*> records = testsupport::readRecords(text);
     ASSERT_EQ(records.size(), lines.size()) << file.filename();
     std::string problems;
     std::string openBanner;
@@ -145,7 +97,7 @@ TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
       const int indent = static_cast<int>(line.find_first_not_of(' '));
       const bool closesBanner = !openBanner.empty() && line == openBanner;
       if (line.rfind("version ", 0) == 0) continue;  // read, never stored
-      const bool accepted = isComplete(record) || takesEveryWord(record, line);
+      const bool accepted = readToTheEnd(record) || takesEveryWord(record, line);
       if (!closesBanner && (!accepted || record.getLevel() != indent)) {
         problems += file.filename().string() + ": refused or misplaced: " + line + "\n";
         continue;
@@ -157,7 +109,7 @@ TEST_F(OrderTemplates, EveryLineOfEveryOrderFileIsAReachableTemplate) {
       }
       // The opening lines of a mode take their numbers from the outer file; a
       // line cut short never ends, so it is never given a number at all.
-      if (modeFileOf(record) != key || !isComplete(record)) continue;
+      if (modeFileOf(record) != key || !readToTheEnd(record)) continue;
       if (record.getOrderNo() != static_cast<int>(i) + 1) {
         problems += file.filename().string() + ": hidden by template " + std::to_string(record.getOrderNo()) +
                     ": " + line + "\n";
@@ -179,9 +131,9 @@ TEST_F(OrderTemplates, CorpusCommandsOfOrderedModesFindTheirTemplates) {
   std::map<std::string, size_t> byMode;
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (entry.path().extension() != ".cfg") continue;
-    std::vector<CiscoCommandLine*> records = readAll(readFile(entry.path()));
+    std::vector<CiscoCommandLine*> records = testsupport::readRecords(testsupport::readFile(entry.path().string()));
     for (const CiscoCommandLine* record : records) {
-      if (record->getFlag() == qxparser::CMD_TEXT || !isComplete(*record)) continue;
+      if (record->getFlag() == qxparser::CMD_TEXT || !readToTheEnd(*record)) continue;
       const std::string mode = modeFileOf(*record);
       if (qxparser::gCmdOrderTable().count(mode) == 0) continue;
       ++total;

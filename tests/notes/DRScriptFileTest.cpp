@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
+#include "support/CallTable.h"
 #include "support/CaseFile.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
@@ -16,59 +17,24 @@ namespace {
 
 const char kGoodScript[] = "#x = search_line(\"^hostname \", all);\nprint #x;\n";
 
-TEST(DRScriptFileTest, WriteThenReadKeepsEveryField) {
-  const std::string dir = scratch("sf-roundtrip");
-  struct Row {
-    std::string description;
-    std::string context;
-    bool favourite;
-  } rows[] = {
-      {"", kGoodScript, true},
-      {"one line", kGoodScript, false},
-      {"first\nsecond\n\nfourth", "print \"x\";\n", true},
-      {"ends with a line end\n", "", false},
-      {"!!! looks like a marker", "! only a comment\n#a = #b;", true},
-      // A CR before a line end in memory (a file read with CR CR LF).
-      {"cr at the end\r\nnext", "print \"x\";\r\n#a = #b;\r\r\n", true},
-  };
-  int i = 0;
-  for (const Row& row : rows) {
-    const std::string path = dir + "/s" + std::to_string(i++) + ".cmf";
-    ASSERT_TRUE(DRScriptFile(row.context, row.description, row.favourite).saveScriptFile(path));
-    DRScriptFile back(path);
-    EXPECT_EQ(back.getDescription(), row.description) << path;
-    EXPECT_EQ(back.getContext(), row.context) << path;
-    EXPECT_EQ(back.isFavourite(), row.favourite) << path;
-    EXPECT_EQ(back.getFileName(), "s" + std::to_string(i - 1));
-    EXPECT_EQ(back.getFilePath(), path);
-  }
-}
-
-TEST(DRScriptFileTest, WrittenFormIsTheFourMarkedItems) {
-  const std::string dir = scratch("sf-form");
-  ASSERT_TRUE(DRScriptFile("CTX", "a\nb", false).saveScriptFile(dir + "/f.cmf"));
-  EXPECT_EQ(readFile(dir + "/f.cmf"), "!!!Version,200\n!!!Favourite,0\n!!!Description:\n!!!a\n!!!b\n!!!Context:\nCTX");
-}
-
-// The files of tests/data/notes/script_files.txt.
-TEST(DRScriptFileTest, ReaderOnHandWrittenFiles) {
-  const std::string dir = scratch("sf-read");
+// The files of tests/data/notes/script_files.txt, written by hand or by the
+// writer, read back.
+TEST(DRScriptFileTest, FilesWrittenAndReadAsTheirCaseSays) {
+  const std::string dir = scratch("sf-cases");
   for (const testsupport::Case& c : testsupport::readCases("notes/script_files.txt")) {
-    writeFile(dir + "/h.cmf", c["file"]);
-    DRScriptFile s(dir + "/h.cmf");
-    EXPECT_EQ(s.getDescription(), c["description"]) << c.where();
-    EXPECT_EQ(s.getContext(), c["context"]) << c.where();
-    EXPECT_EQ(s.isFavourite() ? "yes" : "no", c["favourite"]) << c.where();
+    const std::string path = dir + "/s.cmf";
+    if (c.has("file")) {
+      writeFile(path, c["file"]);
+    } else {
+      ASSERT_TRUE(DRScriptFile(c["context"], c["description"], c["favourite"] == "yes").saveScriptFile(path));
+      testsupport::expectSection(c, "written", readFile(path));
+    }
+    DRScriptFile back(path);
+    EXPECT_EQ(back.getDescription(), c.get("read description", c["description"])) << c.where();
+    EXPECT_EQ(back.getContext(), c.get("read context", c["context"])) << c.where();
+    EXPECT_EQ(back.isFavourite() ? "yes" : "no", c["favourite"]) << c.where();
+    EXPECT_EQ(back.getFileName() + " " + back.getFilePath(), "s " + path) << c.where();
   }
-}
-
-TEST(DRScriptFileTest, DescriptionLineStartingWithContextCutsItIntendedly) {
-  const std::string dir = scratch("sf-ctxline");
-  ASSERT_TRUE(DRScriptFile("body", "intro\nContext: here", true).saveScriptFile(dir + "/c.cmf"));
-  DRScriptFile back(dir + "/c.cmf");
-  EXPECT_EQ(back.getDescription(), "intro");
-  // The context is found at the first marker, the one the description made.
-  EXPECT_EQ(back.getContext(), "here\n!!!Context:\nbody");
 }
 
 TEST(DRScriptFileTest, SaveTranslatesOnlyAScriptThatPassesTheCheck) {
@@ -114,39 +80,18 @@ TEST(DRScriptFileTest, SettersSaveToTheFileTheyCameFrom) {
   EXPECT_EQ(back.getContext(), "a");
 }
 
-TEST(DRScriptFileTest, ScriptTypeAndExtension) {
-  struct Row {
-    std::string name;
-    DRScriptFileType type;
-    std::string base;
-  } rows[] = {
-      {"", ScriptTypeNone, ""},
-      {"a.py", ScriptTypePython, "a"},
-      {"A.PY", ScriptTypePython, "A"},
-      {"a.pyx.cmf", ScriptTypePython, "a"},  // ".py" is searched first, anywhere: intended
-      {"dir/n.cmf", ScriptTypeDesign, "dir/n"},
-      {"n.CMF", ScriptTypeDesign, "n"},
-      {"n.pl", ScriptTypeDesign, "n"},
-      {"notes.txt", ScriptTypeOther, "notes.txt"},
+// The rows of tests/data/notes/calls.tsv.
+TEST(DRScriptFileTest, NameHelpersGiveTheirRowsResult) {
+  const testsupport::Calls calls = {
+      {"scriptType", testsupport::oneText([](const std::string& name) {
+         std::string base = "junk";
+         const int type = DRScriptFile::getScriptType(name, &base);
+         return testsupport::joinFields({std::to_string(type), base});
+       })},
+      {"extName", testsupport::oneText([](const std::string& type) { return DRScriptFile::getExtName(std::stoi(type)); })},
+      {"baseName", testsupport::oneText(DesignNoteParser::getBaceNameFromScriptFilePath)},
   };
-  for (const Row& row : rows) {
-    std::string base = "junk";
-    EXPECT_EQ(DRScriptFile::getScriptType(row.name, &base), row.type) << row.name;
-    EXPECT_EQ(base, row.base) << row.name;
-  }
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeDesign), ".cmf");
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeOther), "");
-  EXPECT_EQ(DRScriptFile::getExtName(ScriptTypeNone), ".py") << "every other value gives .py: intended";
-  EXPECT_EQ(DRScriptFile::getExtName(99), ".py");
-}
-
-TEST(DRScriptFileTest, BaseNameOfAScriptPath) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"/d/a.cmf", "/d/a"},        {"/d/a.cmf.pl", "/d/a"},  {"/d/a.pl", "/d/a"},
-      {"/d/a.py", "/d/a"},         {"/d/a.txt", "/d/a"},     {"/d.x/noext", "/d"},
-      {"noext", "noext"},          {"/d/x.cmf/y.cmf", "/d/x.cmf/y"},
-  };
-  for (const auto& row : rows) EXPECT_EQ(DesignNoteParser::getBaceNameFromScriptFilePath(row.first), row.second);
+  testsupport::runCallTable("notes/calls.tsv", calls);
 }
 
 TEST(DRScriptFileTest, DeleteTakesTheSideFilesAlong) {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "NoteTestSupport.h"
+#include "support/CaseFile.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
 #include "results/UIVariableForDR.h"
@@ -36,28 +37,17 @@ std::string makeTree(const std::string& name) {
   return root;
 }
 
-TEST(DesignNoteParserTreeTest, ScanWithFilters) {
+// The scans of tests/data/notes/trees.txt.
+TEST(DesignNoteParserTreeTest, ScansFindTheTreeTheirCaseSays) {
   const std::string root = makeTree("tree-scan");
-  const DesignNoteParser::NameSet onlyMap{"Map"};
-  const DesignNoteParser::NameSet noSuchFolder{"Nothing"};
-  const DesignNoteParser::NameSet excludeG{"g."};
-  struct Row {
-    const char* name;
-    const DesignNoteParser::NameSet* folderFilter;
-    const DesignNoteParser::NameSet* nameFilter;
-    std::string expected;
-  } rows[] = {
-      {"everything but hidden entries", nullptr, nullptr,
-       "a.cmf\nb.py\nGlobal/\n  g.cmf\n  deep/\n    d.cmf\nMap/\n  m.cmf\n"},
-      {"folder filter admits one first-level folder", &onlyMap, nullptr, "a.cmf\nb.py\nMap/\n  m.cmf\n"},
-      {"folder filter with no match leaves the root's files", &noSuchFolder, nullptr, "a.cmf\nb.py\n"},
-      {"name filter excludes at every level", nullptr, &excludeG,
-       "a.cmf\nb.py\nGlobal/\n  deep/\n    d.cmf\nMap/\n  m.cmf\n"},
-  };
-  for (const Row& row : rows) {
-    DesignNoteParser tree(root, nullptr, true, row.folderFilter, row.nameFilter);
-    EXPECT_EQ(dumpTree(tree), row.expected) << row.name;
-    EXPECT_EQ(tree.getRootDirct(), root);
+  for (const testsupport::Case& c : testsupport::readCases("notes/trees.txt")) {
+    const DesignNoteParser::NameSet folders{c.get("folders")}, names{c.get("names")};
+    UIVariableForDR ui;
+    ui.setRootPath(c.get("ui root"));
+    DesignNoteParser tree(root, c.has("ui root") ? &ui : nullptr, true, c.has("folders") ? &folders : nullptr,
+                          c.has("names") ? &names : nullptr);
+    EXPECT_EQ(dumpTree(tree), c["tree"]) << c.where();
+    EXPECT_EQ(tree.getRootDirct(), root + c["root"]) << c.where();
   }
 }
 
@@ -71,23 +61,9 @@ TEST(DesignNoteParserTreeTest, OneTrailingSeparatorIsDropped) {
   EXPECT_TRUE(missing.getSubDirects().empty());
 }
 
-TEST(DesignNoteParserTreeTest, UiRootPathSelectsTheDeviceFolder) {
+TEST(DesignNoteParserTreeTest, UiRootPathIsTakenWithoutAScan) {
   const std::string root = makeTree("tree-ui");
   UIVariableForDR ui;
-  ui.setRootPath("Global");
-  DesignNoteParser tree(root, &ui, true);
-  EXPECT_EQ(tree.getRootDirct(), root + "/Global");
-  EXPECT_EQ(dumpTree(tree), "a.cmf\nb.py\nGlobal/\n  g.cmf\n  deep/\n    d.cmf\n");
-
-  const DesignNoteParser::NameSet none{"Nothing"};
-  DesignNoteParser filtered(root, &ui, true, &none);
-  EXPECT_EQ(dumpTree(filtered), "a.cmf\nb.py\nGlobal/\n  g.cmf\n") << "the filter acts inside the device folder";
-
-  ui.setRootPath("Absent");
-  DesignNoteParser absent(root, &ui, true);
-  EXPECT_EQ(absent.getRootDirct(), root + "/Absent");
-  EXPECT_EQ(dumpTree(absent), "");
-
   ui.setRootPath("Global");
   EXPECT_EQ(DesignNoteParser(root, &ui, false).getRootDirct(), root + "/Global");
 }

@@ -5,9 +5,9 @@
 #include "NoteTestSupport.h"
 #include "notes/DRScriptFile.h"
 
-using notestest::CliResult;
+using testsupport::CliRun;
 using notestest::exists;
-using notestest::runCli;
+using testsupport::runCliArgs;
 using notestest::scratch;
 using notestest::writeFile;
 
@@ -32,12 +32,12 @@ TEST_F(NoteCliTest, UsefulListsTheNotesThatFindSomething) {
                   .saveScriptFile(dir + "/notes/bgp/bgp_neighbors_unprotected.cmf"));
   writeFile(dir + "/cfg",
             "interface Gi0/1\n shutdown\n!\nrouter bgp 1\n neighbor 192.0.2.1 remote-as 2\n!\nend\n");
-  CliResult r = runCli({"note", "useful", dir + "/notes", dir + "/cfg"});
-  EXPECT_EQ(r.status, 0) << r.err;
+  CliRun r = runCliArgs({"note", "useful", dir + "/notes", dir + "/cfg"});
+  EXPECT_EQ(r.exitCode, 0) << r.err;
   EXPECT_EQ(r.out, "shut_interfaces\nbgp/bgp_neighbors_unprotected\n");
 
-  CliResult none = runCli({"note", "useful", dir + "/notes", notestest::dataDir() + "/clean.cfg"});
-  EXPECT_EQ(none.status, 0);
+  CliRun none = runCliArgs({"note", "useful", dir + "/notes", notestest::dataDir() + "/clean.cfg"});
+  EXPECT_EQ(none.exitCode, 0);
   EXPECT_EQ(none.out, "");
 }
 
@@ -49,13 +49,13 @@ TEST_F(NoteCliTest, PathsWithShellSyntaxArePlainNames) {
   const std::string config = evil + "/c \"$(touch pwned)\";touch pwned.cfg";
   ASSERT_TRUE(DRScriptFile(example("shut_interfaces.cmf")).saveScriptFile(script));
   writeFile(config, "interface Gi0/1\n shutdown\n!\nend\n");
-  CliResult r = runCli({"note", "run", script, config});
-  EXPECT_EQ(r.status, 0) << r.err;
+  CliRun r = runCliArgs({"note", "run", script, config});
+  EXPECT_EQ(r.exitCode, 0) << r.err;
   EXPECT_EQ(r.out, "Interfaces that are shut down:\n1: interface Gi0/1 !shutdown\n  2:  shutdown\n");
-  CliResult check = runCli({"note", "check", script});
-  EXPECT_EQ(check.status, 0) << check.err;
-  CliResult useful = runCli({"note", "useful", evil, config});
-  EXPECT_EQ(useful.status, 0) << useful.err;
+  CliRun check = runCliArgs({"note", "check", script});
+  EXPECT_EQ(check.exitCode, 0) << check.err;
+  CliRun useful = runCliArgs({"note", "useful", evil, config});
+  EXPECT_EQ(useful.exitCode, 0) << useful.err;
   EXPECT_EQ(useful.out, "-n; touch pwned $(touch pwned)\n");
   EXPECT_FALSE(exists(dir + "/pwned"));
   EXPECT_FALSE(exists(evil + "/pwned"));

@@ -21,13 +21,8 @@ using notestest::writeFile;
 
 namespace {
 
-const char kConfig[] =
-    "hostname r1\n"                      // 1
-    "interface Gi0/1\n"                  // 2
-    " ip address 10.0.0.1 255.0.0.0\n"   // 3
-    " shutdown\n"                        // 4
-    "interface Gi0/2\n"                  // 5
-    " ip address 10.1.0.1 255.0.0.0\n";  // 6
+// Six lines; line 4 shuts the first interface down.
+const std::string kConfig = notestest::readFile(notestest::dataDir() + "/run.cfg");
 
 class NoteRunTest : public ::testing::Test {
  protected:

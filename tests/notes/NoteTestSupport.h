@@ -1,10 +1,8 @@
 // Helpers for the design-note tests: scratch folders, small files, the
-// interpreter check, and running the built vtyconf program with its output
-// captured.
+// interpreter check and the folders of the example notes and test data.
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "platform/PlatformOs.h"
 #include "platform/QXFileSystem.h"
@@ -29,17 +27,5 @@ inline bool havePerl() { return !QXFileSystem::GetPerlExepath().empty(); }
 
 inline std::string examplesDir() { return std::string(VTYCONF_SOURCE_DIR) + "/examples/notes"; }
 inline std::string dataDir() { return std::string(VTYCONF_TEST_DATA_DIR) + "/notes"; }
-
-struct CliResult {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
-// Runs the vtyconf program with args, each passed as it stands.
-inline CliResult runCli(const std::vector<std::string>& args) {
-  const testsupport::CliRun run = testsupport::runCliArgs(args);
-  return CliResult{run.exitCode, run.out, run.err};
-}
 
 }  // namespace notestest

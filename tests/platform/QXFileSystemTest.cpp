@@ -1,3 +1,5 @@
+// Programs run without a shell, folders, path names and the small text and
+// address helpers of the platform layer.
 #include "platform/QXFileSystem.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +10,7 @@
 #include "platform/Pathname.h"
 #include "platform/PlatformOs.h"
 #include "platform/StlHelper.h"
+#include "support/CallTable.h"
 #include "support/TestFiles.h"
 
 namespace {
@@ -43,15 +46,23 @@ TEST(QXFileSystemTest, ExecuteCmdSplitsQuotedCommandLineWithoutShell) {
   EXPECT_EQ(readFile(out), "conf; $(id).cfg|\\");
 }
 
-TEST(QXFileSystemTest, SplitCommandLineFollowsQuoteAndBackslashRules) {
-  using V = std::vector<std::string>;
-  EXPECT_EQ(QXFileSystem::SplitCommandLine(""), V{});
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("a  b\tc"), (V{"a", "b", "c"}));
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("\"a b\" c"), (V{"a b", "c"}));
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("\"dir\\\\\""), (V{"dir\\"}));
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("a\\\"b"), (V{"a\"b"}));
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("c:\\x\\y"), (V{"c:\\x\\y"}));
-  EXPECT_EQ(QXFileSystem::SplitCommandLine("\"\""), (V{""}));
+// The rows of tests/data/platform/calls.tsv.
+TEST(PlatformCalls, HelpersGiveTheirRowsResult) {
+  const testsupport::Calls calls = {
+      {"splitCommandLine", testsupport::oneText([](const std::string& line) {
+         std::string items;
+         for (const std::string& item : QXFileSystem::SplitCommandLine(line)) items += (items.empty() ? "" : "|") + item;
+         return items;
+       })},
+      {"isValidIpAddress", testsupport::oneWord(IpAddress::isValidIpAddress)},
+      {"isValidIpAddressAndMaskLen", testsupport::oneWord(IpAddress::isValidIpAddressAndMaskLen)},
+      {"firstWord", testsupport::oneText([](const std::string& text) {
+         std::string rest = text;
+         const std::string word = StlHelper::GetFirstWord(rest);
+         return testsupport::joinFields({word, rest});
+       })},
+  };
+  testsupport::runCallTable("platform/calls.tsv", calls);
 }
 
 TEST(QXFileSystemTest, MissingProgramIsAnErrorNotACrash) {
@@ -97,26 +108,6 @@ TEST(StlHelperTest, StringHelpers) {
   std::string t = "/usr/lib//\\";
   StlHelper::trimRight(t, "/\\");
   EXPECT_EQ(t, "/usr/lib");
-  std::string w = "  ip  access-list standard";
-  EXPECT_EQ(StlHelper::GetFirstWord(w), "ip");
-  EXPECT_EQ(w, "access-list standard");
-  EXPECT_EQ(StlHelper::GetFirstWord(w), "access-list");
-  EXPECT_EQ(StlHelper::GetFirstWord(w), "standard");
-  EXPECT_EQ(StlHelper::GetFirstWord(w), "");
-}
-
-TEST(IpAddressTest, DottedQuadAndMaskLength) {
-  for (const char* good : {"0.0.0.0", "10.1.2.3", "255.255.255.255", "001.2.3.4"}) {
-    EXPECT_TRUE(IpAddress::isValidIpAddress(good)) << good;
-  }
-  for (const char* bad : {"", "1.2.3", "1.2.3.4.5", "256.1.1.1", "1..2.3", "1.2.3.4.", "a.b.c.d", "1.2.3.0004"}) {
-    EXPECT_FALSE(IpAddress::isValidIpAddress(bad)) << bad;
-  }
-  EXPECT_TRUE(IpAddress::isValidIpAddressAndMaskLen("10.0.0.0/8"));
-  EXPECT_TRUE(IpAddress::isValidIpAddressAndMaskLen("10.0.0.0/32"));
-  EXPECT_FALSE(IpAddress::isValidIpAddressAndMaskLen("10.0.0.0/33"));
-  EXPECT_FALSE(IpAddress::isValidIpAddressAndMaskLen("10.0.0.0/"));
-  EXPECT_FALSE(IpAddress::isValidIpAddressAndMaskLen("10.0.0.0"));
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
+// The design-note helpers: filter names and folders, and where a note is found.
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "TestFiles.h"
+#include "support/TestFiles.h"
+#include "support/CallTable.h"
 #include "notes/CDesignNoteHelper.h"
 #include "platform/MultiVendorFileSystem.h"
 #include "platform/PlatformOs.h"
@@ -12,25 +14,20 @@ namespace {
 
 const std::string kSep(1, platform::kPathSeparator);
 
-TEST(CDesignNoteHelperTest, MapFilterByKey) {
-  struct Row {
-    int key;
-    bool known;
-    std::string name;
+// The rows of tests/data/results/calls.tsv.
+TEST(CDesignNoteHelperTest, CallsGiveTheirRowsResult) {
+  const testsupport::Calls calls = {
+      {"uiListName", testsupport::oneText([](const std::string& kind) { return UIVariableType::toString(std::stoi(kind)); })},
+      {"isDefaultName", testsupport::oneWord(CDesignNoteHelper::IsDefaultName)},
+      {"mapFilter", testsupport::oneText([](const std::string& key) {
+         std::string name = "old", path = "old";
+         const bool known = CDesignNoteHelper::GetMapFilter(std::stoi(key), 0, name, path);
+         const std::string folder = MultiVendorFileSystem::s_DrMapPath + kSep;
+         return testsupport::joinFields({testsupport::yesNo(known), name,
+                                         path.compare(0, folder.size(), folder) == 0 ? path.substr(folder.size()) : path});
+       })},
   };
-  const Row rows[] = {{1, true, "Interface Name"},         {2, true, "Interface Protocol"},
-                      {3, false, "Configuration Summary"}, {4, false, "Configuration Summary"},
-                      {5, true, "Interface IP"},           {9, true, "BGP Neighbor"},
-                      {10, true, "Interface Name"},        {11, true, "Interface Protocol"},
-                      {13, true, "Interface NAT"},         {14, false, "Configuration Summary"},
-                      {-1, false, "Configuration Summary"}};
-  for (const Row& row : rows) {
-    std::string name = "old";
-    std::string path = "old";
-    EXPECT_EQ(CDesignNoteHelper::GetMapFilter(row.key, 0, name, path), row.known) << row.key;
-    EXPECT_EQ(name, row.name) << row.key;
-    EXPECT_EQ(path, MultiVendorFileSystem::s_DrMapPath + kSep + row.name) << row.key;
-  }
+  testsupport::runCallTable("results/calls.tsv", calls);
 }
 
 TEST(CDesignNoteHelperTest, FullConfigurationFilterHasNoFolder) {
@@ -39,20 +36,6 @@ TEST(CDesignNoteHelperTest, FullConfigurationFilterHasNoFolder) {
   EXPECT_TRUE(CDesignNoteHelper::GetFllConfigFilter(name, path));
   EXPECT_EQ(name, "Full Configuration");
   EXPECT_EQ(path, "Full Configuration");
-}
-
-TEST(CDesignNoteHelperTest, DefaultNames) {
-  const std::pair<const char*, bool> rows[] = {{"Global", true},
-                                               {"Map", true},
-                                               {"My Interface NAT copy", true},
-                                               {"BGP Neighbor", true},
-                                               {"global", false},
-                                               {"Map Filters", false},
-                                               {"Full Configuration", false},
-                                               {"Configuration Summary", false},
-                                               {"interface name", false}};
-  for (const auto& [name, expected] : rows)
-    EXPECT_EQ(CDesignNoteHelper::IsDefaultName(name), expected) << name;
 }
 
 TEST(CDesignNoteHelperTest, FilterFolders) {
@@ -76,19 +59,19 @@ TEST(CDesignNoteHelperTest, FilterFolders) {
 
 TEST(CDesignNoteHelperTest, ScriptExistsAsPyBeforeCmf) {
   std::string previous = platform::getEnv("VTYCONF_NOTES_DIR");
-  std::string root = resultstest::freshFolder("notes-root");
+  std::string root = testsupport::scratchFolder("notes-root");
   platform::setEnv("VTYCONF_NOTES_DIR", root);
   std::string mapDir = root + MultiVendorFileSystem::s_DrMapPath;
   platform::makeDir(mapDir);
 
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(1, 0));
-  resultstest::writeFile(mapDir + kSep + "Interface NAT.cmf", "");
+  testsupport::writeFile(mapDir + kSep + "Interface NAT.cmf", "");
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(13, 0));
-  resultstest::writeFile(mapDir + kSep + "Interface Name.py", "");
+  testsupport::writeFile(mapDir + kSep + "Interface Name.py", "");
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(1, 0));
   EXPECT_TRUE(CDesignNoteHelper::IsDrScriptExisted(10, 0));
   // An unknown key never exists, even when the summary script does.
-  resultstest::writeFile(mapDir + kSep + "Configuration Summary.cmf", "");
+  testsupport::writeFile(mapDir + kSep + "Configuration Summary.cmf", "");
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(3, 0));
   EXPECT_FALSE(CDesignNoteHelper::IsDrScriptExisted(9, 0));
 

@@ -33,24 +33,6 @@ TEST_F(DRCheckTest, MessagesByteForByte) {
   }
 }
 
-TEST_F(DRCheckTest, StackOverflowIsWrittenWithoutLineEndAndScanGoesOn) {
-  std::string expected = "***stack overflow*Unclosed parenthesis at EOF:  opened on line 0.\n";
-  for (int i = 0; i < 63; ++i) expected += "*Unclosed parenthesis at EOF: ) opened on line 1.\n";
-  expected += "Summary:\n63 too few 1 parentheses.\n";
-  EXPECT_EQ(check(std::string(64, '(')), expected);
-}
-
-TEST_F(DRCheckTest, LevelsPastTheStackReadAsEmptyWhenClosed) {
-  std::string text = std::string(70, '(') + std::string(70, ')');
-  std::string out = check(text);
-  // Seven overflows, then the levels above the stack close as nameless entries.
-  std::string overflows;
-  for (int i = 0; i < 7; ++i) overflows += "***stack overflow";
-  EXPECT_EQ(out.compare(0, overflows.size() + 1, overflows + "M"), 0) << out;
-  EXPECT_NE(out.find("\tMissing closing  opened line 0.\n"), std::string::npos);
-  EXPECT_NE(out.find("Summary:\n"), std::string::npos);
-}
-
 // Ten errors show nine and the notice; the count carries over to the next
 // check, which then shows one less.
 TEST_F(DRCheckTest, CountCarriesOverToNextCheckIntended) {
@@ -69,15 +51,6 @@ TEST_F(DRCheckTest, CountCarriesOverToNextCheckIntended) {
   // A clean check leaves the count where it stood.
   EXPECT_EQ(check(""), "");
   EXPECT_EQ(drcheck_detail::errorCount(), 1);
-}
-
-TEST_F(DRCheckTest, FatalMessagesAreNeverSuppressed) {
-  std::string text;
-  for (int i = 0; i < 12; ++i) text += "}\n";
-  text += "\"open";
-  std::string out = check(text);
-  EXPECT_NE(out.find("Other error messages being suppressed.\n"), std::string::npos);
-  EXPECT_NE(out.find("*Error: '\"' quoted string not ended by end of file.\n"), std::string::npos);
 }
 
 TEST_F(DRCheckTest, GetCharReducesWhiteSpaceAndComments) {

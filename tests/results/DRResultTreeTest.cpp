@@ -5,19 +5,19 @@
 #include <memory>
 #include <string>
 
-#include "TestFiles.h"
+#include "support/TestFiles.h"
 #include "results/DRResultTree.h"
 #include "results/SyntaxStringBuilder.h"
 #include "support/CaseFile.h"
 
 namespace {
 
-using resultstest::freshFolder;
-using resultstest::writeFile;
+using testsupport::scratchFolder;
+using testsupport::writeFile;
 
 std::unique_ptr<DRResultTree> treeOf(const std::string& content) {
   static int serial = 0;
-  std::string path = freshFolder("results-tree") + "r" + std::to_string(++serial) + ".txt";
+  std::string path = scratchFolder("results-tree") + "r" + std::to_string(++serial) + ".txt";
   writeFile(path, content);
   return std::make_unique<DRResultTree>(path);
 }
@@ -34,38 +34,30 @@ TEST(LineFormatTest, ParsesEveryForm) {
   }
 }
 
-TEST(LineFormatTest, MarkerAtStartStaysInTextIntended) {
-  LineFormat f("5:::!#tag#xyz#LineNumbers#3");
-  EXPECT_EQ(f.mText, "!#tag#xyz#LineNumbers#3 !xyz");
-  EXPECT_EQ(f.mLineCount, 3);
-  EXPECT_EQ(f.mTagKind, LineTagOpen);
-}
-
-TEST(LineFormatTest, CountTakenAtPositionTwelveWhenOnlyCountStandsInFrontIntended) {
-  LineFormat f("9:::0123456789ab42#LineNumbers# !#tag#z");
-  EXPECT_EQ(f.mText, "0123456789ab42#LineNumbers# !z");
-  EXPECT_EQ(f.mLineCount, 42);
-  EXPECT_EQ(f.mTagKind, LineTagOpen);
-}
-
-// The result files of tests/data/results/result_trees.txt.
+// The result files of tests/data/results/result_trees.txt: their tree and
+// the syntax string built from it.
 TEST(DRResultTreeTest, ReadsGroups) {
   for (const testsupport::Case& c : testsupport::readCases("results/result_trees.txt")) {
-    EXPECT_EQ(treeOf(c["file"])->dump(), c["dump"]) << c.where();
+    auto tree = treeOf(c["file"]);
+    testsupport::expectSection(c, "dump", tree->dump());
+    if (!c.has("syntax")) continue;
+    std::string text = c.get("syntax before");
+    std::list<int> closeLines;
+    for (const std::string& line : testsupport::splitFields(c.get("close lines before"), ' ')) {
+      if (!line.empty()) closeLines.push_back(std::stoi(line));
+    }
+    int counter = std::stoi(c.get("counter before", "0"));
+    EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter)) << c.where();
+    EXPECT_EQ(text, c["syntax"]) << c.where();
+    std::string lines;
+    for (int line : closeLines) lines += (lines.empty() ? "" : " ") + std::to_string(line);
+    EXPECT_EQ(lines, c["close lines"]) << c.where();
+    EXPECT_EQ(std::to_string(counter), c["counter"]) << c.where();
   }
 }
 
-TEST(DRResultTreeTest, LineHandedBackIsTakenPastCountIntended) {
-  // The inner group (line 2, reach 3) hands line 6 back when the outer group
-  // has taken its five lines already; the outer group takes it all the same.
-  auto tree = treeOf(
-      "1:::h !#tag##LineNumbers#5\n2:::a\n3:::b\n4:::c\n5:::d\n2:::x !#tag##LineNumbers#1\n6:::y\n7:::z\n");
-  EXPECT_EQ(tree->dump(),
-            "1|5|1|h\n  2|0|0|a\n  3|0|0|b\n  4|0|0|c\n  5|0|0|d\n  2|1|1|x\n  6|0|0|y\n7|0|0|z\n");
-}
-
 TEST(DRResultTreeTest, MissingFileGivesEmptyTree) {
-  DRResultTree tree(freshFolder("results-missing") + "nothing.txt");
+  DRResultTree tree(scratchFolder("results-missing") + "nothing.txt");
   EXPECT_TRUE(tree.isEmpty());
   EXPECT_TRUE(treeOf("")->isEmpty());
   EXPECT_FALSE(treeOf("x\n")->isEmpty());
@@ -79,39 +71,6 @@ TEST(DRResultTreeTest, GetAllLinesKeepsFirstTextAndSkipsUnnumbered) {
   second->getAllLines(lines);
   const std::map<int, std::string> expected{{5, "p"}, {6, "kept"}, {12, "first"}, {13, "b"}};
   EXPECT_EQ(lines, expected);
-}
-
-TEST(SyntaxStringTest, BlocksSeparatorsAndCloseLines) {
-  struct Row {
-    const char* name;
-    std::string file;
-    std::string textBefore;
-    std::list<int> closeBefore;
-    int counterBefore;
-    std::string text;
-    std::list<int> closeLines;
-    int counter;
-  };
-  const Row rows[] = {
-      // The separator behind "plain" is not counted: the counter runs one behind.
-      {"blocks and separators", "1:::a !#tag_close#x#LineNumbers#1\n2:::b\nplain\n3:::c\n", "", {}, 0,
-       "a !x\r\nb\r\n!\r\nplain\r\n!\r\nc\r\n!\r\n", {1}, 6},
-      {"adds to the caller's text and counter", "4:::x\n5:::y !#tag_close##LineNumbers#0\n", "head\r\n", {99}, 10,
-       "head\r\n!\r\nx\r\n!\r\ny\r\n!\r\n", {99, 13}, 14},
-      {"a closed tag below the top level is not named",
-       "1:::a !#tag#x#LineNumbers#2\n2:::b !#tag_close#y#LineNumbers#1\n3:::c\n", "", {}, 0,
-       "a !x\r\nb !y\r\nc\r\n!\r\n", {}, 4},
-  };
-  for (const Row& row : rows) {
-    auto tree = treeOf(row.file);
-    std::string text = row.textBefore;
-    std::list<int> closeLines = row.closeBefore;
-    int counter = row.counterBefore;
-    EXPECT_TRUE(results::buildSyntaxStringFromTree(tree.get(), 0, text, closeLines, counter)) << row.name;
-    EXPECT_EQ(text, row.text) << row.name;
-    EXPECT_EQ(closeLines, row.closeLines) << row.name;
-    EXPECT_EQ(counter, row.counter) << row.name;
-  }
 }
 
 TEST(SyntaxStringTest, NullTreeIsFalse) {

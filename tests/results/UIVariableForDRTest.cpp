@@ -1,81 +1,61 @@
+// The UI lists handed to a note: values by kind, and the files they are saved to.
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 
-#include "TestFiles.h"
+#include "support/CaseFile.h"
+#include "support/TestFiles.h"
 #include "platform/Pathname.h"
 #include "results/UIVariableForDR.h"
 
 namespace {
 
-using resultstest::freshFolder;
-using resultstest::readFile;
+using testsupport::scratchFolder;
+using testsupport::readFile;
 using Values = std::set<std::string>;
 
-TEST(UIVariableTypeTest, FileNames) {
-  const std::pair<int, const char*> rows[] = {{1, "UI_InterfaceList"}, {2, "UI_ProtocolList"},
-                                              {3, "UI_IPAddressList"}, {4, "UI_InterfaceNameList"},
-                                              {5, "UI_VrfNameList"},   {6, "UI_RouteMapNameList"},
-                                              {7, "UI_NATList"},       {0, "UI_Unknown"},
-                                              {8, "UI_Unknown"},       {-1, "UI_Unknown"}};
-  for (const auto& [kind, name] : rows) EXPECT_EQ(UIVariableType::toString(kind), name) << kind;
+// The cases of tests/data/results/ui_lists.txt.
+TEST(UIVariableForDRTest, ValuesGoIntoTheirListsAndFiles) {
+  for (const testsupport::Case& c : testsupport::readCases("results/ui_lists.txt")) {
+    UIVariableForDR ui("dev", 0);
+    std::string added, lists, files;
+    for (const std::string& line : testsupport::dataLines(c["add"])) {
+      const std::vector<std::string> row = testsupport::splitFields(line);
+      added += std::string(added.empty() ? "" : " ") + (ui.addVariableValue(std::stoi(row[0]), testsupport::unescaped(row[1])) ? "true" : "false");
+    }
+    for (const auto& [kind, values] : ui.getValues()) {
+      EXPECT_FALSE(ui.isEmpty(kind)) << c.where();
+      lists += std::to_string(kind) + ":";
+      for (const std::string& value : values) lists += (lists.back() == ':' ? " " : "|") + value;
+      lists += "\n";
+    }
+    const std::string dir = scratchFolder("ui-lists");
+    ASSERT_TRUE(ui.save(dir, true)) << c.where();
+    for (const Pathname& file : Pathname(dir).dirContents()) files += file.file() + ": " + readFile(file.data()) + "\n";
+    EXPECT_EQ(added, c["added"]) << c.where();
+    EXPECT_EQ(lists, testsupport::unescaped(c.get("lists", lists))) << c.where();
+    EXPECT_EQ(files, testsupport::unescaped(c.get("files", files))) << c.where();
+  }
 }
 
-TEST(UIVariableForDRTest, AddVariableValue) {
+TEST(UIVariableForDRTest, SaveReplacesAFileAndClearKeepsRootPathAndAction) {
   UIVariableForDR ui("dev", UIVariableAction::Click);
-  EXPECT_FALSE(ui.addVariableValue(0, "x"));
-  EXPECT_TRUE(ui.getValues().empty());
-
-  EXPECT_TRUE(ui.addVariableValue(UIVariableType::IPAddressList, "10.0.0.1\r"));
-  EXPECT_TRUE(ui.addVariableValue(UIVariableType::IPAddressList, "a\rb\rc"));
-  EXPECT_EQ(ui.getValues().at(3), (Values{"10.0.0.1", "a\rb"}));
-
-  EXPECT_TRUE(ui.isEmpty(UIVariableType::InterfaceList));
-  EXPECT_TRUE(ui.isEmpty(UIVariableType::InterfaceNameList));
-  ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/1");
-  ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/1");
-  EXPECT_FALSE(ui.isEmpty(UIVariableType::InterfaceList));
-  EXPECT_FALSE(ui.isEmpty(UIVariableType::InterfaceNameList));
-  EXPECT_EQ(ui.getValues().at(1), Values{"interface Gi0/1"});
-  EXPECT_EQ(ui.getValues().at(4), Values{"Gi0/1"});
-
-  ui.addVariableValue(UIVariableType::InterfaceNameList, "Gi0/2");
-  EXPECT_EQ(ui.getValues().at(1), Values{"interface Gi0/1"});
-  EXPECT_EQ(ui.getValues().at(4), (Values{"Gi0/1", "Gi0/2"}));
-
-  EXPECT_TRUE(ui.addVariableValue(42, "beyond the known kinds"));
-  EXPECT_FALSE(ui.isEmpty(42));
-
+  EXPECT_TRUE(ui.isEmpty(1));
+  ui.addVariableValue(UIVariableType::NATList, "x");
+  const std::string dir = scratchFolder("ui-replace");
+  testsupport::writeFile(dir + "UI_NATList.txt", "an older list\r\n");
+  ASSERT_TRUE(ui.save(dir, true));
+  EXPECT_EQ(readFile(dir + "UI_NATList.txt"), "x\r\n");
   ui.setRootPath("sub");
   ui.clear();
-  EXPECT_TRUE(ui.isEmpty(1));
+  EXPECT_TRUE(ui.isEmpty(7));
   EXPECT_EQ(ui.getRootPath(), "sub");
   EXPECT_EQ(ui.getUiAction(), UIVariableAction::Click);
 }
 
-TEST(UIVariableForDRTest, SaveWritesOneSortedFilePerList) {
-  std::string dir = freshFolder("ui-save");
-  UIVariableForDR ui("dev", 0);
-  ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/2");
-  ui.addVariableValue(UIVariableType::InterfaceList, "Gi0/1");
-  ui.addVariableValue(UIVariableType::NATList, "ip nat inside source static 10.0.0.1 1.1.1.1");
-  ASSERT_TRUE(ui.save(dir, true));
-  EXPECT_EQ(readFile(dir + "UI_InterfaceList.txt"), "interface Gi0/1\r\ninterface Gi0/2\r\n");
-  EXPECT_EQ(readFile(dir + "UI_InterfaceNameList.txt"), "Gi0/1\r\nGi0/2\r\n");
-  EXPECT_EQ(readFile(dir + "UI_NATList.txt"), "ip nat inside source static 10.0.0.1 1.1.1.1\r\n");
-  EXPECT_FALSE(Pathname(dir + "UI_ProtocolList.txt").exists());
-  EXPECT_EQ(Pathname(dir).dirContents().size(), 3u);
-
-  // An existing file is replaced.
-  UIVariableForDR other("dev", 0);
-  other.addVariableValue(UIVariableType::NATList, "x");
-  ASSERT_TRUE(other.save(dir, true));
-  EXPECT_EQ(readFile(dir + "UI_NATList.txt"), "x\r\n");
-}
-
 TEST(UIVariableForDRTest, SaveFolders) {
-  std::string dir = freshFolder("ui-folders");
+  std::string dir = scratchFolder("ui-folders");
   UIVariableForDR empty("dev", 0);
   EXPECT_TRUE(empty.save(dir, false));
   EXPECT_TRUE(Pathname(dir).dirContents().empty());
@@ -95,15 +75,6 @@ TEST(UIVariableForDRTest, SaveFolders) {
   std::string noSeparator = dir.substr(0, dir.size() - 1);
   EXPECT_TRUE(ui.save(noSeparator, false));
   EXPECT_EQ(readFile(dir + "sub" + platform::kPathSeparator + "UI_VrfNameList.txt"), "blue\r\n");
-}
-
-TEST(UIVariableForDRTest, UnknownKindsShareOneFileLaterWinsIntended) {
-  std::string dir = freshFolder("ui-unknown");
-  UIVariableForDR ui("dev", 0);
-  ui.addVariableValue(9, "nine");
-  ui.addVariableValue(8, "eight");
-  ASSERT_TRUE(ui.save(dir, true));
-  EXPECT_EQ(readFile(dir + "UI_Unknown.txt"), "nine\r\n");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Runs small Perl programs built the way translated notes are (a head, a body
 // that calls the runtime, "close OUTFILE;" and the runtime text) over a small
-// configuration, and compares what they write to the result file.
+// configuration (tests/data/runtime/config.cfg), and compares what they write
+// to the result file.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -17,29 +18,6 @@
 
 namespace {
 
-const char kConfig[] =
-    "hostname r1\r\n"                              // 1
-    "!\r\n"                                        // 2
-    "interface Gi0/1\r\n"                          // 3
-    " description uplink\r\n"                      // 4
-    " ip address 10.1.1.1 255.255.255.0\r\n"       // 5
-    "!\r\n"                                        // 6
-    "interface Gi0/2\r\n"                          // 7
-    " ip address 10.2.2.1 255.255.255.0\r\n"       // 8
-    " shutdown\r\n"                                // 9
-    "!\r\n"                                        // 10
-    "interface Loopback0\r\n"                      // 11
-    " ip address 192.168.0.1 255.255.255.255\r\n"  // 12
-    "!\r\n"                                        // 13
-    "router bgp 65000\r\n"                         // 14
-    " neighbor 10.1.1.2 remote-as 65001\r\n"       // 15
-    " address-family ipv4\r\n"                     // 16
-    "  neighbor 10.1.1.2 activate\r\n"             // 17
-    " exit-address-family\r\n"                     // 18
-    "!\r\n"                                        // 19
-    "ip route 0.0.0.0 0.0.0.0 10.1.1.254\r\n"      // 20
-    "ip route 10.9.0.0 255.255.0.0 10.2.2.9\r\n"   // 21
-    "end\r\n";                                     // 22
 
 // The same head in a form that is quiet under -w; standard error goes to the
 // file named by a fourth argument so that warnings can be checked.
@@ -63,7 +41,7 @@ class DRFunctionsTest : public ::testing::Test {
     ASSERT_FALSE(mRuntime.empty()) << QXFileSystem::GetScriptFilePath("DRFunctions");
     mDir = testsupport::scratchFolder(std::string("runtime-") +
                                       ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    writeFile(mDir + "config.cfg", kConfig);
+    writeFile(mDir + "config.cfg", testsupport::readDataFile("runtime/config.cfg"));
   }
 
   // Runs body under -w with the quiet head; expects no warnings and returns

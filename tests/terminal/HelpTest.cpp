@@ -1,3 +1,4 @@
+// Hints at the end of a configuration: every level asked with its prompt.
 #include <gtest/gtest.h>
 
 #include "config/QxParserUtil.h"
@@ -8,25 +9,7 @@ using namespace qxparser;
 
 namespace {
 
-class HelpTest : public testsupport::TerminalFixture {
- protected:
-  void SetUp() override {
-    TerminalFixture::SetUp();
-    vty_->parse("enable", true, nullptr);
-    vty_->parse("configure terminal", true, nullptr);
-    take();
-  }
-  std::string ask(const std::string& line) {
-    vty_->hook(line);
-    return take();
-  }
-};
-
-// The key of a value is the typed word, never a placeholder form, so a value
-// is completed like a keyword, with a blank behind it.
-TEST_F(HelpTest, ValueIsCompletedLikeAKeywordIntended) {
-  EXPECT_EQ(ask("hostname R\t"), "hostname R ");
-}
+using HelpTest = testsupport::TerminalFixture;
 
 TEST_F(HelpTest, HintsAskEveryLevelWithItsPrompt) {
   std::string config = "interface Ethernet0\n description x\n";

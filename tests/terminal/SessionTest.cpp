@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,17 @@ std::string readAtConfiguration(const std::string& text) {
   return out;
 }
 
+// The terminal after a line and the record it filled: levels, complete line,
+// last error; nodes, nested commands, "no" and the rebuilt text of the record.
+std::string state(const qxparser::VTY& vty, qxparser::CiscoCommandLine& record) {
+  std::string complete;
+  vty.getCompleteLine(complete);
+  return "levels=" + std::to_string(vty.levelCount()) + " line=" + complete + " error=" + vty.lastError() +
+         " nodes=" + std::to_string(record.getTreeNodeSize()) + " subs=" +
+         std::to_string(record.getSubCommands().size()) + (record.hasFlags(qxparser::CMDBIT_NO) ? " no" : "") +
+         " text=" + record.genCommandStr();
+}
+
 TEST_F(SessionTest, StepsAnswerAsTheirCaseSays) {
   for (const testsupport::Case& c : testsupport::readCases("terminal/sessions.txt")) {
     if (c.has("read")) {
@@ -56,6 +68,7 @@ TEST_F(SessionTest, StepsAnswerAsTheirCaseSays) {
     }
     qxparser::VTY vty("R1", c.get("replay") != "yes");
     std::string action, expected;
+    auto record = std::make_unique<qxparser::CiscoCommandLine>();
     auto checkOutput = [&] {
       std::string output;
       vty.getOutputString(output);
@@ -70,13 +83,18 @@ TEST_F(SessionTest, StepsAnswerAsTheirCaseSays) {
         std::string prompt;
         vty.getPrompt(prompt);
         EXPECT_EQ(vty.getHostName() + prompt, text) << c.where() << " after " << action;
+      } else if (step[0] == '&') {
+        EXPECT_EQ(state(vty, *record), text) << c.where() << " after " << action;
       } else {
         if (!action.empty()) checkOutput();
         action = step;
         if (step[0] == '?') {
           vty.hook(text);
         } else {
-          EXPECT_EQ(vty.parse(text, true, nullptr), step[0] == '+') << c.where() << ": " << step;
+          record = std::make_unique<qxparser::CiscoCommandLine>();
+          const bool withRecord = step[0] == '*' || step[0] == '/';
+          EXPECT_EQ(vty.parse(text, true, withRecord ? record.get() : nullptr), step[0] == '+' || step[0] == '*')
+              << c.where() << ": " << step;
         }
       }
     }

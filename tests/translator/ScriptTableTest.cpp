@@ -10,7 +10,7 @@ TEST(DRTranslatorTable, ScriptsTranslateToTheirBodyOrMessage) {
   for (const testsupport::Case& c : testsupport::readCases("translator/scripts.txt")) {
     SCOPED_TRACE(c.where());
     if (c.has("message")) {
-      translatortest::expectMessages({{c["script"], c["message"]}});
+      translatortest::expectMessage(c["script"], c["message"]);
     } else {
       EXPECT_EQ(translatortest::validBody(c["script"], c.get("perl") != "no"), c["body"]);
     }
@@ -33,7 +33,9 @@ std::vector<std::string> parts(const std::string& joined) {
 TEST(DRTranslatorTable, TextsAreCutIntoTheirWordsAndArguments) {
   for (const testsupport::Case& c : testsupport::readCases("translator/reading.txt")) {
     if (c.has("words")) {
-      EXPECT_EQ(DRTranslatorTestAccess::words(c["text"]), parts(c["words"])) << c.where();
+      std::string rest;
+      EXPECT_EQ(DRTranslatorTestAccess::words(c["text"], &rest), parts(c["words"])) << c.where();
+      testsupport::expectSection(c, "rest", rest);
       continue;
     }
     if (c.has("pattern")) {

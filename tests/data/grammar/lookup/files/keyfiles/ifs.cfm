@@ -1,0 +1,3 @@
+ethernet|e
+loopback|l
+<0-7>|unit
