@@ -1140,24 +1140,24 @@ route|establish static routes|k||
           a.b.c.d|forwarding router's address|k||
             <cr>||||
             !
-            id|distance metric|||
+            id|distance metric|o||
               <cr>||||
               !
-              line|line|lb/le/wa||
+              line|line|lb/le/wa/o||
                 <cr>||||
                 !
               !
             !
-            line|line|lb/le/wa||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          id|distance metric|||
+          id|distance metric|o||
             <cr>||||
             !
           !
-          line|line|lb/le/wa||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -1166,15 +1166,15 @@ route|establish static routes|k||
       a.b.c.d|forwarding router's address|k||
         <cr>||||
         !
-        id|distance metric|||
+        id|distance metric|o||
           <cr>||||
           !
-          line|line|lb/le/wa||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
         !
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !

@@ -268,15 +268,15 @@ route "establish static routes"
     a.b.c.d/mask :k "destination prefix mask"
       %IF
         a.b.c.d :k "forwarding router's address" $
-          id "distance metric" $
-            line *
-          line *
-        id "distance metric" $
-        line *
+          id :o "distance metric" $
+            line * :o
+          line * :o
+        id :o "distance metric" $
+        line * :o
       a.b.c.d :k "forwarding router's address" $
-        id "distance metric" $
-          line *
-        line *
+        id :o "distance metric" $
+          line * :o
+        line * :o
       dhcp $
         id $
   vrf

@@ -25,13 +25,15 @@ const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& record
   return nullptr;
 }
 
-// A "no" form of `from` that the comparison takes for `command`.
-bool onlyNegated(const std::vector<CiscoCommandLine*>& from, CiscoCommandLine& command) {
-  for (CiscoCommandLine* record : from) {
-    if (record->getTreeNodeSize() > 0 && record->hasFlags(CMDBIT_NO) && !record->hasFlags(CMDBIT_STORED) &&
-        record->isComparable(&command) && command.isNoable(record)) {
-      return true;
-    }
+// Ordered lists and BGP have rules of their own (whole numbered lists,
+// entries by sequence, neighbours): their lines are never added one by one.
+bool keptWhole(const CiscoCommandLine& command) {
+  static const char* const kinds[] = {"access-list ",        "ip access-list ", "ipv6 access-list ", "ip prefix-list ",
+                                      "ipv6 prefix-list ",   "route-map ",      "router bgp ",       "object-group ",
+                                      "ip as-path ",         "ip community-list ", "ip extcommunity-list ", "banner "};
+  const std::string& text = command.getOriginalCmd();
+  for (const char* kind : kinds) {
+    if (text.compare(0, std::char_traits<char>::length(kind), kind) == 0) return true;
   }
   return false;
 }
@@ -45,14 +47,20 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
     }
     const CiscoCommandLine* same = sameCommand(from, *command);
     if (same) {
-      if (command->hasFlags(CMDBIT_OPENS_MODE)) {
+      if (command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
         collect(same->getChildCommands(), command->getChildCommands(),
                 heads + indent + trimmed(command->getOriginalCmd()) + "\n", depth + 1, out);
       }
-    } else if (!command->hasFlags(CMDBIT_OPENS_MODE) && onlyNegated(from, *command)) {
+    } else if (!command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
       out += heads + indent + trimmed(command->getOriginalCmd()) + "\n";
     }
   }
+}
+
+bool sameText(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
+  const std::string text = trimmed(wanted.getOriginalCmd());
+  return std::any_of(records.begin(), records.end(),
+                     [&text](const CiscoCommandLine* record) { return trimmed(record->getOriginalCmd()) == text; });
 }
 
 CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
@@ -500,12 +508,48 @@ void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<Cis
       graft(record->getChildCommands(), head->getChildCommands(), head);
       std::vector<CiscoCommandLine*> alone{record};
       QxParserUtil::deleteCommands(alone);
+    } else if (!record->hasFlags(CMDBIT_OPENS_MODE) && sameText(into, *record)) {
+      // A command that `into` holds already is not written twice.
+      std::vector<CiscoCommandLine*> alone{record};
+      QxParserUtil::deleteCommands(alone);
     } else {
       record->setParentCommand(parent, false);
       into.push_back(record);
     }
   }
   extra.clear();
+}
+
+std::string DeviceMeaning::settledText(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  // Per mode block: the last line of each command, by its words without "no".
+  std::map<std::string, size_t> last;
+  std::string head;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    std::string line = lines[i];
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    const size_t lead = line.find_first_not_of(' ');
+    if (lead == std::string::npos || line[lead] == '!') continue;
+    if (lead == 0) head = line;
+    const std::string words = trimmed(line.substr(lead));
+    const bool negated = startsWith(words, "no ");
+    const std::string key = (lead == 0 ? std::string() : head) + "\n" + std::to_string(lead) + " " +
+                            (negated ? words.substr(3) : words);
+    const auto found = last.find(key);
+    if (found != last.end()) {
+      std::string before = trimmed(lines[found->second]);
+      before.erase(0, before.find_first_not_of(' '));
+      // The later line undoes the earlier one: the earlier one says nothing.
+      if (startsWith(before, "no ") != negated) lines[found->second] = std::string(lead, ' ') + "!";
+    }
+    last[key] = i;
+  }
+  std::string out;
+  for (const std::string& line : lines) out += line + "\n";
+  if (!text.empty() && text.back() != '\n' && !out.empty()) out.pop_back();
+  return out;
 }
 
 }  // namespace qxparser

@@ -25,7 +25,11 @@ namespace qxparser {
 class DeviceMeaning {
  public:
   // The positive commands of `to` (with their mode heads, as text one blank
-  // of indent per level) that `from` states only in their "no" form.
+  // of indent per level) that `from` does not hold as they stand: those it
+  // states only in their "no" form, and those whose value changed where the
+  // comparison by grammar path takes the two for one command and writes only
+  // the "no" of the old one (a static route given a distance). Ordered lists,
+  // BGP and banners are left to their own rules.
   static std::string missedCommands(const std::vector<CiscoCommandLine*>& from,
                                     const std::vector<CiscoCommandLine*>& to);
 
@@ -87,8 +91,15 @@ class DeviceMeaning {
   static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
 
+  // `text` with each line that a later line of the same mode block undoes
+  // ("no shutdown" behind "shutdown", or the other way round) turned into a
+  // comment line of its indent: the device is left in the later line's state,
+  // and the line numbers stay as they were.
+  static std::string settledText(const std::string& text);
+
   // Moves the records of `extra` into `into`: a mode head that `into` holds
-  // already takes the children, any other record is appended. `extra` is
+  // already takes the children, a command it holds already is dropped, any
+  // other record is appended. `extra` is
   // left empty; what it held is owned by `into` or freed.
   static void graft(std::vector<CiscoCommandLine*>& extra, std::vector<CiscoCommandLine*>& into,
                     CiscoCommandLine* parent);

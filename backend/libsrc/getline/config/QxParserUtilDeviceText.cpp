@@ -187,9 +187,11 @@ std::string QxParserUtil::deviceText(const std::string& text) {
   return DeviceTextWriter::write(records, DeviceTextWriter::kSpellAll);
 }
 
-std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
+std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstGiven, const std::string& secondGiven,
                                                        unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                                        std::vector<RefusedLine>* secondRefused) {
+  const std::string first = DeviceMeaning::settledText(firstGiven);
+  const std::string second = DeviceMeaning::settledText(secondGiven);
   const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
   // A configuration's own spelling first: in delta mode the change set was
