@@ -2167,7 +2167,7 @@ gatekeeper|gatekeeper configuration|k||
   !
 !
 track|object tracking|k||
-  id|id|k||
+  id|id|k/n||
     ip|ip|k||
       sla|sla|k||
         id|id|k||
@@ -3407,8 +3407,8 @@ aaa|authentication, authorization and accounting|k||
   !
   authentication|authentication|k||
     login|login|k||
-      word|word|k||
-        line|line|lb/le/wa||
+      word|word|k/n||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
@@ -3846,9 +3846,9 @@ ntp|configure ntp|k||
     !
   !
   authentication-key|authentication-key|k||
-    id|id|k||
+    id|id|k/n||
       md5|md5|k||
-        word|word|||
+        word|word|o||
           id|id|||
             <cr>||||
             !
@@ -4208,7 +4208,7 @@ logging|modify message logging facilities|k||
 !
 snmp-server|modify snmp engine parameters|k||
   community|community|k||
-    word|word|k||
+    word|word|k/n||
       view|view|o||
         word|word|||
           line|line|lb/le/wa||
@@ -4324,8 +4324,20 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
   view|view|k||
-    line|line|lb/le/wa||
-      <cr>||||
+    word|word|k||
+      word|word|k/n||
+        included|included|o||
+          <cr>||||
+          !
+        !
+        excluded|excluded|o||
+          <cr>||||
+          !
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
       !
     !
   !

@@ -1185,6 +1185,24 @@ crypto|encryption/decryption commands|k||
       !
     !
   !
+  ipsec|ipsec settings|k||
+    client|easy vpn client|k||
+      ezvpn|easy vpn remote of this interface|k||
+        word|word|k||
+          <cr>||||
+          !
+          inside|inside|o||
+            <cr>||||
+            !
+          !
+          outside|outside|o||
+            <cr>||||
+            !
+          !
+        !
+      !
+    !
+  !
 !
 service-policy|configure qos service policy|k||
   input|input|k||

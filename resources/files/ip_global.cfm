@@ -95,7 +95,7 @@ domain|domain name system|k||
       !
     !
   !
-  name|name|k/o||
+  name|name|k/o/n||
     word|word|o||
       <cr>||||
       !
@@ -110,7 +110,7 @@ domain|domain name system|k||
     !
   !
   list|list|k||
-    word|word|||
+    word|word|k||
       <cr>||||
       !
     !

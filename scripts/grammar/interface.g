@@ -373,6 +373,12 @@ crypto "encryption/decryption commands"
     word :o $
       redundancy
         line *
+  ipsec "ipsec settings"
+    client "easy vpn client"
+      ezvpn "easy vpn remote of this interface"
+        word :k $
+          inside :-k/o $
+          outside :-k/o $
 service-policy "configure qos service policy"
   input
     word :k $

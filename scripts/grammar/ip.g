@@ -29,13 +29,13 @@ domain "domain name system"
     source-interface
       %IFONE
     nsap "nsap lookups" $
-  name :o
+  name :o/n
     word :o $
     vrf
       word :k
         word $
   list
-    word $
+    word :k $
   timeout
     id $
   retry

@@ -516,7 +516,7 @@ netconf "configure netconf"
   line *
 gatekeeper "gatekeeper configuration" @(config-gk)#=gatekeeper.cfm
 track "object tracking"
-  id :k
+  id :k/n
     ip
       sla
         id :k @(config-track)#=track.cfm

@@ -388,15 +388,38 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
     const std::string kind = numberedKind(*record, own);
     if (kind.empty()) continue;
+    // Before the first one of its kind with a higher number, else behind
+    // the last one of its kind.
+    size_t place = records.size();
+    size_t lastOfKind = records.size();
     for (size_t to = 0; to < records.size(); ++to) {
       std::vector<long> other;
-      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other)) continue;
-      if (to < i) {
-        records.erase(records.begin() + static_cast<long>(i));
-        records.insert(records.begin() + static_cast<long>(to), record);
+      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind) continue;
+      lastOfKind = to;
+      if (own < other) {
+        place = to;
+        break;
       }
-      break;
     }
+    if (place == records.size() && lastOfKind != records.size()) place = lastOfKind + 1;
+    if (place >= records.size() || place == i || place == i + 1) continue;
+    records.erase(records.begin() + static_cast<long>(i));
+    records.insert(records.begin() + static_cast<long>(place < i ? place : place - 1), record);
+  }
+}
+
+void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {
+  std::set<std::string> seen;
+  for (auto it = records.begin(); it != records.end();) {
+    CiscoCommandLine* record = *it;
+    const bool leaf = record->getTreeNodeSize() > 0 && record->getChildCommands().empty();
+    if (leaf && !seen.insert(trimmed(record->getOriginalCmd())).second) {
+      freeRecord(record);
+      it = records.erase(it);
+      continue;
+    }
+    dropRepeats(record->getChildCommands());
+    ++it;
   }
 }
 

@@ -82,7 +82,8 @@ class DeviceMeaning {
 
   // A top-level "vlan N", "interface TYPE N" or "ip route ..." that a merge
   // added stands where the device shows it: before the first one of its
-  // kind (same interface type) with a higher number.
+  // kind (same interface type) with a higher number, else behind the last
+  // one of its kind.
   static void placeInNumberOrder(std::vector<CiscoCommandLine*>& records);
 
   // Takes out of a rollback `out` each "no X" whose X stands unchanged in both
@@ -90,6 +91,10 @@ class DeviceMeaning {
   // comparison by grammar path negated a line that nobody changed.
   static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
+
+  // Takes out of a rollback each command that its mode states a second time
+  // (the comparison and the lines it misses may both write it).
+  static void dropRepeats(std::vector<CiscoCommandLine*>& records);
 
   // `text` with each line that a later line of the same mode block undoes
   // ("no shutdown" behind "shutdown", or the other way round) turned into a

@@ -218,6 +218,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
   DeviceMeaning::orderNeighbours(out);
+  DeviceMeaning::dropRepeats(out);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
