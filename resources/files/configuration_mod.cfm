@@ -1227,37 +1227,37 @@ enable|modify enable password parameters|k||
   !
 !
 banner|define a login banner|k||
-  motd|motd|k||
+  motd|motd|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  login|login|k||
+  login|login|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  exec|exec|k||
+  exec|exec|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  incoming|incoming|k||
+  incoming|incoming|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  slip-ppp|slip-ppp|k||
+  slip-ppp|slip-ppp|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  prompt-timeout|prompt-timeout|k||
+  prompt-timeout|prompt-timeout|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !

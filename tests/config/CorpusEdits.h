@@ -159,9 +159,14 @@ inline std::string edited(const std::string& a, int seed) {
   editManagement(lines, seed, extras);
   std::string out;
   bool placed = false;
-  for (const std::string& line : lines) {
+  // Behind the last block, ahead of "end" (or of a banner that the file
+  // leaves open at its end, whose text would take them).
+  const std::vector<size_t> banners = heads(lines, "banner ");
+  const size_t before = banners.empty() ? std::string::npos : banners.back();
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string& line = lines[i];
     if (line == kGone) continue;
-    if (!placed && line == "end") {
+    if (!placed && (line == "end" || (i == before && heads(lines, "end").empty()))) {
       out += extras;
       placed = true;
     }

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 
 #include "config/DeviceTextReader.h"
@@ -99,6 +100,11 @@ long sequenceOf(const CiscoCommandLine& entry) {
 }
 
 bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+
+std::string lastLineOf(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  return cut == std::string::npos ? raw : raw.substr(cut + 1);
+}
 
 // The neighbour of a "no neighbor X remote-as ..." line, or "".
 std::string goneNeighbour(const CiscoCommandLine& record) {
@@ -573,6 +579,96 @@ std::string DeviceMeaning::settledText(const std::string& text) {
   for (const std::string& line : lines) out += line + "\n";
   if (!text.empty() && text.back() != '\n' && !out.empty()) out.pop_back();
   return out;
+}
+
+namespace {
+
+// "banner motd" for a banner record ("" for any other record).
+std::string bannerKind(const CiscoCommandLine& record) {
+  std::istringstream words(record.getOriginalCmd());
+  std::string banner, kind;
+  words >> banner >> kind;
+  return banner == "banner" && !kind.empty() ? banner + " " + kind : std::string();
+}
+
+// The banner as the device shows it: its line, its text, its closing line.
+std::string bannerText(const CiscoCommandLine& record) {
+  std::string text = lastLineOf(record.getRawText().empty() ? record.getOriginalCmd() : record.getRawText()) + "\n";
+  for (const CiscoCommandLine* line : record.getChildCommands()) {
+    text += (line->getRawText().empty() ? line->getOriginalCmd() : line->getRawText()) + "\n";
+  }
+  return text;
+}
+
+std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records) {
+  std::map<std::string, std::string> banners;
+  for (const CiscoCommandLine* record : records) {
+    const std::string kind = bannerKind(*record);
+    if (!kind.empty() && !record->hasFlags(CMDBIT_NO)) banners[kind] = bannerText(*record);
+  }
+  return banners;
+}
+
+}  // namespace
+
+void DeviceMeaning::replaceBanners(const std::vector<CiscoCommandLine*>& changes,
+                                   std::vector<CiscoCommandLine*>& config) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* change : changes) {
+    const std::string kind = bannerKind(*change);
+    if (!kind.empty()) given.insert(kind);
+  }
+  for (auto it = config.begin(); it != config.end();) {
+    if (given.count(bannerKind(**it))) {
+      freeRecord(*it);
+      it = config.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
+std::string DeviceMeaning::changedBanners(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+                                          const std::vector<CiscoCommandLine*>& to) {
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string text = trimmed((*it)->getOriginalCmd());
+    // "no ^C": a closing delimiter that the comparison took for a command.
+    const bool stray = startsWith(text, "no ") && text.size() > 3 && text.find(' ', 3) == std::string::npos &&
+                       !std::isalnum(static_cast<unsigned char>(text[3]));
+    if (!bannerKind(**it).empty() || startsWith(text, "no banner ") || stray) {
+      freeRecord(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  const auto before = bannersOf(from);
+  const auto after = bannersOf(to);
+  std::string text;
+  for (const auto& [kind, banner] : before) {
+    if (!after.count(kind)) text += "no " + kind + "\n";
+  }
+  for (const auto& [kind, banner] : after) {
+    const auto found = before.find(kind);
+    if (found == before.end() || found->second != banner) text += banner;
+  }
+  return text;
+}
+
+void DeviceMeaning::keepBeforeEnd(std::vector<CiscoCommandLine*>& records) {
+  int endLine = -1;
+  for (const CiscoCommandLine* record : records) {
+    const std::string& raw = record->getRawText().empty() ? record->getOriginalStr() : record->getRawText();
+    if (record->getFlag() == CMD_TEXT && trimmed(lastLineOf(raw)) == "end") {
+      endLine = record->getLineNo();
+      break;
+    }
+  }
+  if (endLine < 1) return;
+  const auto after = std::find_if(records.begin(), records.end(), [endLine](const CiscoCommandLine* record) {
+    return record->getFlag() != CMD_TEXT && record->getLineNo() > endLine;
+  });
+  std::stable_partition(after, records.end(), [](const CiscoCommandLine* record) { return isAdded(*record); });
 }
 
 }  // namespace qxparser

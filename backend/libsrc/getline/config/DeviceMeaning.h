@@ -92,6 +92,21 @@ class DeviceMeaning {
   static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
 
+  // A command that a merge added stands ahead of the lines read behind the
+  // configuration's "end" (a prompt, a capture's tail): those are no
+  // configuration, and a reader stops at "end".
+  static void keepBeforeEnd(std::vector<CiscoCommandLine*>& records);
+
+  // Takes out of `config` each banner of a kind that `changes` gives anew:
+  // the device replaces a banner's whole text.
+  static void replaceBanners(const std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
+
+  // Takes every banner line out of a rollback `out` and returns, as text,
+  // what turns the banners of `from` into those of `to`: "no banner KIND"
+  // for one that goes, the whole banner for one that comes or changed.
+  static std::string changedBanners(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+                                    const std::vector<CiscoCommandLine*>& to);
+
   // Takes out of a rollback each command that its mode states a second time
   // (the comparison and the lines it misses may both write it).
   static void dropRepeats(std::vector<CiscoCommandLine*>& records);

@@ -95,7 +95,7 @@ void addMissedCommands(const std::string& first, const std::string& second, std:
       ++it;
     }
   }
-  missed += lists;
+  missed += lists + DeviceMeaning::changedBanners(out, from, to);
   if (missed.empty()) return;
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
@@ -153,11 +153,13 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
   DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
+  DeviceMeaning::replaceBanners(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
   DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
   DeviceMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
+  DeviceMeaning::keepBeforeEnd(configCmds);
   return DeviceTextWriter::write(configCmds);
 }
 
