@@ -7,6 +7,7 @@
 // three seeds edit three different places of it.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <string>
@@ -18,6 +19,7 @@ namespace corpusedits {
 using Lines = std::vector<std::string>;
 
 inline bool starts(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+inline bool isEnd(const std::string& line) { return line.compare(0, 3, "end") == 0 && line.find_first_not_of(' ', 3) == std::string::npos; }
 inline bool top(const std::string& line) { return !line.empty() && line[0] != ' ' && line[0] != '!'; }
 
 // The index behind the block that the top-level line `at` opens.
@@ -93,7 +95,8 @@ inline void editLists(Lines& lines, int seed, std::string& extras) {
   if (named == std::string::npos || seed == 0) return;
   const size_t end = blockEnd(lines, named);
   if (seed == 1 && end - named > 2) lines[named + 1] = kGone;
-  if (seed == 2) lines[named] += "\n permit tcp host 192.0.2.7 any eq 443";
+  // A new entry without a sequence number goes behind the others.
+  if (seed == 2) lines[end - 1] += "\n permit tcp host 192.0.2.7 any eq 443";
 }
 
 inline void editRouting(Lines& lines, int seed, std::string& extras) {
@@ -166,7 +169,7 @@ inline std::string edited(const std::string& a, int seed) {
   for (size_t i = 0; i < lines.size(); ++i) {
     const std::string& line = lines[i];
     if (line == kGone) continue;
-    if (!placed && (line == "end" || (i == before && heads(lines, "end").empty()))) {
+    if (!placed && (isEnd(line) || (i == before && std::none_of(lines.begin(), lines.end(), isEnd)))) {
       out += extras;
       placed = true;
     }

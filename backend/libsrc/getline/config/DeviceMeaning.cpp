@@ -671,4 +671,18 @@ void DeviceMeaning::keepBeforeEnd(std::vector<CiscoCommandLine*>& records) {
   std::stable_partition(after, records.end(), [](const CiscoCommandLine* record) { return isAdded(*record); });
 }
 
+void DeviceMeaning::settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& records, bool addedOnly) {
+  for (CiscoCommandLine* record : records) {
+    if (!startsWith(record->getOriginalCmd(), "interface ")) continue;
+    std::vector<CiscoCommandLine*>& inner = record->getChildCommands();
+    const auto firstMode = std::find_if(inner.begin(), inner.end(), [addedOnly](const CiscoCommandLine* line) {
+      return line->hasFlags(CMDBIT_OPENS_MODE) && !(addedOnly && isAdded(*line));
+    });
+    std::stable_partition(firstMode, inner.end(), [addedOnly](const CiscoCommandLine* line) {
+      return (!addedOnly || isAdded(*line)) && line->getTreeNodeSize() > 0 && line->getChildCommands().empty() &&
+             !line->hasFlags(CMDBIT_OPENS_MODE);
+    });
+  }
+}
+
 }  // namespace qxparser

@@ -92,6 +92,11 @@ class DeviceMeaning {
   static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
                                      const std::vector<CiscoCommandLine*>& to);
 
+  // A setting of an interface stands ahead of the interface's sub-mode
+  // blocks (a "pvc"): behind them the device would take it for a line of the
+  // sub-mode. `addedOnly`: only the settings that a merge added move.
+  static void settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& records, bool addedOnly);
+
   // A command that a merge added stands ahead of the lines read behind the
   // configuration's "end" (a prompt, a capture's tail): those are no
   // configuration, and a reader stops at "end".

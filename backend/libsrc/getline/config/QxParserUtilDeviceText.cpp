@@ -160,6 +160,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
   DeviceMeaning::keepBeforeEnd(configCmds);
+  DeviceMeaning::settingsAheadOfSubModes(configCmds, true);
   return DeviceTextWriter::write(configCmds);
 }
 
@@ -221,6 +222,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   }
   DeviceMeaning::orderNeighbours(out);
   DeviceMeaning::dropRepeats(out);
+  DeviceMeaning::settingsAheadOfSubModes(out, false);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
