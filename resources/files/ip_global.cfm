@@ -1232,8 +1232,12 @@ route|establish static routes|k||
     !
   !
   static|static|k||
-    line|line|lb/le/wa||
+    word|word|k/n||
       <cr>||||
+      !
+      line|line|lb/le/wa/o||
+        <cr>||||
+        !
       !
     !
   !

@@ -292,7 +292,8 @@ route "establish static routes"
             line *
           dhcp $
   static
-    line *
+    word :k/n $
+      line * :o
 access-list "named access list"
   standard
     word :k @(config-std-nacl)#=acl_std.cfm

@@ -55,7 +55,8 @@ inline void editInterface(Lines& lines, int seed) {
   size_t removable = std::string::npos;
   for (size_t i = at + 1; i < end; ++i) {
     std::string& line = lines[i];
-    if (starts(line, " description ")) {
+    if (line.compare(line.find_first_not_of(' ') == std::string::npos ? 0 : line.find_first_not_of(' '), 12,
+                     "description ") == 0) {
       line += " (edited)";
       described = true;
     } else if (line == " shutdown" && seed != 1) {

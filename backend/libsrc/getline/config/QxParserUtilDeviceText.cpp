@@ -61,6 +61,8 @@ void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>
 void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
                     const std::map<std::string, TypedLine>& lines) {
   for (CiscoCommandLine* record : records) {
+    // A banner's text keeps the line it was read from, blanks and all.
+    if (record->getTreeNodeSize() == 0) continue;
     const auto found = lines.find(withoutNo(record->getOriginalCmd()));
     if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
       record->setRawText(found->second.line);
