@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <set>
+#include <unordered_map>
 
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
@@ -17,13 +18,6 @@ namespace {
 std::string trimmed(std::string text) {
   text.erase(text.find_last_not_of(" \r\n") + 1);
   return text;
-}
-
-const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
-  for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() > 0 && record->getCurrentCommand() == wanted.getCurrentCommand()) return record;
-  }
-  return nullptr;
 }
 
 // Ordered lists and BGP have rules of their own (whole numbered lists,
@@ -42,11 +36,17 @@ bool keptWhole(const CiscoCommandLine& command) {
 void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
              const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
+  // The commands of `from` by their text, the first of each.
+  std::unordered_map<std::string, const CiscoCommandLine*> given;
+  for (const CiscoCommandLine* record : from) {
+    if (record->getTreeNodeSize() > 0) given.emplace(record->getCurrentCommand(), record);
+  }
   for (CiscoCommandLine* command : to) {
     if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) || !command->hasFlags(CMDBIT_STORED)) {
       continue;
     }
-    const CiscoCommandLine* same = sameCommand(from, *command);
+    const auto found = given.find(command->getCurrentCommand());
+    const CiscoCommandLine* same = found == given.end() ? nullptr : found->second;
     if (same) {
       if (command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
         collect(same->getChildCommands(), command->getChildCommands(),
