@@ -685,4 +685,73 @@ void DeviceMeaning::settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& reco
   }
 }
 
+namespace {
+
+// What names a static route: "ip route [vrf V] PREFIX MASK" and the next hop
+// or interface (both when given); distance, name, tag and the other options
+// are its settings. "" for any other line.
+std::string routeIdentity(const std::string& line) {
+  std::istringstream words(line);
+  std::string word, identity;
+  words >> word;
+  if (word != "ip") return {};
+  words >> word;
+  if (word != "route") return {};
+  identity = "ip route";
+  int values = 0;
+  while (words >> word) {
+    if (word == "vrf" && values == 0) {
+      std::string name;
+      words >> name;
+      identity += " vrf " + name;
+      continue;
+    }
+    const bool number = word.find_first_not_of("0123456789") == std::string::npos;
+    static const std::set<std::string> options = {"name", "tag", "permanent", "track", "global", "multicast", "dhcp"};
+    if ((number && values >= 2) || options.count(word)) break;
+    identity += " " + word;
+    ++values;
+  }
+  return values >= 3 ? identity : std::string();
+}
+
+}  // namespace
+
+void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& changes,
+                                      std::vector<CiscoCommandLine*>& config) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* change : changes) {
+    if (change->hasFlags(CMDBIT_NO)) continue;
+    const std::string identity = routeIdentity(trimmed(change->getOriginalCmd()));
+    if (!identity.empty()) given.insert(identity);
+  }
+  if (given.empty()) return;
+  for (auto it = config.begin(); it != config.end();) {
+    if ((*it)->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed((*it)->getOriginalCmd())))) {
+      freeRecord(*it);
+      it = config.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
+void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* record : out) {
+    if (record->hasFlags(CMDBIT_NO)) continue;
+    const std::string identity = routeIdentity(trimmed(record->getOriginalCmd()));
+    if (!identity.empty()) given.insert(identity);
+  }
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string text = trimmed((*it)->getOriginalCmd());
+    if (startsWith(text, "no ") && given.count(routeIdentity(text.substr(3)))) {
+      freeRecord(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
 }  // namespace qxparser

@@ -102,6 +102,15 @@ class DeviceMeaning {
   // configuration, and a reader stops at "end".
   static void keepBeforeEnd(std::vector<CiscoCommandLine*>& records);
 
+  // Takes out of `config` each static route that `changes` gives again with
+  // the same prefix, mask and next hop: the device replaces the route's
+  // settings (distance, name, tag) with those of the new line.
+  static void replaceSameRoutes(const std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
+
+  // Takes out of a rollback `out` each "no ip route ..." of a route that
+  // `out` gives again with other settings: the new line replaces them.
+  static void dropReplacedRoutes(std::vector<CiscoCommandLine*>& out);
+
   // Takes out of `config` each banner of a kind that `changes` gives anew:
   // the device replaces a banner's whole text.
   static void replaceBanners(const std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);

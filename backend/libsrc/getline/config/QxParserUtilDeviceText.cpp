@@ -7,6 +7,7 @@
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
 #include "config/QxParserUtil.h"
+#include "config/VlanListMeaning.h"
 
 namespace qxparser {
 
@@ -149,13 +150,15 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
   std::set<std::string> goneNeighbours;
-  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
-                         changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
+  const std::string resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
+  DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(resolved), goneNeighbours),
+                         changeCmds, changesRefused, false);
   if (changes.empty()) return config;
   DeviceTextWriter::markFromChanges(changeCmds);
   DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
   DeviceMeaning::replaceBanners(changeCmds, configCmds);
+  DeviceMeaning::replaceSameRoutes(changeCmds, configCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
   DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
@@ -224,6 +227,8 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   }
   DeviceMeaning::orderNeighbours(out);
   DeviceMeaning::dropRepeats(out);
+  DeviceMeaning::dropReplacedRoutes(out);
+  VlanListMeaning::dropReplacedLists(out);
   DeviceMeaning::settingsAheadOfSubModes(out, false);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
