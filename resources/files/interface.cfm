@@ -1129,8 +1129,20 @@ tunnel|protocol-over-protocol tunneling|k||
   !
   mpls|mpls|k||
     traffic-eng|traffic-eng|k||
-      line|line|lb/le/wa||
+      path-option|a path of the tunnel|k||
+        id|id|k/n||
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      word|word|k/n||
         <cr>||||
+        !
+        line|line|lb/le/wa/o||
+          <cr>||||
+          !
         !
       !
     !
@@ -2581,8 +2593,12 @@ stackwise-virtual|stackwise virtual interface settings|k||
   !
 !
 isis|is-is commands|k||
-  line|line|lb/le/wa||
+  word|word|k/n||
     <cr>||||
+    !
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
     !
   !
 !

@@ -356,7 +356,11 @@ tunnel "protocol-over-protocol tunneling"
     word :o $
   mpls
     traffic-eng
-      line *
+      path-option "a path of the tunnel"
+        id :k/n
+          line * :o
+      word :k/n $
+        line * :o
   path-mtu-discovery $
   bandwidth
     line *
@@ -792,7 +796,8 @@ vlan-range "range of vlans"
 stackwise-virtual "stackwise virtual interface settings"
   line *
 isis "is-is commands"
-  line *
+  word :k/n $
+    line * :o
 clns "clns interface subcommands"
   route-cache $ :sn
   line *
