@@ -754,4 +754,28 @@ void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {
   }
 }
 
+namespace {
+
+void collectShownNegations(const std::vector<CiscoCommandLine*>& records, const std::string& heads, int depth,
+                    std::string& out) {
+  const std::string indent(static_cast<size_t>(depth), ' ');
+  for (const CiscoCommandLine* record : records) {
+    if (record->getTreeNodeSize() == 0) continue;
+    const std::string text = trimmed(record->getOriginalCmd());
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO)) {
+      collectShownNegations(record->getChildCommands(), heads + indent + text + "\n", depth + 1, out);
+    } else if (depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED)) {
+      out += heads + indent + text + "\n";
+    }
+  }
+}
+
+}  // namespace
+
+std::string DeviceMeaning::shownNegations(const std::vector<CiscoCommandLine*>& changes) {
+  std::string out;
+  collectShownNegations(changes, "", 0, out);
+  return out;
+}
+
 }  // namespace qxparser

@@ -111,6 +111,11 @@ class DeviceMeaning {
   // `out` gives again with other settings: the new line replaces them.
   static void dropReplacedRoutes(std::vector<CiscoCommandLine*>& out);
 
+  // The "no" lines inside modes of `changes` that the device shows as they
+  // stand ("no cdp enable" where the platform shows "cdp enable"), with their
+  // mode heads, as text: a merge keeps them in the configuration.
+  static std::string shownNegations(const std::vector<CiscoCommandLine*>& changes);
+
   // Takes out of `config` each banner of a kind that `changes` gives anew:
   // the device replaces a banner's whole text.
   static void replaceBanners(const std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);

@@ -159,7 +159,15 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceMeaning::removeNamedEntries(changeCmds, configCmds);
   DeviceMeaning::replaceBanners(changeCmds, configCmds);
   DeviceMeaning::replaceSameRoutes(changeCmds, configCmds);
+  const std::string negations = DeviceMeaning::shownNegations(changeCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  if (!negations.empty()) {
+    std::vector<CiscoCommandLine*> kept;
+    RecordsGuard keptGuard(kept);
+    DeviceTextReader::read(negations, kept);
+    DeviceTextWriter::markFromChanges(kept);
+    DeviceMeaning::graft(kept, configCmds, nullptr);
+  }
   DeviceMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   DeviceMeaning::exitLinesLast(configCmds);
   DeviceMeaning::entriesBySequence(configCmds);
