@@ -4028,8 +4028,8 @@ logging|modify message logging facilities|k||
     !
   !
   source-interface|source-interface|k/n||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
         vrf|vrf|k||

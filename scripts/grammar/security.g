@@ -207,7 +207,7 @@ logging "modify message logging facilities"
   trap $
     line * :o
   source-interface :n
-    %IF
+    %IFONE
       vrf
         word $
   facility
