@@ -265,7 +265,7 @@ switchport|set switching mode characteristics|k||
       !
     !
     allowed|allowed|k||
-      vlan|vlan|k||
+      vlan|vlan|k/n||
         <vlan>|vlan|m||
           <cr>||||
           !
