@@ -1243,37 +1243,37 @@ enable|modify enable password parameters|k||
   !
 !
 banner|define a login banner|k||
-  motd|motd|k||
+  motd|motd|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  login|login|k||
+  login|login|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  exec|exec|k||
+  exec|exec|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  incoming|incoming|k||
+  incoming|incoming|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  slip-ppp|slip-ppp|k||
+  slip-ppp|slip-ppp|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
     !
   !
-  prompt-timeout|prompt-timeout|k||
+  prompt-timeout|prompt-timeout|k/n||
     line|line|lb/le/wa/o||
       <cr>||||
       !
@@ -2183,7 +2183,7 @@ gatekeeper|gatekeeper configuration|k||
   !
 !
 track|object tracking|k||
-  id|id|k||
+  id|id|k/n||
     ip|ip|k||
       sla|sla|k||
         id|id|k||
@@ -3423,8 +3423,8 @@ aaa|authentication, authorization and accounting|k||
   !
   authentication|authentication|k||
     login|login|k||
-      word|word|k||
-        line|line|lb/le/wa||
+      word|word|k/n||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
@@ -3862,9 +3862,9 @@ ntp|configure ntp|k||
     !
   !
   authentication-key|authentication-key|k||
-    id|id|k||
+    id|id|k/n||
       md5|md5|k||
-        word|word|||
+        word|word|o||
           id|id|||
             <cr>||||
             !
@@ -4044,8 +4044,8 @@ logging|modify message logging facilities|k||
     !
   !
   source-interface|source-interface|k/n||
-    &interfacefile.cfm|interface type|k||
-      <number>|interface number|k||
+    &interfacefile.cfm|interface type|o||
+      <number>|interface number|o||
         <cr>||||
         !
         vrf|vrf|k||
@@ -4224,7 +4224,7 @@ logging|modify message logging facilities|k||
 !
 snmp-server|modify snmp engine parameters|k||
   community|community|k||
-    word|word|k||
+    word|word|k/n||
       view|view|o||
         word|word|||
           line|line|lb/le/wa||
@@ -4340,8 +4340,20 @@ snmp-server|modify snmp engine parameters|k||
     !
   !
   view|view|k||
-    line|line|lb/le/wa||
-      <cr>||||
+    word|word|k||
+      word|word|k/n||
+        included|included|o||
+          <cr>||||
+          !
+        !
+        excluded|excluded|o||
+          <cr>||||
+          !
+        !
+        line|line|lb/le/wa||
+          <cr>||||
+          !
+        !
       !
     !
   !

@@ -12,31 +12,31 @@ network|network number and mask|k||
     !
   !
 !
-default-router|default routers|k||
-  a.b.c.d|a.b.c.d|m||
+default-router|default routers|k/n||
+  a.b.c.d|a.b.c.d|o||
     <cr>||||
     !
-    a.b.c.d|a.b.c.d|m||
+    a.b.c.d|a.b.c.d|o||
       <cr>||||
       !
-      a.b.c.d|a.b.c.d|m||
+      a.b.c.d|a.b.c.d|o||
         <cr>||||
         !
       !
     !
   !
 !
-dns-server|dns servers|k||
-  a.b.c.d|a.b.c.d|m||
+dns-server|dns servers|k/n||
+  a.b.c.d|a.b.c.d|o||
     <cr>||||
     !
-    a.b.c.d|a.b.c.d|m||
+    a.b.c.d|a.b.c.d|o||
       <cr>||||
       !
-      a.b.c.d|a.b.c.d|m||
+      a.b.c.d|a.b.c.d|o||
         <cr>||||
         !
-        a.b.c.d|a.b.c.d|m||
+        a.b.c.d|a.b.c.d|o||
           <cr>||||
           !
         !

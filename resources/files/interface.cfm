@@ -265,7 +265,7 @@ switchport|set switching mode characteristics|k||
       !
     !
     allowed|allowed|k||
-      vlan|vlan|k||
+      vlan|vlan|k/n||
         <vlan>|vlan|m||
           <cr>||||
           !
@@ -1129,8 +1129,20 @@ tunnel|protocol-over-protocol tunneling|k||
   !
   mpls|mpls|k||
     traffic-eng|traffic-eng|k||
-      line|line|lb/le/wa||
+      path-option|a path of the tunnel|k||
+        id|id|k/n||
+          line|line|lb/le/wa/o||
+            <cr>||||
+            !
+          !
+        !
+      !
+      word|word|k/n||
         <cr>||||
+        !
+        line|line|lb/le/wa/o||
+          <cr>||||
+          !
         !
       !
     !
@@ -1180,6 +1192,24 @@ crypto|encryption/decryption commands|k||
       redundancy|redundancy|k||
         line|line|lb/le/wa||
           <cr>||||
+          !
+        !
+      !
+    !
+  !
+  ipsec|ipsec settings|k||
+    client|easy vpn client|k||
+      ezvpn|easy vpn remote of this interface|k||
+        word|word|k||
+          <cr>||||
+          !
+          inside|inside|o||
+            <cr>||||
+            !
+          !
+          outside|outside|o||
+            <cr>||||
+            !
           !
         !
       !
@@ -2563,8 +2593,12 @@ stackwise-virtual|stackwise virtual interface settings|k||
   !
 !
 isis|is-is commands|k||
-  line|line|lb/le/wa||
+  word|word|k/n||
     <cr>||||
+    !
+    line|line|lb/le/wa/o||
+      <cr>||||
+      !
     !
   !
 !

@@ -95,7 +95,7 @@ domain|domain name system|k||
       !
     !
   !
-  name|name|k/o||
+  name|name|k/o/n||
     word|word|o||
       <cr>||||
       !
@@ -110,7 +110,7 @@ domain|domain name system|k||
     !
   !
   list|list|k||
-    word|word|||
+    word|word|k||
       <cr>||||
       !
     !
@@ -1140,24 +1140,24 @@ route|establish static routes|k||
           a.b.c.d|forwarding router's address|k||
             <cr>||||
             !
-            id|distance metric|||
+            id|distance metric|o||
               <cr>||||
               !
-              line|line|lb/le/wa||
+              line|line|lb/le/wa/o||
                 <cr>||||
                 !
               !
             !
-            line|line|lb/le/wa||
+            line|line|lb/le/wa/o||
               <cr>||||
               !
             !
           !
-          id|distance metric|||
+          id|distance metric|o||
             <cr>||||
             !
           !
-          line|line|lb/le/wa||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
@@ -1166,15 +1166,15 @@ route|establish static routes|k||
       a.b.c.d|forwarding router's address|k||
         <cr>||||
         !
-        id|distance metric|||
+        id|distance metric|o||
           <cr>||||
           !
-          line|line|lb/le/wa||
+          line|line|lb/le/wa/o||
             <cr>||||
             !
           !
         !
-        line|line|lb/le/wa||
+        line|line|lb/le/wa/o||
           <cr>||||
           !
         !
@@ -1232,8 +1232,12 @@ route|establish static routes|k||
     !
   !
   static|static|k||
-    line|line|lb/le/wa||
+    word|word|k/n||
       <cr>||||
+      !
+      line|line|lb/le/wa/o||
+        <cr>||||
+        !
       !
     !
   !

@@ -820,7 +820,7 @@ ospf|ospf interface commands|k||
     !
   !
   message-digest-key|message-digest-key|k||
-    id|id|k||
+    id|id|k/n||
       md5|md5|k||
         id|id|||
           word|word|||

@@ -19,7 +19,7 @@ dns-server|dns server|k||
   !
 !
 domain-name|domain name|k||
-  word|word|o||
+  word|word|k/n||
     <cr>||||
     !
   !

@@ -83,7 +83,7 @@ switchport "set switching mode characteristics" $ :sn
       isl :o $
       negotiate :o $
     allowed
-      vlan
+      vlan :n
         <vlan> :m $
         add
           <vlan> :k/a $
@@ -356,7 +356,11 @@ tunnel "protocol-over-protocol tunneling"
     word :o $
   mpls
     traffic-eng
-      line *
+      path-option "a path of the tunnel"
+        id :k/n
+          line * :o
+      word :k/n $
+        line * :o
   path-mtu-discovery $
   bandwidth
     line *
@@ -373,6 +377,12 @@ crypto "encryption/decryption commands"
     word :o $
       redundancy
         line *
+  ipsec "ipsec settings"
+    client "easy vpn client"
+      ezvpn "easy vpn remote of this interface"
+        word :k $
+          inside :-k/o $
+          outside :-k/o $
 service-policy "configure qos service policy"
   input
     word :k $
@@ -786,7 +796,8 @@ vlan-range "range of vlans"
 stackwise-virtual "stackwise virtual interface settings"
   line *
 isis "is-is commands"
-  line *
+  word :k/n $
+    line * :o
 clns "clns interface subcommands"
   route-cache $ :sn
   line *

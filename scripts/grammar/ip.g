@@ -29,13 +29,13 @@ domain "domain name system"
     source-interface
       %IFONE
     nsap "nsap lookups" $
-  name :o
+  name :o/n
     word :o $
     vrf
       word :k
         word $
   list
-    word $
+    word :k $
   timeout
     id $
   retry
@@ -268,15 +268,15 @@ route "establish static routes"
     a.b.c.d/mask :k "destination prefix mask"
       %IF
         a.b.c.d :k "forwarding router's address" $
-          id "distance metric" $
-            line *
-          line *
-        id "distance metric" $
-        line *
+          id :o "distance metric" $
+            line * :o
+          line * :o
+        id :o "distance metric" $
+        line * :o
       a.b.c.d :k "forwarding router's address" $
-        id "distance metric" $
-          line *
-        line *
+        id :o "distance metric" $
+          line * :o
+        line * :o
       dhcp $
         id $
   vrf
@@ -292,7 +292,8 @@ route "establish static routes"
             line *
           dhcp $
   static
-    line *
+    word :k/n $
+      line * :o
 access-list "named access list"
   standard
     word :k @(config-std-nacl)#=acl_std.cfm

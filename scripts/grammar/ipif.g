@@ -259,7 +259,7 @@ ospf "ospf interface commands"
       word $
     word $
   message-digest-key
-    id :k
+    id :k/n
       md5
         id
           word $

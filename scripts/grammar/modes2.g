@@ -261,15 +261,15 @@ network "network number and mask"
   a.b.c.d :o $
     a.b.c.d $
     </nn> $
-default-router "default routers"
-  a.b.c.d :m $
-    a.b.c.d :m $
-      a.b.c.d :m $
-dns-server "dns servers"
-  a.b.c.d :m $
-    a.b.c.d :m $
-      a.b.c.d :m $
-        a.b.c.d :m $
+default-router "default routers" :n
+  a.b.c.d :o $
+    a.b.c.d :o $
+      a.b.c.d :o $
+dns-server "dns servers" :n
+  a.b.c.d :o $
+    a.b.c.d :o $
+      a.b.c.d :o $
+        a.b.c.d :o $
 domain-name "domain name"
   word :o $
 lease "address lease time"

@@ -84,7 +84,7 @@ address "address prefix"
 dns-server "dns server"
   word :m $
 domain-name "domain name"
-  word :o $
+  word :k/n $
 prefix-delegation "prefix delegation"
   pool
     word $

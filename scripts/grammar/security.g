@@ -3,8 +3,8 @@ aaa "authentication, authorization and accounting"
   new-model $ :sb/o
   authentication
     login
-      word :k
-        line *
+      word :k/n
+        line * :o
     enable
       default
         line *
@@ -152,9 +152,9 @@ ntp "configure ntp"
     id :o $
   authenticate $
   authentication-key
-    id :k
+    id :k/n
       md5
-        word
+        word :o
           id $
         line *
   trusted-key
@@ -207,7 +207,7 @@ logging "modify message logging facilities"
   trap $
     line * :o
   source-interface :n
-    %IF
+    %IFONE
       vrf
         word $
   facility
@@ -265,7 +265,7 @@ logging "modify message logging facilities"
     tcp $
 snmp-server "modify snmp engine parameters"
   community
-    word :k
+    word :k/n
       view :-k/o
         word
           line *
@@ -302,7 +302,11 @@ snmp-server "modify snmp engine parameters"
   group
     line *
   view
-    line *
+    word :k
+      word :k/n
+        included :-k/o $
+        excluded :-k/o $
+        line *
   engineID
     line *
   source-interface

@@ -206,17 +206,17 @@ enable "modify enable password parameters"
           line * :o
         line * :o
 banner "define a login banner"
-  motd :k
+  motd :k/n
     line * :o
-  login :k
+  login :k/n
     line * :o
-  exec :k
+  exec :k/n
     line * :o
-  incoming :k
+  incoming :k/n
     line * :o
-  slip-ppp :k
+  slip-ppp :k/n
     line * :o
-  prompt-timeout :k
+  prompt-timeout :k/n
     line * :o
 &linefile.cfm "configure a terminal line"
   con :k "primary terminal line"
@@ -522,7 +522,7 @@ netconf "configure netconf"
   line *
 gatekeeper "gatekeeper configuration" @(config-gk)#=gatekeeper.cfm
 track "object tracking"
-  id :k
+  id :k/n
     ip
       sla
         id :k @(config-track)#=track.cfm

@@ -1,9 +1,12 @@
 // Rollback lines that the comparison by grammar path leaves out.
 #include "config/DeviceMeaning.h"
 
-#include <algorithm>
-#include <set>
 #include <sstream>
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <unordered_map>
 
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
@@ -17,22 +20,15 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& records,
-                                    const CiscoCommandLine& wanted) {
-  for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() > 0 && record->getCurrentCommand() == wanted.getCurrentCommand())
-      return record;
-  }
-  return nullptr;
-}
-
-// A "no" form of `from` that the comparison takes for `command`.
-bool onlyNegated(const std::vector<CiscoCommandLine*>& from, CiscoCommandLine& command) {
-  for (CiscoCommandLine* record : from) {
-    if (record->getTreeNodeSize() > 0 && record->hasFlags(CMDBIT_NO) && !record->hasFlags(CMDBIT_STORED) &&
-        record->isComparable(&command) && command.isNoable(record)) {
-      return true;
-    }
+// Ordered lists and BGP have rules of their own (whole numbered lists,
+// entries by sequence, neighbours): their lines are never added one by one.
+bool keptWhole(const CiscoCommandLine& command) {
+  static const char* const kinds[] = {"access-list ",        "ip access-list ", "ipv6 access-list ", "ip prefix-list ",
+                                      "ipv6 prefix-list ",   "route-map ",      "router bgp ",       "object-group ",
+                                      "ip as-path ",         "ip community-list ", "ip extcommunity-list ", "banner "};
+  const std::string& text = command.getOriginalCmd();
+  for (const char* kind : kinds) {
+    if (text.compare(0, std::char_traits<char>::length(kind), kind) == 0) return true;
   }
   return false;
 }
@@ -40,33 +36,46 @@ bool onlyNegated(const std::vector<CiscoCommandLine*>& from, CiscoCommandLine& c
 void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
              const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
+  // The commands of `from` by their text, the first of each.
+  std::unordered_map<std::string, const CiscoCommandLine*> given;
+  for (const CiscoCommandLine* record : from) {
+    if (record->getTreeNodeSize() > 0) given.emplace(record->getCurrentCommand(), record);
+  }
   for (CiscoCommandLine* command : to) {
-    if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) ||
-        !command->hasFlags(CMDBIT_STORED)) {
+    if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) || !command->hasFlags(CMDBIT_STORED)) {
       continue;
     }
-    const CiscoCommandLine* same = sameCommand(from, *command);
+    const auto found = given.find(command->getCurrentCommand());
+    const CiscoCommandLine* same = found == given.end() ? nullptr : found->second;
     if (same) {
-      if (command->hasFlags(CMDBIT_OPENS_MODE)) {
+      if (command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
         collect(same->getChildCommands(), command->getChildCommands(),
                 heads + indent + trimmed(command->getOriginalCmd()) + "\n", depth + 1, out);
       }
-    } else if (!command->hasFlags(CMDBIT_OPENS_MODE) && onlyNegated(from, *command)) {
+    } else if (!command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
       out += heads + indent + trimmed(command->getOriginalCmd()) + "\n";
     }
   }
 }
 
+bool sameText(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
+  const std::string text = trimmed(wanted.getOriginalCmd());
+  return std::any_of(records.begin(), records.end(),
+                     [&text](const CiscoCommandLine* record) { return trimmed(record->getOriginalCmd()) == text; });
+}
+
 CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
   for (CiscoCommandLine* record : records) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd())
-      return record;
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd()) return record;
   }
   return nullptr;
 }
 
-bool startsWith(const std::string& text, const std::string& lead) {
-  return text.compare(0, lead.size(), lead) == 0;
+bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
+
+std::string lastLineOf(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  return cut == std::string::npos ? raw : raw.substr(cut + 1);
 }
 
 void freeRecord(CiscoCommandLine* record) {
@@ -139,23 +148,44 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
     const std::string kind = numberedKind(*record, own);
     if (kind.empty()) continue;
+    // Before the first one of its kind with a higher number, else behind
+    // the last one of its kind.
+    size_t place = records.size();
+    size_t lastOfKind = records.size();
     for (size_t to = 0; to < records.size(); ++to) {
       std::vector<long> other;
-      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other))
-        continue;
-      if (to < i) {
-        records.erase(records.begin() + static_cast<long>(i));
-        records.insert(records.begin() + static_cast<long>(to), record);
+      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind) continue;
+      lastOfKind = to;
+      if (own < other) {
+        place = to;
+        break;
       }
-      break;
     }
+    if (place == records.size() && lastOfKind != records.size()) place = lastOfKind + 1;
+    if (place >= records.size() || place == i || place == i + 1) continue;
+    records.erase(records.begin() + static_cast<long>(i));
+    records.insert(records.begin() + static_cast<long>(place < i ? place : place - 1), record);
+  }
+}
+
+void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {
+  std::set<std::string> seen;
+  for (auto it = records.begin(); it != records.end();) {
+    CiscoCommandLine* record = *it;
+    const bool leaf = record->getTreeNodeSize() > 0 && record->getChildCommands().empty();
+    if (leaf && !seen.insert(trimmed(record->getOriginalCmd())).second) {
+      freeRecord(record);
+      it = records.erase(it);
+      continue;
+    }
+    dropRepeats(record->getChildCommands());
+    ++it;
   }
 }
 
 namespace {
 
-void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode,
-            std::set<std::string>& keys) {
+void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode, std::set<std::string>& keys) {
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
     const std::string key = mode + trimmed(record->getOriginalCmd());
@@ -164,8 +194,8 @@ void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mo
   }
 }
 
-void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
-            const std::set<std::string>& before, const std::set<std::string>& after) {
+void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode, const std::set<std::string>& before,
+            const std::set<std::string>& after) {
   for (auto it = records.begin(); it != records.end();) {
     const std::string own = trimmed((*it)->getOriginalCmd());
     if (startsWith(own, "no ") && (*it)->getChildCommands().empty()) {
@@ -220,12 +250,245 @@ void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<Cis
       graft(record->getChildCommands(), head->getChildCommands(), head);
       std::vector<CiscoCommandLine*> alone{record};
       QxParserUtil::deleteCommands(alone);
+    } else if (!record->hasFlags(CMDBIT_OPENS_MODE) && sameText(into, *record)) {
+      // A command that `into` holds already is not written twice.
+      std::vector<CiscoCommandLine*> alone{record};
+      QxParserUtil::deleteCommands(alone);
     } else {
       record->setParentCommand(parent, false);
       into.push_back(record);
     }
   }
   extra.clear();
+}
+
+std::string DeviceMeaning::settledText(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  // Per mode block: the last line of each command, by its words without "no".
+  std::map<std::string, size_t> last;
+  std::string head;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    std::string line = lines[i];
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    const size_t lead = line.find_first_not_of(' ');
+    if (lead == std::string::npos || line[lead] == '!') continue;
+    if (lead == 0) head = line;
+    const std::string words = trimmed(line.substr(lead));
+    const bool negated = startsWith(words, "no ");
+    const std::string key = (lead == 0 ? std::string() : head) + "\n" + std::to_string(lead) + " " +
+                            (negated ? words.substr(3) : words);
+    const auto found = last.find(key);
+    if (found != last.end()) {
+      std::string before = trimmed(lines[found->second]);
+      before.erase(0, before.find_first_not_of(' '));
+      // The later line undoes the earlier one: the earlier one says nothing.
+      if (startsWith(before, "no ") != negated) lines[found->second] = std::string(lead, ' ') + "!";
+    }
+    last[key] = i;
+  }
+  std::string out;
+  for (const std::string& line : lines) out += line + "\n";
+  if (!text.empty() && text.back() != '\n' && !out.empty()) out.pop_back();
+  return out;
+}
+
+namespace {
+
+// "banner motd" for a banner record ("" for any other record).
+std::string bannerKind(const CiscoCommandLine& record) {
+  std::istringstream words(record.getOriginalCmd());
+  std::string banner, kind;
+  words >> banner >> kind;
+  return banner == "banner" && !kind.empty() ? banner + " " + kind : std::string();
+}
+
+// The banner as the device shows it: its line, its text, its closing line.
+std::string bannerText(const CiscoCommandLine& record) {
+  std::string text = lastLineOf(record.getRawText().empty() ? record.getOriginalCmd() : record.getRawText()) + "\n";
+  for (const CiscoCommandLine* line : record.getChildCommands()) {
+    text += (line->getRawText().empty() ? line->getOriginalCmd() : line->getRawText()) + "\n";
+  }
+  return text;
+}
+
+std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records) {
+  std::map<std::string, std::string> banners;
+  for (const CiscoCommandLine* record : records) {
+    const std::string kind = bannerKind(*record);
+    if (!kind.empty() && !record->hasFlags(CMDBIT_NO)) banners[kind] = bannerText(*record);
+  }
+  return banners;
+}
+
+}  // namespace
+
+void DeviceMeaning::replaceBanners(const std::vector<CiscoCommandLine*>& changes,
+                                   std::vector<CiscoCommandLine*>& config) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* change : changes) {
+    const std::string kind = bannerKind(*change);
+    if (!kind.empty()) given.insert(kind);
+  }
+  for (auto it = config.begin(); it != config.end();) {
+    if (given.count(bannerKind(**it))) {
+      freeRecord(*it);
+      it = config.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
+std::string DeviceMeaning::changedBanners(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
+                                          const std::vector<CiscoCommandLine*>& to) {
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string text = trimmed((*it)->getOriginalCmd());
+    // "no ^C": a closing delimiter that the comparison took for a command.
+    const bool stray = startsWith(text, "no ") && text.size() > 3 && text.find(' ', 3) == std::string::npos &&
+                       !std::isalnum(static_cast<unsigned char>(text[3]));
+    if (!bannerKind(**it).empty() || startsWith(text, "no banner ") || stray) {
+      freeRecord(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  const auto before = bannersOf(from);
+  const auto after = bannersOf(to);
+  std::string text;
+  for (const auto& [kind, banner] : before) {
+    if (!after.count(kind)) text += "no " + kind + "\n";
+  }
+  for (const auto& [kind, banner] : after) {
+    const auto found = before.find(kind);
+    if (found == before.end() || found->second != banner) text += banner;
+  }
+  return text;
+}
+
+void DeviceMeaning::keepBeforeEnd(std::vector<CiscoCommandLine*>& records) {
+  int endLine = -1;
+  for (const CiscoCommandLine* record : records) {
+    const std::string& raw = record->getRawText().empty() ? record->getOriginalStr() : record->getRawText();
+    if (record->getFlag() == CMD_TEXT && trimmed(lastLineOf(raw)) == "end") {
+      endLine = record->getLineNo();
+      break;
+    }
+  }
+  if (endLine < 1) return;
+  const auto after = std::find_if(records.begin(), records.end(), [endLine](const CiscoCommandLine* record) {
+    return record->getFlag() != CMD_TEXT && record->getLineNo() > endLine;
+  });
+  std::stable_partition(after, records.end(), [](const CiscoCommandLine* record) { return isAdded(*record); });
+}
+
+void DeviceMeaning::settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& records, bool addedOnly) {
+  for (CiscoCommandLine* record : records) {
+    if (!startsWith(record->getOriginalCmd(), "interface ")) continue;
+    std::vector<CiscoCommandLine*>& inner = record->getChildCommands();
+    const auto firstMode = std::find_if(inner.begin(), inner.end(), [addedOnly](const CiscoCommandLine* line) {
+      return line->hasFlags(CMDBIT_OPENS_MODE) && !(addedOnly && isAdded(*line));
+    });
+    std::stable_partition(firstMode, inner.end(), [addedOnly](const CiscoCommandLine* line) {
+      return (!addedOnly || isAdded(*line)) && line->getTreeNodeSize() > 0 && line->getChildCommands().empty() &&
+             !line->hasFlags(CMDBIT_OPENS_MODE);
+    });
+  }
+}
+
+namespace {
+
+// What names a static route: "ip route [vrf V] PREFIX MASK" and the next hop
+// or interface (both when given); distance, name, tag and the other options
+// are its settings. "" for any other line.
+std::string routeIdentity(const std::string& line) {
+  std::istringstream words(line);
+  std::string word, identity;
+  words >> word;
+  if (word != "ip") return {};
+  words >> word;
+  if (word != "route") return {};
+  identity = "ip route";
+  int values = 0;
+  while (words >> word) {
+    if (word == "vrf" && values == 0) {
+      std::string name;
+      words >> name;
+      identity += " vrf " + name;
+      continue;
+    }
+    const bool number = word.find_first_not_of("0123456789") == std::string::npos;
+    static const std::set<std::string> options = {"name", "tag", "permanent", "track", "global", "multicast", "dhcp"};
+    if ((number && values >= 2) || options.count(word)) break;
+    identity += " " + word;
+    ++values;
+  }
+  return values >= 3 ? identity : std::string();
+}
+
+}  // namespace
+
+void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& changes,
+                                      std::vector<CiscoCommandLine*>& config) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* change : changes) {
+    if (change->hasFlags(CMDBIT_NO)) continue;
+    const std::string identity = routeIdentity(trimmed(change->getOriginalCmd()));
+    if (!identity.empty()) given.insert(identity);
+  }
+  if (given.empty()) return;
+  for (auto it = config.begin(); it != config.end();) {
+    if ((*it)->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed((*it)->getOriginalCmd())))) {
+      freeRecord(*it);
+      it = config.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
+void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {
+  std::set<std::string> given;
+  for (const CiscoCommandLine* record : out) {
+    if (record->hasFlags(CMDBIT_NO)) continue;
+    const std::string identity = routeIdentity(trimmed(record->getOriginalCmd()));
+    if (!identity.empty()) given.insert(identity);
+  }
+  for (auto it = out.begin(); it != out.end();) {
+    const std::string text = trimmed((*it)->getOriginalCmd());
+    if (startsWith(text, "no ") && given.count(routeIdentity(text.substr(3)))) {
+      freeRecord(*it);
+      it = out.erase(it);
+    } else {
+      ++it;
+    }
+  }
+}
+
+namespace {
+
+void collectShownNegations(const std::vector<CiscoCommandLine*>& records, const std::string& heads, int depth,
+                    std::string& out) {
+  const std::string indent(static_cast<size_t>(depth), ' ');
+  for (const CiscoCommandLine* record : records) {
+    if (record->getTreeNodeSize() == 0) continue;
+    const std::string text = trimmed(record->getOriginalCmd());
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO)) {
+      collectShownNegations(record->getChildCommands(), heads + indent + text + "\n", depth + 1, out);
+    } else if (depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED)) {
+      out += heads + indent + text + "\n";
+    }
+  }
+}
+
+}  // namespace
+
+std::string DeviceMeaning::shownNegations(const std::vector<CiscoCommandLine*>& changes) {
+  std::string out;
+  collectShownNegations(changes, "", 0, out);
+  return out;
 }
 
 }  // namespace qxparser

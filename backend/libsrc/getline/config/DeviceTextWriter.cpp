@@ -79,12 +79,17 @@ class Layout {
         const int limit = next > 0 ? next : endLine();
         flushBefore(end > 0 && (limit < 0 || limit > end) ? end : limit);
       }
-      const std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      // A banner's text and closing delimiter stand at the start of the line.
+      if (mInBanner && record->getRawText().empty()) line.erase(0, line.find_first_not_of(' '));
       // The device sets an address family apart from what stands before it.
       const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
       if (depth > 0 && isNewAddressFamily(*record, line) && !endsWithLine(mOut, separator)) mOut += separator;
       mOut += line;
+      const bool outer = mInBanner;
+      mInBanner = record->getOriginalCmd().compare(0, 7, "banner ") == 0;
       writeLevel(record->getChildCommands(), depth + 1);
+      mInBanner = outer;
       if (needsExitLine(*record, line, (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
         mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
       }
@@ -139,6 +144,7 @@ class Layout {
   }
 
   std::deque<const CiscoCommandLine*> mComments;
+  bool mInBanner = false;
   unsigned int mOptions;
   std::string mOut;
 };

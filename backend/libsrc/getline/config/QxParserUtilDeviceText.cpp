@@ -12,6 +12,7 @@
 #include "config/QxParserUtil.h"
 #include "config/ResultRollback.h"
 #include "config/RouteFilterMeaning.h"
+#include "config/VlanListMeaning.h"
 
 namespace qxparser {
 
@@ -66,6 +67,8 @@ void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>
 void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
                     const std::map<std::string, TypedLine>& lines) {
   for (CiscoCommandLine* record : records) {
+    // A banner's text keeps the line it was read from, blanks and all.
+    if (record->getTreeNodeSize() == 0) continue;
     const auto found = lines.find(withoutNo(record->getOriginalCmd()));
     if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
       record->setRawText(found->second.line);
@@ -101,7 +104,7 @@ void addMissedCommands(const std::string& first, const std::string& second,
       ++it;
     }
   }
-  missed += lists;
+  missed += lists + DeviceMeaning::changedBanners(out, from, to);
   if (missed.empty()) return;
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
@@ -154,10 +157,11 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds);
   RecordsGuard configGuard(configCmds);
   std::set<std::string> goneNeighbours;
-  DeviceTextReader::read(BgpNeighbourMeaning::wholeNeighbourChanges(
-                             AccessListMeaning::wholeListChanges(changes), goneNeighbours),
-                         changeCmds, changesRefused, false);
   DeviceTextReader::read(config, configCmds, configRefused);
+  const std::string resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
+  DeviceTextReader::read(
+      BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(resolved), goneNeighbours),
+      changeCmds, changesRefused, false);
   if (changes.empty()) return config;
   InterfaceRangeMeaning::expand(changeCmds, configCmds);
   AccessListMeaning::numberedThroughNamed(changeCmds, configCmds);
@@ -168,12 +172,24 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   BgpNeighbourMeaning::intoIpv4Family(changeCmds, configCmds);
   DeviceTextWriter::markFromChanges(changeCmds);
   AccessListMeaning::removeNamedEntries(changeCmds, configCmds);
+  DeviceMeaning::replaceBanners(changeCmds, configCmds);
+  DeviceMeaning::replaceSameRoutes(changeCmds, configCmds);
+  const std::string negations = DeviceMeaning::shownNegations(changeCmds);
   mergeCiscoCommands(changeCmds, configCmds, nullptr);
+  if (!negations.empty()) {
+    std::vector<CiscoCommandLine*> kept;
+    RecordsGuard keptGuard(kept);
+    DeviceTextReader::read(negations, kept);
+    DeviceTextWriter::markFromChanges(kept);
+    DeviceMeaning::graft(kept, configCmds, nullptr);
+  }
   BgpNeighbourMeaning::dropGoneNeighbours(configCmds, goneNeighbours);
   BgpNeighbourMeaning::groupNeighbourLines(configCmds);
   DeviceMeaning::exitLinesLast(configCmds);
   AccessListMeaning::entriesBySequence(configCmds);
   DeviceMeaning::placeInNumberOrder(configCmds);
+  DeviceMeaning::keepBeforeEnd(configCmds);
+  DeviceMeaning::settingsAheadOfSubModes(configCmds, true);
   return DeviceTextWriter::write(configCmds);
 }
 
@@ -203,17 +219,17 @@ std::string QxParserUtil::deviceText(const std::string& text) {
   return DeviceTextWriter::write(records, DeviceTextWriter::kSpellAll);
 }
 
-std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first, const std::string& second,
-                                                       unsigned int mode,
-                                                       std::vector<RefusedLine>* firstRefused,
+std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstGiven, const std::string& secondGiven,
+                                                       unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                                        std::vector<RefusedLine>* secondRefused) {
-  if (mode == 0 && ResultRollback::needed(first)) {
+  if (mode == 0 && ResultRollback::needed(firstGiven)) {
     // Undone through the configuration the changes give (see ResultRollback).
-    const std::string result = mergeConfigCmdsDeviceText(first, second, firstRefused, secondRefused);
-    return fallbackConfigCmdsDeviceText(result, second, 1);
+    const std::string result = mergeConfigCmdsDeviceText(firstGiven, secondGiven, firstRefused, secondRefused);
+    return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
-  const std::string written =
-      nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
+  const std::string first = DeviceMeaning::settledText(firstGiven);
+  const std::string second = DeviceMeaning::settledText(secondGiven);
+  const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
   if (first.empty()) return second;
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
@@ -239,6 +255,10 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
   BgpNeighbourMeaning::orderNeighbours(out);
+  DeviceMeaning::dropRepeats(out);
+  DeviceMeaning::dropReplacedRoutes(out);
+  VlanListMeaning::dropReplacedLists(out);
+  DeviceMeaning::settingsAheadOfSubModes(out, false);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
