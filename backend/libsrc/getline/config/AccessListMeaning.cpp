@@ -360,6 +360,11 @@ void AccessListMeaning::numberedThroughNamed(std::vector<CiscoCommandLine*>& cha
   for (size_t i = 0; i < changes.size(); ++i) {
     const std::string number = numberedHead(trimmed(changes[i]->getOriginalCmd()));
     if (number.empty() || !changes[i]->hasFlags(CMDBIT_OPENS_MODE)) continue;
+    // A configuration that shows the list in its named form keeps it so.
+    const bool shownNamed = std::any_of(config.begin(), config.end(), [&number](const CiscoCommandLine* record) {
+      return record->hasFlags(CMDBIT_OPENS_MODE) && numberedHead(trimmed(record->getOriginalCmd())) == number;
+    });
+    if (shownNamed) continue;
     std::vector<Entry> entries = numberedEntries(config, number);
     for (const CiscoCommandLine* line : changes[i]->getChildCommands()) {
       if (line->getTreeNodeSize() > 0) applyEdit(entries, trimmed(line->getOriginalCmd()));
