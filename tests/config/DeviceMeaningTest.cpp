@@ -186,13 +186,15 @@ bool blank(const std::string& text) { return text.find_first_not_of(" !\n") == s
 // Per folder: the share of pairs (A, B) whose file rollback gives B, the
 // share whose delta rollback gives A back, each with the floor that holds
 // today, and the fallback of each file to itself (empty unless listed).
+// Figures when the floors were set: public 175 and 175 of 177 pairs, wide
+// 851 and 854 of 858.
 TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
   const std::string root = VTYCONF_SHARED_CORPUS_DIR;
   struct Folder {
     std::string path;
     double fileFloor, deltaFloor;
   };
-  const std::vector<Folder> folders = {{root + "/public/", 0.98, 0.80}, {root + "-wide/", 0.99, 0.89}};
+  const std::vector<Folder> folders = {{root + "/public/", 0.98, 0.98}, {root + "-wide/", 0.99, 0.99}};
   const auto exceptions = selfFallbackExceptions();
   const bool list = getenv("VTYCONF_ROUND_TRIP_LIST") != nullptr;
   for (const Folder& folder : folders) {

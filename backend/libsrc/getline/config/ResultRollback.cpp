@@ -21,6 +21,12 @@ bool meansMore(const std::vector<std::string>& w) {
       isNumber(w[3])) {
     return true;
   }
+  // Entries of an ordered list: a numbered list is rewritten whole ("no
+  // access-list N" and its entries), a named list by entry, and what an entry
+  // stands behind only the lists as they end up show.
+  const size_t at = n >= 1 && w[0] == "no" ? 1 : 0;
+  if (n >= at + 2 && w[at] == "access-list" && isNumber(w[at + 1])) return true;
+  if (n >= at + 3 && (w[at] == "ip" || w[at] == "ipv6") && w[at + 1] == "access-list") return true;
   return n == 4 && w[0] == "no" && w[1] == "neighbor" && w[3] == "peer-group";
 }
 

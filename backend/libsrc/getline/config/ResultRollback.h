@@ -5,7 +5,8 @@
 // each member, "default interface" takes away lines it does not name, a
 // numbered access list edited in its named form changes entries by sequence
 // numbers the running configuration never shows, "ip access-list resequence"
-// renumbers, "no neighbor GROUP peer-group" takes the members with the group.
+// renumbers, "no neighbor GROUP peer-group" takes the members with the group,
+// and an access list's entries stand where the whole list puts them.
 // Undoing such a change set line by line cannot return; undoing the
 // configuration it gives can. Plain functions on text; no shared state.
 #pragma once
