@@ -12,16 +12,25 @@ namespace qxparser {
 
 namespace {
 
-// Frees the level-0 records (with their children) when it goes.
+// Frees the level-0 records (with their children) when it goes; those an
+// operation's result is written from (`result`) as releaseResultRecords does.
 class RecordsGuard {
  public:
-  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records) : mRecords(records) {}
+  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records, bool result = false)
+      : mRecords(records), mResult(result) {}
   RecordsGuard(const RecordsGuard&) = delete;
   RecordsGuard& operator=(const RecordsGuard&) = delete;
-  ~RecordsGuard() { QxParserUtil::deleteCommands(mRecords); }
+  ~RecordsGuard() {
+    if (mResult) {
+      QxParserUtil::releaseResultRecords(mRecords);
+    } else {
+      QxParserUtil::deleteCommands(mRecords);
+    }
+  }
 
  private:
   std::vector<CiscoCommandLine*>& mRecords;
+  bool mResult;
 };
 
 std::string withoutNo(const std::string& text) {
@@ -144,8 +153,8 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
                                                     std::vector<RefusedLine>* configRefused) {
   std::vector<CiscoCommandLine*> changeCmds;
   std::vector<CiscoCommandLine*> configCmds;
-  RecordsGuard changeGuard(changeCmds);
-  RecordsGuard configGuard(configCmds);
+  RecordsGuard changeGuard(changeCmds, true);
+  RecordsGuard configGuard(configCmds, true);
   std::set<std::string> goneNeighbours;
   DeviceTextReader::read(DeviceMeaning::wholeNeighbourChanges(DeviceMeaning::wholeListChanges(changes), goneNeighbours),
                          changeCmds, changesRefused, false);
@@ -163,7 +172,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
 
 std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
   std::vector<CiscoCommandLine*> records;
-  RecordsGuard guard(records);
+  RecordsGuard guard(records, true);
   DeviceTextReader::read(config, records);
   std::vector<CiscoCommandLine*> comments;
   for (CiscoCommandLine* record : records) {
@@ -199,7 +208,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
   collectTypedLines(nulAsBlank(second), typedLines);
   if (mode != 0) collectTypedLines(nulAsBlank(first), typedLines);
   std::vector<CiscoCommandLine*> out;
-  RecordsGuard guard(out);
+  RecordsGuard guard(out, true);
   DeviceTextReader::read(written, out, nullptr, true, true);
   // The writer closes each block of the top level itself; the merge writer's
   // "!" lines go.
