@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <unordered_map>
 
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
@@ -18,11 +19,15 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-const CiscoCommandLine* sameCommand(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
+// The first record of `records` with a path, by its command; one look-up
+// per record of the other side keeps a level's comparison linear.
+std::unordered_map<std::string, const CiscoCommandLine*> byCommand(const std::vector<CiscoCommandLine*>& records) {
+  std::unordered_map<std::string, const CiscoCommandLine*> index;
+  index.reserve(records.size());
   for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() > 0 && record->getCurrentCommand() == wanted.getCurrentCommand()) return record;
+    if (record->getTreeNodeSize() > 0) index.emplace(record->getCurrentCommand(), record);
   }
-  return nullptr;
+  return index;
 }
 
 // A "no" form of `from` that the comparison takes for `command`.
@@ -39,11 +44,13 @@ bool onlyNegated(const std::vector<CiscoCommandLine*>& from, CiscoCommandLine& c
 void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
              const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
+  const auto fromByCommand = byCommand(from);
   for (CiscoCommandLine* command : to) {
     if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) || !command->hasFlags(CMDBIT_STORED)) {
       continue;
     }
-    const CiscoCommandLine* same = sameCommand(from, *command);
+    const auto found = fromByCommand.find(command->getCurrentCommand());
+    const CiscoCommandLine* same = found == fromByCommand.end() ? nullptr : found->second;
     if (same) {
       if (command->hasFlags(CMDBIT_OPENS_MODE)) {
         collect(same->getChildCommands(), command->getChildCommands(),
