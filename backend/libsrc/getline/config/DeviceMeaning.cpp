@@ -381,18 +381,26 @@ bool isAdded(const CiscoCommandLine& record) {
 }  // namespace
 
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
+  // Each record's kind and numbers, worked out once and moved with it.
+  struct Numbered {
+    std::string kind;
+    std::vector<long> numbers;
+  };
+  std::vector<Numbered> numbered(records.size());
+  for (size_t i = 0; i < records.size(); ++i) numbered[i].kind = numberedKind(*records[i], numbered[i].numbers);
   for (size_t i = 0; i < records.size(); ++i) {
     CiscoCommandLine* record = records[i];
-    std::vector<long> own;
     if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
-    const std::string kind = numberedKind(*record, own);
+    const std::string& kind = numbered[i].kind;
     if (kind.empty()) continue;
+    const std::vector<long>& own = numbered[i].numbers;
     for (size_t to = 0; to < records.size(); ++to) {
-      std::vector<long> other;
-      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind || !(own < other)) continue;
+      if (to == i || isAdded(*records[to]) || numbered[to].kind != kind || !(own < numbered[to].numbers)) continue;
       if (to < i) {
-        records.erase(records.begin() + static_cast<long>(i));
-        records.insert(records.begin() + static_cast<long>(to), record);
+        const auto from = static_cast<long>(i);
+        const auto at = static_cast<long>(to);
+        std::rotate(records.begin() + at, records.begin() + from, records.begin() + from + 1);
+        std::rotate(numbered.begin() + at, numbered.begin() + from, numbered.begin() + from + 1);
       }
       break;
     }

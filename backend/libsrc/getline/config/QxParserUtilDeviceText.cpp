@@ -51,11 +51,9 @@ struct TypedLine {
   std::string line;
 };
 
-// The line of every command of `text`, by its full form without "no ".
-void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>& lines) {
-  std::vector<CiscoCommandLine*> records;
-  RecordsGuard guard(records);
-  DeviceTextReader::read(text, records);
+// The line of every command of `records` (a reading of a text), by its full
+// form without "no ".
+void collectTypedLines(const std::vector<CiscoCommandLine*>& records, std::map<std::string, TypedLine>& lines) {
   std::vector<CiscoCommandLine*> all(records);
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
   for (const CiscoCommandLine* record : all) {
@@ -81,15 +79,11 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
   }
 }
 
-// A line that `first` states only in its "no" form and `second` holds
-// positive is written too: the comparison takes the two for one.
-void addMissedCommands(const std::string& first, const std::string& second, std::vector<CiscoCommandLine*>& out) {
-  std::vector<CiscoCommandLine*> from;
-  std::vector<CiscoCommandLine*> to;
-  RecordsGuard fromGuard(from);
-  RecordsGuard toGuard(to);
-  DeviceTextReader::read(first, from);
-  DeviceTextReader::read(second, to);
+// A line that `from` (a reading of the first text) states only in its "no"
+// form and `to` (of the second) holds positive is written too: the
+// comparison takes the two for one.
+void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
+                       std::vector<CiscoCommandLine*>& out) {
   DeviceMeaning::dropUnchangedNegations(out, from, to);
   std::vector<std::string> heads;
   std::string missed = DeviceMeaning::missedCommands(from, to);
@@ -204,9 +198,19 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.
+  // Each text is read once here; the readings serve the typed lines and the
+  // lines the comparison leaves out.
+  std::vector<CiscoCommandLine*> firstRead;
+  std::vector<CiscoCommandLine*> secondRead;
+  RecordsGuard firstGuard(firstRead, true);
+  RecordsGuard secondGuard(secondRead, true);
   std::map<std::string, TypedLine> typedLines;
-  collectTypedLines(nulAsBlank(second), typedLines);
-  if (mode != 0) collectTypedLines(nulAsBlank(first), typedLines);
+  DeviceTextReader::read(nulAsBlank(second), secondRead);
+  collectTypedLines(secondRead, typedLines);
+  if (mode != 0) {
+    DeviceTextReader::read(nulAsBlank(first), firstRead);
+    collectTypedLines(firstRead, typedLines);
+  }
   std::vector<CiscoCommandLine*> out;
   RecordsGuard guard(out, true);
   DeviceTextReader::read(written, out, nullptr, true, true);
@@ -221,7 +225,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& first,
             out.end());
   deleteCommands(comments);
   if (mode != 0) {
-    addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
+    addMissedCommands(firstRead, secondRead, out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
   DeviceMeaning::orderNeighbours(out);
