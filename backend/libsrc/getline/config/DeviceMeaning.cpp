@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <unordered_map>
 
@@ -381,29 +382,35 @@ bool isAdded(const CiscoCommandLine& record) {
 }  // namespace
 
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
-  // Each record's kind and numbers, worked out once and moved with it.
-  struct Numbered {
-    std::string kind;
+  // Only added records move, and only towards the front, so the records that
+  // stood before keep their order among themselves and each record is met at
+  // its first position: the standing ones are listed once per kind, in order,
+  // with their numbers.
+  struct Standing {
+    const CiscoCommandLine* record;
     std::vector<long> numbers;
   };
-  std::vector<Numbered> numbered(records.size());
-  for (size_t i = 0; i < records.size(); ++i) numbered[i].kind = numberedKind(*records[i], numbered[i].numbers);
-  for (size_t i = 0; i < records.size(); ++i) {
-    CiscoCommandLine* record = records[i];
+  std::map<std::string, std::vector<Standing>> standing;
+  for (const CiscoCommandLine* record : records) {
+    if (isAdded(*record)) continue;
+    std::vector<long> numbers;
+    const std::string kind = numberedKind(*record, numbers);
+    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers)});
+  }
+  const std::vector<CiscoCommandLine*> original(records);
+  for (size_t i = 0; i < original.size(); ++i) {
+    const CiscoCommandLine* record = original[i];
     if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
-    const std::string& kind = numbered[i].kind;
-    if (kind.empty()) continue;
-    const std::vector<long>& own = numbered[i].numbers;
-    for (size_t to = 0; to < records.size(); ++to) {
-      if (to == i || isAdded(*records[to]) || numbered[to].kind != kind || !(own < numbered[to].numbers)) continue;
-      if (to < i) {
-        const auto from = static_cast<long>(i);
-        const auto at = static_cast<long>(to);
-        std::rotate(records.begin() + at, records.begin() + from, records.begin() + from + 1);
-        std::rotate(numbered.begin() + at, numbered.begin() + from, numbered.begin() + from + 1);
-      }
-      break;
-    }
+    std::vector<long> own;
+    const auto kind = standing.find(numberedKind(*record, own));
+    if (kind == standing.end()) continue;
+    const auto first = std::find_if(kind->second.begin(), kind->second.end(),
+                                    [&own](const Standing& other) { return own < other.numbers; });
+    if (first == kind->second.end()) continue;
+    // The records in front of this one only changed places among themselves.
+    const auto at = records.begin() + static_cast<long>(i);
+    const auto to = std::find(records.begin(), at, first->record);
+    if (to != at) std::rotate(to, at, at + 1);
   }
 }
 
