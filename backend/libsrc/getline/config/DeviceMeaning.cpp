@@ -270,11 +270,18 @@ void placeBySequence(std::vector<CiscoCommandLine*>& entries) {
 
 void DeviceMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
                                        std::vector<CiscoCommandLine*>& config) {
+  // The first head of each mode of the configuration, by its text; the
+  // configuration keeps its level-0 records while entries go.
+  std::unordered_map<std::string, CiscoCommandLine*> heads;
+  for (CiscoCommandLine* record : config) {
+    if (record->hasFlags(CMDBIT_OPENS_MODE)) heads.emplace(record->getOriginalCmd(), record);
+  }
   for (CiscoCommandLine* change : changes) {
     const std::string& head = change->getOriginalCmd();
     if (!startsWith(head, "ip access-list ") && !startsWith(head, "ipv6 access-list ")) continue;
-    CiscoCommandLine* list = sameHead(config, *change);
-    if (!list) continue;
+    const auto same = heads.find(head);
+    if (same == heads.end()) continue;
+    CiscoCommandLine* list = same->second;
     std::vector<CiscoCommandLine*>& asked = change->getChildCommands();
     std::vector<CiscoCommandLine*>& entries = list->getChildCommands();
     for (auto it = asked.begin(); it != asked.end();) {
