@@ -324,11 +324,17 @@ std::string DeviceMeaning::changedNamedLists(const std::vector<CiscoCommandLine*
                                              const std::vector<CiscoCommandLine*>& to,
                                              std::vector<std::string>& heads) {
   std::string out;
+  // The first head of each mode of `to`, by its text.
+  std::unordered_map<std::string, const CiscoCommandLine*> toHeads;
+  for (const CiscoCommandLine* record : to) {
+    if (record->hasFlags(CMDBIT_OPENS_MODE)) toHeads.emplace(record->getOriginalCmd(), record);
+  }
   for (const CiscoCommandLine* list : from) {
     const std::string& head = list->getOriginalCmd();
     if (!startsWith(head, "ip access-list ") && !startsWith(head, "ipv6 access-list ")) continue;
-    const CiscoCommandLine* other = sameHead(to, *list);
-    if (!other) continue;
+    const auto same = toHeads.find(head);
+    if (same == toHeads.end()) continue;
+    const CiscoCommandLine* other = same->second;
     const auto before = entryTexts(*list);
     const auto after = entryTexts(*other);
     if (before == after) continue;
