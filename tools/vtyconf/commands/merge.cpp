@@ -36,6 +36,8 @@ CommandRegistration registration{CommandSpec{
         ConfigInput config;
         if (!readInput(options->changes, changes) || !readInput(options->config, config)) return 2;
         if (!loadResources()) return 2;
+        // One operation, then the process ends: its exit frees the records.
+        qxparser::QxParserUtil::setFreeRecordsOnReturn(false);
         std::vector<qxparser::RefusedLine> changesRefused;
         std::vector<qxparser::RefusedLine> configRefused;
         const std::string merged =

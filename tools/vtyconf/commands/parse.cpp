@@ -118,7 +118,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
     return 2;
   }
   std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
-      &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::deleteCommands(*v); });
+      &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::releaseResultRecords(*v); });
   std::set<int> refusedNumbers;
   for (const qxparser::RefusedLine& line : refusedLines) refusedNumbers.insert(line.lineNo);
   auto isRefused = [&](const CiscoCommandLine& record) { return vtycli::isRefused(record, input, refusedNumbers); };
@@ -173,6 +173,9 @@ int runParse(const ParseOptions& options, const GlobalOptions& global) {
   std::vector<std::string> files;
   bool failed = !expandInputs(options.files, files);
   QxParserUtil::createNewParserResource();
+  // The records of a single file live until the process ends, whose exit
+  // frees them at once; with more files each is freed after its turn.
+  QxParserUtil::setFreeRecordsOnReturn(files.size() != 1);
   // Each file is read in a worker process; its totals come back as data.
   const auto results = runPerFileWithData(files, options.jobs, global.quiet,
                                           [&](const std::string& file, platform::WorkerResult& result) {

@@ -51,6 +51,8 @@ CommandRegistration registration{CommandSpec{
         std::string text;
         if (!readInput(*config, text)) return 2;
         if (!loadResources()) return 2;
+        // One operation, then the process ends: its exit frees the records.
+        qxparser::QxParserUtil::setFreeRecordsOnReturn(false);
         if (*mergeForm) {
           std::cout << mergeFormSort(text);
           return 0;

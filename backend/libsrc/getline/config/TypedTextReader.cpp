@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 #include "config/CiscoCommandLine.h"
 #include "toolkit/TextWords.h"
@@ -29,18 +30,19 @@ bool isConfigureTerminal(const std::vector<std::pair<size_t, std::string>>& word
   return words.size() == 1 || abbreviates(loweredWord(words[1].second), "terminal", 1);
 }
 
-// The non-empty pieces of a text cut at carriage returns and line feeds, as
-// the replaying reader numbers them.
-std::vector<std::string> piecesOf(const std::string& text) {
-  std::vector<std::string> pieces;
+// Hands `take` the non-empty pieces of a text cut at carriage returns and
+// line feeds, numbered from 1 as the replaying reader numbers them; one piece
+// at a time, so that the text is not copied whole.
+template <typename Take>
+void forEachPiece(const std::string& text, Take take) {
+  int number = 0;
   size_t start = 0;
   while (start <= text.size()) {
     size_t end = text.find_first_of("\r\n", start);
     if (end == std::string::npos) end = text.size();
-    if (end > start) pieces.push_back(text.substr(start, end - start));
+    if (end > start) take(++number, text.substr(start, end - start));
     start = end + 1;
   }
-  return pieces;
 }
 
 // Drops the record of a walk that is not kept. A walk may have linked it to
@@ -231,8 +233,7 @@ bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine
                            std::vector<RefusedLine>& refused) {
   const size_t before = refused.size();
   Reading reading("hostName", commands, refused, nullptr);
-  int number = 0;
-  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
   return refused.size() == before;
 }
 
@@ -241,8 +242,7 @@ bool TypedTextReader::readByIndent(const std::string& text, std::vector<CiscoCom
   const size_t before = refused.size();
   Reading reading("hostName", commands, refused, nullptr);
   reading.mFollowIndent = true;
-  int number = 0;
-  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
   return refused.size() == before;
 }
 
@@ -251,8 +251,7 @@ bool TypedTextReader::readWithPrompts(const std::string& text, const std::string
                                       std::vector<std::string>& prompts) {
   const size_t before = refused.size();
   Reading reading(hostName, commands, refused, &prompts);
-  int number = 0;
-  for (const std::string& piece : piecesOf(text)) reading.line(++number, piece);
+  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
   return refused.size() == before;
 }
 
