@@ -181,6 +181,12 @@ std::set<std::string> selfFallbackExceptions() {
   return names;
 }
 
+std::string trimmedText(std::string text) {
+  text.erase(0, text.find_first_not_of(' '));
+  text.erase(text.find_last_not_of(" \r") + 1);
+  return text;
+}
+
 bool blank(const std::string& text) { return text.find_first_not_of(" !\n") == std::string::npos; }
 
 // Per folder: the share of pairs (A, B) whose file rollback gives B, the
@@ -216,7 +222,18 @@ TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
         // rollback of that change set.
         const std::string b = corpusedits::edited(a, seed);
         const std::string changes = rollback(a, b);
-        const std::string merged = QxParserUtil::mergeConfigCmdsDeviceText(changes, a);
+        std::vector<RefusedLine> refused;
+        const std::string merged = QxParserUtil::mergeConfigCmdsDeviceText(changes, a, &refused);
+        // The device takes every line of a rollback where it stands, but for
+        // a line that B itself holds and the device refuses there too.
+        std::vector<RefusedLine> refusedInB;
+        QxParserUtil::mergeConfigCmdsDeviceText("", b, nullptr, &refusedInB);
+        std::set<std::string> givenRefused;
+        for (const RefusedLine& line : refusedInB) givenRefused.insert(trimmedText(line.text));
+        for (const RefusedLine& line : refused) {
+          if (givenRefused.count(trimmedText(line.text))) continue;
+          ADD_FAILURE() << name << " seed " << seed << ": rollback line " << line.lineNo << " refused: " << line.text;
+        }
         const std::string undo = QxParserUtil::fallbackConfigCmdsDeviceText(changes, a, 0);
         std::string why;
         const bool fileOk = same(stored(merged), stored(b), "", &why);
