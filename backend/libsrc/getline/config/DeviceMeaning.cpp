@@ -7,6 +7,7 @@
 #include <cctype>
 #include <set>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "config/DeviceTextReader.h"
 #include "config/QxParserUtil.h"
@@ -56,19 +57,6 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
       out += heads + indent + trimmed(command->getOriginalCmd()) + "\n";
     }
   }
-}
-
-bool sameText(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& wanted) {
-  const std::string text = trimmed(wanted.getOriginalCmd());
-  return std::any_of(records.begin(), records.end(),
-                     [&text](const CiscoCommandLine* record) { return trimmed(record->getOriginalCmd()) == text; });
-}
-
-CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
-  for (CiscoCommandLine* record : records) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd()) return record;
-  }
-  return nullptr;
 }
 
 bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
@@ -142,45 +130,38 @@ bool isAdded(const CiscoCommandLine& record) {
 }  // namespace
 
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
-  // The kind and numbers of each standing record, worked out once: records
-  // only change places here.
-  struct Numbered {
-    std::string kind;
+  // The standing records of each kind with their numbers, in their order:
+  // only added records move here, so the standing ones keep that order.
+  struct Standing {
+    const CiscoCommandLine* record;
     std::vector<long> numbers;
   };
-  std::unordered_map<const CiscoCommandLine*, Numbered> standing;
+  std::unordered_map<std::string, std::vector<Standing>> standing;
   bool anyAdded = false;
   for (const CiscoCommandLine* record : records) {
     if (isAdded(*record)) {
       anyAdded = true;
       continue;
     }
-    Numbered numbered;
-    numbered.kind = numberedKind(*record, numbered.numbers);
-    if (!numbered.kind.empty()) standing.emplace(record, std::move(numbered));
+    std::vector<long> numbers;
+    const std::string kind = numberedKind(*record, numbers);
+    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers)});
   }
   if (!anyAdded || standing.empty()) return;
   for (size_t i = 0; i < records.size(); ++i) {
     CiscoCommandLine* record = records[i];
     std::vector<long> own;
     if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
-    const std::string kind = numberedKind(*record, own);
-    if (kind.empty()) continue;
+    const auto kind = standing.find(numberedKind(*record, own));
+    if (kind == standing.end()) continue;
     // Before the first one of its kind with a higher number, else behind
     // the last one of its kind.
-    size_t place = records.size();
-    size_t lastOfKind = records.size();
-    for (size_t to = 0; to < records.size(); ++to) {
-      if (to == i) continue;
-      const auto other = standing.find(records[to]);
-      if (other == standing.end() || other->second.kind != kind) continue;
-      lastOfKind = to;
-      if (own < other->second.numbers) {
-        place = to;
-        break;
-      }
-    }
-    if (place == records.size() && lastOfKind != records.size()) place = lastOfKind + 1;
+    const auto higher = std::find_if(kind->second.begin(), kind->second.end(),
+                                     [&own](const Standing& other) { return own < other.numbers; });
+    const bool before = higher != kind->second.end();
+    const CiscoCommandLine* anchor = before ? higher->record : kind->second.back().record;
+    const size_t at = static_cast<size_t>(std::find(records.begin(), records.end(), anchor) - records.begin());
+    const size_t place = before ? at : at + 1;
     if (place >= records.size() || place == i || place == i + 1) continue;
     records.erase(records.begin() + static_cast<long>(i));
     records.insert(records.begin() + static_cast<long>(place < i ? place : place - 1), record);
@@ -258,24 +239,35 @@ std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& 
 
 void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<CiscoCommandLine*>& into,
                           CiscoCommandLine* parent) {
+  if (extra.empty()) return;
+  // The first mode head of `into` by its text, and the text of every record
+  // of it, kept up to date as records join.
+  std::unordered_map<std::string, CiscoCommandLine*> heads;
+  std::unordered_set<std::string> texts;
+  const auto known = [&heads, &texts](CiscoCommandLine* record) {
+    if (record->hasFlags(CMDBIT_OPENS_MODE)) heads.emplace(record->getOriginalCmd(), record);
+    texts.insert(trimmed(record->getOriginalCmd()));
+  };
+  for (CiscoCommandLine* record : into) known(record);
   for (CiscoCommandLine* record : extra) {
     if (record->getFlag() == CMD_TEXT) {
       std::vector<CiscoCommandLine*> alone{record};
       QxParserUtil::deleteCommands(alone);
       continue;
     }
-    CiscoCommandLine* head = record->hasFlags(CMDBIT_OPENS_MODE) ? sameHead(into, *record) : nullptr;
-    if (head) {
-      graft(record->getChildCommands(), head->getChildCommands(), head);
+    const auto head = record->hasFlags(CMDBIT_OPENS_MODE) ? heads.find(record->getOriginalCmd()) : heads.end();
+    if (head != heads.end()) {
+      graft(record->getChildCommands(), head->second->getChildCommands(), head->second);
       std::vector<CiscoCommandLine*> alone{record};
       QxParserUtil::deleteCommands(alone);
-    } else if (!record->hasFlags(CMDBIT_OPENS_MODE) && sameText(into, *record)) {
+    } else if (!record->hasFlags(CMDBIT_OPENS_MODE) && texts.count(trimmed(record->getOriginalCmd()))) {
       // A command that `into` holds already is not written twice.
       std::vector<CiscoCommandLine*> alone{record};
       QxParserUtil::deleteCommands(alone);
     } else {
       record->setParentCommand(parent, false);
       into.push_back(record);
+      known(record);
     }
   }
   extra.clear();
