@@ -5039,8 +5039,8 @@ crypto|encryption module|k||
   !
 !
 mls|multilayer switching|k||
-  qos|qos configuration|k/sb/o||
-    <cr>||||
+  qos|qos configuration|k/o||
+    <cr>||sb||
     !
     map|qos maps|k||
       cos-dscp|cos to dscp map|k||
@@ -5097,7 +5097,7 @@ mls|multilayer switching|k||
               !
               threshold|threshold id|k||
                 id|threshold id|k||
-                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                  <values>|values mapped to this queue and threshold|k/lb/le/wa||
                     <cr>||||
                     !
                   !
@@ -5117,7 +5117,7 @@ mls|multilayer switching|k||
               !
               threshold|threshold id|k||
                 id|threshold id|k||
-                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                  <values>|values mapped to this queue and threshold|k/lb/le/wa||
                     <cr>||||
                     !
                   !
@@ -5169,7 +5169,7 @@ mls|multilayer switching|k||
               !
               threshold|threshold id|k||
                 id|threshold id|k||
-                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                  <values>|values mapped to this queue and threshold|k/lb/le/wa||
                     <cr>||||
                     !
                   !
@@ -5189,7 +5189,7 @@ mls|multilayer switching|k||
               !
               threshold|threshold id|k||
                 id|threshold id|k||
-                  <values>|values mapped to this queue and threshold|lb/le/wa||
+                  <values>|values mapped to this queue and threshold|k/lb/le/wa||
                     <cr>||||
                     !
                   !
@@ -8165,16 +8165,16 @@ voice|voice configuration|k||
   !
   pcm|pulse code modulation|k||
     capture|capture pcm data|k||
-      buffer|capture buffer|k/sb/o||
-        <cr>||||
+      buffer|capture buffer|k/o||
+        <cr>||sb||
         !
         id|buffer size|o||
           <cr>||||
           !
         !
       !
-      destination|capture destination|k/sb/o||
-        <cr>||||
+      destination|capture destination|k/o||
+        <cr>||sb||
         !
         word|url|o||
           <cr>||||

@@ -1,5 +1,5 @@
-cef|cisco express forwarding|k/sb/o||
-  <cr>||||
+cef|cisco express forwarding|k/o||
+  <cr>||sb||
   !
   distributed|distributed|k||
     <cr>||||

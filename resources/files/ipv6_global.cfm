@@ -2,8 +2,8 @@ unicast-routing|unicast-routing|k||
   <cr>||||
   !
 !
-cef|cef|k/sb/o||
-  <cr>||||
+cef|cef|k/o||
+  <cr>||sb||
   !
   distributed|distributed|k||
     <cr>||||

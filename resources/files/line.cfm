@@ -34,8 +34,8 @@ privilege|change privilege level for line|k||
     !
   !
 !
-login|enable password checking|k/sb/o||
-  <cr>||||
+login|enable password checking|k/o||
+  <cr>||sb||
   !
   local|local|o||
     <cr>||||

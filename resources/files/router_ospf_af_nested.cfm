@@ -20,8 +20,8 @@ network|enable routing on an ip network|k||
     !
   !
 !
-log-adjacency-changes|log changes in adjacency state|k/sb/o||
-  <cr>||||
+log-adjacency-changes|log changes in adjacency state|k/o||
+  <cr>||sb||
   !
   detail|detail|k||
     <cr>||||

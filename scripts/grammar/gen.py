@@ -15,8 +15,8 @@ Source format, one node per line, two blanks of indentation per level:
   "help"   help text (default: the token)
   *        shorthand for :lb/le/wa $ (free text that takes the rest of the line)
 
-  A node with $, children and the flag sn writes sn on its <cr> line: only the
-  command that ends there is the default shown in its "no" form.
+  A node with $, children and the flag sn or sb writes it on its <cr> line:
+  only the command that ends there is shown in its "no" form.
 
   :-k      this keyword does not name the command: no automatic k
 
@@ -168,12 +168,15 @@ def emit(node, depth, out):
     links = " ".join(x for x in (node.include,) if x)
     help_text = node.help or node.token.strip("<>")
     flags, end_flags = node.flags, ""
-    if node.end and node.children and "sn" in flags.split("/"):
-        # A default shown in its "no" form is the command that ends here; the
-        # longer commands below it (keepalive 10, switchport mode access) are
-        # shown as typed, so sn goes on the <cr> alone.
-        flags = "/".join(f for f in flags.split("/") if f != "sn")
-        end_flags = "sn"
+    shown = [f for f in ("sn", "sb") if f in flags.split("/")]
+    if node.end and node.children and shown:
+        # A default shown in its "no" form (sn), or a command shown in both
+        # forms (sb), is the command that ends here; the longer commands below
+        # it (keepalive 10, switchport mode access, mls qos map ...) are shown
+        # as typed and their "no" forms are not shown, so the flag goes on the
+        # <cr> alone.
+        flags = "/".join(f for f in flags.split("/") if f not in shown)
+        end_flags = "/".join(shown)
     out.append("%s%s|%s|%s|%s|%s" % (pad, node.token, help_text, flags, node.text, links))
     if node.end:
         out.append("%s  <cr>||%s||%s" % (pad, end_flags, node.link))

@@ -5,7 +5,7 @@ def QUEUEMAP
     id :k "queue id" $
       threshold "threshold id"
         id :k "threshold id"
-          <values> :lb/le/wa "values mapped to this queue and threshold" $
+          <values> :k/lb/le/wa "values mapped to this queue and threshold" $
       <values> :lb/le/wa "values mapped to this queue" $
 
 def SRRDIR
