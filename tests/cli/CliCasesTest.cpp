@@ -3,11 +3,13 @@
 // error as the case gives them.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "platform/PlatformOs.h"
 #include "support/CaseFile.h"
 #include "support/CliRun.h"
 
@@ -63,7 +65,7 @@ void expectLines(const testsupport::Case& c, const std::string& key, const std::
 TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
   if (!testsupport::cliBuilt()) GTEST_SKIP() << "the vtyconf program is not built";
   const std::set<std::string> known = {"args",       "stdin",      "exit",       "stdout",      "stderr",
-                                       "stdout has", "stdout lacks", "stderr has", "stderr lacks"};
+                                       "stdout has", "stdout lacks", "stderr has", "stderr lacks", "env", "stderr holds"};
   int serial = 0;
   std::vector<testsupport::Case> cases = testsupport::readCases("cli/cases.txt");
   for (testsupport::Case& c : testsupport::readCases("cli/console_twin.txt")) cases.push_back(std::move(c));
@@ -74,7 +76,10 @@ TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
     }
     std::string arguments;
     for (const std::string& word : words(placed(c["args"], dir))) arguments += " " + testsupport::shellQuote(word);
+    const std::string env = c.get("env");
+    if (!env.empty()) platform::setEnv(env.substr(0, env.find('=')), env.substr(env.find('=') + 1));
     const testsupport::CliRun run = testsupport::runCli(arguments, c.get("stdin"));
+    if (!env.empty()) ::unsetenv(env.substr(0, env.find('=')).c_str());
     EXPECT_EQ(std::to_string(run.exitCode), c.get("exit", "0")) << c.where() << "\n" << run.err;
     if (c.has("stdout")) {
       EXPECT_EQ(run.out, placed(c["stdout"], dir)) << c.where();
@@ -86,6 +91,9 @@ TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
     expectLines(c, "stdout lacks", run.out, false, dir);
     expectLines(c, "stderr has", run.err, true, dir);
     expectLines(c, "stderr lacks", run.err, false, dir);
+    if (c.has("stderr holds")) {
+      EXPECT_NE(run.err.find(c["stderr holds"]), std::string::npos) << c.where() << run.err;
+    }
     for (const auto& [key, text] : c.sections) {
       if (key.compare(0, 8, "written ") == 0) {
         EXPECT_EQ(testsupport::readFile(dir + key.substr(8)), text) << c.where() << " [" << key << "]";

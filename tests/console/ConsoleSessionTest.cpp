@@ -48,13 +48,17 @@ bool runScript(const Case& c, testsupport::PtySession& session) {
   int number = 0;
   for (std::string step; std::getline(script, step);) {
     ++number;
-    if (step.size() < 2 || step[1] != ' ' || (step[0] != '>' && step[0] != '<')) {
-      ADD_FAILURE() << c.where() << ": step " << number << " is neither \"> keys\" nor \"< text\": " << step;
+    if (step.size() < 2 || step[1] != ' ' || std::string("<>|=").find(step[0]) == std::string::npos) {
+      ADD_FAILURE() << c.where() << ": step " << number << " is none of \"> keys\", \"< text\", \"| columns\", \"= raw\"";
       return false;
     }
     const std::string text = testsupport::unescaped(step.substr(2));
     if (step[0] == '>') {
       session.type(text);
+    } else if (step[0] == '|') {
+      session.resize(std::stoi(text));
+    } else if (step[0] == '=') {
+      EXPECT_TRUE(session.keyByKey()) << c.where() << ": step " << number << ": the terminal is key by key";
     } else if (!session.waitFor(text)) {
       ADD_FAILURE() << c.where() << ": step " << number << " never showed: " << step << "\n--- screen after the "
                     << "last step shown:\n"

@@ -103,15 +103,6 @@ class SearchTest : public HistoryTest {
   }
 };
 
-TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
-  feed("\x12" "ver");
-  ASSERT_EQ(ed->getCursor(), 5);
-  feed("\x0e");
-  EXPECT_FALSE(ed->isSearching());
-  EXPECT_EQ(line(), "show version");  // no step through the history
-  EXPECT_EQ(ed->getMark(), 5);
-}
-
 TEST_F(SearchTest, SearchStringStopsAtHundredCharacters) {
   feed("\x12" + std::string(105, 'q'));
   EXPECT_EQ(ed->getSearchString(), std::string(100, 'q'));

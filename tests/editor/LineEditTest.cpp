@@ -38,6 +38,7 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
           {"cursor", std::to_string(ed->getCursor())},
           {"returned", last == nullptr ? "(null)" : last},
           {"killed", ed->getKillBuffer()},
+          {"mark", std::to_string(ed->getMark())},
       };
       for (const auto& [key, value] : state) testsupport::expectSection(c, numbered(key, step), value);
     }
@@ -133,22 +134,6 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   ed->clearOutput();
   ed->gl_fixup("", -1, 80);
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
-}
-
-TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
-  start();
-  feed("abcd\x02\x02\x0b\x01\x19");  // yank "cd" at 0: mark 0, cursor 2
-  EXPECT_EQ(ed->getMark(), 0);
-  feed("\x18");  // exchange
-  EXPECT_EQ(ed->getCursor(), 0);
-  EXPECT_EQ(ed->getMark(), 2);
-  feed("\x17");  // wipe the region
-  EXPECT_EQ(line(), "ab");
-  EXPECT_EQ(std::string(ed->getKillBuffer()), "cd");
-  EXPECT_EQ(ed->getCursor(), 0);
-  // Mark equal to the cursor: wipe does nothing.
-  EXPECT_EQ(feed("\x17"), "");
-  EXPECT_EQ(line(), "ab");
 }
 
 // ------------------------------------------------------------ hooks
