@@ -1,9 +1,10 @@
 // Whole console sessions typed at a pseudo-terminal, from the scripts of
 // tests/data/console/sessions.txt: what the screen shows step by step, that
-// the session ends by itself with the terminal put back, and that the file
+// the session ends by itself or by the signal sent with the terminal put back, and that the file
 // `write memory` saved is what merging the typed configuration lines into
 // the starting configuration gives.
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/wait.h>
 
 #include <filesystem>
@@ -48,8 +49,8 @@ bool runScript(const Case& c, testsupport::PtySession& session) {
   int number = 0;
   for (std::string step; std::getline(script, step);) {
     ++number;
-    if (step.size() < 2 || step[1] != ' ' || std::string("<>|=").find(step[0]) == std::string::npos) {
-      ADD_FAILURE() << c.where() << ": step " << number << " is none of \"> keys\", \"< text\", \"| columns\", \"= raw\"";
+    if (step.size() < 2 || step[1] != ' ' || std::string("<>|=!").find(step[0]) == std::string::npos) {
+      ADD_FAILURE() << c.where() << ": step " << number << " is no step: " << step;
       return false;
     }
     const std::string text = testsupport::unescaped(step.substr(2));
@@ -57,6 +58,8 @@ bool runScript(const Case& c, testsupport::PtySession& session) {
       session.type(text);
     } else if (step[0] == '|') {
       session.resize(std::stoi(text));
+    } else if (step[0] == '!') {
+      kill(session.pid(), std::stoi(text));
     } else if (step[0] == '=') {
       EXPECT_TRUE(session.keyByKey()) << c.where() << ": step " << number << ": the terminal is key by key";
     } else if (!session.waitFor(text)) {
@@ -95,7 +98,11 @@ TEST(ConsoleSessionTest, SessionsAtAPseudoTerminal) {
     ASSERT_TRUE(session.started()) << c.where();
     if (!runScript(c, session)) continue;
     const int status = session.finish();
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << c.where() << " status " << status;
+    if (c.has("signal")) {
+      EXPECT_TRUE(WIFSIGNALED(status) && std::to_string(WTERMSIG(status)) == c["signal"]) << c.where() << status;
+    } else {
+      EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << c.where() << " status " << status;
+    }
     EXPECT_FALSE(session.keyByKey()) << c.where() << ": the terminal is put back on leaving";
     if (c.has("saved")) expectSavedIsTheMerge(c, dir);
   }
