@@ -25,23 +25,6 @@ using testsupport::Case;
 const std::string kResources = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 const std::string kCorpus = std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/";
 
-std::string placed(std::string text, const std::string& dir) {
-  for (const auto& [name, value] : {std::pair<std::string, std::string>{"{dir}", dir}, {"{resources}", kResources},
-                                    {"{corpus}", kCorpus}}) {
-    for (size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + value.size())) {
-      text.replace(at, name.size(), value);
-    }
-  }
-  return text;
-}
-
-std::vector<std::string> blankSeparated(const std::string& text) {
-  std::istringstream in(text);
-  std::vector<std::string> out;
-  for (std::string word; in >> word;) out.push_back(word);
-  return out;
-}
-
 // Types and waits as the case's script says; false at the first step the
 // screen does not show.
 bool runScript(const Case& c, testsupport::PtySession& session) {
@@ -94,7 +77,7 @@ TEST(ConsoleSessionTest, SessionsAtAPseudoTerminal) {
       GTEST_SKIP() << "the corpus configuration " << kCorpus + c["config"] << " is absent";
     }
     const std::string dir = testsupport::scratchFolder("console-session-" + std::to_string(++index));
-    testsupport::PtySession session(blankSeparated(placed(c["args"], dir)));
+    testsupport::PtySession session(testsupport::words(testsupport::placed(c["args"], dir)));
     ASSERT_TRUE(session.started()) << c.where();
     if (!runScript(c, session)) continue;
     const int status = session.finish();
