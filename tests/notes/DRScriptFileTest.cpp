@@ -1,6 +1,7 @@
 // Script files: the format round trip, the reader's treatment of odd headers,
 // the writer's translation side effect, and the side-file operations.
 #include <filesystem>
+#include <memory>
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
@@ -65,9 +66,10 @@ TEST(DRScriptFileTest, NameHelpersGiveTheirRowsResult) {
 
 
 // The rows of tests/data/notes/side_files.tsv, each on the folder of the last
-// "fresh" row; paths are relative to it.
+// "fresh" row (and the tree of scripts read from it); paths are relative to it.
 TEST(DRScriptFileTest, SideFileCallsGiveTheirRowsResult) {
   std::string dir;
+  std::unique_ptr<DesignNoteParser> tree;
   auto in = [&dir](const std::string& name) { return dir + "/" + name; };
   auto relative = [&dir](const std::string& path) {
     return path.compare(0, dir.size() + 1, dir + "/") == 0 ? path.substr(dir.size() + 1) : path;
@@ -75,7 +77,27 @@ TEST(DRScriptFileTest, SideFileCallsGiveTheirRowsResult) {
   using testsupport::Args;
   using testsupport::yesNo;
   const testsupport::Calls calls = {
-      {"fresh", {1, [&](const Args& a) { return (dir = scratch("sf-" + a[0])).empty() ? "no folder" : ""; }}},
+      {"fresh", {1, [&](const Args& a) {
+         tree = std::make_unique<DesignNoteParser>(dir = scratch("sf-" + a[0]));
+         return "";
+       }}},
+      {"reread", {0, [&](const Args&) {
+         tree = std::make_unique<DesignNoteParser>(dir);
+         return "";
+       }}},
+      {"addScript", {3, [&](const Args& a) { return yesNo(tree->addScriptFile(a[0], a[1], a[2])); }}},
+      {"addFolder", {1, [&](const Args& a) { return yesNo(tree->addSubDirect(a[0])); }}},
+      {"delScript", {1, [&](const Args& a) { return yesNo(tree->delScriptFile(a[0])); }}},
+      {"delFolder", {1, [&](const Args& a) { return yesNo(tree->delSubDirect(a[0])); }}},
+      {"fullPath", {1, [&](const Args& a) { return relative(tree->getScriptFileFullPath(a[0])); }}},
+      {"listing", {0, [&](const Args&) {
+         std::string out;
+         for (const auto& name : tree->getScriptFiles()) out += name + " ";
+         for (const auto& sub : tree->getSubDirects()) out += sub.first + "/ ";
+         return out;
+       }}},
+      {"favourite", {1, [&](const Args& a) { return yesNo(DRScriptFile(in(a[0])).isFavourite()); }}},
+      {"folder", {1, [&](const Args& a) { return yesNo(Pathname(in(a[0])).isDirectory()); }}},
       {"write", {2, [&](const Args& a) {
          std::filesystem::create_directories(std::filesystem::path(in(a[0])).parent_path());
          writeFile(in(a[0]), a[1]);
