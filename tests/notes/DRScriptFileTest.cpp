@@ -1,5 +1,6 @@
 // Script files: the format round trip, the reader's treatment of odd headers,
 // the writer's translation side effect, and the side-file operations.
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include "support/CaseFile.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
+#include "results/UIVariableForDR.h"
 
 using notestest::exists;
 using notestest::readFile;
@@ -84,6 +86,13 @@ TEST(DRScriptFileTest, SideFileCallsGiveTheirRowsResult) {
       {"reread", {0, [&](const Args&) {
          tree = std::make_unique<DesignNoteParser>(dir);
          return "";
+       }}},
+      {"root", {3, [&](const Args& a) {
+         UIVariableForDR ui;
+         ui.setRootPath(a[2]);
+         DesignNoteParser t(dir + a[0], a[2].empty() ? nullptr : &ui, a[1] == "yes");
+         return "{dir}" + t.getRootDirct().substr(std::min(dir.size(), t.getRootDirct().size())) + " " +
+                std::to_string(t.getScriptFiles().size()) + " " + std::to_string(t.getSubDirects().size());
        }}},
       {"addScript", {3, [&](const Args& a) { return yesNo(tree->addScriptFile(a[0], a[1], a[2])); }}},
       {"addFolder", {1, [&](const Args& a) { return yesNo(tree->addSubDirect(a[0])); }}},

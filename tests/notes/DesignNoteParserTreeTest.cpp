@@ -1,5 +1,6 @@
 // The folder tree of scripts: scanning with and without filters and UI
-// variables (its add, delete and path calls are rows of notes/side_files.tsv).
+// variables (its root, add, delete and path calls are rows of
+// notes/side_files.tsv).
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -47,23 +48,6 @@ TEST(DesignNoteParserTreeTest, ScansFindTheTreeTheirCaseSays) {
     EXPECT_EQ(dumpTree(tree), c["tree"]) << c.where();
     EXPECT_EQ(tree.getRootDirct(), root + c["root"]) << c.where();
   }
-}
-
-TEST(DesignNoteParserTreeTest, OneTrailingSeparatorIsDropped) {
-  const std::string root = makeTree("tree-sep");
-  EXPECT_EQ(DesignNoteParser(root + "/", nullptr, false).getRootDirct(), root);
-  EXPECT_EQ(DesignNoteParser(root + "//", nullptr, false).getRootDirct(), root + "/");
-  EXPECT_TRUE(DesignNoteParser(root, nullptr, false).getScriptFiles().empty()) << "no scan, no reading";
-  DesignNoteParser missing(root + "/none");
-  EXPECT_TRUE(missing.getScriptFiles().empty());
-  EXPECT_TRUE(missing.getSubDirects().empty());
-}
-
-TEST(DesignNoteParserTreeTest, UiRootPathIsTakenWithoutAScan) {
-  const std::string root = makeTree("tree-ui");
-  UIVariableForDR ui;
-  ui.setRootPath("Global");
-  EXPECT_EQ(DesignNoteParser(root, &ui, false).getRootDirct(), root + "/Global");
 }
 
 }  // namespace
