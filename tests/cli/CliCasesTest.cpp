@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <set>
 #include <sstream>
 #include <string>
@@ -36,7 +37,9 @@ TEST(CliCases, RunsGiveTheirExitCodeAndOutput) {
   for (const testsupport::Case& c : cases) {
     const std::string dir = testsupport::scratchFolder("cli-case-" + std::to_string(++serial));
     for (const auto& [key, text] : c.sections) {
-      if (key.compare(0, 5, "file ") == 0) testsupport::writeFile(dir + key.substr(5), text);
+      if (key.compare(0, 5, "file ") != 0) continue;
+      std::filesystem::create_directories(std::filesystem::path(dir + key.substr(5)).parent_path());
+      testsupport::writeFile(dir + key.substr(5), text);
     }
     std::string arguments;
     for (const std::string& word : testsupport::words(testsupport::placed(c["args"], dir))) arguments += " " + testsupport::shellQuote(word);
