@@ -39,6 +39,8 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
           {"returned", last == nullptr ? "(null)" : last},
           {"killed", ed->getKillBuffer()},
           {"mark", std::to_string(ed->getMark())},
+          {"search", ed->getSearchString()},
+          {"search prompt", ed->getSearchPrompt()},
       };
       for (const auto& [key, value] : state) testsupport::expectSection(c, numbered(key, step), value);
       const std::string only = c.get(numbered("drawn only", step), screen);
