@@ -48,23 +48,6 @@ TEST_F(ConsoleLoopTest, KeysShowTheirAnswersAndCollectTheDelta) {
   }
 }
 
-TEST_F(ConsoleLoopTest, KeyThatDoesNotEndTheLineOnlyEchoes) {
-  EXPECT_EQ(type("e"), "e");
-  EXPECT_EQ(type("nabl"), "nabl");
-  EXPECT_EQ(vty_->currentMode(), qxparser::VIEW_MODE) << "no line went to the terminal yet";
-  EXPECT_EQ(type("e\r"), "e\nR1#");
-  EXPECT_EQ(vty_->currentMode(), qxparser::EXEC_MODE);
-}
-
-TEST_F(ConsoleLoopTest, CommandHoldingTheLettersOfEndIsLeftOutOfTheDeltaAsIntended) {
-  type("enable\rconf t\rint e0/1\r");
-  std::string before = delta_;
-  EXPECT_EQ(type("description backend link\r"), "description backend link\nR1(config-if)#");
-  EXPECT_EQ(delta_, before) << "a plain substring test on the whole command";
-  type("description uplink\r");
-  EXPECT_EQ(delta_, before + "description uplink \n");
-}
-
 TEST_F(ConsoleLoopTest, NullDeltaIsAcceptedInConfigurationMode) {
   type("enable\rconf t\r");
   for (char key : std::string("hostname R9\r")) {
@@ -74,12 +57,6 @@ TEST_F(ConsoleLoopTest, NullDeltaIsAcceptedInConfigurationMode) {
   }
   EXPECT_EQ(vty_->getAllConfigCmds(), "");
   EXPECT_STREQ(vtysh_prompt(vty_.get()), "R1(config)#");
-}
-
-TEST_F(ConsoleLoopTest, CtrlDOnAnEmptyLineEndsItWithoutRunningIt) {
-  EXPECT_EQ(type("\x04"), "\n");
-  EXPECT_FALSE(editor_->getNewLine());
-  EXPECT_EQ(vty_->currentMode(), qxparser::VIEW_MODE);
 }
 
 TEST_F(ConsoleLoopTest, OverflowShowsTheErrorAndKeepsTheLine) {

@@ -1,9 +1,10 @@
 // Whole console sessions typed at a pseudo-terminal, from the scripts of
 // tests/data/console/sessions.txt: what the screen shows step by step, that
-// the session ends by itself with the terminal put back, and that the file
+// the session ends by itself or by the signal sent with the terminal put back, and that the file
 // `write memory` saved is what merging the typed configuration lines into
 // the starting configuration gives.
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/wait.h>
 
 #include <filesystem>
@@ -24,23 +25,6 @@ using testsupport::Case;
 const std::string kResources = std::string(VTYCONF_SOURCE_DIR) + "/resources/";
 const std::string kCorpus = std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/";
 
-std::string placed(std::string text, const std::string& dir) {
-  for (const auto& [name, value] : {std::pair<std::string, std::string>{"{dir}", dir}, {"{resources}", kResources},
-                                    {"{corpus}", kCorpus}}) {
-    for (size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + value.size())) {
-      text.replace(at, name.size(), value);
-    }
-  }
-  return text;
-}
-
-std::vector<std::string> blankSeparated(const std::string& text) {
-  std::istringstream in(text);
-  std::vector<std::string> out;
-  for (std::string word; in >> word;) out.push_back(word);
-  return out;
-}
-
 // Types and waits as the case's script says; false at the first step the
 // screen does not show.
 bool runScript(const Case& c, testsupport::PtySession& session) {
@@ -48,13 +32,19 @@ bool runScript(const Case& c, testsupport::PtySession& session) {
   int number = 0;
   for (std::string step; std::getline(script, step);) {
     ++number;
-    if (step.size() < 2 || step[1] != ' ' || (step[0] != '>' && step[0] != '<')) {
-      ADD_FAILURE() << c.where() << ": step " << number << " is neither \"> keys\" nor \"< text\": " << step;
+    if (step.size() < 2 || step[1] != ' ' || std::string("<>|=!").find(step[0]) == std::string::npos) {
+      ADD_FAILURE() << c.where() << ": step " << number << " is no step: " << step;
       return false;
     }
     const std::string text = testsupport::unescaped(step.substr(2));
     if (step[0] == '>') {
       session.type(text);
+    } else if (step[0] == '|') {
+      session.resize(std::stoi(text));
+    } else if (step[0] == '!') {
+      kill(session.pid(), std::stoi(text));
+    } else if (step[0] == '=') {
+      EXPECT_TRUE(session.keyByKey()) << c.where() << ": step " << number << ": the terminal is key by key";
     } else if (!session.waitFor(text)) {
       ADD_FAILURE() << c.where() << ": step " << number << " never showed: " << step << "\n--- screen after the "
                     << "last step shown:\n"
@@ -87,11 +77,15 @@ TEST(ConsoleSessionTest, SessionsAtAPseudoTerminal) {
       GTEST_SKIP() << "the corpus configuration " << kCorpus + c["config"] << " is absent";
     }
     const std::string dir = testsupport::scratchFolder("console-session-" + std::to_string(++index));
-    testsupport::PtySession session(blankSeparated(placed(c["args"], dir)));
+    testsupport::PtySession session(testsupport::words(testsupport::placed(c["args"], dir)));
     ASSERT_TRUE(session.started()) << c.where();
     if (!runScript(c, session)) continue;
     const int status = session.finish();
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << c.where() << " status " << status;
+    if (c.has("signal")) {
+      EXPECT_TRUE(WIFSIGNALED(status) && std::to_string(WTERMSIG(status)) == c["signal"]) << c.where() << status;
+    } else {
+      EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << c.where() << " status " << status;
+    }
     EXPECT_FALSE(session.keyByKey()) << c.where() << ": the terminal is put back on leaving";
     if (c.has("saved")) expectSavedIsTheMerge(c, dir);
   }

@@ -1,4 +1,4 @@
-// History ring, history file and incremental search of the line editor.
+// History ring and history file of the line editor.
 #include <string>
 #include <vector>
 
@@ -90,34 +90,6 @@ TEST_F(HistoryTest, FileIsLoadedIntoTheRingWithoutWritingItAgain) {
   EXPECT_STREQ(ed->hist_prev(), "show c");
   EXPECT_STREQ(ed->hist_prev(), "show b");
   EXPECT_STREQ(ed->hist_prev(), "show a");
-}
-
-// ------------------------------------------------------------ search
-
-class SearchTest : public HistoryTest {
- protected:
-  void SetUp() override {
-    HistoryTest::SetUp();
-    for (const char* l : {"show version", "show running-config", "interface gi0/1"})
-      ed->Gl_histadd(l);
-  }
-};
-
-TEST_F(SearchTest, CtrlNEndsTheSearchAndOnlySetsTheMarkIntended) {
-  feed("\x12" "ver");
-  ASSERT_EQ(ed->getCursor(), 5);
-  feed("\x0e");
-  EXPECT_FALSE(ed->isSearching());
-  EXPECT_EQ(line(), "show version");  // no step through the history
-  EXPECT_EQ(ed->getMark(), 5);
-}
-
-TEST_F(SearchTest, SearchStringStopsAtHundredCharacters) {
-  feed("\x12" + std::string(105, 'q'));
-  EXPECT_EQ(ed->getSearchString(), std::string(100, 'q'));
-  EXPECT_EQ(ed->getSearchPrompt(), std::string(100, 'q') + "? ");
-  feed("\x08");
-  EXPECT_EQ(ed->getSearchString(), std::string(99, 'q'));
 }
 
 }  // namespace

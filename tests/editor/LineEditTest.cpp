@@ -38,8 +38,13 @@ TEST_F(EditorTest, KeysGiveExactScreenBytes) {
           {"cursor", std::to_string(ed->getCursor())},
           {"returned", last == nullptr ? "(null)" : last},
           {"killed", ed->getKillBuffer()},
+          {"mark", std::to_string(ed->getMark())},
+          {"search", ed->getSearchString()},
+          {"search prompt", ed->getSearchPrompt()},
       };
       for (const auto& [key, value] : state) testsupport::expectSection(c, numbered(key, step), value);
+      const std::string only = c.get(numbered("drawn only", step), screen);
+      EXPECT_EQ(screen.find_first_not_of(only), std::string::npos) << c.where() << " step " << step;
     }
   }
 }
@@ -133,22 +138,6 @@ TEST_F(EditorTest, DefaultScrollStepIsTwentySevenUntilAWidthIsSet) {
   ed->clearOutput();
   ed->gl_fixup("", -1, 80);
   EXPECT_EQ(ed->outputString(), "$" + std::string(53, 'x') + sp(25) + bs(25));
-}
-
-TEST_F(EditorTest, WipeAndExchangeUseTheMarkThatYankSets) {
-  start();
-  feed("abcd\x02\x02\x0b\x01\x19");  // yank "cd" at 0: mark 0, cursor 2
-  EXPECT_EQ(ed->getMark(), 0);
-  feed("\x18");  // exchange
-  EXPECT_EQ(ed->getCursor(), 0);
-  EXPECT_EQ(ed->getMark(), 2);
-  feed("\x17");  // wipe the region
-  EXPECT_EQ(line(), "ab");
-  EXPECT_EQ(std::string(ed->getKillBuffer()), "cd");
-  EXPECT_EQ(ed->getCursor(), 0);
-  // Mark equal to the cursor: wipe does nothing.
-  EXPECT_EQ(feed("\x17"), "");
-  EXPECT_EQ(line(), "ab");
 }
 
 // ------------------------------------------------------------ hooks
@@ -247,37 +236,6 @@ TEST_F(EditorTest, YankPastTheLimitThrowsAndLeavesTheLine) {
 }
 
 // ------------------------------------------------------------ regressions
-
-// A prompt that takes (almost) the whole screen: the text still scrolls within
-// the line and nothing behind the line's end is ever drawn.
-TEST_F(EditorTest, LongLineBehindAPromptWiderThanTheScreenDrawsOnlyItsText) {
-  struct Row {
-    const char* prompt;
-    int width;
-    int keys;
-  };
-  const Row rows[] = {
-      {"Router(config-router-af-topology)#", 21, 200},  // prompt longer than the screen
-      {"Router(config-router-af-topology)#", 34, 200},  // prompt exactly as wide
-      {"Router(config-if)#", 21, 100},                  // three columns left
-      {"R1#", 21, 100},                                 // a normal line, for comparison
-  };
-  for (const Row& row : rows) {
-    start(row.prompt, row.width);
-    const std::string typed(static_cast<size_t>(row.keys), 'x');
-    const std::string drawn = feed(typed);
-    EXPECT_EQ(line(), typed) << row.prompt << " " << row.width;
-    EXPECT_EQ(ed->getCursor(), row.keys);
-    for (char c : drawn) {
-      ASSERT_TRUE(c == 'x' || c == '$' || c == '\b' || c == ' ')
-          << "drew byte " << static_cast<int>(static_cast<unsigned char>(c)) << " for " << row.prompt << " "
-          << row.width;
-    }
-    // Moving back to the start and to the end again stays within the text.
-    const std::string moved = feed("\x01\x05");
-    EXPECT_EQ(moved.find('\0'), std::string::npos) << row.prompt;
-  }
-}
 
 TEST_F(EditorTest, WiderScreenSetBeforeAnyFullDrawKeepsTheDrawInsideTheLine) {
   // Keys in mode 1 from the first one on: no full draw has measured the text

@@ -1,5 +1,8 @@
 // Script files: the format round trip, the reader's treatment of odd headers,
 // the writer's translation side effect, and the side-file operations.
+#include <algorithm>
+#include <filesystem>
+#include <memory>
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
@@ -7,6 +10,7 @@
 #include "support/CaseFile.h"
 #include "notes/DRScriptFile.h"
 #include "notes/DesignNoteParser.h"
+#include "results/UIVariableForDR.h"
 
 using notestest::exists;
 using notestest::readFile;
@@ -14,8 +18,6 @@ using notestest::scratch;
 using notestest::writeFile;
 
 namespace {
-
-const char kGoodScript[] = "#x = search_line(\"^hostname \", all);\nprint #x;\n";
 
 // The files of tests/data/notes/script_files.txt, written by hand or by the
 // writer, read back.
@@ -35,36 +37,6 @@ TEST(DRScriptFileTest, FilesWrittenAndReadAsTheirCaseSays) {
     EXPECT_EQ(back.isFavourite() ? "yes" : "no", c["favourite"]) << c.where();
     EXPECT_EQ(back.getFileName() + " " + back.getFilePath(), "s " + path) << c.where();
   }
-}
-
-TEST(DRScriptFileTest, SaveTranslatesOnlyAScriptThatPassesTheCheck) {
-  const std::string dir = scratch("sf-translate");
-  ASSERT_TRUE(DRScriptFile(kGoodScript, "", true).saveScriptFile(dir + "/good.cmf"));
-  EXPECT_TRUE(exists(dir + "/good.pl"));
-  EXPECT_NE(readFile(dir + "/good.pl").find("search_line("), std::string::npos);
-
-  writeFile(dir + "/bad.pl", "stale");
-  ASSERT_TRUE(DRScriptFile("if (isempty(#a) {\n", "", true).saveScriptFile(dir + "/bad.cmf"));
-  EXPECT_TRUE(exists(dir + "/bad.cmf"));
-  EXPECT_FALSE(exists(dir + "/bad.pl")) << "a stale translation must go";
-
-  // Passes the delimiter check, refused by the translator.
-  ASSERT_TRUE(DRScriptFile("print (#a);\n", "", true).saveScriptFile(dir + "/refused.cmf"));
-  EXPECT_FALSE(exists(dir + "/refused.pl"));
-}
-
-TEST(DRScriptFileTest, SaveByExtensionOfThePath) {
-  const std::string dir = scratch("sf-ext");
-  DRScriptFile s(kGoodScript, "d", true);
-  EXPECT_TRUE(s.saveScriptFile(dir + "/p.py"));
-  EXPECT_EQ(readFile(dir + "/p.py"), kGoodScript);
-  EXPECT_TRUE(s.saveScriptFile(dir + "/none.txt")) << "nothing written, still true";
-  EXPECT_FALSE(exists(dir + "/none.txt"));
-  // A ".pl" path gets the header form and is then replaced by the translation.
-  EXPECT_TRUE(s.saveScriptFile(dir + "/t.pl"));
-  EXPECT_NE(readFile(dir + "/t.pl").find("hashConfigFile"), std::string::npos);
-  EXPECT_FALSE(s.saveScriptFile(dir + "/missing-folder/x.cmf"));
-  EXPECT_FALSE(s.save()) << "an object built from text has no file path";
 }
 
 TEST(DRScriptFileTest, SettersSaveToTheFileTheyCameFrom) {
@@ -94,59 +66,74 @@ TEST(DRScriptFileTest, NameHelpersGiveTheirRowsResult) {
   testsupport::runCallTable("notes/calls.tsv", calls);
 }
 
-TEST(DRScriptFileTest, DeleteTakesTheSideFilesAlong) {
-  const std::string dir = scratch("sf-del");
-  for (const char* ext : {".cmf", ".pl", ".py", ".sample1", ".sample2", ".qmap", ".map", ".keep"})
-    writeFile(dir + "/n" + ext, "x");
-  DRScriptFile::delScriptFile(dir + "/n.cmf");
-  for (const char* ext : {".cmf", ".pl", ".py", ".sample1", ".sample2", ".qmap", ".map"})
-    EXPECT_FALSE(exists(dir + "/n" + ext)) << ext;
-  EXPECT_TRUE(exists(dir + "/n.keep"));
 
-  platform::makeDir(dir + "/sub");
-  writeFile(dir + "/sub/m.cmf", "x");
-  writeFile(dir + "/sub/m.sample1", "x");
-  DRScriptFile::delScriptFiles(dir + "/");
-  EXPECT_FALSE(exists(dir));
-}
-
-TEST(DRScriptFileTest, RenameMovesEverySideFileAndTurnsMapIntoQmap) {
-  const std::string dir = scratch("sf-ren") + "/";
-  for (const char* ext : {".cmf", ".pl", ".sample1", ".map"}) writeFile(dir + "old" + ext, ext);
-  ASSERT_TRUE(DRScriptFile::renameScriptFile(dir, "old", "new"));
-  EXPECT_EQ(readFile(dir + "new.cmf"), ".cmf");
-  EXPECT_EQ(readFile(dir + "new.pl"), ".pl");
-  EXPECT_EQ(readFile(dir + "new.sample1"), ".sample1");
-  EXPECT_EQ(readFile(dir + "new.qmap"), ".map");
-  EXPECT_FALSE(exists(dir + "old.cmf"));
-
-  writeFile(dir + "only.py", "py");
-  EXPECT_TRUE(DRScriptFile::renameScriptFile(dir, "only", "moved"));
-  EXPECT_TRUE(exists(dir + "moved.py"));
-  EXPECT_FALSE(DRScriptFile::renameScriptFile(dir, "ghost", "x"));
-  EXPECT_FALSE(DRScriptFile::renameScriptFile(dir, "moved", ""));
-}
-
-TEST(DRScriptFileTest, SampleIndexThreeIsWrittenAsTwoButNotReadIntended) {
-  const std::string dir = scratch("sf-sample");
-  writeFile(dir + "/n.cmf", "x");
-  writeFile(dir + "/cfg", "hostname r1\n");
-  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 1), "");
-  EXPECT_TRUE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/cfg", 1));
-  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 1), dir + "/n.sample1");
-  EXPECT_TRUE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/cfg", 3));
-  EXPECT_EQ(readFile(dir + "/n.sample2"), "hostname r1\n");
-  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 3), "");
-  EXPECT_EQ(DRScriptFile::getSampleFileFullPath(dir + "/n.cmf", 2), dir + "/n.sample2");
-  EXPECT_FALSE(DRScriptFile::setSampleFile(dir + "/n.cmf", dir + "/nothing", 1));
-  EXPECT_FALSE(DRScriptFile::setSampleFile(dir + "/none.cmf", dir + "/cfg", 1));
-
-  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), "");
-  writeFile(dir + "/n.map", "old");
-  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), dir + "/n.map");
-  EXPECT_TRUE(DRScriptFile::setSampleMap(dir + "/n.cmf", dir + "/cfg"));
-  EXPECT_EQ(DRScriptFile::getSampleMapFullPath(dir + "/n.cmf"), dir + "/n.qmap");
-  EXPECT_EQ(readFile(dir + "/n.map"), "old") << "setSampleMap never writes .map";
+// The rows of tests/data/notes/side_files.tsv, each on the folder of the last
+// "fresh" row (and the tree of scripts read from it); paths are relative to it.
+TEST(DRScriptFileTest, SideFileCallsGiveTheirRowsResult) {
+  std::string dir;
+  std::unique_ptr<DesignNoteParser> tree;
+  auto in = [&dir](const std::string& name) { return dir + "/" + name; };
+  auto relative = [&dir](const std::string& path) {
+    return path.compare(0, dir.size() + 1, dir + "/") == 0 ? path.substr(dir.size() + 1) : path;
+  };
+  using testsupport::Args;
+  using testsupport::yesNo;
+  const testsupport::Calls calls = {
+      {"fresh", {1, [&](const Args& a) {
+         tree = std::make_unique<DesignNoteParser>(dir = scratch("sf-" + a[0]));
+         return "";
+       }}},
+      {"reread", {0, [&](const Args&) {
+         tree = std::make_unique<DesignNoteParser>(dir);
+         return "";
+       }}},
+      {"root", {3, [&](const Args& a) {
+         UIVariableForDR ui;
+         ui.setRootPath(a[2]);
+         DesignNoteParser t(dir + a[0], a[2].empty() ? nullptr : &ui, a[1] == "yes");
+         return "{dir}" + t.getRootDirct().substr(std::min(dir.size(), t.getRootDirct().size())) + " " +
+                std::to_string(t.getScriptFiles().size()) + " " + std::to_string(t.getSubDirects().size());
+       }}},
+      {"addScript", {3, [&](const Args& a) { return yesNo(tree->addScriptFile(a[0], a[1], a[2])); }}},
+      {"addFolder", {1, [&](const Args& a) { return yesNo(tree->addSubDirect(a[0])); }}},
+      {"delScript", {1, [&](const Args& a) { return yesNo(tree->delScriptFile(a[0])); }}},
+      {"delFolder", {1, [&](const Args& a) { return yesNo(tree->delSubDirect(a[0])); }}},
+      {"fullPath", {1, [&](const Args& a) { return relative(tree->getScriptFileFullPath(a[0])); }}},
+      {"listing", {0, [&](const Args&) {
+         std::string out;
+         for (const auto& name : tree->getScriptFiles()) out += name + " ";
+         for (const auto& sub : tree->getSubDirects()) out += sub.first + "/ ";
+         return out;
+       }}},
+      {"favourite", {1, [&](const Args& a) { return yesNo(DRScriptFile(in(a[0])).isFavourite()); }}},
+      {"folder", {1, [&](const Args& a) { return yesNo(Pathname(in(a[0])).isDirectory()); }}},
+      {"write", {2, [&](const Args& a) {
+         std::filesystem::create_directories(std::filesystem::path(in(a[0])).parent_path());
+         writeFile(in(a[0]), a[1]);
+         return "";
+       }}},
+      {"exists", {1, [&](const Args& a) { return yesNo(exists(in(a[0]))); }}},
+      {"read", {1, [&](const Args& a) { return readFile(in(a[0])); }}},
+      {"holds", {2, [&](const Args& a) { return yesNo(readFile(in(a[0])).find(a[1]) != std::string::npos); }}},
+      {"save", {4, [&](const Args& a) { return yesNo(DRScriptFile(a[0], a[1], a[2] == "yes").saveScriptFile(in(a[3]))); }}},
+      {"saveUnnamed", {1, [](const Args& a) { return yesNo(DRScriptFile(a[0], "", true).save()); }}},
+      {"delete", {1, [&](const Args& a) {
+         DRScriptFile::delScriptFile(in(a[0]));
+         return "";
+       }}},
+      {"deleteAll", {0, [&](const Args&) {
+         DRScriptFile::delScriptFiles(dir + "/");
+         return "";
+       }}},
+      {"rename", {2, [&](const Args& a) { return yesNo(DRScriptFile::renameScriptFile(dir + "/", a[0], a[1])); }}},
+      {"setSample", {3, [&](const Args& a) {
+         return yesNo(DRScriptFile::setSampleFile(in(a[0]), in(a[1]), std::stoi(a[2])));
+       }}},
+      {"sample", {2, [&](const Args& a) { return relative(DRScriptFile::getSampleFileFullPath(in(a[0]), std::stoi(a[1]))); }}},
+      {"setMap", {2, [&](const Args& a) { return yesNo(DRScriptFile::setSampleMap(in(a[0]), in(a[1]))); }}},
+      {"map", {1, [&](const Args& a) { return relative(DRScriptFile::getSampleMapFullPath(in(a[0]))); }}},
+  };
+  testsupport::runCallTable("notes/side_files.tsv", calls);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The note subcommands of the built vtyconf program: exit codes, output forms
-// and messages, and paths full of shell syntax.
+// The note subcommands of the built vtyconf program with paths full of shell
+// syntax (the other runs are rows of tests/data/cli/cases.txt).
 #include <gtest/gtest.h>
 
 #include "NoteTestSupport.h"
@@ -21,25 +21,6 @@ class NoteCliTest : public ::testing::Test {
   }
   std::string example(const std::string& name) { return notestest::examplesDir() + "/" + name; }
 };
-
-TEST_F(NoteCliTest, UsefulListsTheNotesThatFindSomething) {
-  const std::string dir = scratch("cli-useful");
-  platform::makeDir(dir + "/notes");
-  platform::makeDir(dir + "/notes/bgp");
-  for (const char* n : {"shut_interfaces", "snmp_community_without_acl"})
-    ASSERT_TRUE(DRScriptFile(example(std::string(n) + ".cmf")).saveScriptFile(dir + "/notes/" + n + ".cmf"));
-  ASSERT_TRUE(DRScriptFile(example("bgp_neighbors_unprotected.cmf"))
-                  .saveScriptFile(dir + "/notes/bgp/bgp_neighbors_unprotected.cmf"));
-  writeFile(dir + "/cfg",
-            "interface Gi0/1\n shutdown\n!\nrouter bgp 1\n neighbor 192.0.2.1 remote-as 2\n!\nend\n");
-  CliRun r = runCliArgs({"note", "useful", dir + "/notes", dir + "/cfg"});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, "shut_interfaces\nbgp/bgp_neighbors_unprotected\n");
-
-  CliRun none = runCliArgs({"note", "useful", dir + "/notes", notestest::dataDir() + "/clean.cfg"});
-  EXPECT_EQ(none.exitCode, 0);
-  EXPECT_EQ(none.out, "");
-}
 
 TEST_F(NoteCliTest, PathsWithShellSyntaxArePlainNames) {
   const std::string dir = scratch("cli-inject");

@@ -52,4 +52,42 @@ inline CliRun runCliArgs(const std::vector<std::string>& args) {
   return runCli(arguments);
 }
 
+// `text` with every {name} of a case's places replaced: {dir} by `dir`, the
+// folders of the source tree, the test data and the public corpus.
+inline std::string placed(std::string text, const std::string& dir) {
+  const std::pair<const char*, std::string> places[] = {
+      {"{dir}", dir},
+      {"{resources}", std::string(VTYCONF_SOURCE_DIR) + "/resources/"},
+      {"{examples}", std::string(VTYCONF_SOURCE_DIR) + "/examples"},
+      {"{data}", VTYCONF_TEST_DATA_DIR},
+      {"{corpus}", std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/"},
+  };
+  for (const auto& [name, value] : places) {
+    for (size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + value.size())) {
+      text.replace(at, std::string(name).size(), value);
+    }
+  }
+  return text;
+}
+
+// The words of `args`, cut at blanks; '...' holds blanks and may be empty.
+inline std::vector<std::string> words(const std::string& args) {
+  std::vector<std::string> out;
+  bool quoted = false, inWord = false;
+  for (char c : args) {
+    if (c == '\'') {
+      if (!inWord) out.emplace_back();
+      quoted = !quoted;
+      inWord = true;
+    } else if (c == ' ' && !quoted) {
+      inWord = false;
+    } else {
+      if (!inWord) out.emplace_back();
+      out.back() += c;
+      inWord = true;
+    }
+  }
+  return out;
+}
+
 }  // namespace testsupport
