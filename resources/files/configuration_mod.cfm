@@ -4016,6 +4016,10 @@ logging|modify message logging facilities|k||
   console|console|k||
     <cr>||sn||
     !
+    guaranteed|guaranteed logging to the console|k||
+      <cr>||||
+      !
+    !
     line|line|lb/le/wa/o||
       <cr>||||
       !

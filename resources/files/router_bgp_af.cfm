@@ -989,6 +989,16 @@ bgp|bgp specific commands|k||
       !
     !
   !
+  router-id|router id of the vrf|k||
+    a.b.c.d|a.b.c.d|o||
+      <cr>||||
+      !
+    !
+    auto-assign|auto-assign|k||
+      <cr>||||
+      !
+    !
+  !
 !
 distance|define an administrative distance|k||
   line|line|lb/le/wa||

@@ -232,6 +232,9 @@ def AFBODY
         as-override $
     aggregate-timer
       id $
+    router-id "router id of the vrf"
+      a.b.c.d :o $
+      auto-assign $
   distance "define an administrative distance"
     line *
   table-map "map external entry attributes into routing table"

@@ -199,6 +199,7 @@ logging "modify message logging facilities"
     filtered "filtered logging" $
       line *
   console $ :sn
+    guaranteed "guaranteed logging to the console" $
     line * :o
     discriminator
       word $
