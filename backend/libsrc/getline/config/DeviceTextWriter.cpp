@@ -56,7 +56,18 @@ bool endsWithLine(const std::string& text, const std::string& line) {
 class Layout {
  public:
   Layout(std::deque<const CiscoCommandLine*> comments, unsigned int options)
-      : mComments(std::move(comments)), mOptions(options) {}
+      : mComments(std::move(comments)), mOptions(options) {
+    // Where the "end" lines stand among the comments, found once: comments
+    // only leave from the front.
+    for (size_t i = 0; i < mComments.size(); ++i) {
+      const std::string& text = mComments[i]->getOriginalStr();
+      const size_t lead = text.find_first_not_of(" \t");
+      if (lead != std::string::npos && text.compare(lead, 3, "end") == 0) mEnds.push_back(i);
+      if (text.compare(0, 3, "end") == 0 && text.find_first_not_of(" \t\r", 3) == std::string::npos) {
+        mTopEnds.push_back(i);
+      }
+    }
+  }
 
   void writeLevel(const std::vector<CiscoCommandLine*>& given, int depth) {
     // A mode's exit line ("exit-address-family") closes its block: commands
@@ -117,33 +128,31 @@ class Layout {
 
   // The line number of the last waiting "end" line (-1: none waits).
   int endLine() const {
-    for (auto it = mComments.rbegin(); it != mComments.rend(); ++it) {
-      const std::string& text = (*it)->getOriginalStr();
-      const size_t lead = text.find_first_not_of(" \t");
-      if (lead != std::string::npos && text.compare(lead, 3, "end") == 0) return (*it)->getLineNo();
-    }
-    return -1;
+    if (mEnds.empty() || mEnds.back() < mFlushed) return -1;
+    return mComments[mEnds.back() - mFlushed]->getLineNo();
   }
 
   // The line number of the first waiting "end" line of the top level (-1: none).
   int firstEndLine() const {
-    for (const CiscoCommandLine* comment : mComments) {
-      const std::string& text = comment->getOriginalStr();
-      if (text.compare(0, 3, "end") == 0 && text.find_first_not_of(" \t\r", 3) == std::string::npos) {
-        return comment->getLineNo();
-      }
-    }
-    return -1;
+    const auto first = std::lower_bound(mTopEnds.begin(), mTopEnds.end(), mFlushed);
+    return first == mTopEnds.end() ? -1 : mComments[*first - mFlushed]->getLineNo();
   }
+
   // Writes the waiting comments read before line `limit` (all for -1).
   void flushBefore(int limit) {
     while (!mComments.empty() && (limit < 0 || mComments.front()->getLineNo() < limit)) {
       mOut += DeviceTextWriter::writeLine(*mComments.front(), 0, mOptions);
       mComments.pop_front();
+      ++mFlushed;
     }
   }
 
   std::deque<const CiscoCommandLine*> mComments;
+  // The places of the "end" lines among the comments as given, any indent
+  // and at the top level, and how many comments have been written.
+  std::vector<size_t> mEnds;
+  std::vector<size_t> mTopEnds;
+  size_t mFlushed = 0;
   bool mInBanner = false;
   unsigned int mOptions;
   std::string mOut;

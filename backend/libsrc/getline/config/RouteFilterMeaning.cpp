@@ -160,11 +160,15 @@ void RouteFilterMeaning::removeExactEntries(std::vector<CiscoCommandLine*>& chan
     const std::string text = trimmed((*change)->getOriginalCmd());
     const bool listEntry =
         text.rfind("no ip as-path access-list ", 0) == 0 || text.rfind("no ip community-list ", 0) == 0;
-    const std::string entry = listEntry ? text.substr(3) : std::string();
+    if (!listEntry || !(*change)->hasFlags(CMDBIT_NO)) {
+      ++change;
+      continue;
+    }
+    const std::string entry = text.substr(3);
     const auto found = std::find_if(config.begin(), config.end(), [&entry](const CiscoCommandLine* record) {
-      return !entry.empty() && trimmed(record->getOriginalCmd()) == entry;
+      return trimmed(record->getOriginalCmd()) == entry;
     });
-    if (!(*change)->hasFlags(CMDBIT_NO) || found == config.end()) {
+    if (found == config.end()) {
       ++change;
       continue;
     }
