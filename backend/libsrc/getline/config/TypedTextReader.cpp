@@ -71,6 +71,12 @@ class Reading {
     if (mPrompts) {
       std::string prompt;
       mVty.getPrompt(prompt);
+      // "configure terminal" is typed at the privileged prompt: the reading
+      // stands in configuration mode from its start, the person did not.
+      const size_t mode = prompt.rfind("(config)#");
+      if (mode != std::string::npos && mode + 9 == prompt.size() && isConfigureTerminal(wordsWithOffsets(text))) {
+        prompt = prompt.substr(0, mode) + "#";
+      }
       mPrompts->push_back(prompt);
     }
     auto record = std::make_unique<CiscoCommandLine>();
