@@ -266,6 +266,8 @@ switchport|set switching mode characteristics|k||
     !
     allowed|allowed|k||
       vlan|vlan|k/n||
+        <cr>||||
+        !
         <vlan>|vlan|m||
           <cr>||||
           !
@@ -1617,6 +1619,8 @@ logging|configure logging for interface|k||
 storm-control|storm configuration|k||
   broadcast|broadcast traffic|k||
     level|threshold level|k/n||
+      <cr>||||
+      !
       <level>|rising threshold|o||
         <cr>||||
         !
@@ -1655,6 +1659,8 @@ storm-control|storm configuration|k||
   !
   multicast|multicast traffic|k||
     level|threshold level|k/n||
+      <cr>||||
+      !
       <level>|rising threshold|o||
         <cr>||||
         !
@@ -1693,6 +1699,8 @@ storm-control|storm configuration|k||
   !
   unicast|unicast traffic|k||
     level|threshold level|k/n||
+      <cr>||||
+      !
       <level>|rising threshold|o||
         <cr>||||
         !

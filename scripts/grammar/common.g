@@ -207,7 +207,7 @@ def USERSECRET
 # A storm-control threshold: a percentage (1.00), bits or packets per
 # second, each with an optional falling threshold.
 def STORMLEVEL
-  level :n "threshold level"
+  level :n "threshold level" $
     <level> :o "rising threshold" $
       <level> "falling threshold" $
     bps "bits per second"

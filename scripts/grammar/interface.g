@@ -83,7 +83,7 @@ switchport "set switching mode characteristics" $ :sn
       isl :o $
       negotiate :o $
     allowed
-      vlan :n
+      vlan :n $
         <vlan> :m $
         add
           <vlan> :k/a $

@@ -211,10 +211,8 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
     if (byWord == node->mOptions.end()) continue;
     if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
   }
-  // The end of a line is no value: a "no" form that stops in front of one
-  // ends there.
   for (const auto& entry : plan.angleWords) {
-    if (token != "\n" && ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
+    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
   }
   return firstPatternMatch(plan, token);
 }
@@ -266,7 +264,7 @@ ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
     }
   }
   if (ParserTreeNode* angle = firstChildWithWord(node, [&](const std::string& word) {
-        return token != "\n" && ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token);
+        return ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token);
       })) {
     return angle;
   }
