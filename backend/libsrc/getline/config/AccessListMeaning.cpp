@@ -6,25 +6,16 @@
 #include <sstream>
 
 #include "config/DeviceTextReader.h"
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
 
 namespace {
 
-std::string trimmed(std::string text) {
-  text.erase(text.find_last_not_of(" \r\n") + 1);
-  return text;
-}
-
-bool startsWith(const std::string& text, const std::string& lead) {
-  return text.compare(0, lead.size(), lead) == 0;
-}
-
-void freeRecord(CiscoCommandLine* record) {
-  std::vector<CiscoCommandLine*> alone{record};
-  QxParserUtil::deleteCommands(alone);
-}
+using meaning::freeRecord;
+using meaning::startsWith;
+using meaning::trimmed;
 
 CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
   for (CiscoCommandLine* record : records) {

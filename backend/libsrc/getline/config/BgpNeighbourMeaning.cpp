@@ -7,20 +7,15 @@
 
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
 
 namespace {
 
-bool startsWith(const std::string& text, const std::string& lead) {
-  return text.compare(0, lead.size(), lead) == 0;
-}
-
-void freeRecord(CiscoCommandLine* record) {
-  std::vector<CiscoCommandLine*> alone{record};
-  QxParserUtil::deleteCommands(alone);
-}
+using meaning::freeRecord;
+using meaning::startsWith;
 
 // The neighbour of a "no neighbor X remote-as ..." line, or "".
 std::string goneNeighbour(const CiscoCommandLine& record) {

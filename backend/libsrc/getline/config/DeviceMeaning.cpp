@@ -10,16 +10,16 @@
 #include <unordered_set>
 
 #include "config/DeviceTextReader.h"
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
 
 namespace {
 
-std::string trimmed(std::string text) {
-  text.erase(text.find_last_not_of(" \r\n") + 1);
-  return text;
-}
+using meaning::freeRecord;
+using meaning::startsWith;
+using meaning::trimmed;
 
 // Ordered lists and BGP have rules of their own (whole numbered lists,
 // entries by sequence, neighbours): their lines are never added one by one.
@@ -59,16 +59,9 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
   }
 }
 
-bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
-
 std::string lastLineOf(const std::string& raw) {
   const size_t cut = raw.rfind('\n');
   return cut == std::string::npos ? raw : raw.substr(cut + 1);
-}
-
-void freeRecord(CiscoCommandLine* record) {
-  std::vector<CiscoCommandLine*> alone{record};
-  QxParserUtil::deleteCommands(alone);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cctype>
 
 #include "config/DeviceTextReader.h"
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 #include "config/RecordCopy.h"
 
@@ -12,9 +13,8 @@ namespace qxparser {
 
 namespace {
 
-bool startsWith(const std::string& text, const std::string& lead) {
-  return text.compare(0, lead.size(), lead) == 0;
-}
+using meaning::freeRecord;
+using meaning::startsWith;
 
 std::string trimmed(std::string text) {
   text.erase(text.find_last_not_of(" \t\r\n") + 1);
@@ -60,11 +60,6 @@ CiscoCommandLine* interfaceOf(std::vector<CiscoCommandLine*>& config, const std:
     if (trimmed(record->getOriginalCmd()) == "interface " + name) return record;
   }
   return nullptr;
-}
-
-void freeRecord(CiscoCommandLine* record) {
-  std::vector<CiscoCommandLine*> alone{record};
-  QxParserUtil::deleteCommands(alone);
 }
 
 // One block per member of `range`, each with copies of its lines.

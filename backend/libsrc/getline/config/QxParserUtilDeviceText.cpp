@@ -143,6 +143,19 @@ void rewriteChangedLists(const std::string& first, const std::string& second,
   DeviceMeaning::graft(extra, out, nullptr);
 }
 
+// Takes the comment records (CMD_TEXT) out of the top level of `records`
+// and frees them.
+void dropComments(std::vector<CiscoCommandLine*>& records) {
+  std::vector<CiscoCommandLine*> comments;
+  for (CiscoCommandLine* record : records) {
+    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
+  }
+  records.erase(std::remove_if(records.begin(), records.end(),
+                               [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
+                records.end());
+  QxParserUtil::deleteCommands(comments);
+}
+
 std::string nulAsBlank(std::string text) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
@@ -198,14 +211,7 @@ std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
   std::vector<CiscoCommandLine*> records;
   RecordsGuard guard(records, true);
   DeviceTextReader::read(config, records);
-  std::vector<CiscoCommandLine*> comments;
-  for (CiscoCommandLine* record : records) {
-    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
-  }
-  records.erase(std::remove_if(records.begin(), records.end(),
-                               [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
-                records.end());
-  deleteCommands(comments);
+  dropComments(records);
   // The order of the top level comes from the order table, not from where the
   // commands stood.
   for (CiscoCommandLine* record : records) record->setLineNo(0);
@@ -253,14 +259,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   DeviceTextReader::read(written, out, nullptr, true, true);
   // The writer closes each block of the top level itself; the merge writer's
   // "!" lines go.
-  std::vector<CiscoCommandLine*> comments;
-  for (CiscoCommandLine* record : out) {
-    if (record->getFlag() == CMD_TEXT) comments.push_back(record);
-  }
-  out.erase(std::remove_if(out.begin(), out.end(),
-                           [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
-            out.end());
-  deleteCommands(comments);
+  dropComments(out);
   if (mode != 0) {
     addMissedCommands(firstRead, secondRead, out);
     rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);

@@ -7,16 +7,15 @@
 #include <string>
 
 #include "config/DeviceTextReader.h"
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
 
 namespace {
 
-std::string trimmed(std::string text) {
-  text.erase(text.find_last_not_of(" \r\n") + 1);
-  return text;
-}
+using meaning::freeRecord;
+using meaning::trimmed;
 
 std::vector<std::string> wordsOf(const std::string& text) {
   std::istringstream in(text);
@@ -27,11 +26,6 @@ std::vector<std::string> wordsOf(const std::string& text) {
 
 bool isNumber(const std::string& word) {
   return !word.empty() && word.size() < 10 && word.find_first_not_of("0123456789") == std::string::npos;
-}
-
-void freeRecord(CiscoCommandLine* record) {
-  std::vector<CiscoCommandLine*> alone{record};
-  QxParserUtil::deleteCommands(alone);
 }
 
 // The first command record of `text`, or nullptr.

@@ -5,11 +5,14 @@
 #include <cctype>
 #include <sstream>
 
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
 
 namespace {
+
+using meaning::startsWith;
 
 const char kAllowed[] = "switchport trunk allowed vlan ";
 
@@ -18,8 +21,6 @@ std::string trimmed(std::string text) {
   text.erase(0, text.find_first_not_of(" \t"));
   return text;
 }
-
-bool startsWith(const std::string& text, const std::string& lead) { return text.compare(0, lead.size(), lead) == 0; }
 
 // A head in lower case without blanks: "interface FastEthernet0/1" and the
 // stored "interface fastethernet 0/1" are one.
