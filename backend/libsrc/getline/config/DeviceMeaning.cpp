@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <set>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -178,17 +179,45 @@ void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {
 
 namespace {
 
-void keysOf(const std::vector<CiscoCommandLine*>& records, const std::string& mode, std::set<std::string>& keys) {
+// The keys (mode heads and command, one line each) that the negations of a
+// rollback ask about: "no X" alone in its mode asks after X and after itself.
+struct NegationKeys {
+  std::unordered_set<std::string> asked;
+  // Every mode that holds such a negation, with the modes around it.
+  std::unordered_set<std::string> modes;
+};
+
+void askedKeys(const std::vector<CiscoCommandLine*>& records, const std::string& mode, NegationKeys& keys) {
   for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() == 0) continue;
-    const std::string key = mode + trimmed(record->getOriginalCmd());
-    keys.insert(key);
-    keysOf(record->getChildCommands(), key + "\n", keys);
+    const std::string own = trimmed(record->getOriginalCmd());
+    if (startsWith(own, "no ") && record->getChildCommands().empty()) {
+      keys.asked.insert(mode + own.substr(3));
+      keys.asked.insert(mode + own);
+      for (size_t cut = mode.find('\n'); cut != std::string::npos; cut = mode.find('\n', cut + 1)) {
+        keys.modes.insert(mode.substr(0, cut + 1));
+      }
+      keys.modes.insert(std::string());
+    }
+    askedKeys(record->getChildCommands(), mode + own + "\n", keys);
   }
 }
 
-void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode, const std::set<std::string>& before,
-            const std::set<std::string>& after) {
+// The asked keys that `records` holds (a command by its text under the
+// texts of its mode heads).
+void heldKeys(const std::vector<CiscoCommandLine*>& records, const std::string& mode, const NegationKeys& keys,
+              std::unordered_set<std::string>& held) {
+  for (const CiscoCommandLine* record : records) {
+    if (record->getTreeNodeSize() == 0) continue;
+    std::string key = mode + trimmed(record->getOriginalCmd());
+    if (keys.asked.count(key)) held.insert(key);
+    if (record->getChildCommands().empty()) continue;
+    key += "\n";
+    if (keys.modes.count(key)) heldKeys(record->getChildCommands(), key, keys, held);
+  }
+}
+
+void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
+            const std::unordered_set<std::string>& before, const std::unordered_set<std::string>& after) {
   for (auto it = records.begin(); it != records.end();) {
     const std::string own = trimmed((*it)->getOriginalCmd());
     if (startsWith(own, "no ") && (*it)->getChildCommands().empty()) {
@@ -216,10 +245,14 @@ void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode, co
 void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
                                            const std::vector<CiscoCommandLine*>& from,
                                            const std::vector<CiscoCommandLine*>& to) {
-  std::set<std::string> before;
-  std::set<std::string> after;
-  keysOf(from, "", before);
-  keysOf(to, "", after);
+  // Only the keys that the negations of `out` ask about are looked for.
+  NegationKeys keys;
+  askedKeys(out, "", keys);
+  if (keys.asked.empty()) return;
+  std::unordered_set<std::string> before;
+  std::unordered_set<std::string> after;
+  heldKeys(from, "", keys, before);
+  heldKeys(to, "", keys, after);
   dropIn(out, "", before, after);
 }
 
@@ -266,34 +299,68 @@ void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<Cis
   extra.clear();
 }
 
+namespace {
+
+// `text` without the blanks, carriage returns and line ends behind it.
+std::string_view trimmedView(std::string_view text) {
+  const size_t end = text.find_last_not_of(" \r\n");
+  return end == std::string_view::npos ? std::string_view() : text.substr(0, end + 1);
+}
+
+}  // namespace
+
 std::string DeviceMeaning::settledText(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  // The lines as a line reader cuts them: at line feeds, nothing behind the
+  // last one.
+  std::vector<std::string_view> lines;
+  for (size_t start = 0; start < text.size();) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    lines.emplace_back(text.data() + start, end - start);
+    start = end + 1;
+  }
   // Per mode block: the last line of each command, by its words without "no".
-  std::map<std::string, size_t> last;
+  // A line undone later becomes "!" at the indent of the line that undoes it.
+  std::unordered_map<std::string, size_t> last;
+  std::vector<int> commentIndent(lines.size(), -1);
   std::string head;
+  std::string key;
   for (size_t i = 0; i < lines.size(); ++i) {
-    std::string line = lines[i];
-    if (!line.empty() && line.back() == '\r') line.pop_back();
+    std::string_view line = lines[i];
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     const size_t lead = line.find_first_not_of(' ');
-    if (lead == std::string::npos || line[lead] == '!') continue;
-    if (lead == 0) head = line;
-    const std::string words = trimmed(line.substr(lead));
-    const bool negated = startsWith(words, "no ");
-    const std::string key = (lead == 0 ? std::string() : head) + "\n" + std::to_string(lead) + " " +
-                            (negated ? words.substr(3) : words);
+    if (lead == std::string_view::npos || line[lead] == '!') continue;
+    if (lead == 0) head.assign(line);
+    const std::string_view words = trimmedView(line.substr(lead));
+    const bool negated = words.compare(0, 3, "no ") == 0;
+    key.clear();
+    if (lead != 0) key += head;
+    key += '\n';
+    key += std::to_string(lead);
+    key += ' ';
+    key += negated ? words.substr(3) : words;
     const auto found = last.find(key);
     if (found != last.end()) {
-      std::string before = trimmed(lines[found->second]);
-      before.erase(0, before.find_first_not_of(' '));
+      std::string_view before = trimmedView(lines[found->second]);
+      before.remove_prefix(std::min(before.size(), before.find_first_not_of(' ')));
       // The later line undoes the earlier one: the earlier one says nothing.
-      if (startsWith(before, "no ") != negated) lines[found->second] = std::string(lead, ' ') + "!";
+      if ((before.compare(0, 3, "no ") == 0) != negated) commentIndent[found->second] = static_cast<int>(lead);
+      found->second = i;
+    } else {
+      last.emplace(key, i);
     }
-    last[key] = i;
   }
   std::string out;
-  for (const std::string& line : lines) out += line + "\n";
+  out.reserve(text.size() + 1);
+  for (size_t i = 0; i < lines.size(); ++i) {
+    if (commentIndent[i] < 0) {
+      out += lines[i];
+    } else {
+      out.append(static_cast<size_t>(commentIndent[i]), ' ');
+      out += '!';
+    }
+    out += '\n';
+  }
   if (!text.empty() && text.back() != '\n' && !out.empty()) out.pop_back();
   return out;
 }

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <string_view>
+#include <unordered_map>
 
 #include "config/AccessListMeaning.h"
 #include "config/BgpNeighbourMeaning.h"
@@ -50,36 +52,40 @@ std::string lastLine(const std::string& raw) {
   return line;
 }
 
-// How an input wrote a command: its full form and the line as read.
-struct TypedLine {
-  std::string full;
-  std::string line;
-};
+// The command of each full form without "no " (the first that a reading
+// gave), looked up by views into the records' own texts: the readings stay
+// unchanged while the rollback is written.
+using TypedLines = std::unordered_map<std::string_view, const CiscoCommandLine*>;
 
-// The line of every command of `records` (a reading of a text), by its full
-// form without "no ".
-void collectTypedLines(const std::vector<CiscoCommandLine*>& records, std::map<std::string, TypedLine>& lines) {
+std::string_view withoutNoView(const std::string& text) {
+  std::string_view view(text);
+  if (view.compare(0, 3, "no ") == 0) view.remove_prefix(3);
+  return view;
+}
+
+// The commands of `records` (a reading of a text), all levels: the top level
+// first, then the commands below each, depth first.
+void collectTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
   std::vector<CiscoCommandLine*> all(records);
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
   for (const CiscoCommandLine* record : all) {
     if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
-    lines.emplace(withoutNo(record->getOriginalCmd()),
-                  TypedLine{record->getOriginalCmd(), lastLine(record->getRawText())});
+    lines.emplace(withoutNoView(record->getOriginalCmd()), record);
   }
 }
 
 // A command that an input holds as it stands comes out as that input wrote
 // it; any other is spelled anew, in the words an input typed for it.
-void lendTypedLines(const std::vector<CiscoCommandLine*>& records,
-                    const std::map<std::string, TypedLine>& lines) {
+void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const TypedLines& lines) {
   for (CiscoCommandLine* record : records) {
     // A banner's text keeps the line it was read from, blanks and all.
     if (record->getTreeNodeSize() == 0) continue;
-    const auto found = lines.find(withoutNo(record->getOriginalCmd()));
-    if (found != lines.end() && found->second.full == record->getOriginalCmd()) {
-      record->setRawText(found->second.line);
+    const auto found = lines.find(withoutNoView(record->getOriginalCmd()));
+    const CiscoCommandLine* typed = found == lines.end() ? nullptr : found->second;
+    if (typed != nullptr && typed->getOriginalCmd() == record->getOriginalCmd()) {
+      record->setRawText(lastLine(typed->getRawText()));
     } else {
-      record->setRawText(found == lines.end() ? std::string() : found->second.line);
+      record->setRawText(typed == nullptr ? std::string() : lastLine(typed->getRawText()));
       record->setFlags(CMDBIT_FROM_CHANGES, true);
     }
     lendTypedLines(record->getChildCommands(), lines);
@@ -247,7 +253,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
-  std::map<std::string, TypedLine> typedLines;
+  TypedLines typedLines;
   DeviceTextReader::read(nulAsBlank(second), secondRead);
   collectTypedLines(secondRead, typedLines);
   if (mode != 0) {
