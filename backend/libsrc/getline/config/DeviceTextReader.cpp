@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
 #include "config/QxParserUtil.h"
 
@@ -10,8 +11,11 @@ namespace qxparser {
 
 namespace {
 
+// Where a non-empty line stands in the text, and how many empty lines stood
+// before it.
 struct ReadLine {
-  std::string text;
+  size_t start = 0;
+  size_t length = 0;
   int emptyBefore = 0;
 };
 
@@ -33,9 +37,10 @@ std::vector<ReadLine> nonEmptyLines(const std::string& text) {
     size_t end = text.find_first_of("\r\n", position);
     if (end == std::string::npos) end = text.size();
     ReadLine line;
-    line.text = text.substr(position, end - position);
+    line.start = position;
+    line.length = end - position;
     line.emptyBefore = lines.empty() ? 0 : std::max(0, std::max(breaks, returns) - 1);
-    lines.push_back(std::move(line));
+    lines.push_back(line);
     breaks = 0;
     returns = 0;
     position = end;
@@ -49,13 +54,18 @@ bool isCommand(const CiscoCommandLine* record) {
 
 // Whether the line leaves the banner state changed: the terminal toggles it on
 // every delimiter character of a line.
-bool togglesBanner(const std::string& line, char delimiter) {
+bool togglesBanner(std::string_view line, char delimiter) {
   return std::count(line.begin(), line.end(), delimiter) % 2 == 1;
 }
 
 std::string lastLine(const std::string& raw) {
   const size_t cut = raw.rfind('\n');
   return cut == std::string::npos ? raw : raw.substr(cut + 1);
+}
+
+std::string_view lastLineView(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  return cut == std::string::npos ? std::string_view(raw) : std::string_view(raw).substr(cut + 1);
 }
 
 // Makes `record` a child of `owner`, in line order among the children (the
@@ -95,7 +105,11 @@ void DeviceTextReader::attachRawText(const std::string& text, const std::vector<
     const int number = record->getLineNo();
     if (number < 1 || static_cast<size_t>(number) > lines.size()) continue;
     const ReadLine& line = lines[static_cast<size_t>(number) - 1];
-    record->setRawText(std::string(static_cast<size_t>(line.emptyBefore), '\n') + line.text);
+    std::string raw;
+    raw.reserve(static_cast<size_t>(line.emptyBefore) + line.length);
+    raw.append(static_cast<size_t>(line.emptyBefore), '\n');
+    raw.append(text, line.start, line.length);
+    record->setRawText(raw);
   }
 }
 
@@ -123,7 +137,7 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
   CiscoCommandLine* banner = nullptr;
   char delimiter = '\0';
   for (CiscoCommandLine* record : records) {
-    const std::string line = lastLine(record->getRawText());
+    std::string_view line = lastLineView(record->getRawText());
     if (banner != nullptr) {
       // Body and closing line go with the banner command; an empty line
       // inside a banner is part of its text, elsewhere it is not kept.
@@ -131,22 +145,27 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
       if (togglesBanner(line, delimiter)) banner = nullptr;
       continue;
     }
-    std::string bare = record->getRawText();
-    bare.erase(0, bare.find_first_not_of('\n'));
+    // The empty lines before a command are not kept with it. (Setting the
+    // text again leaves the record as read: nothing changed it since.)
+    const std::string& raw = record->getRawText();
+    if (!raw.empty() && raw[0] == '\n') {
+      const size_t text = raw.find_first_not_of('\n');
+      record->setRawText(text == std::string::npos ? std::string() : raw.substr(text));
+      line = lastLineView(record->getRawText());
+    }
     if (record->getFlag() != CMD_TEXT && record->getParentCommand() == nullptr && record->getLevel() > 0 &&
         lastCommand != nullptr && (keepRefused || takesData(lastCommand))) {
-      record->setRawText(bare);
       adopt(lastCommand, record);
       continue;
     }
-    record->setRawText(bare);
     if (CiscoCommandLine* closed = closedMode(record, lastCommand)) {
       adopt(closed, record);
       continue;
     }
     if (!isCommand(record)) continue;
     lastCommand = record;
-    delimiter = bannerDelimiter(line);
+    // Only a line that holds "banner " can open one.
+    delimiter = line.find("banner ") == std::string_view::npos ? '\0' : bannerDelimiter(std::string(line));
     if (delimiter != '\0' && togglesBanner(line, delimiter)) banner = record;
   }
 }
