@@ -37,10 +37,10 @@ bool isFolder(const std::string& path) {
 // The resources installed with the shared library: the build records the path
 // from the library's folder to them (<prefix>/lib/libvtyconf.so gives
 // <prefix>/lib/../share/vtyconf/resources/), so a moved install tree works.
-std::string installedResources() {
+std::string findInstalledResources() {
 #ifdef VTYCONF_INSTALL_RELATIVE_RESOURCES
   Dl_info info{};
-  if (dladdr(reinterpret_cast<void*>(&installedResources), &info) == 0 || !info.dli_fname) return {};
+  if (dladdr(reinterpret_cast<void*>(&findInstalledResources), &info) == 0 || !info.dli_fname) return {};
   std::error_code ec;
   fs::path lib = fs::weakly_canonical(fs::path(info.dli_fname), ec);
   if (ec) return {};
@@ -48,6 +48,13 @@ std::string installedResources() {
 #else
   return {};
 #endif
+}
+
+// Where the library was loaded from does not change while it is loaded:
+// worked out once (a look-up of the library file and its real path).
+const std::string& installedResources() {
+  static const std::string folder = findInstalledResources();
+  return folder;
 }
 
 struct TempFolderRemover {
@@ -83,7 +90,7 @@ std::string QXFileSystem::GetSystemResourceFolder() {
   }
   std::string env = platform::getEnv("VTYCONF_RESOURCES");
   if (!env.empty()) return withSeparator(env);
-  std::string installed = installedResources();
+  const std::string& installed = installedResources();
   if (isFolder(installed)) return withSeparator(installed);
 #ifdef VTYCONF_SOURCE_RESOURCES
   if (isFolder(VTYCONF_SOURCE_RESOURCES)) return withSeparator(VTYCONF_SOURCE_RESOURCES);
