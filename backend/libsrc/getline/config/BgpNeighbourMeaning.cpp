@@ -195,7 +195,13 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
                                                        std::set<std::string>& gone) {
   std::istringstream in(changes);
   std::string out;
+  out.reserve(changes.size() + 1);
   for (std::string line; std::getline(in, line);) {
+    if (line.find("neighbor") == std::string::npos) {
+      out += line;
+      out += '\n';
+      continue;
+    }
     std::istringstream words(line);
     std::string no, neighbor, who, what;
     words >> no >> neighbor >> who >> what;

@@ -369,6 +369,7 @@ namespace {
 
 // "banner motd" for a banner record ("" for any other record).
 std::string bannerKind(const CiscoCommandLine& record) {
+  if (record.getOriginalCmd().find("banner") == std::string::npos) return std::string();
   std::istringstream words(record.getOriginalCmd());
   std::string banner, kind;
   words >> banner >> kind;
@@ -475,6 +476,7 @@ namespace {
 // or interface (both when given); distance, name, tag and the other options
 // are its settings. "" for any other line.
 std::string routeIdentity(const std::string& line) {
+  if (line.find("route") == std::string::npos) return {};
   std::istringstream words(line);
   std::string word, identity;
   words >> word;

@@ -35,6 +35,11 @@ bool meansMore(const std::vector<std::string>& w) {
 bool ResultRollback::needed(const std::string& changes) {
   std::istringstream in(changes);
   for (std::string line; std::getline(in, line);) {
+    // Every such line names an interface, an access list or a peer group.
+    if (line.find("interface") == std::string::npos && line.find("access-list") == std::string::npos &&
+        line.find("peer-group") == std::string::npos) {
+      continue;
+    }
     std::istringstream words(line);
     std::vector<std::string> w;
     for (std::string word; words >> word;) w.push_back(word);

@@ -74,6 +74,7 @@ std::vector<std::string> routeMapHead(const CiscoCommandLine& record) {
 
 bool numbersOff(const std::vector<CiscoCommandLine*>& config) {
   for (const CiscoCommandLine* record : config) {
+    if (record->getOriginalCmd().find("sequence-number") == std::string::npos) continue;
     const std::string text = trimmed(record->getOriginalCmd());
     if (text == "no ip prefix-list sequence-number" || text == "no ipv6 prefix-list sequence-number")
       return true;
@@ -96,8 +97,15 @@ void RouteFilterMeaning::numberPrefixEntries(std::vector<CiscoCommandLine*>& cha
     if (sequence > highest[list]) highest[list] = sequence;
     numbered.emplace(list + " " + afterNumber(words), sequence);
   };
-  for (const CiscoCommandLine* record : config) note(wordsOf(record->getOriginalCmd()));
+  // Only lines that name a prefix list are looked at word by word.
+  const auto names = [](const CiscoCommandLine* record) {
+    return record->getOriginalCmd().find("prefix-list") != std::string::npos;
+  };
+  for (const CiscoCommandLine* record : config) {
+    if (names(record)) note(wordsOf(record->getOriginalCmd()));
+  }
   for (CiscoCommandLine*& record : changes) {
+    if (!names(record)) continue;
     const std::vector<std::string> words = wordsOf(record->getOriginalCmd());
     if (!prefixEntry(words, list, sequence)) continue;
     if (sequence >= 0) {
