@@ -5,7 +5,6 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <sstream>
 #include <utility>
 
 #include "config/QxParserUtil.h"
@@ -55,13 +54,17 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
       error = path + ": " + (std::filesystem::exists(path, ignored) ? "cannot read" : "no such file");
       return false;
     }
-    std::stringstream buffer;
-    buffer << in.rdbuf();
+    // Read whole into the string, without a copy through a stream buffer.
+    std::string text;
+    const auto size = std::filesystem::file_size(path, ignored);
+    if (!ignored) text.reserve(static_cast<size_t>(size));
+    char chunk[1 << 16];
+    while (in.read(chunk, sizeof chunk) || in.gcount() > 0) text.append(chunk, static_cast<size_t>(in.gcount()));
     if (in.bad()) {
       error = path + ": cannot read";
       return false;
     }
-    out.text = buffer.str();
+    out.text = std::move(text);
   }
   if (looksBinary(out.text)) {
     error = out.displayName() + ": not configuration text (binary data)";
