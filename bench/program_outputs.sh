@@ -9,7 +9,8 @@ program="$1"
 out="$2"
 lines="${3:-10000}"
 root="$(cd "$(dirname "$0")/.." && pwd)"
-shared="$root/../shared"
+# The folder by its own path, so that outputs made from two checkouts compare.
+shared="$(cd "$root/../shared" 2>/dev/null && pwd -P || echo "$root/../shared")"
 mkdir -p "$out"
 
 # One run: its standard output, standard error and exit status in one file.
