@@ -404,10 +404,12 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
 
 namespace {
 
+// The place is kept as an index, not an iterator: an insertion into another
+// node's maps between two calls cannot leave it dangling.
 struct ChildWalk {
   ParserTreeNode* node = nullptr;
   int map = 0;
-  ParserTreeNode::NodeMap::iterator it;
+  size_t index = 0;
 };
 
 ChildWalk& childWalk() {
@@ -433,20 +435,20 @@ ParserTreeNode* nextChild(ParserTreeNode* node, std::string& key, std::string& h
   if (restart || w.node != node) {
     w.node = node;
     w.map = 0;
-    w.it = node->mChildren.begin();
+    w.index = 0;
   }
   while (ParserTreeNode::NodeMap* map = walkMap(node, w.map)) {
-    if (w.it != map->end()) {
-      key = w.it->first;
+    if (w.index < map->size()) {
+      const auto& entry = *(map->begin() + static_cast<std::ptrdiff_t>(w.index));
+      key = entry.first;
       auto h = node->mHelp.find(key);
       help = h == node->mHelp.end() ? std::string() : h->second;
       optional = w.map == 1 ? 1 : 0;
-      ParserTreeNode* child = w.it->second;
-      ++w.it;
-      return child;
+      ++w.index;
+      return entry.second;
     }
     ++w.map;
-    if (ParserTreeNode::NodeMap* nextMap = walkMap(node, w.map)) w.it = nextMap->begin();
+    w.index = 0;
   }
   return nullptr;
 }

@@ -12,10 +12,10 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
-#include <set>
 #include <string>
 
+#include "grammar/FlatMap.h"
+#include "grammar/FlatSet.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -47,7 +47,11 @@ enum ParserNodeFlag : uint32_t {
 
 class VTYCONF_API ParserTreeNode {
  public:
-  using NodeMap = std::map<std::string, ParserTreeNode*>;
+  // Sorted flat containers (FlatMap.h): iterated in key order like the tree
+  // maps they stand for, but an insertion may move their entries.
+  using NodeMap = FlatMap<std::string, ParserTreeNode*>;
+  using WordMap = FlatMap<std::string, std::string>;
+  using WordSet = FlatSet<std::string>;
 
   ParserTreeNode();
   ParserTreeNode(const ParserTreeNode&) = delete;
@@ -63,19 +67,19 @@ class VTYCONF_API ParserTreeNode {
   std::string mFileName;
   std::string mModeName;
   NodeMap mChildren;
-  std::map<std::string, std::string> mHelp;
+  WordMap mHelp;
   NodeMap mOptionalChildren;
-  std::set<std::string> mExcluded;
-  std::set<std::string> mConflicts;
+  WordSet mExcluded;
+  WordSet mConflicts;
   uint32_t mFlags = 0;
   std::string mText;
   ParserTreeNode* mParent = nullptr;
   NodeMap mSpareChildren;
   bool mIsComplex = false;
-  std::map<std::string, std::string> mKeywords;
+  WordMap mKeywords;
   int32_t mComplexCounter;
   NodeMap mOptions;
-  std::set<std::string> mVisitedOptions;
+  WordSet mVisitedOptions;
   bool mIsOption = false;
 };
 
