@@ -7,6 +7,8 @@
 #include <fstream>
 #include <memory>
 #include <set>
+#include <string_view>
+#include <utility>
 
 #include "grammar/NodeLookup.h"
 #include "grammar/NodePool.h"
@@ -16,6 +18,7 @@
 #include "platform/QXFileSystem.h"
 #include "platform/StlHelper.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/ToolkitText.h"
 
 namespace qxparser {
 
@@ -49,14 +52,17 @@ void clearLoaderTables() {
 
 namespace {
 
-const std::map<std::string, uint32_t>& flagCodes() {
-  static const std::map<std::string, uint32_t> codes = {
-      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},    {"m", NODE_FLAG_M},
-      {"mb", NODE_FLAG_MB}, {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB},  {"le", NODE_FLAG_LE},
-      {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN}, {"sb", NODE_FLAG_SB},  {"ob", NODE_FLAG_OB},
-      {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},  {"rp", NODE_FLAG_RP},
-      {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF},  {"wa", NODE_FLAG_WA}};
-  return codes;
+// The flag of one code, 0 for a code that means nothing.
+uint32_t flagOfCode(std::string_view code) {
+  static constexpr std::pair<std::string_view, uint32_t> kCodes[] = {
+      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},   {"m", NODE_FLAG_M},   {"mb", NODE_FLAG_MB},
+      {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB}, {"le", NODE_FLAG_LE}, {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN},
+      {"sb", NODE_FLAG_SB}, {"ob", NODE_FLAG_OB}, {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},
+      {"rp", NODE_FLAG_RP}, {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF}, {"wa", NODE_FLAG_WA}};
+  for (const auto& entry : kCodes) {
+    if (entry.first == code) return entry.second;
+  }
+  return 0;
 }
 
 // Files being read right now, to refuse a file that links itself.
@@ -177,7 +183,10 @@ ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
   ParserTreeNode* root = NodePool::newNode();
   root->mEntersMode = true;
   tree.mNodeStack.push_back(root);
-  std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + fileName;
+  if (tree.mLoading.empty() || tree.mFilesFolder.empty()) {
+    tree.mFilesFolder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator;
+  }
+  std::string path = tree.mFilesFolder + fileName;
   std::ifstream in(StlHelper::AToW(path));
   if (!in) throw ParserException("error: can't open file: " + path);
   const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
@@ -251,13 +260,9 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
 }
 
 void parseNodeFlags(ParserTreeNode* node, const std::string& c) {
-  std::vector<std::string> codes;
-  ParserToolCase::splitString(c, "/", codes);
-  const auto& table = flagCodes();
-  for (const auto& code : codes) {
-    auto it = table.find(code);
-    if (it != table.end()) node->mFlags |= it->second;
-  }
+  toolkit_detail::forEachWord(c, "/", [node](const char* begin, std::size_t length) {
+    node->mFlags |= flagOfCode(std::string_view(begin, length));
+  });
 }
 
 void parseConflicts(ParserTreeNode* node, const std::string& d) {
