@@ -396,6 +396,9 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
 
 void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
   if (!root || !node) return;
+  node->mChildren.reserve(node->mChildren.size() + root->mChildren.size());
+  node->mHelp.reserve(node->mHelp.size() + root->mChildren.size() + root->mOptionalChildren.size() +
+                      root->mSpareChildren.size() + root->mOptions.size());
   std::string key, help;
   int optional = 0;
   for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;

@@ -26,7 +26,7 @@ void ParserToolCase::getVarFromPvFormStr(const std::string& text, std::string& o
 
 std::string ParserToolCase::string2Lower(const std::string& text) {
   std::string out(text);
-  for (char& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (char& c : out) c = toolkit_detail::lowerChar(c);
   return out;
 }
 
@@ -69,8 +69,6 @@ void ParserToolCase::divideString(const std::string& text, std::string& left, st
 
 namespace {
 
-char lowerChar(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
-
 // `out` = text[begin, end) with tabs as blanks and, when asked, lower-cased;
 // assigned in place so that a reused string costs no allocation.
 void copyField(const std::string& text, std::size_t begin, std::size_t end, bool lower, std::string& out) {
@@ -79,7 +77,7 @@ void copyField(const std::string& text, std::size_t begin, std::size_t end, bool
     if (ch == '\t') {
       ch = ' ';
     } else if (lower) {
-      ch = lowerChar(ch);
+      ch = toolkit_detail::lowerChar(ch);
     }
   }
 }
