@@ -15,7 +15,8 @@
 #include <cstddef>
 #include <stdexcept>
 #include <utility>
-#include <vector>
+
+#include "grammar/CompactVector.h"
 
 namespace qxparser {
 
@@ -26,8 +27,8 @@ class FlatMap {
   using mapped_type = Value;
   using value_type = std::pair<Key, Value>;
   using size_type = std::size_t;
-  using iterator = typename std::vector<value_type>::iterator;
-  using const_iterator = typename std::vector<value_type>::const_iterator;
+  using iterator = value_type*;
+  using const_iterator = const value_type*;
 
   iterator begin() { return mItems.begin(); }
   iterator end() { return mItems.end(); }
@@ -79,7 +80,7 @@ class FlatMap {
   template <typename K, typename V>
   std::pair<iterator, bool> emplace(K&& key, V&& value) {
     if (mItems.empty() || mItems.back().first < key) {
-      mItems.emplace_back(std::forward<K>(key), std::forward<V>(value));
+      mItems.emplace(mItems.end(), std::forward<K>(key), std::forward<V>(value));
       return {mItems.end() - 1, true};
     }
     iterator it = lower_bound(key);
@@ -111,7 +112,7 @@ class FlatMap {
     }
   };
 
-  std::vector<value_type> mItems;
+  CompactVector<value_type> mItems;
 };
 
 }  // namespace qxparser

@@ -10,7 +10,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <utility>
-#include <vector>
+
+#include "grammar/CompactVector.h"
 
 namespace qxparser {
 
@@ -20,7 +21,7 @@ class FlatSet {
   using key_type = Key;
   using value_type = Key;
   using size_type = std::size_t;
-  using const_iterator = typename std::vector<Key>::const_iterator;
+  using const_iterator = const Key*;
   using iterator = const_iterator;
 
   const_iterator begin() const { return mItems.begin(); }
@@ -42,12 +43,12 @@ class FlatSet {
   // Words arriving in order are appended without a search.
   std::pair<const_iterator, bool> insert(const Key& key) {
     if (mItems.empty() || mItems.back() < key) {
-      mItems.push_back(key);
+      mItems.emplace(mItems.end(), key);
       return {mItems.end() - 1, true};
     }
-    auto it = std::lower_bound(mItems.begin(), mItems.end(), key, Less());
+    const Key* it = std::lower_bound(mItems.begin(), mItems.end(), key, Less());
     if (!(key < *it)) return {it, false};
-    return {mItems.insert(it, key), true};
+    return {mItems.emplace(it, key), true};
   }
   template <typename InputIt>
   void insert(InputIt first, InputIt last) {
@@ -72,7 +73,7 @@ class FlatSet {
     }
   };
 
-  std::vector<Key> mItems;
+  CompactVector<Key> mItems;
 };
 
 }  // namespace qxparser

@@ -62,24 +62,25 @@ class VTYCONF_API ParserTreeNode {
   std::string firstKeyword() const;
   std::string firstKeywordHelp() const;
 
-  bool mEntersMode = false;
-  bool mIsEnd = false;
+  // Members stand in an order that leaves no padding between them.
   std::string mFileName;
   std::string mModeName;
+  std::string mText;
+  ParserTreeNode* mParent = nullptr;
   NodeMap mChildren;
   WordMap mHelp;
   NodeMap mOptionalChildren;
+  NodeMap mSpareChildren;
+  NodeMap mOptions;
+  WordMap mKeywords;
   WordSet mExcluded;
   WordSet mConflicts;
-  uint32_t mFlags = 0;
-  std::string mText;
-  ParserTreeNode* mParent = nullptr;
-  NodeMap mSpareChildren;
-  bool mIsComplex = false;
-  WordMap mKeywords;
-  int32_t mComplexCounter;
-  NodeMap mOptions;
   WordSet mVisitedOptions;
+  uint32_t mFlags = 0;
+  int32_t mComplexCounter;
+  bool mEntersMode = false;
+  bool mIsEnd = false;
+  bool mIsComplex = false;
   bool mIsOption = false;
 };
 
