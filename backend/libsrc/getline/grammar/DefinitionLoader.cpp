@@ -249,7 +249,7 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
     node->mIsEnd = true;
     key = "\n";
   }
-  node->mKeywords[key] = b;
+  node->mKeywords.insert_or_assign(key, b);
   parseNodeFlags(node, c);
   if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
   node->mText = d;
@@ -275,8 +275,8 @@ void parseConflicts(ParserTreeNode* node, const std::string& d) {
 void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
               int optional) {
   if (key.empty() || !parent || !child) return;
-  targetMap(parent, child, optional)[key] = child;
-  if (!child->mIsComplex) parent->mHelp[key] = help;
+  targetMap(parent, child, optional).insert_or_assign(key, child);
+  if (!child->mIsComplex) parent->mHelp.insert_or_assign(key, help);
   if (!child->mParent) child->mParent = parent;
 }
 
@@ -342,7 +342,7 @@ void readComplexNode(ParserTree& tree, const std::string& a, const std::string& 
     ParserToolCase::parseCmdLine(line, ka, kb, kc, kd, ke);
     if (ka.empty()) continue;
     if (ka[0] == '#') break;
-    node->mKeywords[ka] = kb;
+    node->mKeywords.insert_or_assign(ka, kb);
   }
   finishNode(tree, parent, node, "", 0);
 }
@@ -404,8 +404,8 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
   for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;
        child = nextChild(root, key, help, optional, false)) {
     if (key.empty()) continue;
-    targetMap(node, child, optional)[key] = child;
-    if (!child->mIsComplex) node->mHelp[key] = help;
+    targetMap(node, child, optional).insert_or_assign(key, child);
+    if (!child->mIsComplex) node->mHelp.insert_or_assign(key, help);
     if (!child->mParent) child->mParent = node;
   }
 }

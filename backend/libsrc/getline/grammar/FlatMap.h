@@ -87,6 +87,12 @@ class FlatMap {
     if (!(key < it->first)) return {it, false};
     return {mItems.emplace(it, std::forward<K>(key), std::forward<V>(value)), true};
   }
+  template <typename V>
+  std::pair<iterator, bool> insert_or_assign(const Key& key, V&& value) {
+    std::pair<iterator, bool> placed = emplace(key, value);
+    if (!placed.second) placed.first->second = std::forward<V>(value);
+    return placed;
+  }
   std::pair<iterator, bool> insert(const value_type& entry) { return emplace(entry.first, entry.second); }
   template <typename InputIt>
   void insert(InputIt first, InputIt last) {
