@@ -59,8 +59,13 @@ uint32_t flagOfCode(std::string_view code) {
       {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB}, {"le", NODE_FLAG_LE}, {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN},
       {"sb", NODE_FLAG_SB}, {"ob", NODE_FLAG_OB}, {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},
       {"rp", NODE_FLAG_RP}, {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF}, {"wa", NODE_FLAG_WA}};
+  if (code.empty() || code.size() > 2) return 0;
+  // Compared byte by byte: the codes are one or two letters.
   for (const auto& entry : kCodes) {
-    if (entry.first == code) return entry.second;
+    if (entry.first.size() == code.size() && entry.first[0] == code[0] &&
+        (code.size() == 1 || entry.first[1] == code[1])) {
+      return entry.second;
+    }
   }
   return 0;
 }
