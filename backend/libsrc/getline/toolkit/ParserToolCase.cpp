@@ -99,30 +99,33 @@ void ParserToolCase::parseCmdLine(const std::string& line, std::string& a, std::
   d.clear();
   e.clear();
 
-  const std::size_t start = line.find_first_not_of(" \t");
-  if (start == std::string::npos) return;
+  const char* text = line.data();
+  const std::size_t size = line.size();
+  std::size_t start = 0;
+  while (start < size && (text[start] == ' ' || text[start] == '\t')) ++start;
+  if (start == size) return;
 
-  std::size_t leftEnd = line.size();
-  if (line[start] != '!') {
-    const std::size_t bar = line.rfind('|');
-    leftEnd = bar == std::string::npos || bar < start ? start : bar + 1;
-    copyField(line, leftEnd, line.size(), false, e);
+  std::size_t leftEnd = size;
+  if (text[start] != '!') {
+    std::size_t bar = size;
+    while (bar > start && text[bar - 1] != '|') --bar;
+    leftEnd = bar;  // just past the last bar, or `start` when there is none
+    copyField(line, leftEnd, size, false, e);
   }
-  const std::size_t nul = line.find('\0', start);
-  if (nul != std::string::npos && nul < leftEnd) leftEnd = nul;
 
   std::string* targets[] = {&a, &b, &c, &d};
   std::size_t field = 0;
   std::size_t pos = start;
   while (field < 4 && pos < leftEnd) {
-    std::size_t next = line.find('|', pos);
-    if (next == std::string::npos || next > leftEnd) next = leftEnd;
+    std::size_t next = pos;
+    while (next < leftEnd && text[next] != '|' && text[next] != '\0') ++next;
     if (next > pos) {
       copyField(line, pos, next, true, *targets[field++]);
-    } else if (pos > start && next < leftEnd) {
+    } else if (pos > start && next < leftEnd && text[next] == '|') {
       // An empty field between two bars.
       targets[field++]->assign(1, ' ');
     }
+    if (next < leftEnd && text[next] == '\0') break;
     pos = next + 1;
   }
 }
