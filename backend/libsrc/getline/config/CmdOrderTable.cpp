@@ -77,7 +77,7 @@ bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command
 
 void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
   if (!modeNode || treeNodes.empty() || gCmdOrderTable().empty()) return;
-  const std::string key = modeNode->mFileName.empty() ? "configuration_mod.cfm" : modeNode->mFileName;
+  const std::string key = modeNode->mFileName.empty() ? "configuration_mod.cfm" : modeNode->mFileName.str();
   auto found = gCmdOrderTable().find(key);
   if (found == gCmdOrderTable().end()) return;
   // The first template in file order that fits, among those that can.

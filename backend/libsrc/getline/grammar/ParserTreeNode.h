@@ -16,6 +16,7 @@
 
 #include "grammar/FlatMap.h"
 #include "grammar/FlatSet.h"
+#include "grammar/RareText.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -63,8 +64,9 @@ class VTYCONF_API ParserTreeNode {
   std::string firstKeywordHelp() const;
 
   // Members stand in an order that leaves no padding between them.
-  std::string mFileName;
-  std::string mModeName;
+  // The mode file and mode a node opens: set on a few hundred nodes only.
+  RareText mFileName;
+  RareText mModeName;
   std::string mText;
   ParserTreeNode* mParent = nullptr;
   NodeMap mChildren;
