@@ -99,6 +99,7 @@ ParserTreeNode* findExistingChild(ParserTreeNode* top, const std::string& a) {
     auto it = map->find(a);
     if (it != map->end()) return it->second;
   }
+  if (!top->mHasComplexChild) return nullptr;
   for (auto* map : {&top->mChildren, &top->mOptions}) {
     for (auto& entry : *map) {
       if (entry.second->mIsComplex && entry.second->mKeywords.count(a)) return entry.second;
@@ -111,6 +112,14 @@ ParserTreeNode::NodeMap& targetMap(ParserTreeNode* parent, ParserTreeNode* child
   if (child->mIsOption) return parent->mOptions;
   if (optional == 1) return parent->mOptionalChildren;
   return parent->mChildren;
+}
+
+// A child enters the map of its parent that its kind asks for; the parent
+// notes a complex child (blocks and includes fill the maps themselves).
+void putChild(ParserTreeNode* parent, const std::string& key, ParserTreeNode* child, int optional) {
+  ParserTreeNode::NodeMap& map = targetMap(parent, child, optional);
+  map.insert_or_assign(key, child);
+  if (child->mIsComplex && &map != &parent->mOptionalChildren) parent->mHasComplexChild = true;
 }
 
 // The loop begin that a node with "le" closes, or null.
@@ -280,7 +289,7 @@ void parseConflicts(ParserTreeNode* node, const std::string& d) {
 void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
               int optional) {
   if (key.empty() || !parent || !child) return;
-  targetMap(parent, child, optional).insert_or_assign(key, child);
+  putChild(parent, key, child, optional);
   if (!child->mIsComplex) parent->mHelp.insert_or_assign(key, help);
   if (!child->mParent) child->mParent = parent;
 }
@@ -338,6 +347,7 @@ void readComplexNode(ParserTree& tree, const std::string& a, const std::string& 
   ++parent->mComplexCounter;
   std::string key = "complex_node_" + std::to_string(parent->mComplexCounter);
   (node->mIsOption ? parent->mOptions : parent->mChildren)[key] = node;
+  parent->mHasComplexChild = true;
   if (!node->mParent) node->mParent = parent;
   tree.mNodeStack.push_back(node);
   std::string line, ka, kb, kc, kd, ke;
@@ -374,6 +384,7 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
         top->mChildren = root->mChildren;
         top->mOptions = root->mOptions;
         top->mHelp = root->mHelp;
+        if (root->mHasComplexChild) top->mHasComplexChild = true;
       }
     } else if (item[0] == '@') {
       if (i + 1 >= items.size()) malformed(tree, "mode link \"" + item + "\" names no file");
@@ -409,7 +420,7 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
   for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;
        child = nextChild(root, key, help, optional, false)) {
     if (key.empty()) continue;
-    targetMap(node, child, optional).insert_or_assign(key, child);
+    putChild(node, key, child, optional);
     if (!child->mIsComplex) node->mHelp.insert_or_assign(key, help);
     if (!child->mParent) child->mParent = node;
   }

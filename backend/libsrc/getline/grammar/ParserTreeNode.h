@@ -84,6 +84,10 @@ class VTYCONF_API ParserTreeNode {
   bool mIsEnd = false;
   bool mIsComplex = false;
   bool mIsOption = false;
+  // Set by the loader once a complex node stands in mChildren or mOptions
+  // (it may stay set after an include replaces them): only then does a
+  // definition line search the blocks' words of its parent.
+  bool mHasComplexChild = false;
 };
 
 }  // namespace qxparser
