@@ -466,7 +466,12 @@ ParserTreeNode* nextChild(ParserTreeNode* node, std::string& key, std::string& h
       const auto& entry = *(map->begin() + static_cast<std::ptrdiff_t>(w.index));
       key = entry.first;
       auto h = node->mHelp.find(key);
-      help = h == node->mHelp.end() ? std::string() : h->second;
+      // Assigned, not built anew: the caller's strings keep their room.
+      if (h == node->mHelp.end()) {
+        help.clear();
+      } else {
+        help = h->second;
+      }
       optional = w.map == 1 ? 1 : 0;
       ++w.index;
       return entry.second;
