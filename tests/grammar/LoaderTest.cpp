@@ -13,13 +13,19 @@ using namespace qxparser;
 
 namespace {
 
-// The children of `node`, one a line at `depth`, with the help kept for each.
+// The children of `node`, one a line at `depth`, with the help kept for each;
+// a block (whose key is made up) by its words.
 std::string dump(const ParserTreeNode* node, int depth) {
   std::string out;
   for (const auto& [key, child] : node->mChildren) {
     auto help = node->mHelp.find(key);
-    out += std::string(static_cast<size_t>(depth) * 2, ' ') + (key == "\n" ? "<cr>" : key) + ": " +
-           (help == node->mHelp.end() ? "" : help->second) + "\n" + dump(child, depth + 1);
+    std::string line = (key == "\n" ? "<cr>" : key) + ": " + (help == node->mHelp.end() ? "" : help->second);
+    if (child->mIsComplex) {
+      line = "{block";
+      for (const auto& word : child->mKeywords) line += " " + word.first;
+      line += "}";
+    }
+    out += std::string(static_cast<size_t>(depth) * 2, ' ') + line + "\n" + dump(child, depth + 1);
   }
   return out;
 }

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <memory>
 #include <set>
+#include <string_view>
+#include <utility>
 
 #include "grammar/NodeLookup.h"
 #include "grammar/NodePool.h"
@@ -16,6 +18,7 @@
 #include "platform/QXFileSystem.h"
 #include "platform/StlHelper.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/ToolkitText.h"
 
 namespace qxparser {
 
@@ -49,14 +52,22 @@ void clearLoaderTables() {
 
 namespace {
 
-const std::map<std::string, uint32_t>& flagCodes() {
-  static const std::map<std::string, uint32_t> codes = {
-      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},    {"m", NODE_FLAG_M},
-      {"mb", NODE_FLAG_MB}, {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB},  {"le", NODE_FLAG_LE},
-      {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN}, {"sb", NODE_FLAG_SB},  {"ob", NODE_FLAG_OB},
-      {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},  {"rp", NODE_FLAG_RP},
-      {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF},  {"wa", NODE_FLAG_WA}};
-  return codes;
+// The flag of one code, 0 for a code that means nothing.
+uint32_t flagOfCode(std::string_view code) {
+  static constexpr std::pair<std::string_view, uint32_t> kCodes[] = {
+      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},   {"m", NODE_FLAG_M},   {"mb", NODE_FLAG_MB},
+      {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB}, {"le", NODE_FLAG_LE}, {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN},
+      {"sb", NODE_FLAG_SB}, {"ob", NODE_FLAG_OB}, {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},
+      {"rp", NODE_FLAG_RP}, {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF}, {"wa", NODE_FLAG_WA}};
+  if (code.empty() || code.size() > 2) return 0;
+  // Compared byte by byte: the codes are one or two letters.
+  for (const auto& entry : kCodes) {
+    if (entry.first.size() == code.size() && entry.first[0] == code[0] &&
+        (code.size() == 1 || entry.first[1] == code[1])) {
+      return entry.second;
+    }
+  }
+  return 0;
 }
 
 // Files being read right now, to refuse a file that links itself.
@@ -88,6 +99,7 @@ ParserTreeNode* findExistingChild(ParserTreeNode* top, const std::string& a) {
     auto it = map->find(a);
     if (it != map->end()) return it->second;
   }
+  if (!top->mHasComplexChild) return nullptr;
   for (auto* map : {&top->mChildren, &top->mOptions}) {
     for (auto& entry : *map) {
       if (entry.second->mIsComplex && entry.second->mKeywords.count(a)) return entry.second;
@@ -100,6 +112,14 @@ ParserTreeNode::NodeMap& targetMap(ParserTreeNode* parent, ParserTreeNode* child
   if (child->mIsOption) return parent->mOptions;
   if (optional == 1) return parent->mOptionalChildren;
   return parent->mChildren;
+}
+
+// A child enters the map of its parent that its kind asks for; the parent
+// notes a complex child (blocks and includes fill the maps themselves).
+void putChild(ParserTreeNode* parent, const std::string& key, ParserTreeNode* child, int optional) {
+  ParserTreeNode::NodeMap& map = targetMap(parent, child, optional);
+  map.insert_or_assign(key, child);
+  if (child->mIsComplex && &map != &parent->mOptionalChildren) parent->mHasComplexChild = true;
 }
 
 // The loop begin that a node with "le" closes, or null.
@@ -177,7 +197,10 @@ ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
   ParserTreeNode* root = NodePool::newNode();
   root->mEntersMode = true;
   tree.mNodeStack.push_back(root);
-  std::string path = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + fileName;
+  if (tree.mLoading.empty() || tree.mFilesFolder.empty()) {
+    tree.mFilesFolder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator;
+  }
+  std::string path = tree.mFilesFolder + fileName;
   std::ifstream in(StlHelper::AToW(path));
   if (!in) throw ParserException("error: can't open file: " + path);
   const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
@@ -240,7 +263,7 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
     node->mIsEnd = true;
     key = "\n";
   }
-  node->mKeywords[key] = b;
+  node->mKeywords.insert_or_assign(key, b);
   parseNodeFlags(node, c);
   if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
   node->mText = d;
@@ -251,13 +274,9 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
 }
 
 void parseNodeFlags(ParserTreeNode* node, const std::string& c) {
-  std::vector<std::string> codes;
-  ParserToolCase::splitString(c, "/", codes);
-  const auto& table = flagCodes();
-  for (const auto& code : codes) {
-    auto it = table.find(code);
-    if (it != table.end()) node->mFlags |= it->second;
-  }
+  toolkit_detail::forEachWord(c, "/", [node](const char* begin, std::size_t length) {
+    node->mFlags |= flagOfCode(std::string_view(begin, length));
+  });
 }
 
 void parseConflicts(ParserTreeNode* node, const std::string& d) {
@@ -270,8 +289,8 @@ void parseConflicts(ParserTreeNode* node, const std::string& d) {
 void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
               int optional) {
   if (key.empty() || !parent || !child) return;
-  targetMap(parent, child, optional)[key] = child;
-  if (!child->mIsComplex) parent->mHelp[key] = help;
+  putChild(parent, key, child, optional);
+  if (!child->mIsComplex) parent->mHelp.insert_or_assign(key, help);
   if (!child->mParent) child->mParent = parent;
 }
 
@@ -328,6 +347,7 @@ void readComplexNode(ParserTree& tree, const std::string& a, const std::string& 
   ++parent->mComplexCounter;
   std::string key = "complex_node_" + std::to_string(parent->mComplexCounter);
   (node->mIsOption ? parent->mOptions : parent->mChildren)[key] = node;
+  parent->mHasComplexChild = true;
   if (!node->mParent) node->mParent = parent;
   tree.mNodeStack.push_back(node);
   std::string line, ka, kb, kc, kd, ke;
@@ -337,7 +357,7 @@ void readComplexNode(ParserTree& tree, const std::string& a, const std::string& 
     ParserToolCase::parseCmdLine(line, ka, kb, kc, kd, ke);
     if (ka.empty()) continue;
     if (ka[0] == '#') break;
-    node->mKeywords[ka] = kb;
+    node->mKeywords.insert_or_assign(ka, kb);
   }
   finishNode(tree, parent, node, "", 0);
 }
@@ -364,6 +384,7 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
         top->mChildren = root->mChildren;
         top->mOptions = root->mOptions;
         top->mHelp = root->mHelp;
+        if (root->mHasComplexChild) top->mHasComplexChild = true;
       }
     } else if (item[0] == '@') {
       if (i + 1 >= items.size()) malformed(tree, "mode link \"" + item + "\" names no file");
@@ -391,23 +412,28 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
 
 void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
   if (!root || !node) return;
+  node->mChildren.reserve(node->mChildren.size() + root->mChildren.size());
+  node->mHelp.reserve(node->mHelp.size() + root->mChildren.size() + root->mOptionalChildren.size() +
+                      root->mSpareChildren.size() + root->mOptions.size());
   std::string key, help;
   int optional = 0;
   for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;
        child = nextChild(root, key, help, optional, false)) {
     if (key.empty()) continue;
-    targetMap(node, child, optional)[key] = child;
-    if (!child->mIsComplex) node->mHelp[key] = help;
+    putChild(node, key, child, optional);
+    if (!child->mIsComplex) node->mHelp.insert_or_assign(key, help);
     if (!child->mParent) child->mParent = node;
   }
 }
 
 namespace {
 
+// The place is kept as an index, not an iterator: an insertion into another
+// node's maps between two calls cannot leave it dangling.
 struct ChildWalk {
   ParserTreeNode* node = nullptr;
   int map = 0;
-  ParserTreeNode::NodeMap::iterator it;
+  size_t index = 0;
 };
 
 ChildWalk& childWalk() {
@@ -433,20 +459,25 @@ ParserTreeNode* nextChild(ParserTreeNode* node, std::string& key, std::string& h
   if (restart || w.node != node) {
     w.node = node;
     w.map = 0;
-    w.it = node->mChildren.begin();
+    w.index = 0;
   }
   while (ParserTreeNode::NodeMap* map = walkMap(node, w.map)) {
-    if (w.it != map->end()) {
-      key = w.it->first;
+    if (w.index < map->size()) {
+      const auto& entry = *(map->begin() + static_cast<std::ptrdiff_t>(w.index));
+      key = entry.first;
       auto h = node->mHelp.find(key);
-      help = h == node->mHelp.end() ? std::string() : h->second;
+      // Assigned, not built anew: the caller's strings keep their room.
+      if (h == node->mHelp.end()) {
+        help.clear();
+      } else {
+        help = h->second;
+      }
       optional = w.map == 1 ? 1 : 0;
-      ParserTreeNode* child = w.it->second;
-      ++w.it;
-      return child;
+      ++w.index;
+      return entry.second;
     }
     ++w.map;
-    if (ParserTreeNode::NodeMap* nextMap = walkMap(node, w.map)) w.it = nextMap->begin();
+    w.index = 0;
   }
   return nullptr;
 }

@@ -1,5 +1,6 @@
 #include "grammar/NodeLookup.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <unordered_map>
@@ -70,9 +71,15 @@ struct LookupPlan {
   std::vector<std::pair<const std::string*, ParserTreeNode*>> childTables;
   std::vector<const std::string*> optionTables;
   std::vector<std::pair<const std::string*, ParserTreeNode*>> angleWords;
-  // The pattern step: a word that only matches itself, by the position of
-  // its first appearance; the other words in order, with their positions.
-  std::unordered_map<std::string, std::pair<size_t, ParserTreeNode*>> literalWords;
+  // The pattern step: the words that only match themselves, sorted by word
+  // and then by position, so that the first of equal words is the first
+  // appearance; the other words in order, with their positions.
+  struct LiteralWord {
+    const std::string* word;
+    size_t position;
+    ParserTreeNode* node;
+  };
+  std::vector<LiteralWord> literalWords;
   std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
   ParserTreeNode* catchAll = nullptr;
   int interfaceWords = -1;  // unknown until asked
@@ -138,13 +145,18 @@ LookupPlan& planOf(ParserTreeNode* node) {
         if (matchesOtherTokens(word.first)) {
           plan.patternWords.push_back({position, {&word.first, entry.second}});
         } else {
-          plan.literalWords.emplace(word.first, std::make_pair(position, entry.second));
+          plan.literalWords.push_back({&word.first, position, entry.second});
         }
         if (!plan.catchAll && isCatchAll(word.first)) plan.catchAll = entry.second;
         ++position;
       }
     }
   }
+  std::sort(plan.literalWords.begin(), plan.literalWords.end(),
+            [](const LookupPlan::LiteralWord& a, const LookupPlan::LiteralWord& b) {
+              const int order = a.word->compare(*b.word);
+              return order != 0 ? order < 0 : a.position < b.position;
+            });
   return plan;
 }
 
@@ -169,10 +181,13 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
   if (token == "\n") return nullptr;
   size_t bestPosition = static_cast<size_t>(-1);
   ParserTreeNode* best = nullptr;
-  auto literal = plan.literalWords.find(token);
-  if (literal != plan.literalWords.end()) {
-    bestPosition = literal->second.first;
-    best = literal->second.second;
+  auto literal = std::lower_bound(plan.literalWords.begin(), plan.literalWords.end(), token,
+                                  [](const LookupPlan::LiteralWord& entry, const std::string& word) {
+                                    return *entry.word < word;
+                                  });
+  if (literal != plan.literalWords.end() && *literal->word == token) {
+    bestPosition = literal->position;
+    best = literal->node;
   }
   for (const auto& entry : plan.patternWords) {
     if (entry.first > bestPosition) break;

@@ -1,9 +1,9 @@
 #include "grammar/NodePool.h"
 
 #include <cstdlib>
-#include <list>
 #include <memory>
 #include <new>
+#include <vector>
 
 namespace qxparser {
 
@@ -19,10 +19,14 @@ std::string ParserTreeNode::firstKeywordHelp() const {
 
 namespace {
 
+// Nodes past the array are built one at a time, when handed out, in blocks
+// of raw storage: one allocation per block instead of two per node.
+constexpr size_t kBlockSize = 1024;
+
 struct PoolState {
   std::unique_ptr<ParserTreeNode[]> array;
   size_t next = 0;
-  std::list<std::unique_ptr<ParserTreeNode>> overflow;
+  std::vector<void*> blocks;
 };
 
 PoolState& pool() {
@@ -32,15 +36,21 @@ PoolState& pool() {
   return *state;
 }
 
+ParserTreeNode* overflowSlot(PoolState& p, size_t index) {
+  return static_cast<ParserTreeNode*>(p.blocks[index / kBlockSize]) + index % kBlockSize;
+}
+
 }  // namespace
 
 ParserTreeNode* NodePool::newNode() {
   PoolState& p = pool();
   if (!p.array) p.array.reset(new ParserTreeNode[kArraySize]);
   if (p.next < kArraySize) return &p.array[p.next++];
-  p.overflow.push_back(std::make_unique<ParserTreeNode>());
+  const size_t index = p.next - kArraySize;
+  if (index / kBlockSize >= p.blocks.size()) p.blocks.push_back(::operator new(kBlockSize * sizeof(ParserTreeNode)));
+  ParserTreeNode* node = new (overflowSlot(p, index)) ParserTreeNode();
   ++p.next;
-  return p.overflow.back().get();
+  return node;
 }
 
 size_t NodePool::used() { return pool().next; }
@@ -53,7 +63,9 @@ void NodePool::releaseAll() {
     p.array[i].~ParserTreeNode();
     new (&p.array[i]) ParserTreeNode();
   }
-  p.overflow.clear();
+  for (size_t i = 0; p.next > kArraySize && i < p.next - kArraySize; ++i) overflowSlot(p, i)->~ParserTreeNode();
+  for (void* block : p.blocks) ::operator delete(block);
+  p.blocks.clear();
   p.next = 0;
 }
 

@@ -2,7 +2,7 @@
 //
 // A fixed array of 10000 constructed nodes, built once before the first
 // definition file is read, is handed out in order; past its end nodes are
-// allocated one by one and kept on a list. Nothing is returned before the
+// built one at a time in blocks of 1024. Nothing is returned before the
 // process ends (unless a host that reloads grammars calls releaseAll), so node
 // pointers stay valid across destroyParserResource and a later
 // createNewParserResource. Not thread-safe.

@@ -42,6 +42,9 @@ class VTYCONF_API ParserTree {
     size_t stackBase = 0;
   };
   std::vector<LoadPosition> mLoading;
+  // The definition folder (<resources>/files/), found once when the
+  // outermost file of a load is opened and used for every file it links.
+  std::string mFilesFolder;
 };
 
 }  // namespace qxparser

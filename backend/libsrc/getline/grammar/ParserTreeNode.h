@@ -12,10 +12,11 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
-#include <set>
 #include <string>
 
+#include "grammar/FlatMap.h"
+#include "grammar/FlatSet.h"
+#include "grammar/RareText.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -47,7 +48,11 @@ enum ParserNodeFlag : uint32_t {
 
 class VTYCONF_API ParserTreeNode {
  public:
-  using NodeMap = std::map<std::string, ParserTreeNode*>;
+  // Sorted flat containers (FlatMap.h): iterated in key order like the tree
+  // maps they stand for, but an insertion may move their entries.
+  using NodeMap = FlatMap<std::string, ParserTreeNode*>;
+  using WordMap = FlatMap<std::string, std::string>;
+  using WordSet = FlatSet<std::string>;
 
   ParserTreeNode();
   ParserTreeNode(const ParserTreeNode&) = delete;
@@ -58,25 +63,31 @@ class VTYCONF_API ParserTreeNode {
   std::string firstKeyword() const;
   std::string firstKeywordHelp() const;
 
-  bool mEntersMode = false;
-  bool mIsEnd = false;
-  std::string mFileName;
-  std::string mModeName;
-  NodeMap mChildren;
-  std::map<std::string, std::string> mHelp;
-  NodeMap mOptionalChildren;
-  std::set<std::string> mExcluded;
-  std::set<std::string> mConflicts;
-  uint32_t mFlags = 0;
+  // Members stand in an order that leaves no padding between them.
+  // The mode file and mode a node opens: set on a few hundred nodes only.
+  RareText mFileName;
+  RareText mModeName;
   std::string mText;
   ParserTreeNode* mParent = nullptr;
+  NodeMap mChildren;
+  WordMap mHelp;
+  NodeMap mOptionalChildren;
   NodeMap mSpareChildren;
-  bool mIsComplex = false;
-  std::map<std::string, std::string> mKeywords;
-  int32_t mComplexCounter;
   NodeMap mOptions;
-  std::set<std::string> mVisitedOptions;
+  WordMap mKeywords;
+  WordSet mExcluded;
+  WordSet mConflicts;
+  WordSet mVisitedOptions;
+  uint32_t mFlags = 0;
+  int32_t mComplexCounter;
+  bool mEntersMode = false;
+  bool mIsEnd = false;
+  bool mIsComplex = false;
   bool mIsOption = false;
+  // Set by the loader once a complex node stands in mChildren or mOptions
+  // (it may stay set after an include replaces them): only then does a
+  // definition line search the blocks' words of its parent.
+  bool mHasComplexChild = false;
 };
 
 }  // namespace qxparser

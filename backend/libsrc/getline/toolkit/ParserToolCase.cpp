@@ -26,7 +26,7 @@ void ParserToolCase::getVarFromPvFormStr(const std::string& text, std::string& o
 
 std::string ParserToolCase::string2Lower(const std::string& text) {
   std::string out(text);
-  for (char& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (char& c : out) c = toolkit_detail::lowerChar(c);
   return out;
 }
 
@@ -67,6 +67,30 @@ void ParserToolCase::divideString(const std::string& text, std::string& left, st
   right = text.substr(bar + 1);
 }
 
+namespace {
+
+// `out` = text[begin, end) with tabs as blanks and, when asked, lower-cased;
+// assigned in place so that a reused string costs no allocation.
+void copyField(const std::string& text, std::size_t begin, std::size_t end, bool lower, std::string& out) {
+  out.assign(text, begin, end - begin);
+  for (char& ch : out) {
+    if (ch == '\t') {
+      ch = ' ';
+    } else if (lower) {
+      ch = toolkit_detail::lowerChar(ch);
+    }
+  }
+}
+
+}  // namespace
+
+// The line is cut in one pass over the caller's text, as if it were done in
+// these steps: tabs become blanks; leading blanks go; a blank is put between
+// two bars that follow each other (strtok rules would swallow an empty field,
+// which so keeps its place reading " "); the text after the last bar is the
+// links field (a closing line, "!...", has none); the text up to it is
+// lower-cased and cut at bars by strtok rules (ending at a NUL byte) into the
+// first four fields.
 void ParserToolCase::parseCmdLine(const std::string& line, std::string& a, std::string& b, std::string& c,
                                   std::string& d, std::string& e) {
   a.clear();
@@ -75,27 +99,35 @@ void ParserToolCase::parseCmdLine(const std::string& line, std::string& a, std::
   d.clear();
   e.clear();
 
-  std::string work(line);
-  for (char& ch : work) {
-    if (ch == '\t') ch = ' ';
+  const char* text = line.data();
+  const std::size_t size = line.size();
+  std::size_t start = 0;
+  while (start < size && (text[start] == ' ' || text[start] == '\t')) ++start;
+  if (start == size) return;
+
+  std::size_t leftEnd = size;
+  if (text[start] != '!') {
+    std::size_t bar = size;
+    while (bar > start && text[bar - 1] != '|') --bar;
+    leftEnd = bar;  // just past the last bar, or `start` when there is none
+    copyField(line, leftEnd, size, false, e);
   }
-  std::string::size_type start = work.find_first_not_of(' ');
-  if (start == std::string::npos) return;
-  work.erase(0, start);
 
-  // The fields are cut with strtok rules, which would swallow an empty field;
-  // a blank between two bars keeps its place (the field then reads " ").
-  for (std::string::size_type i = 1; i < work.size(); ++i) {
-    if (work[i] == '|' && work[i - 1] == '|') work.insert(i, 1, ' ');
-  }
-
-  std::string left;
-  divideString(work, left, e);
-
-  std::vector<std::string> fields;
-  splitString(string2Lower(left), "|", fields);
   std::string* targets[] = {&a, &b, &c, &d};
-  for (std::size_t i = 0; i < fields.size() && i < 4; ++i) *targets[i] = fields[i];
+  std::size_t field = 0;
+  std::size_t pos = start;
+  while (field < 4 && pos < leftEnd) {
+    std::size_t next = pos;
+    while (next < leftEnd && text[next] != '|' && text[next] != '\0') ++next;
+    if (next > pos) {
+      copyField(line, pos, next, true, *targets[field++]);
+    } else if (pos > start && next < leftEnd && text[next] == '|') {
+      // An empty field between two bars.
+      targets[field++]->assign(1, ' ');
+    }
+    if (next < leftEnd && text[next] == '\0') break;
+    pos = next + 1;
+  }
 }
 
 void ParserToolCase::testOptionToken(const std::string& token, std::string& inner, bool& open, bool& close) {

@@ -234,7 +234,10 @@ bool ParserToolCase::partialMatched(const std::string& token, const std::string&
   if (input.size() > token.size()) return false;
   // A catch-all word is a placeholder, never a keyword to abbreviate.
   if (isAnyValidInput(token, input)) return false;
-  return string2Lower(input) == string2Lower(token.substr(0, input.size()));
+  for (std::size_t i = 0; i < input.size(); ++i) {
+    if (toolkit_detail::lowerChar(input[i]) != toolkit_detail::lowerChar(token[i])) return false;
+  }
+  return true;
 }
 
 }  // namespace qxparser

@@ -1,9 +1,11 @@
 // Internal to toolkit/: byte-level helpers shared by the ParserToolCase
 // sources. Not part of the exported interface.
 //
-// Stateless inline functions; safe from any thread.
+// Inline functions without state (but for one constant table, built on
+// first use); safe from any thread.
 #pragma once
 
+#include <array>
 #include <cctype>
 #include <climits>
 #include <cstddef>
@@ -32,6 +34,18 @@ inline int atoiSaturated(const std::string& text) {
   }
   if (negative) return value > INT_MAX ? INT_MIN : static_cast<int>(-value);
   return value > INT_MAX ? INT_MAX : static_cast<int>(value);
+}
+
+// std::tolower of a byte, from a table asked of std::tolower once: the
+// library never changes the locale, and a call per character costs more than
+// the rest of a copy.
+inline char lowerChar(char c) {
+  static const auto table = [] {
+    std::array<char, 256> lower{};
+    for (int i = 0; i < 256; ++i) lower[static_cast<std::size_t>(i)] = static_cast<char>(std::tolower(i));
+    return lower;
+  }();
+  return table[static_cast<unsigned char>(c)];
 }
 
 // True when `c` is one of the separator bytes, which end at their first NUL
