@@ -29,16 +29,16 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       orderNo(other.orderNo),
       flags(other.flags),
       treeNodes(other.treeNodes),
-      mRawText(other.mRawText),
-      mReadForm(other.mReadForm) {
+      mRead(other.mRead ? std::make_unique<ReadText>(*other.mRead) : nullptr) {
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
   }
-  for (auto& entry : other.subCommands) {
+  if (!other.subCommands) return;
+  for (auto& entry : *other.subCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
-    subCommands[entry.first] = copy.release();
+    ownSubCommands()[entry.first] = copy.release();
   }
 }
 
@@ -53,24 +53,62 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
-  mRawText = other.mRawText;
-  mReadForm = other.mReadForm;
-  for (auto& entry : other.subCommands) {
-    if (subCommands.count(entry.first)) continue;  // an existing entry stays
+  mRead = other.mRead ? std::make_unique<ReadText>(*other.mRead) : nullptr;
+  if (!other.subCommands) return *this;
+  for (auto& entry : *other.subCommands) {
+    if (subCommands && subCommands->count(entry.first)) continue;  // an existing entry stays
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
-    subCommands[entry.first] = copy.release();
+    ownSubCommands()[entry.first] = copy.release();
   }
   return *this;
 }
 
 CiscoCommandLine::~CiscoCommandLine() {
-  for (auto& entry : subCommands) delete entry.second;
+  if (!subCommands) return;
+  for (auto& entry : *subCommands) delete entry.second;
+}
+
+const std::map<ParserTreeNode*, CiscoCommandLine*>& CiscoCommandLine::getSubCommands() const {
+  static const SubCommands kNone;
+  return subCommands ? *subCommands : kNone;
+}
+
+CiscoCommandLine::SubCommands& CiscoCommandLine::ownSubCommands() {
+  if (!subCommands) subCommands = std::make_unique<SubCommands>();
+  return *subCommands;
+}
+
+void CiscoCommandLine::setMajorCommands(const std::string& text) {
+  if (text.empty()) {
+    majorCmdStr.reset();
+  } else {
+    majorCmdStr = std::make_shared<const std::string>(text);
+  }
+}
+
+const std::string& CiscoCommandLine::getRawText() const {
+  static const std::string kNone;
+  return mRead ? mRead->raw : kNone;
+}
+
+void CiscoCommandLine::setRawText(const std::string& text) {
+  if (!mRead) {
+    if (text.empty()) return;  // nothing read: isAsRead() is false either way
+    mRead = std::make_unique<ReadText>();
+  }
+  mRead->raw = text;
+  mRead->readForm.clear();
+  mRead->formKept = false;
+}
+
+bool CiscoCommandLine::isAsRead() const {
+  return mRead && !mRead->raw.empty() && (!mRead->formKept || originalCmd == mRead->readForm);
 }
 
 std::vector<std::string> CiscoCommandLine::getMajorCommands() const {
   std::vector<std::string> out;
-  ParserToolCase::splitString(majorCmdStr, "\r\n", out);
+  if (majorCmdStr) ParserToolCase::splitString(*majorCmdStr, "\r\n", out);
   return out;
 }
 
@@ -84,7 +122,8 @@ void CiscoCommandLine::getAllChildCommands(std::vector<CiscoCommandLine*>& out) 
 void CiscoCommandLine::setFlags(unsigned int bits, bool recursive) {
   flags |= bits;
   if (!recursive) return;
-  for (auto& entry : subCommands) entry.second->setFlags(bits, true);
+  if (!subCommands) return;
+  for (auto& entry : *subCommands) entry.second->setFlags(bits, true);
 }
 
 void CiscoCommandLine::setNoCompleteCmd(bool value) {
@@ -112,8 +151,10 @@ void CiscoCommandLine::clearVisitedOption() {
   treeNodes.clear();
   // Nested commands of a dropped walk would otherwise receive the words of
   // the next attempt at another level.
-  for (auto& entry : subCommands) delete entry.second;
-  subCommands.clear();
+  if (subCommands) {
+    for (auto& entry : *subCommands) delete entry.second;
+    subCommands.reset();
+  }
   currentSubCommand = nullptr;
 }
 
@@ -159,8 +200,9 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
 void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo) {
   if (!node) return;
   if (node->mIsOption && !treeNodes.empty() && node->mParent == treeNodes.back().node) {
-    auto existing = subCommands.find(node);
-    if (existing != subCommands.end()) {
+    SubCommands& subs = ownSubCommands();
+    auto existing = subs.find(node);
+    if (existing != subs.end()) {
       currentSubCommand = existing->second;
       return;
     }
@@ -178,7 +220,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
     sub->takeFlagFrom(node);
     sub->enterNode(node, word);
     currentSubCommand = sub.get();
-    subCommands[node] = sub.release();
+    subs[node] = sub.release();
     return;
   }
   if (currentSubCommand) {
@@ -210,6 +252,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
 }
 
 const std::string& CiscoCommandLine::genCommandStr() {
+  keepReadForm();
   originalCmd.clear();
   bool firstElement = true;
   for (const auto& entry : treeNodes) {
@@ -219,7 +262,7 @@ const std::string& CiscoCommandLine::genCommandStr() {
     }
     firstElement = false;
   }
-  for (auto& entry : subCommands) {
+  for (auto& entry : getSubCommands()) {
     size_t newline = originalCmd.find('\n');
     if (newline != std::string::npos) originalCmd.erase(newline);
     originalCmd += ' ';
@@ -299,17 +342,18 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     }
   }
   bool nestedN = false;
-  for (auto& entry : other->subCommands) {
+  for (auto& entry : other->getSubCommands()) {
     ParserTreeNode* node = entry.first;
     CiscoCommandLine* theirsSub = entry.second;
     const bool hasN = nodeHas(node, NODE_FLAG_N);
     nestedN = nestedN || hasN;
-    auto found = subCommands.find(node);
-    if (found == subCommands.end()) {
+    SubCommands& subs = ownSubCommands();
+    auto found = subs.find(node);
+    if (found == subs.end()) {
       if (!negated) {
         auto copy = std::make_unique<CiscoCommandLine>(*theirsSub);
         copy->parentCommand = this;
-        subCommands[node] = copy.release();
+        subs[node] = copy.release();
       }
       continue;
     }
@@ -322,14 +366,14 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
       }
       continue;
     }
-    if (theirsSub->flag == CMD_MERGEABLE && !theirsSub->subCommands.empty() && mineSub->mergeCommand(theirsSub)) {
+    if (theirsSub->flag == CMD_MERGEABLE && !theirsSub->getSubCommands().empty() && mineSub->mergeCommand(theirsSub)) {
       continue;
     }
     if (hasN) {
       if (currentSubCommand == mineSub) currentSubCommand = nullptr;
       mineSub->delOnlyChildCmds();
       delete mineSub;
-      subCommands.erase(found);
+      subs.erase(found);
     }
   }
   if (!negated) {
@@ -346,7 +390,7 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     }
     if (options) return false;
   }
-  if (!nestedN || !subCommands.empty()) {
+  if (!nestedN || !getSubCommands().empty()) {
     genCommandStr();
     return true;
   }

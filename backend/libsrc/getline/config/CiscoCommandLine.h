@@ -15,6 +15,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -68,21 +69,30 @@ class VTYCONF_API CiscoCommandLine {
   const std::string& getCurrentCommand() const { return currentCommand; }
   void setCurrentCommand(const std::string& text) { currentCommand = text; }
   const std::string& getOriginalCmd() const { return originalCmd; }
-  void setOriginalCmd(const std::string& text) { originalCmd = text; }
+  void setOriginalCmd(const std::string& text) {
+    keepReadForm();
+    originalCmd = text;
+  }
   const std::string& getOriginalStr() const { return originalStr; }
   void setOriginalStr(const std::string& text) { originalStr = text; }
-  void getMajorCmdStr(std::string& out) const { out = majorCmdStr; }
-  void setMajorCommands(const std::string& text) { majorCmdStr = text; }
+  void getMajorCmdStr(std::string& out) const {
+    if (majorCmdStr) {
+      out = *majorCmdStr;
+    } else {
+      out.clear();
+    }
+  }
+  void setMajorCommands(const std::string& text);
+  // The same text, shared with the records that stand in the same modes (the
+  // text is never changed in place).
+  void setMajorCommands(std::shared_ptr<const std::string> text) { majorCmdStr = std::move(text); }
   std::vector<std::string> getMajorCommands() const;
   // vtyconf's own: the line as it was read, with any empty lines that stood
   // before it ("\n" each). Setting it remembers originalCmd as well, so that
   // isAsRead() tells whether the record still says what was read.
-  const std::string& getRawText() const { return mRawText; }
-  void setRawText(const std::string& text) {
-    mRawText = text;
-    mReadForm = originalCmd;
-  }
-  bool isAsRead() const { return !mRawText.empty() && originalCmd == mReadForm; }
+  const std::string& getRawText() const;
+  void setRawText(const std::string& text);
+  bool isAsRead() const;
 
   std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
   const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
@@ -90,7 +100,7 @@ class VTYCONF_API CiscoCommandLine {
   void getAllChildCommands(std::vector<CiscoCommandLine*>& out) const;
   CiscoCommandLine* getParentCommand() const { return parentCommand; }
   const std::vector<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
-  const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const { return subCommands; }
+  const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const;
   int getTreeNodeSize() const { return static_cast<int>(treeNodes.size()); }
 
   void setFlags(unsigned int bits, bool recursive);
@@ -118,12 +128,30 @@ class VTYCONF_API CiscoCommandLine {
   bool mergeCommand(CiscoCommandLine* other);
 
  private:
+  using SubCommands = std::map<ParserTreeNode*, CiscoCommandLine*>;
+  // The text as read and the form originalCmd had when it was read; that
+  // form is kept only once originalCmd is about to change.
+  struct ReadText {
+    std::string raw;
+    std::string readForm;
+    bool formKept = false;
+  };
+
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
+  SubCommands& ownSubCommands();
+  void keepReadForm() {
+    if (mRead && !mRead->formKept) {
+      mRead->readForm = originalCmd;
+      mRead->formKept = true;
+    }
+  }
 
   int level = 0;
   int lineNo = 0;
-  std::string majorCmdStr;
+  // The rebuilt texts of the commands that opened the modes around this one
+  // (null when there are none).
+  std::shared_ptr<const std::string> majorCmdStr;
   std::string currentCommand;
   std::string originalCmd;
   std::string originalStr;
@@ -135,11 +163,12 @@ class VTYCONF_API CiscoCommandLine {
   // Each node appears once in the path; a repeated node adds words to its
   // element.
   std::vector<CmdPathEntry> treeNodes;
-  std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
+  // Made when the first nested command is (most commands have none).
+  std::unique_ptr<SubCommands> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
-  // vtyconf's own (copied and assigned with the strings above).
-  std::string mRawText;
-  std::string mReadForm;
+  // vtyconf's own (copied and assigned with the strings above); only for
+  // records read from device text.
+  std::unique_ptr<ReadText> mRead;
 };
 
 }  // namespace qxparser

@@ -8,6 +8,8 @@ namespace qxparser {
 
 namespace {
 
+const std::string kEndWord = "\n";
+
 // The templates of one grammar file grouped by the first node of their path.
 // A template fits a command only if their first nodes agree, unless its path
 // is empty or its first element ends a line (then it fits any command whose
@@ -35,7 +37,7 @@ const OrderIndex& orderIndexOf(const std::string& key, const std::vector<CiscoCo
     const CiscoCommandLine* templ = templates[i];
     if (!templ) continue;
     const auto& path = templ->getTreeNodes();
-    if (path.empty() || path.front().words.count("\n") > 0) {
+    if (path.empty() || path.front().words.count(kEndWord) > 0) {
       index.anyFirstNode.push_back(i);
     } else {
       index.byFirstNode[path.front().node].push_back(i);
@@ -69,13 +71,14 @@ bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command
   auto ci = c.begin();
   for (;; ++ti, ++ci) {
     if (ti == t.end()) return true;
-    if (ci == c.end() || ti->node != ci->node) return ti->words.count("\n") > 0;
+    if (ci == c.end() || ti->node != ci->node) return ti->words.count(kEndWord) > 0;
   }
 }
 
 void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
   if (!modeNode || treeNodes.empty() || gCmdOrderTable().empty()) return;
-  const std::string key = modeNode->mFileName.empty() ? "configuration_mod.cfm" : modeNode->mFileName;
+  static const std::string kTopFile = "configuration_mod.cfm";
+  const std::string& key = modeNode->mFileName.empty() ? kTopFile : modeNode->mFileName;
   auto found = gCmdOrderTable().find(key);
   if (found == gCmdOrderTable().end()) return;
   // The first template in file order that fits, among those that can.

@@ -61,6 +61,12 @@ VTYModel* VTY::currentModel() const {
   return found == mModels.end() ? nullptr : found->second;
 }
 
+std::shared_ptr<const std::string> VTY::sharedContext(const std::string& text) {
+  if (text.empty()) return nullptr;
+  if (!mLastContext || *mLastContext != text) mLastContext = std::make_shared<const std::string>(text);
+  return mLastContext;
+}
+
 void VTY::reset() {
   mModeStack.clear();
   mModeStack.push_back(VIEW_MODE);
@@ -218,7 +224,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
         level = static_cast<int>(model->mMajorLevel) + (wasNew ? 1 : 0);
       }
       command->setLevel(level);
-      command->setMajorCommands(context);
+      command->setMajorCommands(sharedContext(context));
       size_t start = line.find_first_not_of(" \t");
       std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
       command->setCurrentCommand(shown);
@@ -234,7 +240,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
     if (!model->mInfoLine.empty()) {
       command->setCurrentCommand(model->mInfoLine);
       command->setOriginalCmd(model->mCompleteLine);
-      command->setMajorCommands(context);
+      command->setMajorCommands(sharedContext(context));
       command->setLevel(level);
     } else {
       command->setFlag(CMD_TEXT);

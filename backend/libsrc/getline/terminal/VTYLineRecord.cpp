@@ -41,7 +41,7 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
     const bool opened = model && model->mNewLevel;
     if (opened) model->levelText(context, true);
     command.setLevel(level + (opened ? 1 : 0));
-    command.setMajorCommands(context);
+    command.setMajorCommands(sharedContext(context));
     command.setCurrentCommand(shown);
     command.setOriginalCmd(shown);
     return false;
@@ -49,7 +49,7 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
   if (model && !model->mInfoLine.empty()) {
     command.setCurrentCommand(model->mInfoLine);
     command.setOriginalCmd(model->mCompleteLine);
-    command.setMajorCommands(context);
+    command.setMajorCommands(sharedContext(context));
     command.setLevel(level);
   } else {
     command.setFlag(CMD_TEXT);
