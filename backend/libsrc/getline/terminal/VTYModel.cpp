@@ -17,6 +17,7 @@
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/TextWords.h"
 
 namespace qxparser {
 
@@ -26,6 +27,8 @@ const char* const kSeparators = " \t\r\n";
 const std::string kEndToken = "\n";
 const std::string kInvalidInput = "% Invalid input detected at ^";
 const std::string kIncomplete = "% Incomplete command.";
+const std::string kVersionWord = "version";
+const std::string kNoWord = "no";
 
 template <typename T>
 void popBack(T& container) {
@@ -166,12 +169,12 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     return;
   }
   size_t end = line.find_first_of(kSeparators, start + 1);
-  const std::string firstWord = ParserToolCase::string2Lower(line.substr(start, end == std::string::npos ? std::string::npos : end - start));
-  if (firstWord[0] == '!') {
+  const WordSpan first{start, (end == std::string::npos ? line.size() : end) - start};
+  if (line[start] == '!') {
     status = 0;
     return;
   }
-  if (firstWord == "version" && mLevels->texts.empty()) {
+  if (mLevels->texts.empty() && wordIs(line, first, kVersionWord)) {
     status = 0;
     return;
   }
@@ -180,7 +183,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     start = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
     end = start == std::string::npos ? std::string::npos : line.find_first_of(kSeparators, start + 1);
   };
-  if (firstWord == "no") {
+  if (wordIs(line, first, kNoWord)) {
     size_t next = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
     if (next != std::string::npos) {
       isNo = true;
@@ -189,6 +192,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
   }
   bool flag = false;
   std::string key;
+  std::string token;
   while (true) {
     if (start == std::string::npos) {
       ParserTreeNode* before = mCurrentNode;
@@ -204,7 +208,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
       }
       break;
     }
-    const std::string token = line.substr(start, end == std::string::npos ? std::string::npos : end - start);
+    token.assign(line, start, end == std::string::npos ? std::string::npos : end - start);
     ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr);
     if (node && node->mIsOption) {
       mOptionPairs.push_back(mCurrentNode);
