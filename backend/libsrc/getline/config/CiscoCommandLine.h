@@ -113,6 +113,8 @@ class VTYCONF_API CiscoCommandLine {
   void clearVisitedOption();
   void delOnlyChildCmds();
 
+  // Room for a path of `nodes` nodes (a hint of the terminal's walk).
+  void reservePath(size_t nodes) { treeNodes.reserve(nodes); }
   // Extends the path by a matched word (called by the terminal's walk).
   void addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo);
   // Takes the order number from the command-order table for the mode opened

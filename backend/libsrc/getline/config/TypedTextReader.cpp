@@ -49,9 +49,10 @@ void forEachPiece(const std::string& text, Take take) {
   int number = 0;
   size_t start = 0;
   std::string piece;
-  while (start <= text.size()) {
-    size_t end = text.find_first_of("\r\n", start);
-    if (end == std::string::npos) end = text.size();
+  const size_t size = text.size();
+  while (start <= size) {
+    size_t end = start;
+    while (end < size && text[end] != '\r' && text[end] != '\n') ++end;
     if (end > start) {
       piece.assign(text, start, end - start);
       take(++number, piece);

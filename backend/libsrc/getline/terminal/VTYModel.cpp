@@ -24,6 +24,36 @@ namespace qxparser {
 namespace {
 
 const char* const kSeparators = " \t\r\n";
+
+// find_first_of / find_first_not_of over kSeparators, a character at a time
+// (the library's versions search the separators for every character).
+bool isSeparator(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+size_t nextSeparator(const std::string& line, size_t from) {
+  for (size_t i = from; i < line.size(); ++i) {
+    if (isSeparator(line[i])) return i;
+  }
+  return std::string::npos;
+}
+
+size_t nextWord(const std::string& line, size_t from) {
+  for (size_t i = from; i < line.size(); ++i) {
+    if (!isSeparator(line[i])) return i;
+  }
+  return std::string::npos;
+}
+
+// Words from `start` to the line's end.
+size_t wordsFrom(const std::string& line, size_t start) {
+  size_t count = 0;
+  bool inWord = false;
+  for (size_t i = start; i < line.size(); ++i) {
+    const bool separator = isSeparator(line[i]);
+    if (!separator && !inWord) ++count;
+    inWord = !separator;
+  }
+  return count;
+}
 const std::string kEndToken = "\n";
 const std::string kInvalidInput = "% Invalid input detected at ^";
 const std::string kIncomplete = "% Incomplete command.";
@@ -163,12 +193,12 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     errorText.clear();
     return;
   }
-  size_t start = line.find_first_not_of(kSeparators);
+  size_t start = nextWord(line, 0);
   if (start == std::string::npos) {
     status = 0;
     return;
   }
-  size_t end = line.find_first_of(kSeparators, start + 1);
+  size_t end = nextSeparator(line, start + 1);
   const WordSpan first{start, (end == std::string::npos ? line.size() : end) - start};
   if (line[start] == '!') {
     status = 0;
@@ -180,16 +210,18 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
   }
   bool isNo = false;
   auto advance = [&]() {
-    start = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
-    end = start == std::string::npos ? std::string::npos : line.find_first_of(kSeparators, start + 1);
+    start = end == std::string::npos ? std::string::npos : nextWord(line, end);
+    end = start == std::string::npos ? std::string::npos : nextSeparator(line, start + 1);
   };
   if (wordIs(line, first, kNoWord)) {
-    size_t next = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
+    size_t next = end == std::string::npos ? std::string::npos : nextWord(line, end);
     if (next != std::string::npos) {
       isNo = true;
       advance();
     }
   }
+  // Room in the record for the path at once: a node per word and the end.
+  if (mCurrentCommand && start != std::string::npos) mCurrentCommand->reservePath(wordsFrom(line, start) + 1);
   bool flag = false;
   std::string key;
   std::string token;
@@ -364,13 +396,15 @@ bool VTYModel::bannerStep(const std::string& line) {
 
 void VTYModel::finishCommand(bool isNo, int& modeResult) {
   if (isNo) {
-    mCompleteLine = "no " + mCompleteLine;
-    mInfoLine = "no " + mInfoLine;
+    mCompleteLine.insert(0, "no ");
+    mInfoLine.insert(0, "no ");
     for (std::string* text : {&mCompleteLine, &mInfoLine}) {
       size_t last = text->rfind('\n');
       if (last != std::string::npos) text->erase(last + 1);
     }
   }
+  const char lead = mCompleteLine.empty() ? '\0' : mCompleteLine[0];
+  if (lead != 'c' && lead != 'e') return;
   if (mCompleteLine == "configure \n" || mCompleteLine == "configure terminal \n") {
     mOwner->mOutput << "Enter configuration commands, one per line." << "\n";
     modeResult = CONFIG_MODE;

@@ -39,16 +39,17 @@ struct WordSpan {
 
 // How many words `line` holds; the first `most` of them are put in `spans`.
 inline size_t wordSpans(const std::string& line, WordSpan* spans, size_t most) {
-  static const char* const kBlanks = " \t";
   size_t count = 0;
-  size_t start = line.find_first_not_of(kBlanks);
-  while (start != std::string::npos) {
-    const size_t end = line.find_first_of(kBlanks, start);
-    if (count < most) spans[count] = WordSpan{start, (end == std::string::npos ? line.size() : end) - start};
+  size_t i = 0;
+  const size_t size = line.size();
+  while (true) {
+    while (i < size && (line[i] == ' ' || line[i] == '\t')) ++i;
+    if (i == size) return count;
+    const size_t start = i;
+    while (i < size && line[i] != ' ' && line[i] != '\t') ++i;
+    if (count < most) spans[count] = WordSpan{start, i - start};
     ++count;
-    start = end == std::string::npos ? end : line.find_first_not_of(kBlanks, end);
   }
-  return count;
 }
 
 // Whether the word at `span` of `line`, lower-cased, is `lowered`.
