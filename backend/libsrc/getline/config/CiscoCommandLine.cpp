@@ -24,7 +24,7 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       majorCmdStr(other.majorCmdStr),
       currentCommand(other.currentCommand),
       originalCmd(other.originalCmd),
-      originalStr(other.originalStr),
+      originalStr(other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr),
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
@@ -48,7 +48,7 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   majorCmdStr = other.majorCmdStr;
   currentCommand = other.currentCommand;
   originalCmd = other.originalCmd;
-  originalStr = other.originalStr;
+  originalStr = other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr;
   flag = other.flag;
   orderNo = other.orderNo;
   flags = other.flags;
@@ -84,6 +84,19 @@ void CiscoCommandLine::setMajorCommands(const std::string& text) {
     majorCmdStr.reset();
   } else {
     majorCmdStr = std::make_shared<const std::string>(text);
+  }
+}
+
+const std::string& CiscoCommandLine::getOriginalStr() const {
+  static const std::string kNone;
+  return originalStr ? *originalStr : kNone;
+}
+
+void CiscoCommandLine::setOriginalStr(const std::string& text) {
+  if (originalStr) {
+    *originalStr = text;
+  } else if (!text.empty()) {
+    originalStr = std::make_unique<std::string>(text);
   }
 }
 

@@ -73,8 +73,8 @@ class VTYCONF_API CiscoCommandLine {
     keepReadForm();
     originalCmd = text;
   }
-  const std::string& getOriginalStr() const { return originalStr; }
-  void setOriginalStr(const std::string& text) { originalStr = text; }
+  const std::string& getOriginalStr() const;
+  void setOriginalStr(const std::string& text);
   void getMajorCmdStr(std::string& out) const {
     if (majorCmdStr) {
       out = *majorCmdStr;
@@ -156,7 +156,8 @@ class VTYCONF_API CiscoCommandLine {
   std::shared_ptr<const std::string> majorCmdStr;
   std::string currentCommand;
   std::string originalCmd;
-  std::string originalStr;
+  // Set for text records only (a command has none): made when set.
+  std::unique_ptr<std::string> originalStr;
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;

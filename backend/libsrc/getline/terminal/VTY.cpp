@@ -67,6 +67,13 @@ std::shared_ptr<const std::string> VTY::sharedContext(const std::string& text) {
   return mLastContext;
 }
 
+std::shared_ptr<const std::string> VTY::sharedLevelText(const VTYModel& model, bool allLevels) {
+  if (mLastContext && model.levelTextIs(*mLastContext, allLevels)) return mLastContext;
+  std::string text;
+  model.levelText(text, allLevels);
+  return sharedContext(text);
+}
+
 void VTY::reset() {
   mModeStack.clear();
   mModeStack.push_back(VIEW_MODE);

@@ -138,6 +138,8 @@ class VTYCONF_API VTY : public std::stringstream {
   // The context text for a record: the one handed out last when it is the
   // same text, so that the records of one mode share it.
   std::shared_ptr<const std::string> sharedContext(const std::string& text);
+  // The same for the level text of `model` (VTYModel::levelText).
+  std::shared_ptr<const std::string> sharedLevelText(const VTYModel& model, bool allLevels);
 
   std::stringstream mOutput;
   std::string mConfigFile;

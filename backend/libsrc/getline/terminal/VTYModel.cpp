@@ -100,6 +100,18 @@ void VTYModel::levelText(std::string& text, bool allLevels) const {
   for (size_t i = 0; i < count; ++i) text += mLevels->texts[i];
 }
 
+bool VTYModel::levelTextIs(const std::string& text, bool allLevels) const {
+  size_t count = mLevels->texts.size();
+  if (!allLevels && mMajorLevel != count && count > 0) --count;
+  size_t at = 0;
+  for (size_t i = 0; i < count; ++i) {
+    const std::string& piece = mLevels->texts[i];
+    if (text.compare(at, piece.size(), piece) != 0) return false;
+    at += piece.size();
+  }
+  return at == text.size();
+}
+
 bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& modeResult, bool& inBanner) {
   inBanner = false;
   modeResult = MODE_NO_CHANGE;

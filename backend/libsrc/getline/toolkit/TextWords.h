@@ -56,7 +56,8 @@ inline size_t wordSpans(const std::string& line, WordSpan* spans, size_t most) {
 inline bool wordIs(const std::string& line, const WordSpan& span, const std::string& lowered) {
   if (span.length != lowered.size()) return false;
   for (size_t i = 0; i < span.length; ++i) {
-    if (std::tolower(static_cast<unsigned char>(line[span.start + i])) != lowered[i]) return false;
+    const char c = line[span.start + i];
+    if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) != lowered[i]) return false;
   }
   return true;
 }
