@@ -29,7 +29,8 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       orderNo(other.orderNo),
       flags(other.flags),
       treeNodes(other.treeNodes),
-      mRead(other.mRead ? std::make_unique<ReadText>(*other.mRead) : nullptr) {
+      mRawText(other.mRawText),
+      mReadForm(other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr) {
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
@@ -53,7 +54,8 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
-  mRead = other.mRead ? std::make_unique<ReadText>(*other.mRead) : nullptr;
+  mRawText = other.mRawText;
+  mReadForm = other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr;
   if (!other.subCommands) return *this;
   for (auto& entry : *other.subCommands) {
     if (subCommands && subCommands->count(entry.first)) continue;  // an existing entry stays
@@ -100,24 +102,6 @@ void CiscoCommandLine::setOriginalStr(const std::string& text) {
   }
 }
 
-const std::string& CiscoCommandLine::getRawText() const {
-  static const std::string kNone;
-  return mRead ? mRead->raw : kNone;
-}
-
-void CiscoCommandLine::setRawText(const std::string& text) {
-  if (!mRead) {
-    if (text.empty()) return;  // nothing read: isAsRead() is false either way
-    mRead = std::make_unique<ReadText>();
-  }
-  mRead->raw = text;
-  mRead->readForm.clear();
-  mRead->formKept = false;
-}
-
-bool CiscoCommandLine::isAsRead() const {
-  return mRead && !mRead->raw.empty() && (!mRead->formKept || originalCmd == mRead->readForm);
-}
 
 std::vector<std::string> CiscoCommandLine::getMajorCommands() const {
   std::vector<std::string> out;

@@ -90,9 +90,12 @@ class VTYCONF_API CiscoCommandLine {
   // vtyconf's own: the line as it was read, with any empty lines that stood
   // before it ("\n" each). Setting it remembers originalCmd as well, so that
   // isAsRead() tells whether the record still says what was read.
-  const std::string& getRawText() const;
-  void setRawText(const std::string& text);
-  bool isAsRead() const;
+  const std::string& getRawText() const { return mRawText; }
+  void setRawText(const std::string& text) {
+    mRawText = text;
+    mReadForm.reset();
+  }
+  bool isAsRead() const { return !mRawText.empty() && (!mReadForm || originalCmd == *mReadForm); }
 
   std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
   const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
@@ -131,22 +134,14 @@ class VTYCONF_API CiscoCommandLine {
 
  private:
   using SubCommands = std::map<ParserTreeNode*, CiscoCommandLine*>;
-  // The text as read and the form originalCmd had when it was read; that
-  // form is kept only once originalCmd is about to change.
-  struct ReadText {
-    std::string raw;
-    std::string readForm;
-    bool formKept = false;
-  };
 
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
   SubCommands& ownSubCommands();
+  // The form originalCmd had when the text was read is kept only once
+  // originalCmd is about to change (until then it is originalCmd itself).
   void keepReadForm() {
-    if (mRead && !mRead->formKept) {
-      mRead->readForm = originalCmd;
-      mRead->formKept = true;
-    }
+    if (!mRawText.empty() && !mReadForm) mReadForm = std::make_unique<std::string>(originalCmd);
   }
 
   int level = 0;
@@ -169,9 +164,9 @@ class VTYCONF_API CiscoCommandLine {
   // Made when the first nested command is (most commands have none).
   std::unique_ptr<SubCommands> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
-  // vtyconf's own (copied and assigned with the strings above); only for
-  // records read from device text.
-  std::unique_ptr<ReadText> mRead;
+  // vtyconf's own (copied and assigned with the strings above).
+  std::string mRawText;
+  std::unique_ptr<std::string> mReadForm;
 };
 
 }  // namespace qxparser

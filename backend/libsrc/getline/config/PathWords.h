@@ -3,13 +3,14 @@
 // A set of strings in their sorted order. Most nodes match a single word, and
 // a record holds one such set per node of its path, so the set keeps one word
 // in place and allocates a vector only once it holds two or more: a record's
-// path costs no allocation per node beyond the words' own text. Iterates,
-// compares and answers count, insert and erase as a sorted set of unique
-// strings does. No shared state.
+// path costs no allocation per node beyond the words' own text, and the set
+// is no larger than a string and a word of state. Iterates, compares and
+// answers count, insert and erase as a sorted set of unique strings does.
+// No shared state.
 #pragma once
 
 #include <algorithm>
-#include <memory>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -21,50 +22,59 @@ class PathWords {
   using iterator = const_iterator;
 
   PathWords() = default;
-  PathWords(const PathWords& other)
-      : mOne(other.mOne),
-        mMore(other.mMore ? std::make_unique<std::vector<std::string>>(*other.mMore) : nullptr),
-        mHasOne(other.mHasOne) {}
-  PathWords(PathWords&& other) noexcept = default;
+  PathWords(const PathWords& other) : mOne(other.mOne), mState(other.mState) {
+    if (other.hasMore()) mState = toState(new std::vector<std::string>(*other.more()));
+  }
+  PathWords(PathWords&& other) noexcept : mOne(std::move(other.mOne)), mState(other.mState) { other.mState = kNoWord; }
   PathWords& operator=(const PathWords& other) {
     if (this != &other) *this = PathWords(other);
     return *this;
   }
-  PathWords& operator=(PathWords&& other) noexcept = default;
+  PathWords& operator=(PathWords&& other) noexcept {
+    if (this == &other) return *this;
+    dropMore();
+    mOne = std::move(other.mOne);
+    mState = other.mState;
+    other.mState = kNoWord;
+    return *this;
+  }
+  ~PathWords() { dropMore(); }
 
-  const_iterator begin() const { return mMore ? mMore->data() : &mOne; }
-  const_iterator end() const { return mMore ? mMore->data() + mMore->size() : &mOne + (mHasOne ? 1 : 0); }
+  const_iterator begin() const { return hasMore() ? more()->data() : &mOne; }
+  const_iterator end() const {
+    return hasMore() ? more()->data() + more()->size() : &mOne + (mState == kOneWord ? 1 : 0);
+  }
   size_t size() const { return static_cast<size_t>(end() - begin()); }
-  bool empty() const { return begin() == end(); }
+  bool empty() const { return mState == kNoWord; }
 
   size_t count(const std::string& word) const {
-    if (!mMore) return mHasOne && mOne == word ? 1 : 0;
+    if (!hasMore()) return mState == kOneWord && mOne == word ? 1 : 0;
     return std::binary_search(begin(), end(), word) ? 1 : 0;
   }
 
   // False when the word was there already.
   bool insert(std::string word) {
-    if (!mMore && !mHasOne) {
+    if (mState == kNoWord) {
       mOne = std::move(word);
-      mHasOne = true;
+      mState = kOneWord;
       return true;
     }
-    if (!mMore) {
+    if (mState == kOneWord) {
       if (mOne == word) return false;
-      auto more = std::make_unique<std::vector<std::string>>();
-      more->reserve(2);
+      auto* words = new std::vector<std::string>();
+      words->reserve(2);
       const bool before = word < mOne;
-      if (before) more->push_back(std::move(word));
-      more->push_back(std::move(mOne));
-      if (!before) more->push_back(std::move(word));
+      if (before) words->push_back(std::move(word));
+      words->push_back(std::move(mOne));
+      if (!before) words->push_back(std::move(word));
       mOne = std::string();
-      mHasOne = false;
-      mMore = std::move(more);
+      mState = toState(words);
       return true;
     }
-    const auto at = std::lower_bound(mMore->begin(), mMore->end(), word);
-    if (at != mMore->end() && *at == word) return false;
-    mMore->insert(at, std::move(word));
+    std::vector<std::string>& words = *more();
+    const auto at = std::lower_bound(words.begin(), words.end(), word);
+    if (at != words.end() && *at == word) return false;
+    words.insert(at, std::move(word));
     return true;
   }
   template <typename Iterator>
@@ -73,19 +83,17 @@ class PathWords {
   }
 
   void erase(const_iterator at) {
-    if (!mMore) {
+    if (!hasMore()) {
       mOne = std::string();
-      mHasOne = false;
+      mState = kNoWord;
       return;
     }
-    mMore->erase(mMore->begin() + (at - mMore->data()));
-    if (mMore->size() == 1) {
-      mOne = std::move(mMore->front());
-      mHasOne = true;
-      mMore.reset();
-    } else if (mMore->empty()) {
-      mMore.reset();
-    }
+    std::vector<std::string>& words = *more();
+    words.erase(words.begin() + (at - words.data()));
+    if (words.size() > 1) return;
+    mOne = std::move(words.front());
+    dropMore();
+    mState = kOneWord;
   }
   size_t erase(const std::string& word) {
     const auto at = std::lower_bound(begin(), end(), word);
@@ -98,10 +106,21 @@ class PathWords {
   bool operator!=(const PathWords& other) const { return !(*this == other); }
 
  private:
-  // The only word while there is one; two or more stand in mMore, sorted.
+  // mState: no word, the one word in mOne, or else the address of the
+  // vector that holds two or more (an address is never 0 or 1).
+  static constexpr std::uintptr_t kNoWord = 0;
+  static constexpr std::uintptr_t kOneWord = 1;
+
+  static std::uintptr_t toState(std::vector<std::string>* words) { return reinterpret_cast<std::uintptr_t>(words); }
+  bool hasMore() const { return mState > kOneWord; }
+  std::vector<std::string>* more() const { return reinterpret_cast<std::vector<std::string>*>(mState); }
+  void dropMore() {
+    if (hasMore()) delete more();
+    mState = kNoWord;
+  }
+
   std::string mOne;
-  std::unique_ptr<std::vector<std::string>> mMore;
-  bool mHasOne = false;
+  std::uintptr_t mState = kNoWord;
 };
 
 }  // namespace qxparser
