@@ -7,6 +7,7 @@
 // levels, prompt and mode as they were.
 #include "terminal/VTYModel.h"
 
+#include <algorithm>
 #include <cctype>
 #include <locale>
 #include <stdexcept>
@@ -400,9 +401,7 @@ bool VTYModel::bannerStep(const std::string& line) {
     mInfoLine = line + "\n";
     return true;
   }
-  for (char c : line) {
-    if (c == mBannerDelimiter) mInsideBanner = !mInsideBanner;
-  }
+  if (std::count(line.begin(), line.end(), mBannerDelimiter) % 2 != 0) mInsideBanner = !mInsideBanner;
   return false;
 }
 
