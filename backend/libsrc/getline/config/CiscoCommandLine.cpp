@@ -24,21 +24,22 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       majorCmdStr(other.majorCmdStr),
       currentCommand(other.currentCommand),
       originalCmd(other.originalCmd),
-      originalStr(other.originalStr),
+      originalStr(other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr),
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
       treeNodes(other.treeNodes),
       mRawText(other.mRawText),
-      mReadForm(other.mReadForm) {
+      mReadForm(other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr) {
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
   }
-  for (auto& entry : other.subCommands) {
+  if (!other.subCommands) return;
+  for (auto& entry : *other.subCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
-    subCommands[entry.first] = copy.release();
+    ownSubCommands()[entry.first] = copy.release();
   }
 }
 
@@ -48,29 +49,63 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   majorCmdStr = other.majorCmdStr;
   currentCommand = other.currentCommand;
   originalCmd = other.originalCmd;
-  originalStr = other.originalStr;
+  originalStr = other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr;
   flag = other.flag;
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
   mRawText = other.mRawText;
-  mReadForm = other.mReadForm;
-  for (auto& entry : other.subCommands) {
-    if (subCommands.count(entry.first)) continue;  // an existing entry stays
+  mReadForm = other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr;
+  if (!other.subCommands) return *this;
+  for (auto& entry : *other.subCommands) {
+    if (subCommands && subCommands->count(entry.first)) continue;  // an existing entry stays
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
-    subCommands[entry.first] = copy.release();
+    ownSubCommands()[entry.first] = copy.release();
   }
   return *this;
 }
 
 CiscoCommandLine::~CiscoCommandLine() {
-  for (auto& entry : subCommands) delete entry.second;
+  if (!subCommands) return;
+  for (auto& entry : *subCommands) delete entry.second;
 }
+
+const std::map<ParserTreeNode*, CiscoCommandLine*>& CiscoCommandLine::getSubCommands() const {
+  static const SubCommands kNone;
+  return subCommands ? *subCommands : kNone;
+}
+
+CiscoCommandLine::SubCommands& CiscoCommandLine::ownSubCommands() {
+  if (!subCommands) subCommands = std::make_unique<SubCommands>();
+  return *subCommands;
+}
+
+void CiscoCommandLine::setMajorCommands(const std::string& text) {
+  if (text.empty()) {
+    majorCmdStr.reset();
+  } else {
+    majorCmdStr = std::make_shared<const std::string>(text);
+  }
+}
+
+const std::string& CiscoCommandLine::getOriginalStr() const {
+  static const std::string kNone;
+  return originalStr ? *originalStr : kNone;
+}
+
+void CiscoCommandLine::setOriginalStr(const std::string& text) {
+  if (originalStr) {
+    *originalStr = text;
+  } else if (!text.empty()) {
+    originalStr = std::make_unique<std::string>(text);
+  }
+}
+
 
 std::vector<std::string> CiscoCommandLine::getMajorCommands() const {
   std::vector<std::string> out;
-  ParserToolCase::splitString(majorCmdStr, "\r\n", out);
+  if (majorCmdStr) ParserToolCase::splitString(*majorCmdStr, "\r\n", out);
   return out;
 }
 
@@ -84,7 +119,8 @@ void CiscoCommandLine::getAllChildCommands(std::vector<CiscoCommandLine*>& out) 
 void CiscoCommandLine::setFlags(unsigned int bits, bool recursive) {
   flags |= bits;
   if (!recursive) return;
-  for (auto& entry : subCommands) entry.second->setFlags(bits, true);
+  if (!subCommands) return;
+  for (auto& entry : *subCommands) entry.second->setFlags(bits, true);
 }
 
 void CiscoCommandLine::setNoCompleteCmd(bool value) {
@@ -112,8 +148,10 @@ void CiscoCommandLine::clearVisitedOption() {
   treeNodes.clear();
   // Nested commands of a dropped walk would otherwise receive the words of
   // the next attempt at another level.
-  for (auto& entry : subCommands) delete entry.second;
-  subCommands.clear();
+  if (subCommands) {
+    for (auto& entry : *subCommands) delete entry.second;
+    subCommands.reset();
+  }
   currentSubCommand = nullptr;
 }
 
@@ -159,8 +197,9 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
 void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo) {
   if (!node) return;
   if (node->mIsOption && !treeNodes.empty() && node->mParent == treeNodes.back().node) {
-    auto existing = subCommands.find(node);
-    if (existing != subCommands.end()) {
+    SubCommands& subs = ownSubCommands();
+    auto existing = subs.find(node);
+    if (existing != subs.end()) {
       currentSubCommand = existing->second;
       return;
     }
@@ -178,7 +217,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
     sub->takeFlagFrom(node);
     sub->enterNode(node, word);
     currentSubCommand = sub.get();
-    subCommands[node] = sub.release();
+    subs[node] = sub.release();
     return;
   }
   if (currentSubCommand) {
@@ -210,6 +249,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
 }
 
 const std::string& CiscoCommandLine::genCommandStr() {
+  keepReadForm();
   originalCmd.clear();
   bool firstElement = true;
   for (const auto& entry : treeNodes) {
@@ -219,7 +259,7 @@ const std::string& CiscoCommandLine::genCommandStr() {
     }
     firstElement = false;
   }
-  for (auto& entry : subCommands) {
+  for (auto& entry : getSubCommands()) {
     size_t newline = originalCmd.find('\n');
     if (newline != std::string::npos) originalCmd.erase(newline);
     originalCmd += ' ';
@@ -299,17 +339,18 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     }
   }
   bool nestedN = false;
-  for (auto& entry : other->subCommands) {
+  for (auto& entry : other->getSubCommands()) {
     ParserTreeNode* node = entry.first;
     CiscoCommandLine* theirsSub = entry.second;
     const bool hasN = nodeHas(node, NODE_FLAG_N);
     nestedN = nestedN || hasN;
-    auto found = subCommands.find(node);
-    if (found == subCommands.end()) {
+    SubCommands& subs = ownSubCommands();
+    auto found = subs.find(node);
+    if (found == subs.end()) {
       if (!negated) {
         auto copy = std::make_unique<CiscoCommandLine>(*theirsSub);
         copy->parentCommand = this;
-        subCommands[node] = copy.release();
+        subs[node] = copy.release();
       }
       continue;
     }
@@ -322,14 +363,14 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
       }
       continue;
     }
-    if (theirsSub->flag == CMD_MERGEABLE && !theirsSub->subCommands.empty() && mineSub->mergeCommand(theirsSub)) {
+    if (theirsSub->flag == CMD_MERGEABLE && !theirsSub->getSubCommands().empty() && mineSub->mergeCommand(theirsSub)) {
       continue;
     }
     if (hasN) {
       if (currentSubCommand == mineSub) currentSubCommand = nullptr;
       mineSub->delOnlyChildCmds();
       delete mineSub;
-      subCommands.erase(found);
+      subs.erase(found);
     }
   }
   if (!negated) {
@@ -346,7 +387,7 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     }
     if (options) return false;
   }
-  if (!nestedN || !subCommands.empty()) {
+  if (!nestedN || !getSubCommands().empty()) {
     genCommandStr();
     return true;
   }

@@ -15,6 +15,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -68,11 +69,23 @@ class VTYCONF_API CiscoCommandLine {
   const std::string& getCurrentCommand() const { return currentCommand; }
   void setCurrentCommand(const std::string& text) { currentCommand = text; }
   const std::string& getOriginalCmd() const { return originalCmd; }
-  void setOriginalCmd(const std::string& text) { originalCmd = text; }
-  const std::string& getOriginalStr() const { return originalStr; }
-  void setOriginalStr(const std::string& text) { originalStr = text; }
-  void getMajorCmdStr(std::string& out) const { out = majorCmdStr; }
-  void setMajorCommands(const std::string& text) { majorCmdStr = text; }
+  void setOriginalCmd(const std::string& text) {
+    keepReadForm();
+    originalCmd = text;
+  }
+  const std::string& getOriginalStr() const;
+  void setOriginalStr(const std::string& text);
+  void getMajorCmdStr(std::string& out) const {
+    if (majorCmdStr) {
+      out = *majorCmdStr;
+    } else {
+      out.clear();
+    }
+  }
+  void setMajorCommands(const std::string& text);
+  // The same text, shared with the records that stand in the same modes (the
+  // text is never changed in place).
+  void setMajorCommands(std::shared_ptr<const std::string> text) { majorCmdStr = std::move(text); }
   std::vector<std::string> getMajorCommands() const;
   // vtyconf's own: the line as it was read, with any empty lines that stood
   // before it ("\n" each). Setting it remembers originalCmd as well, so that
@@ -80,9 +93,9 @@ class VTYCONF_API CiscoCommandLine {
   const std::string& getRawText() const { return mRawText; }
   void setRawText(const std::string& text) {
     mRawText = text;
-    mReadForm = originalCmd;
+    mReadForm.reset();
   }
-  bool isAsRead() const { return !mRawText.empty() && originalCmd == mReadForm; }
+  bool isAsRead() const { return !mRawText.empty() && (!mReadForm || originalCmd == *mReadForm); }
 
   std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
   const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
@@ -90,7 +103,7 @@ class VTYCONF_API CiscoCommandLine {
   void getAllChildCommands(std::vector<CiscoCommandLine*>& out) const;
   CiscoCommandLine* getParentCommand() const { return parentCommand; }
   const std::vector<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
-  const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const { return subCommands; }
+  const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const;
   int getTreeNodeSize() const { return static_cast<int>(treeNodes.size()); }
 
   void setFlags(unsigned int bits, bool recursive);
@@ -103,6 +116,8 @@ class VTYCONF_API CiscoCommandLine {
   void clearVisitedOption();
   void delOnlyChildCmds();
 
+  // Room for a path of `nodes` nodes (a hint of the terminal's walk).
+  void reservePath(size_t nodes) { treeNodes.reserve(nodes); }
   // Extends the path by a matched word (called by the terminal's walk).
   void addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo);
   // Takes the order number from the command-order table for the mode opened
@@ -118,15 +133,26 @@ class VTYCONF_API CiscoCommandLine {
   bool mergeCommand(CiscoCommandLine* other);
 
  private:
+  using SubCommands = std::map<ParserTreeNode*, CiscoCommandLine*>;
+
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
+  SubCommands& ownSubCommands();
+  // The form originalCmd had when the text was read is kept only once
+  // originalCmd is about to change (until then it is originalCmd itself).
+  void keepReadForm() {
+    if (!mRawText.empty() && !mReadForm) mReadForm = std::make_unique<std::string>(originalCmd);
+  }
 
   int level = 0;
   int lineNo = 0;
-  std::string majorCmdStr;
+  // The rebuilt texts of the commands that opened the modes around this one
+  // (null when there are none).
+  std::shared_ptr<const std::string> majorCmdStr;
   std::string currentCommand;
   std::string originalCmd;
-  std::string originalStr;
+  // Set for text records only (a command has none): made when set.
+  std::unique_ptr<std::string> originalStr;
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
@@ -135,11 +161,12 @@ class VTYCONF_API CiscoCommandLine {
   // Each node appears once in the path; a repeated node adds words to its
   // element.
   std::vector<CmdPathEntry> treeNodes;
-  std::map<ParserTreeNode*, CiscoCommandLine*> subCommands;
+  // Made when the first nested command is (most commands have none).
+  std::unique_ptr<SubCommands> subCommands;
   CiscoCommandLine* currentSubCommand = nullptr;
   // vtyconf's own (copied and assigned with the strings above).
   std::string mRawText;
-  std::string mReadForm;
+  std::unique_ptr<std::string> mReadForm;
 };
 
 }  // namespace qxparser

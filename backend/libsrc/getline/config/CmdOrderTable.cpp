@@ -46,6 +46,37 @@ const OrderIndex& orderIndexOf(const std::string& key, const std::vector<CiscoCo
   return index;
 }
 
+// The table entry and index of the grammar file asked for last: the commands
+// of one mode ask for the same one in a row. Dropped with the table.
+struct LastFile {
+  std::string fileName;
+  const std::vector<CiscoCommandLine*>* templates = nullptr;
+  const OrderIndex* index = nullptr;
+};
+
+LastFile& lastFile() {
+  static auto* last = new LastFile();
+  return *last;
+}
+
+// The templates and index for the grammar file `key`; null when the table has
+// no entry for it.
+const OrderIndex* indexFor(const std::string& key, const std::vector<CiscoCommandLine*>*& templates) {
+  LastFile& last = lastFile();
+  if (last.templates && last.fileName == key && last.index->data == last.templates->data() &&
+      last.index->size == last.templates->size()) {
+    templates = last.templates;
+    return last.index;
+  }
+  auto found = gCmdOrderTable().find(key);
+  if (found == gCmdOrderTable().end()) return nullptr;
+  templates = &found->second;
+  last.fileName = key;
+  last.templates = templates;
+  last.index = &orderIndexOf(key, *templates);
+  return last.index;
+}
+
 }  // namespace
 
 CmdOrderTable& gCmdOrderTable() {
@@ -62,6 +93,7 @@ void clearCmdOrderTable() {
   }
   gCmdOrderTable().clear();
   orderIndexes().clear();
+  lastFile() = LastFile();
 }
 
 bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command) {
@@ -77,12 +109,14 @@ bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command
 
 void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
   if (!modeNode || treeNodes.empty() || gCmdOrderTable().empty()) return;
-  const std::string key = modeNode->mFileName.empty() ? "configuration_mod.cfm" : modeNode->mFileName.str();
-  auto found = gCmdOrderTable().find(key);
-  if (found == gCmdOrderTable().end()) return;
+  static const std::string kTopFile = "configuration_mod.cfm";
+  const std::string& key = modeNode->mFileName.empty() ? kTopFile : modeNode->mFileName.str();
+  const std::vector<CiscoCommandLine*>* table = nullptr;
+  const OrderIndex* planned = indexFor(key, table);
+  if (!planned) return;
   // The first template in file order that fits, among those that can.
-  const std::vector<CiscoCommandLine*>& templates = found->second;
-  const OrderIndex& index = orderIndexOf(key, templates);
+  const std::vector<CiscoCommandLine*>& templates = *table;
+  const OrderIndex& index = *planned;
   static const std::vector<size_t> kNone;
   auto same = index.byFirstNode.find(treeNodes.front().node);
   const std::vector<size_t>& first = same == index.byFirstNode.end() ? kNone : same->second;

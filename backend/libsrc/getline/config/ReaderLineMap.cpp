@@ -1,30 +1,28 @@
 #include "config/ReaderLineMap.h"
 
+#include <algorithm>
+
 namespace qxparser {
 
 namespace {
 
 void splitReaderLines(const std::string& text, ReaderLineMap& map) {
+  const size_t size = text.size();
+  const size_t lines = static_cast<size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+  map.fileLines.reserve(lines);
+  map.readerLines.reserve(lines);
   int fileLine = 1;
-  std::string piece;
-  auto flush = [&]() {
-    if (!piece.empty()) {
+  size_t start = 0;
+  for (size_t i = 0; i <= size; ++i) {
+    const char c = i < size ? text[i] : '\n';
+    if (c != '\r' && c != '\n') continue;
+    if (i > start) {
       map.fileLines.push_back(fileLine);
-      map.readerLines.push_back(piece);
-      piece.clear();
+      map.readerLines.emplace_back(text, start, i - start);
     }
-  };
-  for (char c : text) {
-    if (c == '\r') {
-      flush();
-    } else if (c == '\n') {
-      flush();
-      ++fileLine;
-    } else {
-      piece += c;
-    }
+    if (c == '\n') ++fileLine;
+    start = i + 1;
   }
-  flush();
 }
 
 // A banner's closing line with text before its delimiter ("*****^C").
@@ -42,6 +40,7 @@ bool closesWithText(const std::string& line, char delimiter) {
 void markBannerText(ReaderLineMap& map) {
   char delimiter = '\0';
   bool inside = false;
+  map.bannerText.reserve(map.readerLines.size());
   for (const std::string& line : map.readerLines) {
     size_t lead = line.find_first_not_of(" \t");
     if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
@@ -54,9 +53,7 @@ void markBannerText(ReaderLineMap& map) {
       continue;
     }
     map.bannerText.push_back(inside && closesWithText(line, delimiter));
-    for (char c : line) {
-      if (delimiter != '\0' && c == delimiter) inside = !inside;
-    }
+    if (delimiter != '\0' && std::count(line.begin(), line.end(), delimiter) % 2 != 0) inside = !inside;
   }
 }
 

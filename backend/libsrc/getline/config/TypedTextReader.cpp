@@ -25,22 +25,38 @@ bool abbreviates(const std::string& word, const std::string& full, size_t least)
   return word.size() >= least && word.size() <= full.size() && full.compare(0, word.size(), word) == 0;
 }
 
-bool isConfigureTerminal(const std::vector<std::pair<size_t, std::string>>& words) {
-  if (words.empty() || words.size() > 2 || !abbreviates(loweredWord(words[0].second), "configure", 4)) return false;
-  return words.size() == 1 || abbreviates(loweredWord(words[1].second), "terminal", 1);
+// The first two words of a line (where they stand) and how many it holds.
+struct LineWords {
+  explicit LineWords(const std::string& line) : count(wordSpans(line, spans, 2)) {}
+  std::string lowered(const std::string& line, size_t i) const {
+    return loweredWord(line.substr(spans[i].start, spans[i].length));
+  }
+
+  WordSpan spans[2];
+  size_t count;
+};
+
+bool isConfigureTerminal(const std::string& line, const LineWords& words) {
+  if (words.count == 0 || words.count > 2 || !abbreviates(words.lowered(line, 0), "configure", 4)) return false;
+  return words.count == 1 || abbreviates(words.lowered(line, 1), "terminal", 1);
 }
 
 // Hands `take` the non-empty pieces of a text cut at carriage returns and
 // line feeds, numbered from 1 as the replaying reader numbers them; one piece
-// at a time, so that the text is not copied whole.
+// at a time in one buffer, so that the text is not copied whole.
 template <typename Take>
 void forEachPiece(const std::string& text, Take take) {
   int number = 0;
   size_t start = 0;
-  while (start <= text.size()) {
-    size_t end = text.find_first_of("\r\n", start);
-    if (end == std::string::npos) end = text.size();
-    if (end > start) take(++number, text.substr(start, end - start));
+  std::string piece;
+  const size_t size = text.size();
+  while (start <= size) {
+    size_t end = start;
+    while (end < size && text[end] != '\r' && text[end] != '\n') ++end;
+    if (end > start) {
+      piece.assign(text, start, end - start);
+      take(++number, piece);
+    }
     start = end + 1;
   }
 }
@@ -67,14 +83,15 @@ class Reading {
     mVty.parse("configure terminal \n", true, nullptr);
   }
 
-  void line(int number, std::string text) {
+  // `text` is the caller's buffer; the line may change it.
+  void line(int number, std::string& text) {
     if (mPrompts) {
       std::string prompt;
       mVty.getPrompt(prompt);
       // "configure terminal" is typed at the privileged prompt: the reading
       // stands in configuration mode from its start, the person did not.
       const size_t mode = prompt.rfind("(config)#");
-      if (mode != std::string::npos && mode + 9 == prompt.size() && isConfigureTerminal(wordsWithOffsets(text))) {
+      if (mode != std::string::npos && mode + 9 == prompt.size() && isConfigureTerminal(text, LineWords(text))) {
         prompt = prompt.substr(0, mode) + "#";
       }
       mPrompts->push_back(prompt);
@@ -104,8 +121,8 @@ class Reading {
       mCommands.push_back(record.release());
       return;
     }
-    const auto words = wordsWithOffsets(text);
-    if (steers(words)) {
+    const LineWords words(text);
+    if (steers(text, words)) {
       record->setFlag(CMD_TEXT);
       record->setOriginalStr(text);
       mCommands.push_back(record.release());
@@ -115,24 +132,24 @@ class Reading {
       execLine(number, text, std::move(record));
       return;
     }
-    if (mFollowIndent) leaveDeeperLevels(words[0].first);
+    if (mFollowIndent) leaveDeeperLevels(words.spans[0].start);
     command(number, text, std::move(record));
   }
 
  private:
   // Lines that move the terminal between modes and levels, and lines that
   // hold no configuration. True when the line was taken here.
-  bool steers(const std::vector<std::pair<size_t, std::string>>& words) {
-    if (words.empty() || words[0].second[0] == '!') return true;
-    const std::string first = loweredWord(words[0].second);
+  bool steers(const std::string& text, const LineWords& words) {
+    if (words.count == 0 || text[words.spans[0].start] == '!') return true;
+    const std::string first = words.lowered(text, 0);
     const bool configuring = mVty.currentMode() == CONFIG_MODE;
-    if (isConfigureTerminal(words)) {
+    if (isConfigureTerminal(text, words)) {
       if (!configuring) mVty.parse("configure terminal \n", true, nullptr);
       return true;
     }
     // A script written for the exec prompt begins with "enable": no
     // configuration, and no error where the reading already configures.
-    if (first == "enable" && words.size() == 1) return true;
+    if (first == "enable" && words.count == 1) return true;
     if (!configuring) return false;
     if (first == "end" || first == "exit") {
       mVty.parse(first, true, nullptr);
@@ -158,7 +175,7 @@ class Reading {
   // configuration is replayed: a line the device prints reads as it does
   // there. Then abbreviations; then the preferred interface types.
   void command(int number, const std::string& text, std::unique_ptr<CiscoCommandLine> record) {
-    if (!attempt(number, text, false, record) && !attempt(number, text, true, record)) {
+    if (!walk(text, false, *record) && !attempt(number, text, true, record)) {
       const size_t position = mVty.lastErrorOffset();
       const std::string message = mVty.lastError();
       const std::string preferred = InterfaceTypeOrder::withPreferredTypes(text);
@@ -184,15 +201,20 @@ class Reading {
     mCommands.push_back(record.release());
   }
 
+  // One reading of the line into `record`, which no walk has touched.
+  bool walk(const std::string& text, bool abbreviations, CiscoCommandLine& record) {
+    mVty.setCliMode(abbreviations);
+    const bool ok = mVty.parseRecordLine(text, record);
+    mVty.setCliMode(true);
+    return ok;
+  }
+
   // One reading of the line into a fresh record (kept in `record` either way).
   bool attempt(int number, const std::string& text, bool abbreviations, std::unique_ptr<CiscoCommandLine>& record) {
     discard(record);
     record = std::make_unique<CiscoCommandLine>();
     record->setLineNo(number);
-    mVty.setCliMode(abbreviations);
-    const bool ok = mVty.parseRecordLine(text, *record);
-    mVty.setCliMode(true);
-    return ok;
+    return walk(text, abbreviations, *record);
   }
 
   // At the exec prompt: `write memory`, `show ...` and the like are no
@@ -239,7 +261,7 @@ bool TypedTextReader::read(const std::string& text, std::vector<CiscoCommandLine
                            std::vector<RefusedLine>& refused) {
   const size_t before = refused.size();
   Reading reading("hostName", commands, refused, nullptr);
-  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
+  forEachPiece(text, [&reading](int number, std::string& piece) { reading.line(number, piece); });
   return refused.size() == before;
 }
 
@@ -248,7 +270,7 @@ bool TypedTextReader::readByIndent(const std::string& text, std::vector<CiscoCom
   const size_t before = refused.size();
   Reading reading("hostName", commands, refused, nullptr);
   reading.mFollowIndent = true;
-  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
+  forEachPiece(text, [&reading](int number, std::string& piece) { reading.line(number, piece); });
   return refused.size() == before;
 }
 
@@ -257,7 +279,7 @@ bool TypedTextReader::readWithPrompts(const std::string& text, const std::string
                                       std::vector<std::string>& prompts) {
   const size_t before = refused.size();
   Reading reading(hostName, commands, refused, &prompts);
-  forEachPiece(text, [&reading](int number, std::string piece) { reading.line(number, std::move(piece)); });
+  forEachPiece(text, [&reading](int number, std::string& piece) { reading.line(number, piece); });
   return refused.size() == before;
 }
 

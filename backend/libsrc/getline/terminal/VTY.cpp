@@ -1,6 +1,7 @@
 #include "terminal/VTY.h"
 
 #include <memory>
+#include <utility>
 
 #include "config/CiscoCommandLine.h"
 #include "grammar/DefinitionLoader.h"
@@ -22,6 +23,21 @@ namespace {
 // design has it: a failed line right after a mode change resets the model of
 // the new mode a second time (kept on purpose).
 bool gModeChanged = false;
+
+// Where the non-empty pieces of `text` cut at carriage returns and line
+// feeds stand, up to its first NUL byte, as ParserToolCase::splitString cuts
+// it.
+std::vector<std::pair<const char*, size_t>> lineSpans(const std::string& text) {
+  std::vector<std::pair<const char*, size_t>> spans;
+  const char* p = text.c_str();
+  while (true) {
+    while (*p == '\r' || *p == '\n') ++p;
+    if (*p == '\0') return spans;
+    const char* begin = p;
+    while (*p != '\0' && *p != '\r' && *p != '\n') ++p;
+    spans.emplace_back(begin, static_cast<size_t>(p - begin));
+  }
+}
 
 bool isBlankOrEnd(const std::string& line) {
   size_t start = line.find_first_not_of(" \t");
@@ -59,6 +75,19 @@ void VTY::DestroyModelAll() {
 VTYModel* VTY::currentModel() const {
   auto found = mModels.find(currentMode());
   return found == mModels.end() ? nullptr : found->second;
+}
+
+std::shared_ptr<const std::string> VTY::sharedContext(const std::string& text) {
+  if (text.empty()) return nullptr;
+  if (!mLastContext || *mLastContext != text) mLastContext = std::make_shared<const std::string>(text);
+  return mLastContext;
+}
+
+std::shared_ptr<const std::string> VTY::sharedLevelText(const VTYModel& model, bool allLevels) {
+  if (mLastContext && model.levelTextIs(*mLastContext, allLevels)) return mLastContext;
+  std::string text;
+  model.levelText(text, allLevels);
+  return sharedContext(text);
 }
 
 void VTY::reset() {
@@ -183,11 +212,8 @@ void VTY::hook(const std::string& line) {
 
 bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>& commands, std::string& errorText,
                          int& errorLine, bool popMode) {
-  std::list<std::string*> lines;
-  ParserToolCase::splitString(text, "\r\n", lines);
-  std::vector<std::unique_ptr<std::string>> owned;
-  owned.reserve(lines.size());
-  for (std::string* line : lines) owned.emplace_back(line);
+  // The lines as splitString cuts them; each is copied in turn into one buffer.
+  const std::vector<std::pair<const char*, size_t>> lines = lineSpans(text);
   if (commands.capacity() < commands.size() + lines.size()) commands.reserve(commands.size() + 2 * lines.size());
 
   VTYModel* model = currentModel();
@@ -198,8 +224,9 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
   int level = 0;
   bool ok = true;
   int number = 0;
-  for (const auto& holder : owned) {
-    const std::string& line = *holder;
+  std::string line;
+  for (const auto& piece : lines) {
+    line.assign(piece.first, piece.second);
     ++number;
     auto command = std::make_unique<CiscoCommandLine>();
     command->setLineNo(number);
@@ -218,7 +245,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
         level = static_cast<int>(model->mMajorLevel) + (wasNew ? 1 : 0);
       }
       command->setLevel(level);
-      command->setMajorCommands(context);
+      command->setMajorCommands(sharedContext(context));
       size_t start = line.find_first_not_of(" \t");
       std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
       command->setCurrentCommand(shown);
@@ -234,7 +261,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
     if (!model->mInfoLine.empty()) {
       command->setCurrentCommand(model->mInfoLine);
       command->setOriginalCmd(model->mCompleteLine);
-      command->setMajorCommands(context);
+      command->setMajorCommands(sharedContext(context));
       command->setLevel(level);
     } else {
       command->setFlag(CMD_TEXT);

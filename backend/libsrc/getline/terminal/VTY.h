@@ -14,6 +14,7 @@
 
 #include <deque>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -134,6 +135,11 @@ class VTYCONF_API VTY : public std::stringstream {
   void installMode(VTYModeType mode);
   void DestroyModelAll();
   VTYModel* currentModel() const;
+  // The context text for a record: the one handed out last when it is the
+  // same text, so that the records of one mode share it.
+  std::shared_ptr<const std::string> sharedContext(const std::string& text);
+  // The same for the level text of `model` (VTYModel::levelText).
+  std::shared_ptr<const std::string> sharedLevelText(const VTYModel& model, bool allLevels);
 
   std::stringstream mOutput;
   std::string mConfigFile;
@@ -150,6 +156,7 @@ class VTYCONF_API VTY : public std::stringstream {
   std::map<VTYModeType, VTYModel*> mModels;
   std::deque<VTYModeType> mModeStack;
   std::vector<std::string> mRemovedInterfaces;
+  std::shared_ptr<const std::string> mLastContext;
 };
 
 }  // namespace qxparser

@@ -30,8 +30,6 @@ void VTY::setCliMode(bool cliMode) {
 bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
   const bool ok = parse(line, true, &command);
   VTYModel* model = currentModel();
-  std::string context;
-  if (model) model->levelText(context, false);
   const int level = model ? static_cast<int>(model->mMajorLevel) : 0;
   if (!ok) {
     size_t start = line.find_first_not_of(" \t");
@@ -39,9 +37,8 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
     // Right behind a line that opened a mode, the refused line stands inside
     // that mode, as getComLineInfo places it.
     const bool opened = model && model->mNewLevel;
-    if (opened) model->levelText(context, true);
     command.setLevel(level + (opened ? 1 : 0));
-    command.setMajorCommands(context);
+    command.setMajorCommands(model ? sharedLevelText(*model, opened) : std::shared_ptr<const std::string>());
     command.setCurrentCommand(shown);
     command.setOriginalCmd(shown);
     return false;
@@ -49,7 +46,7 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
   if (model && !model->mInfoLine.empty()) {
     command.setCurrentCommand(model->mInfoLine);
     command.setOriginalCmd(model->mCompleteLine);
-    command.setMajorCommands(context);
+    command.setMajorCommands(sharedLevelText(*model, false));
     command.setLevel(level);
   } else {
     command.setFlag(CMD_TEXT);

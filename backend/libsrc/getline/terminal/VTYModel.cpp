@@ -7,6 +7,7 @@
 // levels, prompt and mode as they were.
 #include "terminal/VTYModel.h"
 
+#include <algorithm>
 #include <cctype>
 #include <locale>
 #include <stdexcept>
@@ -17,15 +18,48 @@
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
 #include "toolkit/ParserToolCase.h"
+#include "toolkit/TextWords.h"
 
 namespace qxparser {
 
 namespace {
 
 const char* const kSeparators = " \t\r\n";
+
+// find_first_of / find_first_not_of over kSeparators, a character at a time
+// (the library's versions search the separators for every character).
+bool isSeparator(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+size_t nextSeparator(const std::string& line, size_t from) {
+  for (size_t i = from; i < line.size(); ++i) {
+    if (isSeparator(line[i])) return i;
+  }
+  return std::string::npos;
+}
+
+size_t nextWord(const std::string& line, size_t from) {
+  for (size_t i = from; i < line.size(); ++i) {
+    if (!isSeparator(line[i])) return i;
+  }
+  return std::string::npos;
+}
+
+// Words from `start` to the line's end.
+size_t wordsFrom(const std::string& line, size_t start) {
+  size_t count = 0;
+  bool inWord = false;
+  for (size_t i = start; i < line.size(); ++i) {
+    const bool separator = isSeparator(line[i]);
+    if (!separator && !inWord) ++count;
+    inWord = !separator;
+  }
+  return count;
+}
 const std::string kEndToken = "\n";
 const std::string kInvalidInput = "% Invalid input detected at ^";
 const std::string kIncomplete = "% Incomplete command.";
+const std::string kVersionWord = "version";
+const std::string kNoWord = "no";
 
 template <typename T>
 void popBack(T& container) {
@@ -65,6 +99,18 @@ void VTYModel::levelText(std::string& text, bool allLevels) const {
   size_t count = mLevels->texts.size();
   if (!allLevels && mMajorLevel != count && count > 0) --count;
   for (size_t i = 0; i < count; ++i) text += mLevels->texts[i];
+}
+
+bool VTYModel::levelTextIs(const std::string& text, bool allLevels) const {
+  size_t count = mLevels->texts.size();
+  if (!allLevels && mMajorLevel != count && count > 0) --count;
+  size_t at = 0;
+  for (size_t i = 0; i < count; ++i) {
+    const std::string& piece = mLevels->texts[i];
+    if (text.compare(at, piece.size(), piece) != 0) return false;
+    at += piece.size();
+  }
+  return at == text.size();
 }
 
 bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& modeResult, bool& inBanner) {
@@ -160,35 +206,38 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     errorText.clear();
     return;
   }
-  size_t start = line.find_first_not_of(kSeparators);
+  size_t start = nextWord(line, 0);
   if (start == std::string::npos) {
     status = 0;
     return;
   }
-  size_t end = line.find_first_of(kSeparators, start + 1);
-  const std::string firstWord = ParserToolCase::string2Lower(line.substr(start, end == std::string::npos ? std::string::npos : end - start));
-  if (firstWord[0] == '!') {
+  size_t end = nextSeparator(line, start + 1);
+  const WordSpan first{start, (end == std::string::npos ? line.size() : end) - start};
+  if (line[start] == '!') {
     status = 0;
     return;
   }
-  if (firstWord == "version" && mLevels->texts.empty()) {
+  if (mLevels->texts.empty() && wordIs(line, first, kVersionWord)) {
     status = 0;
     return;
   }
   bool isNo = false;
   auto advance = [&]() {
-    start = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
-    end = start == std::string::npos ? std::string::npos : line.find_first_of(kSeparators, start + 1);
+    start = end == std::string::npos ? std::string::npos : nextWord(line, end);
+    end = start == std::string::npos ? std::string::npos : nextSeparator(line, start + 1);
   };
-  if (firstWord == "no") {
-    size_t next = end == std::string::npos ? std::string::npos : line.find_first_not_of(kSeparators, end);
+  if (wordIs(line, first, kNoWord)) {
+    size_t next = end == std::string::npos ? std::string::npos : nextWord(line, end);
     if (next != std::string::npos) {
       isNo = true;
       advance();
     }
   }
+  // Room in the record for the path at once: a node per word and the end.
+  if (mCurrentCommand && start != std::string::npos) mCurrentCommand->reservePath(wordsFrom(line, start) + 1);
   bool flag = false;
   std::string key;
+  std::string token;
   while (true) {
     if (start == std::string::npos) {
       ParserTreeNode* before = mCurrentNode;
@@ -204,7 +253,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
       }
       break;
     }
-    const std::string token = line.substr(start, end == std::string::npos ? std::string::npos : end - start);
+    token.assign(line, start, end == std::string::npos ? std::string::npos : end - start);
     ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr);
     if (node && node->mIsOption) {
       mOptionPairs.push_back(mCurrentNode);
@@ -352,21 +401,21 @@ bool VTYModel::bannerStep(const std::string& line) {
     mInfoLine = line + "\n";
     return true;
   }
-  for (char c : line) {
-    if (c == mBannerDelimiter) mInsideBanner = !mInsideBanner;
-  }
+  if (std::count(line.begin(), line.end(), mBannerDelimiter) % 2 != 0) mInsideBanner = !mInsideBanner;
   return false;
 }
 
 void VTYModel::finishCommand(bool isNo, int& modeResult) {
   if (isNo) {
-    mCompleteLine = "no " + mCompleteLine;
-    mInfoLine = "no " + mInfoLine;
+    mCompleteLine.insert(0, "no ");
+    mInfoLine.insert(0, "no ");
     for (std::string* text : {&mCompleteLine, &mInfoLine}) {
       size_t last = text->rfind('\n');
       if (last != std::string::npos) text->erase(last + 1);
     }
   }
+  const char lead = mCompleteLine.empty() ? '\0' : mCompleteLine[0];
+  if (lead != 'c' && lead != 'e') return;
   if (mCompleteLine == "configure \n" || mCompleteLine == "configure terminal \n") {
     mOwner->mOutput << "Enter configuration commands, one per line." << "\n";
     modeResult = CONFIG_MODE;

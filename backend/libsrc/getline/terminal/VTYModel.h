@@ -29,6 +29,8 @@ class VTYModel {
   void saveState();
   bool parseLine(const std::string& line, std::string& errorText, int& modeResult, bool& inBanner);
   void levelText(std::string& text, bool allLevels) const;
+  // Whether levelText would give `text` (without building it).
+  bool levelTextIs(const std::string& text, bool allLevels) const;
   void hookLine(const std::string& line);
   void nextWords(const std::string& line, std::vector<ConfigHint>& hints);
   void nextWordsEachLevel(const std::string& line, std::vector<ConfigHint>& hints);
