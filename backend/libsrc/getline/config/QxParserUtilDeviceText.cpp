@@ -40,6 +40,19 @@ class RecordsGuard {
   bool mResult;
 };
 
+// While it lives, the device-text operations free the records of their
+// results before they return (see QxParserUtil::setFreeRecordsOnReturn).
+class IntermediateRecords {
+ public:
+  IntermediateRecords() : mFreed(QxParserUtil::freeRecordsOnReturn()) { QxParserUtil::setFreeRecordsOnReturn(true); }
+  IntermediateRecords(const IntermediateRecords&) = delete;
+  IntermediateRecords& operator=(const IntermediateRecords&) = delete;
+  ~IntermediateRecords() { QxParserUtil::setFreeRecordsOnReturn(mFreed); }
+
+ private:
+  bool mFreed;
+};
+
 std::string withoutNo(const std::string& text) {
   return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text;
 }
@@ -237,7 +250,13 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
                                                        std::vector<RefusedLine>* secondRefused) {
   if (mode == 0 && ResultRollback::needed(firstGiven)) {
     // Undone through the configuration the changes give (see ResultRollback).
-    const std::string result = mergeConfigCmdsDeviceText(firstGiven, secondGiven, firstRefused, secondRefused);
+    // That merge is a step on the way: its records go before the rollback
+    // reads, whatever the caller asked for the records of its result.
+    std::string result;
+    {
+      IntermediateRecords freed;
+      result = mergeConfigCmdsDeviceText(firstGiven, secondGiven, firstRefused, secondRefused);
+    }
     return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
   const std::string first = DeviceMeaning::settledText(firstGiven);
