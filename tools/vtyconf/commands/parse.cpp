@@ -95,65 +95,75 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
     for (const std::string& left : input.leftOut)
       std::cerr << "vtyconf: " << input.displayName() << ":" << left << " (left out of the capture)\n";
   }
-  std::vector<CiscoCommandLine*> records;
-  std::string errorText;
-  int errorLine = 0;
-  std::string exceptionText;
+  // Messages and listing wait until the whole text is read: a text the
+  // library fails on shows its error alone.
+  std::string messages;
+  std::ostringstream text;
+  std::set<int> refusedNumbers;
   std::vector<qxparser::RefusedLine> refusedLines;
+  size_t refusedSeen = 0;
+  // Each record once, in reading order.
+  const auto look = [&](const std::vector<CiscoCommandLine*>& records) {
+    for (; refusedSeen < refusedLines.size(); ++refusedSeen) refusedNumbers.insert(refusedLines[refusedSeen].lineNo);
+    const auto isRefused = [&](const CiscoCommandLine& record) {
+      return vtycli::isRefused(record, input, refusedNumbers);
+    };
+    for (const CiscoCommandLine* record : records) {
+      ++summary.lines;
+      const int fileLine = input.fileLineOf(record->getLineNo());
+      if (isRefused(*record)) {
+        ++summary.refused;
+        const std::string shown = CommandDump::commandText(*record);
+        summary.groups[groupKey(shown)]++;
+        // A message shows at most 200 bytes of the line.
+        messages += "vtyconf: " + input.displayName() + ":" + std::to_string(fileLine) + ": " + shown.substr(0, 200) +
+                    (shown.size() > 200 ? " ..." : "") + "\n";
+        continue;
+      }
+      if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
+      if (input.isBannerText(record->getLineNo())) {
+        text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << CommandDump::commandText(*record)
+             << "\t[banner text]\n";
+        continue;
+      }
+      std::string line;
+      CommandDump::dumpCommand(*record, line, false, [&input](int number) { return input.fileLineOf(number); });
+      text << line;
+    }
+    if (!options.json) return;
+    for (const CiscoCommandLine* record : records) {
+      if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
+      if (isRefused(*record)) continue;
+      summary.records.push_back(toJson(*record, input));
+    }
+  };
+  std::string exceptionText;
   try {
     if (options.replay) {
+      std::vector<CiscoCommandLine*> records;
+      std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
+          &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::releaseResultRecords(*v); });
+      std::string errorText;
+      int errorLine = 0;
       QxParserUtil::getCmdInfo(input.text, records, errorText, errorLine);
+      look(records);
     } else {
-      QxParserUtil::getCmdInfoTyped(input.text, records, refusedLines);
+      // Looked at a block at a time: a large text's records are not all held.
+      qxparser::TypedTextReader::readInBlocks(input.text, refusedLines, look);
     }
   } catch (const std::exception& e) {
     exceptionText = e.what();
   }
   if (!exceptionText.empty()) {
-    QxParserUtil::deleteCommands(records);
+    summary = FileSummary();
     const int line = qxparser::failingLine(input);
     std::cerr << "vtyconf: " << input.displayName() << ":";
     if (line > 0) std::cerr << line << ":";
     std::cerr << " " << exceptionText << "\n";
     return 2;
   }
-  std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
-      &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::releaseResultRecords(*v); });
-  std::set<int> refusedNumbers;
-  for (const qxparser::RefusedLine& line : refusedLines) refusedNumbers.insert(line.lineNo);
-  auto isRefused = [&](const CiscoCommandLine& record) { return vtycli::isRefused(record, input, refusedNumbers); };
-  std::ostringstream text;
-  for (const CiscoCommandLine* record : records) {
-    ++summary.lines;
-    const int fileLine = input.fileLineOf(record->getLineNo());
-    if (isRefused(*record)) {
-      ++summary.refused;
-      const std::string shown = CommandDump::commandText(*record);
-      summary.groups[groupKey(shown)]++;
-      // A message shows at most 200 bytes of the line.
-      std::cerr << "vtyconf: " << input.displayName() << ":" << fileLine << ": " << shown.substr(0, 200)
-                << (shown.size() > 200 ? " ..." : "") << "\n";
-      continue;
-    }
-    if (record->getFlag() == qxparser::CMD_TEXT || options.json || options.stats) continue;
-    if (input.isBannerText(record->getLineNo())) {
-      text << std::string(static_cast<size_t>(record->getLevel()) * 2, ' ') << CommandDump::commandText(*record)
-           << "\t[banner text]\n";
-      continue;
-    }
-    std::string line;
-    CommandDump::dumpCommand(*record, line, false, [&input](int number) { return input.fileLineOf(number); });
-    text << line;
-  }
-  if (options.json) {
-    for (const CiscoCommandLine* record : records) {
-      if (record->getParentCommand() != nullptr || record->getFlag() == qxparser::CMD_TEXT) continue;
-      if (isRefused(*record)) continue;
-      summary.records.push_back(toJson(*record, input));
-    }
-  } else if (!options.stats) {
-    std::cout << text.str();
-  }
+  std::cerr << messages;
+  if (!options.json && !options.stats) std::cout << text.str();
   if (options.stats) {
     std::cout << input.displayName() << ": " << summary.lines << " lines read, " << summary.refused << " refused\n";
   }

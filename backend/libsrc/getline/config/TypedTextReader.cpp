@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -248,6 +249,12 @@ class Reading {
  public:
   bool mFollowIndent = false;
 
+  // No mode is open and no banner text is being read: the records read so
+  // far get no more children, and nothing refers to them any longer.
+  bool betweenBlocks() const {
+    return !mVty.inBanner() && (mVty.currentMode() != CONFIG_MODE || mVty.levelCount() <= 1);
+  }
+
  private:
   VTY mVty;
   std::vector<CiscoCommandLine*>& mCommands;
@@ -271,6 +278,43 @@ bool TypedTextReader::readByIndent(const std::string& text, std::vector<CiscoCom
   Reading reading("hostName", commands, refused, nullptr);
   reading.mFollowIndent = true;
   forEachPiece(text, [&reading](int number, std::string& piece) { reading.line(number, piece); });
+  return refused.size() == before;
+}
+
+namespace {
+
+// Frees records of all levels read together: each record without a parent
+// with its children (a parent always stands among the records before them).
+void freeBlock(std::vector<CiscoCommandLine*>& records) {
+  for (CiscoCommandLine* record : records) {
+    if (record->getParentCommand() != nullptr) continue;
+    record->delOnlyChildCmds();
+    delete record;
+  }
+  records.clear();
+}
+
+}  // namespace
+
+bool TypedTextReader::readInBlocks(const std::string& text, std::vector<RefusedLine>& refused,
+                                   const std::function<void(const std::vector<CiscoCommandLine*>&)>& take) {
+  const size_t before = refused.size();
+  std::vector<CiscoCommandLine*> block;
+  try {
+    Reading reading("hostName", block, refused, nullptr);
+    forEachPiece(text, [&](int number, std::string& piece) {
+      if (!block.empty() && reading.betweenBlocks()) {
+        take(block);
+        freeBlock(block);
+      }
+      reading.line(number, piece);
+    });
+    if (!block.empty()) take(block);
+  } catch (...) {
+    freeBlock(block);
+    throw;
+  }
+  freeBlock(block);
   return refused.size() == before;
 }
 

@@ -20,6 +20,7 @@
 // Not thread-safe: it walks the shared grammar.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,13 @@ class VTYCONF_API TypedTextReader {
   // level written and not where a climb from the level before would find it.
   static bool readByIndent(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                            std::vector<RefusedLine>& refused);
+  // The same as read, with the records handed over a block at a time and
+  // then freed: `take` gets the records of all levels read since its last
+  // call, in reading order, whenever no mode that could take more of them is
+  // open (and the rest at the end). For callers that look at each record once
+  // (counts, checks, a listing) and need not hold a large text's records.
+  static bool readInBlocks(const std::string& text, std::vector<RefusedLine>& refused,
+                           const std::function<void(const std::vector<CiscoCommandLine*>&)>& take);
   // The same, on a terminal named `hostName`, also giving for every record
   // the prompt at which its line was typed ("R1(config-if)#").
   static bool readWithPrompts(const std::string& text, const std::string& hostName,
