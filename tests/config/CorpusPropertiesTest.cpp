@@ -284,5 +284,40 @@ TEST_F(CorpusPropertiesTest, OneValueSettingsAndSingleEntryNegationsMergeAsTheDe
   }
 }
 
+// What a reading says of each record, in reading order.
+std::vector<std::string> described(const std::vector<CiscoCommandLine*>& records) {
+  std::vector<std::string> out;
+  for (const CiscoCommandLine* record : records) {
+    out.push_back(std::to_string(record->getLineNo()) + " " + std::to_string(record->getLevel()) + " " +
+                  std::to_string(record->getOrderNo()) + " " + std::to_string(record->getFlags()) + " " +
+                  std::to_string(record->getChildCommands().size()) + " " +
+                  (record->getParentCommand() ? record->getParentCommand()->getOriginalCmd() : "-") + " | " +
+                  record->getOriginalCmd());
+  }
+  return out;
+}
+
+TEST_F(CorpusPropertiesTest, ReadingInBlocksHandsOverWhatOneReadingGives) {
+  for (const CorpusFile& file : files_) {
+    std::vector<CiscoCommandLine*> whole;
+    std::vector<RefusedLine> refusedWhole;
+    TypedTextReader::read(file.text, whole, refusedWhole);
+    const std::vector<std::string> expected = described(whole);
+    QxParserUtil::deleteCommands(whole);
+    std::vector<std::string> inBlocks;
+    std::vector<RefusedLine> refusedInBlocks;
+    size_t blocks = 0;
+    TypedTextReader::readInBlocks(file.text, refusedInBlocks, [&](const std::vector<CiscoCommandLine*>& block) {
+      const std::vector<std::string> lines = described(block);
+      inBlocks.insert(inBlocks.end(), lines.begin(), lines.end());
+      ++blocks;
+    });
+    EXPECT_EQ(inBlocks, expected) << file.name;
+    EXPECT_EQ(refusedInBlocks.size(), refusedWhole.size()) << file.name;
+    // A configuration of more than a few blocks is not handed over whole.
+    if (expected.size() > 50) EXPECT_GT(blocks, 2u) << file.name;
+  }
+}
+
 }  // namespace
 }  // namespace qxparser
