@@ -301,6 +301,25 @@ void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<Cis
 
 namespace {
 
+// A command of a mode block in a text: the head line of its block (none at
+// the top level), its indent and its words without "no"; all views into the
+// text.
+struct SettledKey {
+  std::string_view head;
+  size_t lead = 0;
+  std::string_view words;
+
+  bool operator==(const SettledKey& other) const {
+    return lead == other.lead && head == other.head && words == other.words;
+  }
+  struct Hash {
+    size_t operator()(const SettledKey& key) const {
+      const std::hash<std::string_view> text;
+      return text(key.words) ^ (text(key.head) * 31) ^ (key.lead * 0x9e3779b97f4a7c15ULL);
+    }
+  };
+};
+
 // `text` without the blanks, carriage returns and line ends behind it.
 std::string_view trimmedView(std::string_view text) {
   const size_t end = text.find_last_not_of(" \r\n");
@@ -321,24 +340,19 @@ std::string DeviceMeaning::settledText(const std::string& text) {
   }
   // Per mode block: the last line of each command, by its words without "no".
   // A line undone later becomes "!" at the indent of the line that undoes it.
-  std::unordered_map<std::string, size_t> last;
+  std::unordered_map<SettledKey, size_t, SettledKey::Hash> last;
+  last.reserve(lines.size());
   std::vector<int> commentIndent(lines.size(), -1);
-  std::string head;
-  std::string key;
+  std::string_view head;
   for (size_t i = 0; i < lines.size(); ++i) {
     std::string_view line = lines[i];
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     const size_t lead = line.find_first_not_of(' ');
     if (lead == std::string_view::npos || line[lead] == '!') continue;
-    if (lead == 0) head.assign(line);
+    if (lead == 0) head = line;
     const std::string_view words = trimmedView(line.substr(lead));
     const bool negated = words.compare(0, 3, "no ") == 0;
-    key.clear();
-    if (lead != 0) key += head;
-    key += '\n';
-    key += std::to_string(lead);
-    key += ' ';
-    key += negated ? words.substr(3) : words;
+    const SettledKey key{lead == 0 ? std::string_view() : head, lead, negated ? words.substr(3) : words};
     const auto found = last.find(key);
     if (found != last.end()) {
       std::string_view before = trimmedView(lines[found->second]);

@@ -81,6 +81,7 @@ std::string_view withoutNoView(const std::string& text) {
 void collectTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
   std::vector<CiscoCommandLine*> all(records);
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
+  lines.reserve(lines.size() + all.size());
   for (const CiscoCommandLine* record : all) {
     if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
     lines.emplace(withoutNoView(record->getOriginalCmd()), record);
