@@ -18,6 +18,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "config/CiscoCommandLineFlag.h"
@@ -93,6 +94,10 @@ class VTYCONF_API CiscoCommandLine {
   const std::string& getRawText() const { return mRawText; }
   void setRawText(const std::string& text) {
     mRawText = text;
+    mReadForm.reset();
+  }
+  void setRawText(std::string&& text) {
+    mRawText = std::move(text);
     mReadForm.reset();
   }
   bool isAsRead() const { return !mRawText.empty() && (!mReadForm || originalCmd == *mReadForm); }

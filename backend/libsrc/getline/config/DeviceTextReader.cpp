@@ -109,7 +109,7 @@ void DeviceTextReader::attachRawText(const std::string& text, const std::vector<
     raw.reserve(static_cast<size_t>(line.emptyBefore) + line.length);
     raw.append(static_cast<size_t>(line.emptyBefore), '\n');
     raw.append(text, line.start, line.length);
-    record->setRawText(raw);
+    record->setRawText(std::move(raw));
   }
 }
 
