@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <sstream>
+#include <string_view>
+#include <unordered_map>
 
 #include "config/DeviceTextReader.h"
 #include "config/MeaningText.h"
@@ -17,13 +20,24 @@ using meaning::freeRecord;
 using meaning::startsWith;
 using meaning::trimmed;
 
-CiscoCommandLine* sameHead(const std::vector<CiscoCommandLine*>& records, const CiscoCommandLine& head) {
-  for (CiscoCommandLine* record : records) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && record->getOriginalCmd() == head.getOriginalCmd())
-      return record;
+// The first command of a level that opens a mode, by its text: found
+// without a scan of the level. The level's heads keep their texts while it
+// is used.
+class HeadIndex {
+ public:
+  explicit HeadIndex(const std::vector<CiscoCommandLine*>& records) {
+    for (CiscoCommandLine* record : records) {
+      if (record->hasFlags(CMDBIT_OPENS_MODE)) mHeads.emplace(record->getOriginalCmd(), record);
+    }
   }
-  return nullptr;
-}
+  CiscoCommandLine* sameHead(const CiscoCommandLine& head) const {
+    const auto found = mHeads.find(head.getOriginalCmd());
+    return found == mHeads.end() ? nullptr : found->second;
+  }
+
+ private:
+  std::unordered_map<std::string_view, CiscoCommandLine*> mHeads;
+};
 
 bool isNamedList(const std::string& head) {
   return startsWith(head, "ip access-list ") || startsWith(head, "ipv6 access-list ");
@@ -296,10 +310,12 @@ void AccessListMeaning::entriesBySequence(std::vector<CiscoCommandLine*>& record
 
 void AccessListMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& changes,
                                            std::vector<CiscoCommandLine*>& config) {
+  std::unique_ptr<HeadIndex> heads;
   for (CiscoCommandLine* change : changes) {
     const std::string& head = change->getOriginalCmd();
     if (!isNamedList(head)) continue;
-    CiscoCommandLine* list = sameHead(config, *change);
+    if (!heads) heads = std::make_unique<HeadIndex>(config);
+    CiscoCommandLine* list = heads->sameHead(*change);
     if (!list) continue;
     std::vector<CiscoCommandLine*>& asked = change->getChildCommands();
     std::vector<CiscoCommandLine*>& entries = list->getChildCommands();
@@ -331,10 +347,12 @@ std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandL
                                                  const std::vector<CiscoCommandLine*>& to,
                                                  std::vector<std::string>& heads) {
   std::string out;
+  std::unique_ptr<HeadIndex> toHeads;
   for (const CiscoCommandLine* list : from) {
     const std::string& head = list->getOriginalCmd();
     if (!isNamedList(head)) continue;
-    const CiscoCommandLine* other = sameHead(to, *list);
+    if (!toHeads) toHeads = std::make_unique<HeadIndex>(to);
+    const CiscoCommandLine* other = toHeads->sameHead(*list);
     if (!other) continue;
     const auto before = entryTexts(*list);
     const auto after = entryTexts(*other);

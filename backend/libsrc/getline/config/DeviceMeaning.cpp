@@ -39,7 +39,8 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
              const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
   // The commands of `from` by their text, the first of each.
-  std::unordered_map<std::string, const CiscoCommandLine*> given;
+  std::unordered_map<std::string_view, const CiscoCommandLine*> given;
+  given.reserve(from.size());
   for (const CiscoCommandLine* record : from) {
     if (record->getTreeNodeSize() > 0) given.emplace(record->getCurrentCommand(), record);
   }
