@@ -14,6 +14,8 @@ constexpr uint64_t kSpacing = uint64_t{1} << 24;
 constexpr uint64_t kMinimumGap = uint64_t{1} << 8;
 // A bucket with this many live commands looks texts up in a table.
 constexpr uint32_t kTextTableFrom = 8;
+// A level with fewer commands is scanned.
+constexpr size_t kIndexFrom = 8;
 
 template <typename T>
 void appendRaw(std::string& key, T value) {
@@ -136,22 +138,52 @@ void CommandMatchIndex::GapList::erase(size_t position) {
   ++mGapEnd;
 }
 
+CommandMatchIndex::KeySet::KeySet(const std::vector<CiscoCommandLine*>& commands) {
+  mKeys.reserve(commands.size());
+  for (const CiscoCommandLine* command : commands) {
+    if (!command->hasFlags(CMDBIT_REMOVED) && !command->getTreeNodes().empty()) {
+      mKeys.emplace_back(keyHash(command), command);
+    }
+  }
+  std::sort(mKeys.begin(), mKeys.end(),
+            [](const auto& a, const auto& b) { return a.first < b.first; });
+}
+
+bool CommandMatchIndex::KeySet::containsKeyOf(const CiscoCommandLine* probe) const {
+  const uint64_t hash = keyHash(probe);
+  auto at = std::lower_bound(mKeys.begin(), mKeys.end(), hash,
+                             [](const auto& entry, uint64_t key) { return entry.first < key; });
+  for (; at != mKeys.end() && at->first == hash; ++at) {
+    if (sameKey(at->second, probe)) return true;
+  }
+  return false;
+}
+
 CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
   const size_t count = mCommands.size();
-  mSlots.reserve(count + count / 8);
+  mSlots.reserve(count);
   mLevel.reserve(count);
-  mBuckets.reserve(count + count / 8);
-  mGiven.reserve(count);
-  size_t tableSize = 16;
-  while (tableSize < 2 * count + 2) tableSize *= 2;
-  mBucketTable.assign(tableSize, kNone);
   for (size_t i = 0; i < count; ++i) {
     const uint32_t id = static_cast<uint32_t>(mSlots.size());
     mSlots.emplace_back();
     mSlots[id].record = mCommands[i];
     mSlots[id].rank = (i + 1) * kSpacing;
     mLevel.push_back(id);
-    mGiven.emplace_back(mCommands[i], id);
+  }
+  if (count >= kIndexFrom) buildIndex();
+}
+
+void CommandMatchIndex::buildIndex() {
+  mIndexed = true;
+  const size_t count = mLevel.size();
+  mBuckets.reserve(count + count / 8);
+  size_t tableSize = 16;
+  while (tableSize < 2 * count + 2) tableSize *= 2;
+  mBucketTable.assign(tableSize, kNone);
+  mGiven.reserve(count);
+  for (size_t i = 0; i < count; ++i) {
+    const uint32_t id = mLevel[i];
+    mGiven.emplace_back(mSlots[id].record, id);
     describe(id);
     if (mSlots[id].live) enterLive(id, true);
   }
@@ -159,6 +191,38 @@ CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) :
     return std::less<const CiscoCommandLine*>()(a.first, b.first);
   });
   for (size_t i = 0; i < count; ++i) updateRun(i);
+}
+
+size_t CommandMatchIndex::scanComparable(const CiscoCommandLine* probe) const {
+  for (size_t i = 0; i < mLevel.size(); ++i) {
+    if (at(i)->isComparable(probe)) return i;
+  }
+  return npos;
+}
+
+size_t CommandMatchIndex::scanNoable(const CiscoCommandLine* probe) const {
+  for (size_t i = 0; i < mLevel.size(); ++i) {
+    if (at(i)->isNoable(probe)) return i;
+  }
+  return npos;
+}
+
+CommandMatchIndex::Run CommandMatchIndex::scanRun(size_t from, const CiscoCommandLine* probe) const {
+  Run run;
+  const bool negated = probe->hasFlags(CMDBIT_NO);
+  size_t i = from;
+  for (; i < mLevel.size() && at(i)->isComparable(probe); ++i) {
+    if (at(i)->getCurrentCommand() == probe->getCurrentCommand()) {
+      run.equal = i;
+      break;
+    }
+    if (at(i)->hasFlags(CMDBIT_NO) != negated) run.otherSign.push_back(i);
+  }
+  if (run.equal != npos) {
+    while (i < mLevel.size() && at(i)->isComparable(probe)) ++i;
+  }
+  run.end = i;
+  return run;
 }
 
 CommandMatchIndex::~CommandMatchIndex() {
@@ -379,6 +443,7 @@ uint64_t CommandMatchIndex::rankFor(size_t position) {
 }
 
 size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
+  if (!mIndexed) return scanComparable(probe);
   const uint32_t found = findBucket(probe, keyHash(probe));
   if (found == kNone) return npos;
   // The live commands stand in the level's order: the first that is
@@ -397,13 +462,9 @@ size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
   const auto& path = probe->getTreeNodes();
-  if (path.empty() || path.front().words.count("\n") > 0) {
-    // Such a probe may negate commands of any start: scan.
-    for (size_t i = 0; i < mLevel.size(); ++i) {
-      if (at(i)->isNoable(probe)) return i;
-    }
-    return npos;
-  }
+  // A probe without a path, or one whose path starts with the end of a line,
+  // may negate commands of any start: scan.
+  if (!mIndexed || path.empty() || path.front().words.count("\n") > 0) return scanNoable(probe);
   // The candidates, in level order: commands starting at the probe's first
   // node, and those whose first element ends a line.
   static const GapList kEmpty;
@@ -421,6 +482,7 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
 }
 
 CommandMatchIndex::Run CommandMatchIndex::walkRun(size_t at, const CiscoCommandLine* probe) const {
+  if (!mIndexed) return scanRun(at, probe);
   Run run;
   const Slot& start = mSlots[mLevel[at]];
   const Bucket& bucket = mBuckets[start.bucket];
@@ -473,8 +535,12 @@ void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
   mSlots.emplace_back();
   mSlots[id].record = record;
   mSlots[id].rank = rank;
-  mInserted[record] = id;
   mLevel.insert(position, id);
+  if (!mIndexed) {
+    if (mLevel.size() >= kIndexFrom) buildIndex();
+    return;
+  }
+  mInserted[record] = id;
   describe(id);
   if (mSlots[id].live) enterLive(id, false);
   updateRun(position);
@@ -482,6 +548,7 @@ void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
 }
 
 void CommandMatchIndex::refresh(size_t position) {
+  if (!mIndexed) return;
   const uint32_t id = mLevel[position];
   if (mSlots[id].live) leaveLive(id);
   describe(id);
@@ -491,6 +558,7 @@ void CommandMatchIndex::refresh(size_t position) {
 }
 
 void CommandMatchIndex::removed(CiscoCommandLine* record) {
+  if (!mIndexed) return;
   const uint32_t id = static_cast<uint32_t>(slotOf(record));
   if (!mSlots[id].live) return;
   leaveLive(id);

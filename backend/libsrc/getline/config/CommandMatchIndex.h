@@ -28,7 +28,8 @@
 // and ordered lists of slot numbers (sorted by rank, with a movable gap) in
 // place of trees. The text of a command is looked up by a hash and checked
 // against the record's own text; a bucket keeps such a table only once it
-// holds several commands, a smaller run is read directly.
+// holds several commands, a smaller run is read directly. A level of a few
+// commands is not indexed at all until it grows: it is scanned.
 #pragma once
 
 #include <cstddef>
@@ -88,6 +89,18 @@ class CommandMatchIndex {
   static uint64_t keyHash(const CiscoCommandLine* command);
   static bool sameKey(const CiscoCommandLine* a, const CiscoCommandLine* b);
 
+  // The key signatures of the commands of a level that are comparable with
+  // anything (a path, not removed), as they are when it is built: whether
+  // one of them is comparable with a probe.
+  class KeySet {
+   public:
+    explicit KeySet(const std::vector<CiscoCommandLine*>& commands);
+    bool containsKeyOf(const CiscoCommandLine* probe) const;
+
+   private:
+    std::vector<std::pair<uint64_t, const CiscoCommandLine*>> mKeys;
+  };
+
  private:
   static constexpr uint32_t kNone = static_cast<uint32_t>(-1);
 
@@ -141,6 +154,10 @@ class CommandMatchIndex {
     std::unique_ptr<TextTable> byText;
   };
 
+  void buildIndex();
+  size_t scanComparable(const CiscoCommandLine* probe) const;
+  size_t scanNoable(const CiscoCommandLine* probe) const;
+  Run scanRun(size_t at, const CiscoCommandLine* probe) const;
   size_t slotOf(const CiscoCommandLine* record) const;
   size_t lowerBound(const GapList& list, uint64_t rank) const;
   void enterList(GapList& list, uint32_t id, bool atEnd);
@@ -164,6 +181,8 @@ class CommandMatchIndex {
   std::unordered_map<const CiscoCommandLine*, uint32_t> mInserted;
   GapList mLevel;
   bool mCommitted = true;
+  // False while the level is small enough to be scanned.
+  bool mIndexed = false;
   std::vector<Bucket> mBuckets;
   // Open addressing over the bucket numbers by key hash (kNone: free).
   std::vector<uint32_t> mBucketTable;
