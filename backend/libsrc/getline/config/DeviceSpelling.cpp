@@ -23,6 +23,9 @@ const char* const kInterfaceKeyFile = "&interfacefile.cfm";
 struct DisplayTable {
   std::string folder;
   std::map<std::string, std::map<std::string, std::string>> files;
+  // The folder while a Batch lives.
+  int batches = 0;
+  std::string pinned;
 };
 
 DisplayTable& table() {
@@ -34,7 +37,8 @@ DisplayTable& table() {
 // folder; empty when the file is missing.
 const std::map<std::string, std::string>& displayNames(const std::string& name) {
   DisplayTable& current = table();
-  const std::string folder = QXFileSystem::GetSystemResourceFolder();
+  std::string looked;
+  const std::string& folder = current.batches > 0 ? current.pinned : (looked = QXFileSystem::GetSystemResourceFolder());
   if (current.folder != folder) {
     current.files.clear();
     current.folder = folder;
@@ -120,12 +124,24 @@ bool startsWithDigit(std::string_view word) {
 }  // namespace
 
 std::string DeviceSpelling::interfaceType(const std::string& word) {
-  const auto& names = displayNames("interfacefile.display");
+  static const std::string file = "interfacefile.display";
+  const auto& names = displayNames(file);
   const auto found = names.find(lower(word));
   return found == names.end() ? word : found->second;
 }
 
-void DeviceSpelling::reload() { table() = DisplayTable(); }
+void DeviceSpelling::reload() {
+  DisplayTable& current = table();
+  current.folder.clear();
+  current.files.clear();
+}
+
+DeviceSpelling::Batch::Batch() {
+  DisplayTable& current = table();
+  if (current.batches++ == 0) current.pinned = QXFileSystem::GetSystemResourceFolder();
+}
+
+DeviceSpelling::Batch::~Batch() { --table().batches; }
 
 std::string DeviceSpelling::spell(const CiscoCommandLine& record) {
   std::vector<std::string_view> full;
@@ -146,7 +162,8 @@ std::string DeviceSpelling::spell(const CiscoCommandLine& record) {
   std::vector<std::string> keywordWords;
   std::string key;
   collectWords(record, interfaceWords, keywordWords, key);
-  const auto& keywordNames = displayNames("keywords.display");
+  static const std::string keywordFile = "keywords.display";
+  const auto& keywordNames = displayNames(keywordFile);
   for (size_t j = start; j < full.size(); ++j) {
     if (!out.empty()) out += ' ';
     lowerInto(full[j], key);

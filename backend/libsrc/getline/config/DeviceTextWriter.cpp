@@ -239,6 +239,7 @@ void DeviceTextWriter::appendLine(std::string& out, const CiscoCommandLine& reco
 }
 
 std::string DeviceTextWriter::write(const std::vector<CiscoCommandLine*>& commands, unsigned int options) {
+  const DeviceSpelling::Batch batch;
   std::vector<const CiscoCommandLine*> comments;
   for (const CiscoCommandLine* record : commands) {
     if (record->getFlag() == CMD_TEXT) comments.push_back(record);
