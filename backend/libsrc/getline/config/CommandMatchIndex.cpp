@@ -90,10 +90,10 @@ void CommandMatchIndex::GapList::moveGap(size_t position) {
     std::move_backward(mData.begin() + static_cast<std::ptrdiff_t>(position),
                        mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin),
                        mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd));
-    mGapEnd -= mGapBegin - position;
-    mGapBegin = position;
+    mGapEnd -= static_cast<uint32_t>(mGapBegin - position);
+    mGapBegin = static_cast<uint32_t>(position);
   } else if (position > mGapBegin) {
-    const size_t shift = position - mGapBegin;
+    const uint32_t shift = static_cast<uint32_t>(position - mGapBegin);
     std::move(mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd),
               mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd + shift),
               mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin));
@@ -102,17 +102,31 @@ void CommandMatchIndex::GapList::moveGap(size_t position) {
   }
 }
 
+bool CommandMatchIndex::GapList::spill(uint32_t value) {
+  if (!mData.empty()) return true;
+  if (mOne == kNone) {
+    mOne = value;
+    return false;
+  }
+  mData.push_back(mOne);
+  mOne = kNone;
+  mGapBegin = mGapEnd = 1;
+  return true;
+}
+
 void CommandMatchIndex::GapList::push_back(uint32_t value) {
+  if (!spill(value)) return;
   if (mGapBegin == mGapEnd) {
     // No gap: a plain vector.
     mData.push_back(value);
-    mGapBegin = mGapEnd = mData.size();
+    mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
     return;
   }
   insert(size(), value);
 }
 
 void CommandMatchIndex::GapList::insert(size_t position, uint32_t value) {
+  if (!spill(value)) return;
   if (mGapBegin == mGapEnd) {
     if (position == mData.size()) {
       push_back(value);
@@ -124,16 +138,20 @@ void CommandMatchIndex::GapList::insert(size_t position, uint32_t value) {
     std::vector<uint32_t> wider(count + gap, kNone);
     for (size_t i = 0; i < count; ++i) wider[i < position ? i : i + gap] = (*this)[i];
     mData.swap(wider);
-    mGapBegin = position;
-    mGapEnd = position + gap;
+    mGapBegin = static_cast<uint32_t>(position);
+    mGapEnd = static_cast<uint32_t>(position + gap);
   } else {
     moveGap(position);
   }
   mData[mGapBegin++] = value;
-  if (mGapBegin == mGapEnd) mGapBegin = mGapEnd = mData.size();
+  if (mGapBegin == mGapEnd) mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
 }
 
 void CommandMatchIndex::GapList::erase(size_t position) {
+  if (mData.empty()) {
+    mOne = kNone;
+    return;
+  }
   moveGap(position);
   ++mGapEnd;
 }

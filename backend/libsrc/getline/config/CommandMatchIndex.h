@@ -105,12 +105,14 @@ class CommandMatchIndex {
   static constexpr uint32_t kNone = static_cast<uint32_t>(-1);
 
   // A sequence with a gap at the place of the last change: changes that
-  // follow one another nearby move little.
+  // follow one another nearby move little. A single value is held in place
+  // until a second one comes (most buckets hold one command).
   class GapList {
    public:
-    size_t size() const { return mData.size() - (mGapEnd - mGapBegin); }
+    size_t size() const { return mData.empty() ? (mOne != kNone ? 1 : 0) : mData.size() - (mGapEnd - mGapBegin); }
     bool empty() const { return size() == 0; }
     uint32_t operator[](size_t position) const {
+      if (mData.empty()) return mOne;
       return mData[position < mGapBegin ? position : position + (mGapEnd - mGapBegin)];
     }
     void reserve(size_t count) { mData.reserve(count); }
@@ -119,10 +121,13 @@ class CommandMatchIndex {
     void erase(size_t position);
 
    private:
+    // False when the value went in place.
+    bool spill(uint32_t value);
     void moveGap(size_t position);
     std::vector<uint32_t> mData;
-    size_t mGapBegin = 0;
-    size_t mGapEnd = 0;
+    uint32_t mOne = kNone;
+    uint32_t mGapBegin = 0;
+    uint32_t mGapEnd = 0;
   };
 
   // What the index knows of one record. Ranks grow with the position in the
