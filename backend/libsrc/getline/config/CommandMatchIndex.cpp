@@ -163,8 +163,7 @@ CommandMatchIndex::KeySet::KeySet(const std::vector<CiscoCommandLine*>& commands
       mKeys.emplace_back(keyHash(command), command);
     }
   }
-  std::sort(mKeys.begin(), mKeys.end(),
-            [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::sort(mKeys.begin(), mKeys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
 }
 
 bool CommandMatchIndex::KeySet::containsKeyOf(const CiscoCommandLine* probe) const {
@@ -261,9 +260,10 @@ void CommandMatchIndex::commit() {
 }
 
 size_t CommandMatchIndex::slotOf(const CiscoCommandLine* record) const {
-  const auto given = std::lower_bound(mGiven.begin(), mGiven.end(), record, [](const auto& entry, const CiscoCommandLine* key) {
-    return std::less<const CiscoCommandLine*>()(entry.first, key);
-  });
+  const auto given = std::lower_bound(mGiven.begin(), mGiven.end(), record,
+                                      [](const auto& entry, const CiscoCommandLine* key) {
+                                        return std::less<const CiscoCommandLine*>()(entry.first, key);
+                                      });
   if (given != mGiven.end() && given->first == record) return given->second;
   return mInserted.at(record);
 }
@@ -361,8 +361,9 @@ void CommandMatchIndex::buildTextTable(Bucket& bucket) {
   size_t a = 0;
   size_t b = 0;
   while (a < bucket.negated.size() || b < bucket.positive.size()) {
-    const bool takeA = b == bucket.positive.size() ||
-                       (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
+    const bool takeA =
+        b == bucket.positive.size() ||
+        (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
     const uint32_t member = takeA ? bucket.negated[a++] : bucket.positive[b++];
     (*bucket.byText)[mSlots[member].textHash].push_back(member);
   }
@@ -470,8 +471,9 @@ size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
   size_t a = 0;
   size_t b = 0;
   while (a < bucket.negated.size() || b < bucket.positive.size()) {
-    const bool takeA = b == bucket.positive.size() ||
-                       (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
+    const bool takeA =
+        b == bucket.positive.size() ||
+        (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
     const Slot& candidate = mSlots[takeA ? bucket.negated[a++] : bucket.positive[b++]];
     if (candidate.record->isComparable(probe)) return positionOf(candidate.rank);
   }
@@ -491,8 +493,8 @@ size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
   size_t a = 0;
   size_t b = 0;
   while (a < first.size() || b < mEndsAtOnce.size()) {
-    const bool takeA = b == mEndsAtOnce.size() ||
-                       (a < first.size() && mSlots[first[a]].rank < mSlots[mEndsAtOnce[b]].rank);
+    const bool takeA =
+        b == mEndsAtOnce.size() || (a < first.size() && mSlots[first[a]].rank < mSlots[mEndsAtOnce[b]].rank);
     const Slot& candidate = mSlots[takeA ? first[a++] : mEndsAtOnce[b++]];
     if (candidate.record->isNoable(probe)) return positionOf(candidate.rank);
   }

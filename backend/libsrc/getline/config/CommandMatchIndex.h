@@ -109,7 +109,9 @@ class CommandMatchIndex {
   // until a second one comes (most buckets hold one command).
   class GapList {
    public:
-    size_t size() const { return mData.empty() ? (mOne != kNone ? 1 : 0) : mData.size() - (mGapEnd - mGapBegin); }
+    size_t size() const {
+      return mData.empty() ? (mOne != kNone ? 1 : 0) : mData.size() - (mGapEnd - mGapBegin);
+    }
     bool empty() const { return size() == 0; }
     uint32_t operator[](size_t position) const {
       if (mData.empty()) return mOne;

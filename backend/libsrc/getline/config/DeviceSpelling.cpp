@@ -38,7 +38,8 @@ DisplayTable& table() {
 const std::map<std::string, std::string>& displayNames(const std::string& name) {
   DisplayTable& current = table();
   std::string looked;
-  const std::string& folder = current.batches > 0 ? current.pinned : (looked = QXFileSystem::GetSystemResourceFolder());
+  const std::string& folder =
+      current.batches > 0 ? current.pinned : (looked = QXFileSystem::GetSystemResourceFolder());
   if (current.folder != folder) {
     current.files.clear();
     current.folder = folder;

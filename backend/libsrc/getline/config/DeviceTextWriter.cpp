@@ -24,8 +24,10 @@ bool isExitLine(const CiscoCommandLine& record) {
 }
 
 // An address family that the change set brought in.
-bool isNewAddressFamily(const CiscoCommandLine& record, std::string_view line, bool anyAddressFamily = false) {
-  if ((!anyAddressFamily && !isNew(record)) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) {
+bool isNewAddressFamily(const CiscoCommandLine& record, std::string_view line,
+                        bool anyAddressFamily = false) {
+  if ((!anyAddressFamily && !isNew(record)) || !record.hasFlags(CMDBIT_OPENS_MODE) ||
+      record.hasFlags(CMDBIT_NO)) {
     return false;
   }
   const size_t lead = line.find_first_not_of(' ');
@@ -89,9 +91,8 @@ class Layout {
     const bool reorder = depth > 0 && exitLineInFront(given);
     if (reorder) {
       reordered = given;
-      std::stable_partition(reordered.begin(), reordered.end(), [](const CiscoCommandLine* r) {
-        return !isExitLine(*r);
-      });
+      std::stable_partition(reordered.begin(), reordered.end(),
+                            [](const CiscoCommandLine* r) { return !isExitLine(*r); });
     }
     const std::vector<CiscoCommandLine*>& records = reorder ? reordered : given;
     for (size_t i = 0; i < records.size(); ++i) {
@@ -120,7 +121,8 @@ class Layout {
       // The device sets an address family apart from what stands before it.
       if (depth > 0 && isNewAddressFamily(*record, std::string_view(mOut).substr(lineStart))) {
         const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
-        if (!endsWithLine(std::string_view(mOut).substr(0, lineStart), separator)) mOut.insert(lineStart, separator);
+        if (!endsWithLine(std::string_view(mOut).substr(0, lineStart), separator))
+          mOut.insert(lineStart, separator);
       }
       const bool exitLine = needsExitLine(*record, std::string_view(mOut).substr(mOut.size() - lineLength),
                                           (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0);
@@ -193,11 +195,13 @@ std::string DeviceTextWriter::writeLine(const CiscoCommandLine& record, int dept
   return out;
 }
 
-void DeviceTextWriter::appendLine(std::string& out, const CiscoCommandLine& record, int depth, unsigned int options) {
+void DeviceTextWriter::appendLine(std::string& out, const CiscoCommandLine& record, int depth,
+                                  unsigned int options) {
   const bool spellAll = (options & kSpellAll) != 0;
   if (record.getFlag() == CMD_TEXT) {
     const std::string& text = record.getRawText().empty() ? record.getOriginalStr() : record.getRawText();
-    const std::string_view bare = std::string_view(text).substr(std::min(text.size(), text.find_first_not_of(" \t")));
+    const std::string_view bare =
+        std::string_view(text).substr(std::min(text.size(), text.find_first_not_of(" \t")));
     if (depth > 0 && bare.compare(0, 5, "exit-") == 0 && (spellAll || record.getLineNo() < 1)) {
       // "exit-address-family" and its kind stand at the level of the mode head.
       out.append(static_cast<size_t>(depth - 1), ' ');
