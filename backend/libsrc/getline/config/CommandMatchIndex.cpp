@@ -2,6 +2,7 @@
 #include "config/CommandMatchIndex.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "grammar/ParserTreeNode.h"
 
@@ -11,15 +12,33 @@ namespace {
 
 constexpr uint64_t kSpacing = uint64_t{1} << 24;
 constexpr uint64_t kMinimumGap = uint64_t{1} << 8;
-
-}  // namespace
-
-namespace {
+// A bucket with this many live commands looks texts up in a table.
+constexpr uint32_t kTextTableFrom = 8;
+// A level with fewer commands is scanned.
+constexpr size_t kIndexFrom = 8;
 
 template <typename T>
 void appendRaw(std::string& key, T value) {
   key.append(reinterpret_cast<const char*>(&value), sizeof value);
 }
+
+uint64_t mix(uint64_t hash, uint64_t value) {
+  uint64_t x = hash ^ (value + 0x9e3779b97f4a7c15ULL + (hash << 6) + (hash >> 2));
+  x ^= x >> 30;
+  x *= 0xbf58476d1ce4e5b9ULL;
+  x ^= x >> 27;
+  x *= 0x94d049bb133111ebULL;
+  return x ^ (x >> 31);
+}
+
+bool isKey(const CmdPathEntry& entry) { return entry.node && entry.node->hasFlag(NODE_FLAG_K); }
+
+size_t nextKey(const std::vector<CmdPathEntry>& path, size_t from) {
+  while (from < path.size() && !isKey(path[from])) ++from;
+  return from;
+}
+
+uint64_t textHash(const std::string& text) { return std::hash<std::string>{}(text); }
 
 }  // namespace
 
@@ -29,7 +48,7 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
   std::string key;
   uint32_t position = 0;
   for (const CmdPathEntry& entry : command->getTreeNodes()) {
-    if (entry.node && entry.node->hasFlag(NODE_FLAG_K)) {
+    if (isKey(entry)) {
       appendRaw(key, position);
       appendRaw(key, entry.node);
       appendRaw(key, static_cast<uint32_t>(entry.words.size()));
@@ -43,21 +62,184 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
   return key;
 }
 
-CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
-  // Reserved up front: rehashing large tables is what building costs most.
-  mSlots.reserve(mCommands.size() + mCommands.size() / 8);
-  mLevel.reserve(mCommands.size());
-  mBuckets.reserve(mCommands.size() + mCommands.size() / 8);
-  for (size_t i = 0; i < mCommands.size(); ++i) {
-    auto data = std::make_unique<Slot>();
-    data->record = mCommands[i];
-    data->rank = (i + 1) * kSpacing;
-    describe(*data);
-    if (data->live) enterLive(*data, true);
-    mLevel.push_back(data.get());
-    mSlots[mCommands[i]] = std::move(data);
+uint64_t CommandMatchIndex::keyHash(const CiscoCommandLine* command) {
+  const std::vector<CmdPathEntry>& path = command->getTreeNodes();
+  uint64_t hash = 0;
+  for (size_t i = nextKey(path, 0); i < path.size(); i = nextKey(path, i + 1)) {
+    hash = mix(hash, i);
+    hash = mix(hash, reinterpret_cast<uintptr_t>(path[i].node));
+    hash = mix(hash, path[i].words.size());
+    for (const std::string& word : path[i].words) hash = mix(hash, textHash(word));
   }
-  for (size_t i = 0; i < mCommands.size(); ++i) updateRun(i);
+  return hash;
+}
+
+bool CommandMatchIndex::sameKey(const CiscoCommandLine* a, const CiscoCommandLine* b) {
+  const std::vector<CmdPathEntry>& left = a->getTreeNodes();
+  const std::vector<CmdPathEntry>& right = b->getTreeNodes();
+  size_t i = nextKey(left, 0);
+  size_t j = nextKey(right, 0);
+  for (; i < left.size() && j < right.size(); i = nextKey(left, i + 1), j = nextKey(right, j + 1)) {
+    if (i != j || left[i].node != right[j].node || left[i].words != right[j].words) return false;
+  }
+  return i == left.size() && j == right.size();
+}
+
+void CommandMatchIndex::GapList::moveGap(size_t position) {
+  if (position < mGapBegin) {
+    std::move_backward(mData.begin() + static_cast<std::ptrdiff_t>(position),
+                       mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin),
+                       mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd));
+    mGapEnd -= static_cast<uint32_t>(mGapBegin - position);
+    mGapBegin = static_cast<uint32_t>(position);
+  } else if (position > mGapBegin) {
+    const uint32_t shift = static_cast<uint32_t>(position - mGapBegin);
+    std::move(mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd),
+              mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd + shift),
+              mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin));
+    mGapBegin += shift;
+    mGapEnd += shift;
+  }
+}
+
+bool CommandMatchIndex::GapList::spill(uint32_t value) {
+  if (!mData.empty()) return true;
+  if (mOne == kNone) {
+    mOne = value;
+    return false;
+  }
+  mData.push_back(mOne);
+  mOne = kNone;
+  mGapBegin = mGapEnd = 1;
+  return true;
+}
+
+void CommandMatchIndex::GapList::push_back(uint32_t value) {
+  if (!spill(value)) return;
+  if (mGapBegin == mGapEnd) {
+    // No gap: a plain vector.
+    mData.push_back(value);
+    mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
+    return;
+  }
+  insert(size(), value);
+}
+
+void CommandMatchIndex::GapList::insert(size_t position, uint32_t value) {
+  if (!spill(value)) return;
+  if (mGapBegin == mGapEnd) {
+    if (position == mData.size()) {
+      push_back(value);
+      return;
+    }
+    // No room: lay the list out again with a gap at the insertion.
+    const size_t count = size();
+    const size_t gap = count / 4 + 4;
+    std::vector<uint32_t> wider(count + gap, kNone);
+    for (size_t i = 0; i < count; ++i) wider[i < position ? i : i + gap] = (*this)[i];
+    mData.swap(wider);
+    mGapBegin = static_cast<uint32_t>(position);
+    mGapEnd = static_cast<uint32_t>(position + gap);
+  } else {
+    moveGap(position);
+  }
+  mData[mGapBegin++] = value;
+  if (mGapBegin == mGapEnd) mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
+}
+
+void CommandMatchIndex::GapList::erase(size_t position) {
+  if (mData.empty()) {
+    mOne = kNone;
+    return;
+  }
+  moveGap(position);
+  ++mGapEnd;
+}
+
+CommandMatchIndex::KeySet::KeySet(const std::vector<CiscoCommandLine*>& commands) {
+  mKeys.reserve(commands.size());
+  for (const CiscoCommandLine* command : commands) {
+    if (!command->hasFlags(CMDBIT_REMOVED) && !command->getTreeNodes().empty()) {
+      mKeys.emplace_back(keyHash(command), command);
+    }
+  }
+  std::sort(mKeys.begin(), mKeys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+}
+
+bool CommandMatchIndex::KeySet::containsKeyOf(const CiscoCommandLine* probe) const {
+  const uint64_t hash = keyHash(probe);
+  auto at = std::lower_bound(mKeys.begin(), mKeys.end(), hash,
+                             [](const auto& entry, uint64_t key) { return entry.first < key; });
+  for (; at != mKeys.end() && at->first == hash; ++at) {
+    if (sameKey(at->second, probe)) return true;
+  }
+  return false;
+}
+
+CommandMatchIndex::CommandMatchIndex(std::vector<CiscoCommandLine*>& commands) : mCommands(commands) {
+  const size_t count = mCommands.size();
+  mSlots.reserve(count);
+  mLevel.reserve(count);
+  for (size_t i = 0; i < count; ++i) {
+    const uint32_t id = static_cast<uint32_t>(mSlots.size());
+    mSlots.emplace_back();
+    mSlots[id].record = mCommands[i];
+    mSlots[id].rank = (i + 1) * kSpacing;
+    mLevel.push_back(id);
+  }
+  if (count >= kIndexFrom) buildIndex();
+}
+
+void CommandMatchIndex::buildIndex() {
+  mIndexed = true;
+  const size_t count = mLevel.size();
+  mBuckets.reserve(count + count / 8);
+  size_t tableSize = 16;
+  while (tableSize < 2 * count + 2) tableSize *= 2;
+  mBucketTable.assign(tableSize, kNone);
+  mGiven.reserve(count);
+  for (size_t i = 0; i < count; ++i) {
+    const uint32_t id = mLevel[i];
+    mGiven.emplace_back(mSlots[id].record, id);
+    describe(id);
+    if (mSlots[id].live) enterLive(id, true);
+  }
+  std::sort(mGiven.begin(), mGiven.end(), [](const auto& a, const auto& b) {
+    return std::less<const CiscoCommandLine*>()(a.first, b.first);
+  });
+  for (size_t i = 0; i < count; ++i) updateRun(i);
+}
+
+size_t CommandMatchIndex::scanComparable(const CiscoCommandLine* probe) const {
+  for (size_t i = 0; i < mLevel.size(); ++i) {
+    if (at(i)->isComparable(probe)) return i;
+  }
+  return npos;
+}
+
+size_t CommandMatchIndex::scanNoable(const CiscoCommandLine* probe) const {
+  for (size_t i = 0; i < mLevel.size(); ++i) {
+    if (at(i)->isNoable(probe)) return i;
+  }
+  return npos;
+}
+
+CommandMatchIndex::Run CommandMatchIndex::scanRun(size_t from, const CiscoCommandLine* probe) const {
+  Run run;
+  const bool negated = probe->hasFlags(CMDBIT_NO);
+  size_t i = from;
+  for (; i < mLevel.size() && at(i)->isComparable(probe); ++i) {
+    if (at(i)->getCurrentCommand() == probe->getCurrentCommand()) {
+      run.equal = i;
+      break;
+    }
+    if (at(i)->hasFlags(CMDBIT_NO) != negated) run.otherSign.push_back(i);
+  }
+  if (run.equal != npos) {
+    while (i < mLevel.size() && at(i)->isComparable(probe)) ++i;
+  }
+  run.end = i;
+  return run;
 }
 
 CommandMatchIndex::~CommandMatchIndex() {
@@ -72,115 +254,26 @@ void CommandMatchIndex::commit() {
   if (mCommitted) return;
   std::vector<CiscoCommandLine*> level;
   level.reserve(mLevel.size());
-  for (size_t i = 0; i < mLevel.size(); ++i) level.push_back(mLevel[i]->record);
+  for (size_t i = 0; i < mLevel.size(); ++i) level.push_back(mSlots[mLevel[i]].record);
   mCommands.swap(level);
   mCommitted = true;
 }
 
-void CommandMatchIndex::Level::insert(size_t position, Slot* data) {
-  if (mGapBegin == mGapEnd) {
-    // No room: lay the level out again with a gap at the insertion.
-    const size_t count = size();
-    const size_t gap = count / 4 + 16;
-    std::vector<Slot*> wider(count + gap, nullptr);
-    for (size_t i = 0; i < count; ++i) wider[i < position ? i : i + gap] = (*this)[i];
-    mData.swap(wider);
-    mGapBegin = position;
-    mGapEnd = position + gap;
-  } else if (position < mGapBegin) {
-    std::move_backward(mData.begin() + static_cast<std::ptrdiff_t>(position),
-                       mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin),
-                       mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd));
-    mGapEnd -= mGapBegin - position;
-    mGapBegin = position;
-  } else if (position > mGapBegin) {
-    const size_t shift = position - mGapBegin;
-    std::move(mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd),
-              mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd + shift),
-              mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin));
-    mGapBegin += shift;
-    mGapEnd += shift;
-  }
-  mData[mGapBegin++] = data;
+size_t CommandMatchIndex::slotOf(const CiscoCommandLine* record) const {
+  const auto given = std::lower_bound(mGiven.begin(), mGiven.end(), record,
+                                      [](const auto& entry, const CiscoCommandLine* key) {
+                                        return std::less<const CiscoCommandLine*>()(entry.first, key);
+                                      });
+  if (given != mGiven.end() && given->first == record) return given->second;
+  return mInserted.at(record);
 }
 
-CommandMatchIndex::Slot& CommandMatchIndex::slot(const CiscoCommandLine* record) const {
-  return *mSlots.at(record);
-}
-
-void CommandMatchIndex::describe(Slot& data) {
-  const CiscoCommandLine* record = data.record;
-  data.live = !record->hasFlags(CMDBIT_REMOVED) && !record->getTreeNodes().empty();
-  data.bucket = nullptr;
-  if (!record->getTreeNodes().empty()) {
-    std::unique_ptr<Bucket>& bucket = mBuckets[signature(record)];
-    if (!bucket) bucket = std::make_unique<Bucket>();
-    data.bucket = bucket.get();
-  }
-  data.text = record->getCurrentCommand();
-  data.negated = record->hasFlags(CMDBIT_NO);
-  data.firstNode = record->getTreeNodes().empty() ? nullptr : record->getTreeNodes().front().node;
-  data.endsAtOnce = !record->getTreeNodes().empty() && record->getTreeNodes().front().words.count("\n") > 0;
-}
-
-void CommandMatchIndex::enterLive(Slot& data, bool atEnd) {
-  Bucket& bucket = *data.bucket;
-  RankSet& sign = data.negated ? bucket.negated : bucket.positive;
-  RankSet& sameText = bucket.byText[data.text];
-  RankSet& start = data.endsAtOnce ? mEndsAtOnce : mByFirstNode[data.firstNode];
-  if (atEnd) {
-    // Records come in level order while the index is built.
-    start.insert(start.end(), &data);
-    bucket.live.insert(bucket.live.end(), &data);
-    sameText.insert(sameText.end(), &data);
-    sign.insert(sign.end(), &data);
-  } else {
-    start.insert(&data);
-    bucket.live.insert(&data);
-    sameText.insert(&data);
-    sign.insert(&data);
-  }
-}
-
-void CommandMatchIndex::leaveLive(Slot& data) {
-  if (data.endsAtOnce) {
-    mEndsAtOnce.erase(&data);
-  } else {
-    auto start = mByFirstNode.find(data.firstNode);
-    if (start != mByFirstNode.end()) start->second.erase(&data);
-  }
-  Bucket& bucket = *data.bucket;
-  bucket.live.erase(&data);
-  bucket.stops.erase(&data);
-  (data.negated ? bucket.negated : bucket.positive).erase(&data);
-  auto sameText = bucket.byText.find(data.text);
-  if (sameText != bucket.byText.end()) {
-    sameText->second.erase(&data);
-    if (sameText->second.empty()) bucket.byText.erase(sameText);
-  }
-}
-
-void CommandMatchIndex::updateRun(size_t position) {
-  Slot& data = *mLevel[position];
-  if (!data.live) return;
-  bool continues = false;
-  if (position + 1 < mLevel.size()) {
-    const Slot& next = *mLevel[position + 1];
-    continues = next.live && next.bucket == data.bucket;
-  }
-  if (continues) {
-    data.bucket->stops.erase(&data);
-  } else {
-    data.bucket->stops.insert(&data);
-  }
-}
-
-size_t CommandMatchIndex::positionOf(uint64_t rank) const {
+size_t CommandMatchIndex::lowerBound(const GapList& list, uint64_t rank) const {
   size_t low = 0;
-  size_t high = mLevel.size();
+  size_t high = list.size();
   while (low < high) {
     const size_t middle = low + (high - low) / 2;
-    if (mLevel[middle]->rank < rank) {
+    if (mSlots[list[middle]].rank < rank) {
       low = middle + 1;
     } else {
       high = middle;
@@ -189,6 +282,151 @@ size_t CommandMatchIndex::positionOf(uint64_t rank) const {
   return low;
 }
 
+void CommandMatchIndex::enterList(GapList& list, uint32_t id, bool atEnd) {
+  if (atEnd || list.empty() || mSlots[list[list.size() - 1]].rank < mSlots[id].rank) {
+    list.push_back(id);
+  } else {
+    list.insert(lowerBound(list, mSlots[id].rank), id);
+  }
+}
+
+void CommandMatchIndex::leaveList(GapList& list, uint32_t id) {
+  const size_t at = lowerBound(list, mSlots[id].rank);
+  if (at < list.size() && list[at] == id) list.erase(at);
+}
+
+uint32_t CommandMatchIndex::findBucket(const CiscoCommandLine* probe, uint64_t hash) const {
+  const size_t mask = mBucketTable.size() - 1;
+  for (size_t at = hash & mask;; at = (at + 1) & mask) {
+    const uint32_t id = mBucketTable[at];
+    if (id == kNone) return kNone;
+    const Bucket& bucket = mBuckets[id];
+    if (bucket.hash == hash && bucket.liveCount > 0 && sameKey(mSlots[bucket.representative].record, probe)) {
+      return id;
+    }
+  }
+}
+
+uint32_t CommandMatchIndex::bucketFor(const CiscoCommandLine* record) {
+  const uint64_t hash = keyHash(record);
+  const uint32_t found = findBucket(record, hash);
+  if (found != kNone) return found;
+  if (2 * (mBuckets.size() + 1) > mBucketTable.size()) {
+    // Keep the table at most half full.
+    std::vector<uint32_t> wider(mBucketTable.size() * 2, kNone);
+    const size_t mask = wider.size() - 1;
+    for (uint32_t id : mBucketTable) {
+      if (id == kNone) continue;
+      size_t at = mBuckets[id].hash & mask;
+      while (wider[at] != kNone) at = (at + 1) & mask;
+      wider[at] = id;
+    }
+    mBucketTable.swap(wider);
+  }
+  const uint32_t id = static_cast<uint32_t>(mBuckets.size());
+  mBuckets.emplace_back();
+  mBuckets[id].hash = hash;
+  const size_t mask = mBucketTable.size() - 1;
+  size_t at = hash & mask;
+  while (mBucketTable[at] != kNone) at = (at + 1) & mask;
+  mBucketTable[at] = id;
+  return id;
+}
+
+uint32_t CommandMatchIndex::firstMember(const Bucket& bucket) const {
+  if (bucket.negated.empty()) return bucket.positive.empty() ? kNone : bucket.positive[0];
+  if (bucket.positive.empty()) return bucket.negated[0];
+  const uint32_t a = bucket.negated[0];
+  const uint32_t b = bucket.positive[0];
+  return mSlots[a].rank < mSlots[b].rank ? a : b;
+}
+
+void CommandMatchIndex::describe(uint32_t id) {
+  Slot& data = mSlots[id];
+  const CiscoCommandLine* record = data.record;
+  const std::vector<CmdPathEntry>& path = record->getTreeNodes();
+  data.live = !record->hasFlags(CMDBIT_REMOVED) && !path.empty();
+  data.bucket = kNone;
+  data.negated = record->hasFlags(CMDBIT_NO);
+  data.firstNode = path.empty() ? nullptr : path.front().node;
+  data.endsAtOnce = !path.empty() && path.front().words.count("\n") > 0;
+  if (!data.live) return;
+  data.textHash = textHash(record->getCurrentCommand());
+  const uint32_t bucket = bucketFor(record);
+  mSlots[id].bucket = bucket;
+}
+
+void CommandMatchIndex::buildTextTable(Bucket& bucket) {
+  bucket.byText = std::make_unique<TextTable>();
+  size_t a = 0;
+  size_t b = 0;
+  while (a < bucket.negated.size() || b < bucket.positive.size()) {
+    const bool takeA =
+        b == bucket.positive.size() ||
+        (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
+    const uint32_t member = takeA ? bucket.negated[a++] : bucket.positive[b++];
+    (*bucket.byText)[mSlots[member].textHash].push_back(member);
+  }
+}
+
+void CommandMatchIndex::enterLive(uint32_t id, bool atEnd) {
+  const Slot& data = mSlots[id];
+  Bucket& bucket = mBuckets[data.bucket];
+  if (bucket.liveCount++ == 0) bucket.representative = id;
+  enterList(data.negated ? bucket.negated : bucket.positive, id, atEnd);
+  enterList(data.endsAtOnce ? mEndsAtOnce : mByFirstNode[data.firstNode], id, atEnd);
+  if (bucket.byText) {
+    enterList((*bucket.byText)[data.textHash], id, atEnd);
+  } else if (bucket.liveCount >= kTextTableFrom) {
+    buildTextTable(bucket);
+  }
+}
+
+void CommandMatchIndex::leaveLive(uint32_t id) {
+  Slot& data = mSlots[id];
+  if (data.endsAtOnce) {
+    leaveList(mEndsAtOnce, id);
+  } else {
+    auto start = mByFirstNode.find(data.firstNode);
+    if (start != mByFirstNode.end()) leaveList(start->second, id);
+  }
+  Bucket& bucket = mBuckets[data.bucket];
+  if (data.stop) leaveList(bucket.stops, id);
+  data.stop = false;
+  leaveList(data.negated ? bucket.negated : bucket.positive, id);
+  if (bucket.byText) {
+    auto sameText = bucket.byText->find(data.textHash);
+    if (sameText != bucket.byText->end()) {
+      leaveList(sameText->second, id);
+      if (sameText->second.empty()) bucket.byText->erase(sameText);
+    }
+  }
+  --bucket.liveCount;
+  // The record may have changed already: its key no longer speaks for the bucket.
+  if (bucket.representative == id) bucket.representative = firstMember(bucket);
+  data.bucket = kNone;
+}
+
+void CommandMatchIndex::updateRun(size_t position) {
+  const uint32_t id = mLevel[position];
+  Slot& data = mSlots[id];
+  if (!data.live) return;
+  bool continues = false;
+  if (position + 1 < mLevel.size()) {
+    const Slot& next = mSlots[mLevel[position + 1]];
+    continues = next.live && next.bucket == data.bucket;
+  }
+  if (continues == !data.stop) return;
+  data.stop = !continues;
+  if (continues) {
+    leaveList(mBuckets[data.bucket].stops, id);
+  } else {
+    enterList(mBuckets[data.bucket].stops, id, false);
+  }
+}
+
+size_t CommandMatchIndex::positionOf(uint64_t rank) const { return lowerBound(mLevel, rank); }
+
 void CommandMatchIndex::spread(size_t position) {
   // Widen a window of positions around the gap in front of `position` until
   // the ranks that bound it leave room for every member and one more, then
@@ -196,130 +434,156 @@ void CommandMatchIndex::spread(size_t position) {
   // values, so every order stays as it was. At the end of the level the
   // bound is free.
   const size_t count = mLevel.size();
+  auto rank = [this](size_t at) -> uint64_t& { return mSlots[mLevel[at]].rank; };
   for (size_t half = 1;; half *= 2) {
     const size_t low = position > half ? position - half : 0;
     const size_t high = std::min(count - 1, position + half - 1);
     const uint64_t members = high - low + 1;
-    const uint64_t leftBound = low > 0 ? mLevel[low - 1]->rank : 0;
-    const uint64_t rightBound =
-        high + 1 < count ? mLevel[high + 1]->rank : mLevel[high]->rank + kSpacing * (members + 1);
+    const uint64_t leftBound = low > 0 ? rank(low - 1) : 0;
+    const uint64_t rightBound = high + 1 < count ? rank(high + 1) : rank(high) + kSpacing * (members + 1);
     const uint64_t step = (rightBound - leftBound) / (members + 1);
     if (step < kMinimumGap) continue;
-    for (uint64_t j = 0; j < members; ++j) mLevel[low + j]->rank = leftBound + step * (j + 1);
+    for (uint64_t j = 0; j < members; ++j) rank(low + j) = leftBound + step * (j + 1);
     return;
   }
 }
 
 uint64_t CommandMatchIndex::rankFor(size_t position) {
-  if (position >= mLevel.size()) return (position > 0 ? mLevel[position - 1]->rank : 0) + kSpacing;
-  auto bounds = [&](uint64_t& before, uint64_t& after) {
-    before = position > 0 ? mLevel[position - 1]->rank : 0;
-    after = mLevel[position]->rank;
-  };
-  uint64_t before = 0;
-  uint64_t after = 0;
-  bounds(before, after);
+  auto rank = [this](size_t at) { return mSlots[mLevel[at]].rank; };
+  if (position >= mLevel.size()) return (position > 0 ? rank(position - 1) : 0) + kSpacing;
+  uint64_t before = position > 0 ? rank(position - 1) : 0;
+  uint64_t after = rank(position);
   if (after - before < 2) {
     spread(position);
-    bounds(before, after);
+    before = position > 0 ? rank(position - 1) : 0;
+    after = rank(position);
   }
   return before + (after - before) / 2;
 }
 
 size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
-  auto bucket = mBuckets.find(signature(probe));
-  if (bucket == mBuckets.end()) return npos;
+  if (!mIndexed) return scanComparable(probe);
+  const uint32_t found = findBucket(probe, keyHash(probe));
+  if (found == kNone) return npos;
   // The live commands stand in the level's order: the first that is
   // comparable is the answer.
-  for (const Slot* candidate : bucket->second->live) {
-    if (candidate->record->isComparable(probe)) return positionOf(candidate->rank);
+  const Bucket& bucket = mBuckets[found];
+  size_t a = 0;
+  size_t b = 0;
+  while (a < bucket.negated.size() || b < bucket.positive.size()) {
+    const bool takeA =
+        b == bucket.positive.size() ||
+        (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
+    const Slot& candidate = mSlots[takeA ? bucket.negated[a++] : bucket.positive[b++]];
+    if (candidate.record->isComparable(probe)) return positionOf(candidate.rank);
   }
   return npos;
 }
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {
   const auto& path = probe->getTreeNodes();
-  if (path.empty() || path.front().words.count("\n") > 0) {
-    // Such a probe may negate commands of any start: scan.
-    for (size_t i = 0; i < mLevel.size(); ++i) {
-      if (mLevel[i]->record->isNoable(probe)) return i;
-    }
-    return npos;
-  }
+  // A probe without a path, or one whose path starts with the end of a line,
+  // may negate commands of any start: scan.
+  if (!mIndexed || path.empty() || path.front().words.count("\n") > 0) return scanNoable(probe);
   // The candidates, in level order: commands starting at the probe's first
   // node, and those whose first element ends a line.
-  static const RankSet kNone;
+  static const GapList kEmpty;
   auto same = mByFirstNode.find(path.front().node);
-  const RankSet& first = same == mByFirstNode.end() ? kNone : same->second;
-  auto a = first.begin();
-  auto b = mEndsAtOnce.begin();
-  while (a != first.end() || b != mEndsAtOnce.end()) {
-    const bool takeA = b == mEndsAtOnce.end() || (a != first.end() && (*a)->rank < (*b)->rank);
-    const Slot* candidate = takeA ? *a++ : *b++;
-    if (candidate->record->isNoable(probe)) return positionOf(candidate->rank);
+  const GapList& first = same == mByFirstNode.end() ? kEmpty : same->second;
+  size_t a = 0;
+  size_t b = 0;
+  while (a < first.size() || b < mEndsAtOnce.size()) {
+    const bool takeA =
+        b == mEndsAtOnce.size() || (a < first.size() && mSlots[first[a]].rank < mSlots[mEndsAtOnce[b]].rank);
+    const Slot& candidate = mSlots[takeA ? first[a++] : mEndsAtOnce[b++]];
+    if (candidate.record->isNoable(probe)) return positionOf(candidate.rank);
   }
   return npos;
 }
 
 CommandMatchIndex::Run CommandMatchIndex::walkRun(size_t at, const CiscoCommandLine* probe) const {
+  if (!mIndexed) return scanRun(at, probe);
   Run run;
-  const Slot& start = *mLevel[at];
-  const Bucket& bucket = *start.bucket;
-  auto stop = bucket.stops.lower_bound(start.rank);
+  const Slot& start = mSlots[mLevel[at]];
+  const Bucket& bucket = mBuckets[start.bucket];
+  const size_t stop = lowerBound(bucket.stops, start.rank);
   // Every run ends at a stop: the last live command of a level has no
   // successor to continue it.
-  const uint64_t lastRank = stop == bucket.stops.end() ? start.rank : (*stop)->rank;
-  uint64_t limit = lastRank;
-  bool beforeEqual = false;
-  auto sameText = bucket.byText.find(probe->getCurrentCommand());
-  if (sameText != bucket.byText.end()) {
-    auto equal = sameText->second.lower_bound(start.rank);
-    if (equal != sameText->second.end() && (*equal)->rank <= lastRank) {
-      run.equal = positionOf((*equal)->rank);
-      limit = (*equal)->rank;
-      beforeEqual = true;
+  const uint64_t lastRank = stop == bucket.stops.size() ? start.rank : mSlots[bucket.stops[stop]].rank;
+  const size_t last = positionOf(lastRank);
+  const std::string& text = probe->getCurrentCommand();
+  if (bucket.byText) {
+    auto sameText = bucket.byText->find(textHash(text));
+    if (sameText != bucket.byText->end()) {
+      const GapList& list = sameText->second;
+      for (size_t i = lowerBound(list, start.rank); i < list.size(); ++i) {
+        const Slot& candidate = mSlots[list[i]];
+        if (candidate.rank > lastRank) break;
+        if (candidate.record->getCurrentCommand() == text) {
+          run.equal = positionOf(candidate.rank);
+          break;
+        }
+      }
+    }
+  } else {
+    // A small bucket: its run is read directly.
+    for (size_t i = at; i <= last; ++i) {
+      if (this->at(i)->getCurrentCommand() == text) {
+        run.equal = i;
+        break;
+      }
     }
   }
-  const RankSet& other = probe->hasFlags(CMDBIT_NO) ? bucket.positive : bucket.negated;
-  for (auto it = other.lower_bound(start.rank); it != other.end(); ++it) {
-    const uint64_t rank = (*it)->rank;
-    if (rank > limit || (beforeEqual && rank == limit)) break;
-    run.otherSign.push_back(positionOf(rank));
+  const size_t limit = run.equal == npos ? last + 1 : run.equal;
+  const bool negated = probe->hasFlags(CMDBIT_NO);
+  const GapList& other = negated ? bucket.positive : bucket.negated;
+  if (!other.empty()) {
+    for (size_t i = lowerBound(other, start.rank); i < other.size(); ++i) {
+      const size_t position = positionOf(mSlots[other[i]].rank);
+      if (position >= limit) break;
+      run.otherSign.push_back(position);
+    }
   }
-  run.end = positionOf(lastRank) + 1;
+  run.end = last + 1;
   return run;
 }
 
 void CommandMatchIndex::insert(size_t position, CiscoCommandLine* record) {
   const uint64_t rank = rankFor(position);
   mCommitted = false;
-  auto data = std::make_unique<Slot>();
-  data->record = record;
-  data->rank = rank;
-  describe(*data);
-  Slot& entered = *data;
-  mLevel.insert(position, data.get());
-  mSlots[record] = std::move(data);
-  if (entered.live) enterLive(entered, false);
+  const uint32_t id = static_cast<uint32_t>(mSlots.size());
+  mSlots.emplace_back();
+  mSlots[id].record = record;
+  mSlots[id].rank = rank;
+  mLevel.insert(position, id);
+  if (!mIndexed) {
+    if (mLevel.size() >= kIndexFrom) buildIndex();
+    return;
+  }
+  mInserted[record] = id;
+  describe(id);
+  if (mSlots[id].live) enterLive(id, false);
   updateRun(position);
   if (position > 0) updateRun(position - 1);
 }
 
 void CommandMatchIndex::refresh(size_t position) {
-  Slot& data = *mLevel[position];
-  if (data.live) leaveLive(data);
-  describe(data);
-  if (data.live) enterLive(data, false);
+  if (!mIndexed) return;
+  const uint32_t id = mLevel[position];
+  if (mSlots[id].live) leaveLive(id);
+  describe(id);
+  if (mSlots[id].live) enterLive(id, false);
   updateRun(position);
   if (position > 0) updateRun(position - 1);
 }
 
 void CommandMatchIndex::removed(CiscoCommandLine* record) {
-  Slot& data = slot(record);
-  if (!data.live) return;
-  leaveLive(data);
-  data.live = false;
-  const size_t position = positionOf(data.rank);
+  if (!mIndexed) return;
+  const uint32_t id = static_cast<uint32_t>(slotOf(record));
+  if (!mSlots[id].live) return;
+  leaveLive(id);
+  mSlots[id].live = false;
+  const size_t position = positionOf(mSlots[id].rank);
   if (position > 0) updateRun(position - 1);
 }
 

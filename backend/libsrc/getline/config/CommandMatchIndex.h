@@ -21,14 +21,23 @@
 // index goes). A record whose path, text or flags changed in place
 // (assignment, mergeCommand) is announced with refresh, and a record marked
 // CMDBIT_REMOVED with removed. Not thread-safe.
+//
+// Storage: one vector of slots (a record, its rank and what it was entered
+// with), the level as slot numbers, buckets found by a hash of the key
+// elements and told apart by comparing those elements with a live member's,
+// and ordered lists of slot numbers (sorted by rank, with a movable gap) in
+// place of trees. The text of a command is looked up by a hash and checked
+// against the record's own text; a bucket keeps such a table only once it
+// holds several commands, a smaller run is read directly. A level of a few
+// commands is not indexed at all until it grows: it is scanned.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "config/CiscoCommandLine.h"
@@ -64,7 +73,7 @@ class CommandMatchIndex {
   Run walkRun(size_t at, const CiscoCommandLine* probe) const;
 
   size_t size() const { return mLevel.size(); }
-  CiscoCommandLine* at(size_t position) const { return mLevel[position]->record; }
+  CiscoCommandLine* at(size_t position) const { return mSlots[mLevel[position]].record; }
   // Writes the level, insertions included, back into the vector.
   void commit();
 
@@ -75,73 +84,119 @@ class CommandMatchIndex {
 
   // The key signature of a command; equal signatures mean comparable.
   static std::string signature(const CiscoCommandLine* command);
+  // A hash of the key signature, and the comparison of two signatures
+  // without building either.
+  static uint64_t keyHash(const CiscoCommandLine* command);
+  static bool sameKey(const CiscoCommandLine* a, const CiscoCommandLine* b);
+
+  // The key signatures of the commands of a level that are comparable with
+  // anything (a path, not removed), as they are when it is built: whether
+  // one of them is comparable with a probe.
+  class KeySet {
+   public:
+    explicit KeySet(const std::vector<CiscoCommandLine*>& commands);
+    bool containsKeyOf(const CiscoCommandLine* probe) const;
+
+   private:
+    std::vector<std::pair<uint64_t, const CiscoCommandLine*>> mKeys;
+  };
 
  private:
-  struct Bucket;
+  static constexpr uint32_t kNone = static_cast<uint32_t>(-1);
+
+  // A sequence with a gap at the place of the last change: changes that
+  // follow one another nearby move little. A single value is held in place
+  // until a second one comes (most buckets hold one command).
+  class GapList {
+   public:
+    size_t size() const {
+      return mData.empty() ? (mOne != kNone ? 1 : 0) : mData.size() - (mGapEnd - mGapBegin);
+    }
+    bool empty() const { return size() == 0; }
+    uint32_t operator[](size_t position) const {
+      if (mData.empty()) return mOne;
+      return mData[position < mGapBegin ? position : position + (mGapEnd - mGapBegin)];
+    }
+    void reserve(size_t count) { mData.reserve(count); }
+    void push_back(uint32_t value);
+    void insert(size_t position, uint32_t value);
+    void erase(size_t position);
+
+   private:
+    // False when the value went in place.
+    bool spill(uint32_t value);
+    void moveGap(size_t position);
+    std::vector<uint32_t> mData;
+    uint32_t mOne = kNone;
+    uint32_t mGapBegin = 0;
+    uint32_t mGapEnd = 0;
+  };
+
   // What the index knows of one record. Ranks grow with the position in the
   // level; an insertion takes a rank between its neighbours', and ranks
   // around it are spread out when there is no room.
   struct Slot {
     CiscoCommandLine* record = nullptr;
     uint64_t rank = 0;
-    Bucket* bucket = nullptr;  // none for a command without a path
-    std::string text;          // currentCommand when entered
-    bool negated = false;      // CMDBIT_NO when entered
-    bool live = false;         // in its bucket: has a path, not removed
+    uint64_t textHash = 0;  // of currentCommand when entered
     const ParserTreeNode* firstNode = nullptr;
-    bool endsAtOnce = false;   // the first element of the path ends a line
+    uint32_t bucket = kNone;  // while live
+    bool negated = false;     // CMDBIT_NO when entered
+    bool live = false;        // in its bucket: has a path, not removed
+    bool endsAtOnce = false;  // the first element of the path ends a line
+    bool stop = false;        // in its bucket's stops
   };
-  struct ByRank {
-    using is_transparent = void;
-    bool operator()(const Slot* a, const Slot* b) const { return a->rank < b->rank; }
-    bool operator()(const Slot* a, uint64_t rank) const { return a->rank < rank; }
-    bool operator()(uint64_t rank, const Slot* b) const { return rank < b->rank; }
-  };
-  using RankSet = std::set<Slot*, ByRank>;
-  // The level's slots in order, with a gap at the place of the last
-  // insertion: insertions that follow one another nearby move little.
-  class Level {
-   public:
-    size_t size() const { return mData.size() - (mGapEnd - mGapBegin); }
-    Slot* operator[](size_t position) const {
-      return mData[position < mGapBegin ? position : position + (mGapEnd - mGapBegin)];
-    }
-    void push_back(Slot* data) { insert(size(), data); }
-    void reserve(size_t count) { mData.reserve(count); }
-    void insert(size_t position, Slot* data);
-
-   private:
-    std::vector<Slot*> mData;
-    size_t mGapBegin = 0;
-    size_t mGapEnd = 0;
-  };
+  using TextTable = std::unordered_map<uint64_t, GapList>;
   struct Bucket {
-    RankSet live;
+    uint64_t hash = 0;
+    // A live member whose key stands for the bucket's; none once the last
+    // member left (the bucket is then never found again).
+    uint32_t representative = kNone;
+    uint32_t liveCount = 0;
+    GapList negated;
+    GapList positive;
     // Live commands whose successor in the level does not continue their run.
-    RankSet stops;
-    std::unordered_map<std::string, RankSet> byText;
-    RankSet negated;
-    RankSet positive;
+    GapList stops;
+    // Members by the hash of their text, once the bucket has grown.
+    std::unique_ptr<TextTable> byText;
   };
 
-  Slot& slot(const CiscoCommandLine* record) const;
-  void describe(Slot& data);
-  void enterLive(Slot& data, bool atEnd);
-  void leaveLive(Slot& data);
+  void buildIndex();
+  size_t scanComparable(const CiscoCommandLine* probe) const;
+  size_t scanNoable(const CiscoCommandLine* probe) const;
+  Run scanRun(size_t at, const CiscoCommandLine* probe) const;
+  size_t slotOf(const CiscoCommandLine* record) const;
+  size_t lowerBound(const GapList& list, uint64_t rank) const;
+  void enterList(GapList& list, uint32_t id, bool atEnd);
+  void leaveList(GapList& list, uint32_t id);
+  uint32_t findBucket(const CiscoCommandLine* probe, uint64_t hash) const;
+  uint32_t bucketFor(const CiscoCommandLine* record);
+  uint32_t firstMember(const Bucket& bucket) const;
+  void describe(uint32_t id);
+  void enterLive(uint32_t id, bool atEnd);
+  void leaveLive(uint32_t id);
+  void buildTextTable(Bucket& bucket);
   void updateRun(size_t position);
   size_t positionOf(uint64_t rank) const;
   uint64_t rankFor(size_t position);
   void spread(size_t position);
 
   std::vector<CiscoCommandLine*>& mCommands;
-  std::unordered_map<const CiscoCommandLine*, std::unique_ptr<Slot>> mSlots;
-  Level mLevel;
+  std::vector<Slot> mSlots;
+  // The slots of the records given, by record address; records inserted later apart.
+  std::vector<std::pair<const CiscoCommandLine*, uint32_t>> mGiven;
+  std::unordered_map<const CiscoCommandLine*, uint32_t> mInserted;
+  GapList mLevel;
   bool mCommitted = true;
-  std::unordered_map<std::string, std::unique_ptr<Bucket>> mBuckets;
+  // False while the level is small enough to be scanned.
+  bool mIndexed = false;
+  std::vector<Bucket> mBuckets;
+  // Open addressing over the bucket numbers by key hash (kNone: free).
+  std::vector<uint32_t> mBucketTable;
   // Live commands by the first node of their path; those whose first element
   // ends a line apart.
-  std::unordered_map<const ParserTreeNode*, RankSet> mByFirstNode;
-  RankSet mEndsAtOnce;
+  std::unordered_map<const ParserTreeNode*, GapList> mByFirstNode;
+  GapList mEndsAtOnce;
 };
 
 }  // namespace qxparser

@@ -31,6 +31,16 @@ class VTYCONF_API DeviceSpelling {
   static std::string interfaceType(const std::string& word);
   // Drops the loaded table, so that the next use reads it again.
   static void reload();
+
+  // While one lives, the resource folder is looked up once instead of at
+  // every line (for writing many lines, during which it does not change).
+  class VTYCONF_API Batch {
+   public:
+    Batch();
+    ~Batch();
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+  };
 };
 
 }  // namespace qxparser

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <string_view>
 
 #include "config/DeviceSpelling.h"
 
@@ -23,8 +24,10 @@ bool isExitLine(const CiscoCommandLine& record) {
 }
 
 // An address family that the change set brought in.
-bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line, bool anyAddressFamily = false) {
-  if ((!anyAddressFamily && !isNew(record)) || !record.hasFlags(CMDBIT_OPENS_MODE) || record.hasFlags(CMDBIT_NO)) {
+bool isNewAddressFamily(const CiscoCommandLine& record, std::string_view line,
+                        bool anyAddressFamily = false) {
+  if ((!anyAddressFamily && !isNew(record)) || !record.hasFlags(CMDBIT_OPENS_MODE) ||
+      record.hasFlags(CMDBIT_NO)) {
     return false;
   }
   const size_t lead = line.find_first_not_of(' ');
@@ -35,7 +38,7 @@ bool isNewAddressFamily(const CiscoCommandLine& record, const std::string& line,
 // whether or not the change set said so.
 // Written with kCloseEveryBlock (a rollback, a sorted text), every address
 // family closes so: the lines behind it are pasted at the level above.
-bool needsExitLine(const CiscoCommandLine& record, const std::string& line, bool everyBlock) {
+bool needsExitLine(const CiscoCommandLine& record, std::string_view line, bool everyBlock) {
   if (!isNewAddressFamily(record, line, everyBlock)) return false;
   for (const CiscoCommandLine* child : record.getChildCommands()) {
     if (child->getOriginalCmd().compare(0, 19, "exit-address-family") == 0) return false;
@@ -46,9 +49,21 @@ bool needsExitLine(const CiscoCommandLine& record, const std::string& line, bool
   return true;
 }
 
-bool endsWithLine(const std::string& text, const std::string& line) {
+bool endsWithLine(std::string_view text, const std::string& line) {
   return text.size() >= line.size() && text.compare(text.size() - line.size(), line.size(), line) == 0 &&
          (text.size() == line.size() || text[text.size() - line.size() - 1] == '\n');
+}
+
+// Whether a level holds a mode's exit line in front of another record: only
+// then does it need another order.
+bool exitLineInFront(const std::vector<CiscoCommandLine*>& records) {
+  bool exitSeen = false;
+  for (const CiscoCommandLine* record : records) {
+    const bool exit = isExitLine(*record);
+    if (exitSeen && !exit) return true;
+    exitSeen = exitSeen || exit;
+  }
+  return false;
 }
 
 // Comment records wait in line order and are written ahead of the first record
@@ -72,10 +87,14 @@ class Layout {
   void writeLevel(const std::vector<CiscoCommandLine*>& given, int depth) {
     // A mode's exit line ("exit-address-family") closes its block: commands
     // the merge added behind it still go ahead of it.
-    std::vector<CiscoCommandLine*> records(given);
-    if (depth > 0) std::stable_partition(records.begin(), records.end(), [](const CiscoCommandLine* r) {
-      return !isExitLine(*r);
-    });
+    std::vector<CiscoCommandLine*> reordered;
+    const bool reorder = depth > 0 && exitLineInFront(given);
+    if (reorder) {
+      reordered = given;
+      std::stable_partition(reordered.begin(), reordered.end(),
+                            [](const CiscoCommandLine* r) { return !isExitLine(*r); });
+    }
+    const std::vector<CiscoCommandLine*>& records = reorder ? reordered : given;
     for (size_t i = 0; i < records.size(); ++i) {
       const CiscoCommandLine* record = records[i];
       if (depth == 0 && record->getFlag() == CMD_TEXT) continue;
@@ -90,18 +109,28 @@ class Layout {
         const int limit = next > 0 ? next : endLine();
         flushBefore(end > 0 && (limit < 0 || limit > end) ? end : limit);
       }
-      std::string line = DeviceTextWriter::writeLine(*record, depth, mOptions);
+      // The line is written in place; what follows looks at it there.
+      const size_t lineStart = mOut.size();
+      DeviceTextWriter::appendLine(mOut, *record, depth, mOptions);
       // A banner's text and closing delimiter stand at the start of the line.
-      if (mInBanner && record->getRawText().empty()) line.erase(0, line.find_first_not_of(' '));
+      if (mInBanner && record->getRawText().empty()) {
+        const size_t text = mOut.find_first_not_of(' ', lineStart);
+        mOut.erase(lineStart, (text == std::string::npos ? mOut.size() : text) - lineStart);
+      }
+      const size_t lineLength = mOut.size() - lineStart;
       // The device sets an address family apart from what stands before it.
-      const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
-      if (depth > 0 && isNewAddressFamily(*record, line) && !endsWithLine(mOut, separator)) mOut += separator;
-      mOut += line;
+      if (depth > 0 && isNewAddressFamily(*record, std::string_view(mOut).substr(lineStart))) {
+        const std::string separator = std::string(static_cast<size_t>(depth), ' ') + "!\n";
+        if (!endsWithLine(std::string_view(mOut).substr(0, lineStart), separator))
+          mOut.insert(lineStart, separator);
+      }
+      const bool exitLine = needsExitLine(*record, std::string_view(mOut).substr(mOut.size() - lineLength),
+                                          (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0);
       const bool outer = mInBanner;
       mInBanner = record->getOriginalCmd().compare(0, 7, "banner ") == 0;
       writeLevel(record->getChildCommands(), depth + 1);
       mInBanner = outer;
-      if (needsExitLine(*record, line, (mOptions & DeviceTextWriter::kCloseEveryBlock) != 0)) {
+      if (exitLine) {
         mOut += std::string(static_cast<size_t>(depth), ' ') + "exit-address-family\n";
       }
       // A block that the merge added (a copy: no line number) is closed as the
@@ -141,7 +170,7 @@ class Layout {
   // Writes the waiting comments read before line `limit` (all for -1).
   void flushBefore(int limit) {
     while (!mComments.empty() && (limit < 0 || mComments.front()->getLineNo() < limit)) {
-      mOut += DeviceTextWriter::writeLine(*mComments.front(), 0, mOptions);
+      DeviceTextWriter::appendLine(mOut, *mComments.front(), 0, mOptions);
       mComments.pop_front();
       ++mFlushed;
     }
@@ -158,42 +187,63 @@ class Layout {
   std::string mOut;
 };
 
-std::string trimmedRight(std::string text) {
-  const size_t end = text.find_last_not_of(" \t");
-  text.erase(end == std::string::npos ? 0 : end + 1);
-  return text;
-}
-
 }  // namespace
 
 std::string DeviceTextWriter::writeLine(const CiscoCommandLine& record, int depth, unsigned int options) {
+  std::string out;
+  appendLine(out, record, depth, options);
+  return out;
+}
+
+void DeviceTextWriter::appendLine(std::string& out, const CiscoCommandLine& record, int depth,
+                                  unsigned int options) {
   const bool spellAll = (options & kSpellAll) != 0;
   if (record.getFlag() == CMD_TEXT) {
     const std::string& text = record.getRawText().empty() ? record.getOriginalStr() : record.getRawText();
-    std::string bare = text.substr(std::min(text.size(), text.find_first_not_of(" \t")));
+    const std::string_view bare =
+        std::string_view(text).substr(std::min(text.size(), text.find_first_not_of(" \t")));
     if (depth > 0 && bare.compare(0, 5, "exit-") == 0 && (spellAll || record.getLineNo() < 1)) {
       // "exit-address-family" and its kind stand at the level of the mode head.
-      bare.erase(bare.find_last_not_of(" \t") + 1);
-      return std::string(static_cast<size_t>(depth - 1), ' ') + bare + "\n";
+      out.append(static_cast<size_t>(depth - 1), ' ');
+      out.append(bare.substr(0, bare.find_last_not_of(" \t") + 1));
+      out += '\n';
+      return;
     }
-    return text + "\n";
+    out.append(text);
+    out += '\n';
+    return;
   }
   if (record.getTreeNodeSize() == 0) {
     // Banner text, certificate data, a refused line: as it was read.
-    if (!record.getRawText().empty()) return record.getRawText() + "\n";
-    return std::string(static_cast<size_t>(depth), ' ') +
-           trimmedRight(record.getOriginalCmd().substr(0, record.getOriginalCmd().find('\n'))) + "\n";
+    if (!record.getRawText().empty()) {
+      out.append(record.getRawText());
+      out += '\n';
+      return;
+    }
+    const std::string& typed = record.getOriginalCmd();
+    const std::string_view first = std::string_view(typed).substr(0, typed.find('\n'));
+    const size_t end = first.find_last_not_of(" \t");
+    out.append(static_cast<size_t>(depth), ' ');
+    out.append(first.substr(0, end == std::string_view::npos ? 0 : end + 1));
+    out += '\n';
+    return;
   }
-  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES))
-    return record.getRawText() + "\n";
+  if (!spellAll && record.isAsRead() && !record.hasFlags(CMDBIT_FROM_CHANGES)) {
+    out.append(record.getRawText());
+    out += '\n';
+    return;
+  }
   const std::string text = DeviceSpelling::spell(record);
   // The device writes "exit-address-family" and its kind at the level of the
   // mode head, though the grammar reads them inside the mode.
   const int indent = (depth > 0 && text.compare(0, 5, "exit-") == 0) ? depth - 1 : depth;
-  return std::string(static_cast<size_t>(indent), ' ') + text + "\n";
+  out.append(static_cast<size_t>(indent), ' ');
+  out.append(text);
+  out += '\n';
 }
 
 std::string DeviceTextWriter::write(const std::vector<CiscoCommandLine*>& commands, unsigned int options) {
+  const DeviceSpelling::Batch batch;
   std::vector<const CiscoCommandLine*> comments;
   for (const CiscoCommandLine* record : commands) {
     if (record->getFlag() == CMD_TEXT) comments.push_back(record);

@@ -44,6 +44,9 @@ class VTYCONF_API DeviceTextWriter {
   static std::string write(const std::vector<CiscoCommandLine*>& commands, unsigned int options = kNone);
   // One record's line without its children: indent, text, "\n".
   static std::string writeLine(const CiscoCommandLine& record, int depth, unsigned int options = kNone);
+  // The same line appended to `out`.
+  static void appendLine(std::string& out, const CiscoCommandLine& record, int depth,
+                         unsigned int options = kNone);
   // Sets CMDBIT_FROM_CHANGES on each record, its nested commands and its
   // children at every depth.
   static void markFromChanges(const std::vector<CiscoCommandLine*>& commands);

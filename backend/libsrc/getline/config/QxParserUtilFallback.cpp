@@ -4,7 +4,6 @@
 #include <fstream>
 #include <memory>
 #include <sstream>
-#include <unordered_set>
 
 #include "config/CommandMatchIndex.h"
 #include "config/QxParserUtil.h"
@@ -283,15 +282,10 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
 
   // New commands go behind the negations. A command of `from` is comparable
   // with a target exactly when their key signatures agree.
-  std::unordered_set<std::string> fromKeys;
-  for (const CiscoCommandLine* command : from) {
-    if (!command->hasFlags(CMDBIT_REMOVED) && !command->getTreeNodes().empty()) {
-      fromKeys.insert(CommandMatchIndex::signature(command));
-    }
-  }
+  const CommandMatchIndex::KeySet fromKeys(from);
   for (CiscoCommandLine* target : to) {
     if (!target->hasFlags(CMDBIT_STORED)) continue;
-    if (!fromKeys.count(CommandMatchIndex::signature(target))) out.push_back(copyUnder(target, parent));
+    if (!fromKeys.containsKeyOf(target)) out.push_back(copyUnder(target, parent));
   }
 }
 
