@@ -111,7 +111,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   }
   if (!exceptionText.empty()) {
     QxParserUtil::deleteCommands(records);
-    const int line = qxparser::failingLine(input);
+    const int line = qxparser::failingLine(input, input.text);
     std::cerr << "vtyconf: " << input.displayName() << ":";
     if (line > 0) std::cerr << line << ":";
     std::cerr << " " << exceptionText << "\n";
