@@ -1,6 +1,7 @@
 #include "grammar/NodeLookup.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <unordered_map>
@@ -62,6 +63,75 @@ bool matchesOtherTokens(const std::string& word) {
 
 bool isCatchAll(const std::string& word) { return word == "hostname or a.b.c.d" || word == "word" || word == "line"; }
 
+// The keys of a node's mChildren and mOptions in one open-addressed hash
+// table: for a node with many of them, one probe instead of two binary
+// searches over the sorted maps. Answers exactly what the two finds answer.
+class ExactWords {
+ public:
+  struct Found {
+    ParserTreeNode* child = nullptr;   // mChildren's entry of the word
+    ParserTreeNode* option = nullptr;  // mOptions's entry of the word
+    bool isChild = false;
+    bool isOption = false;
+  };
+
+  void build(const ParserTreeNode* node) {
+    size_t capacity = 8;
+    while (capacity < 2 * (node->mChildren.size() + node->mOptions.size())) capacity *= 2;
+    mSlots.assign(capacity, Slot());
+    for (auto& entry : node->mChildren) {
+      Found& found = slotOf(entry.first).found;
+      found.child = entry.second;
+      found.isChild = true;
+    }
+    for (auto& entry : node->mOptions) {
+      Found& found = slotOf(entry.first).found;
+      found.option = entry.second;
+      found.isOption = true;
+    }
+  }
+
+  const Found* find(const std::string& token) const {
+    const size_t hash = std::hash<std::string>()(token);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      const Slot& slot = mSlots[at];
+      if (!slot.word) return nullptr;
+      if (slot.hash == hash && *slot.word == token) return &slot.found;
+    }
+  }
+
+ private:
+  struct Slot {
+    size_t hash = 0;
+    const std::string* word = nullptr;
+    Found found;
+  };
+
+  Slot& slotOf(const std::string& word) {
+    const size_t hash = std::hash<std::string>()(word);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      Slot& slot = mSlots[at];
+      if (!slot.word) {
+        slot.hash = hash;
+        slot.word = &word;
+        return slot;
+      }
+      if (slot.hash == hash && *slot.word == word) return slot;
+    }
+  }
+
+  std::vector<Slot> mSlots;
+};
+
+// Nodes with at least this many children and options are searched by hash.
+constexpr size_t kHashedWords = 12;
+
+bool searchedByHash(const ParserTreeNode* node) {
+  return node->mChildren.size() + node->mOptions.size() >= kHashedWords;
+}
+
 // What the searches of findChild, lookupPass and hasInterfaceWords need of one
 // node, worked out once: the candidates of each step in the order the plain
 // scans visit them, with the words that cannot match a step left out.
@@ -83,6 +153,7 @@ struct LookupPlan {
   std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
   ParserTreeNode* catchAll = nullptr;
   int interfaceWords = -1;  // unknown until asked
+  ExactWords exactWords;    // built for nodes searchedByHash only
 };
 
 // Same as KeyTable lookups in matchesKeyTable: the words that can match a
@@ -125,6 +196,7 @@ LookupPlan& planOf(ParserTreeNode* node) {
   auto found = cache.nodes.find(node);
   if (found != cache.nodes.end()) return found->second;
   LookupPlan& plan = cache.nodes[node];
+  if (searchedByHash(node)) plan.exactWords.build(node);
   for (auto& entry : node->mChildren) {
     if (entry.second->mIsComplex) plan.complexChildren.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
@@ -198,14 +270,26 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
 
 ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
   bool exactOption = false;
-  auto exact = node->mChildren.find(token);
-  if (exact != node->mChildren.end()) return exact->second;
-  auto option = node->mOptions.find(token);
-  if (option != node->mOptions.end()) {
-    if (ParserTreeNode* entered = enterOption(node, token, option->second)) return entered;
-    exactOption = true;
+  const LookupPlan* planned = nullptr;
+  if (searchedByHash(node)) {
+    planned = &planOf(node);
+    if (const ExactWords::Found* found = planned->exactWords.find(token)) {
+      if (found->isChild) return found->child;
+      if (found->isOption) {
+        if (ParserTreeNode* entered = enterOption(node, token, found->option)) return entered;
+        exactOption = true;
+      }
+    }
+  } else {
+    auto exact = node->mChildren.find(token);
+    if (exact != node->mChildren.end()) return exact->second;
+    auto option = node->mOptions.find(token);
+    if (option != node->mOptions.end()) {
+      if (ParserTreeNode* entered = enterOption(node, token, option->second)) return entered;
+      exactOption = true;
+    }
   }
-  const LookupPlan& plan = planOf(node);
+  const LookupPlan& plan = planned ? *planned : planOf(node);
   if (!exactOption) {
     for (ParserTreeNode* child : plan.complexChildren) {
       if (child->mKeywords.count(token)) return child;
