@@ -134,7 +134,10 @@ bool searchedByHash(const ParserTreeNode* node) {
 
 // What the searches of findChild, lookupPass and hasInterfaceWords need of one
 // node, worked out once: the candidates of each step in the order the plain
-// scans visit them, with the words that cannot match a step left out.
+// scans visit them, with the words that cannot match a step left out. The
+// exact words and the steps by word (angle-bracket, pattern and catch-all
+// words) are worked out only when a search first gets to them: most nodes
+// are left at once by an exact word.
 struct LookupPlan {
   std::vector<ParserTreeNode*> complexChildren;
   std::vector<ParserTreeNode*> complexOptions;
@@ -153,7 +156,9 @@ struct LookupPlan {
   std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
   ParserTreeNode* catchAll = nullptr;
   int interfaceWords = -1;  // unknown until asked
-  ExactWords exactWords;    // built for nodes searchedByHash only
+  ExactWords exactWords;    // for nodes searchedByHash only
+  bool exactWordsBuilt = false;
+  bool wordStepsBuilt = false;
 };
 
 // Same as KeyTable lookups in matchesKeyTable: the words that can match a
@@ -196,7 +201,6 @@ LookupPlan& planOf(ParserTreeNode* node) {
   auto found = cache.nodes.find(node);
   if (found != cache.nodes.end()) return found->second;
   LookupPlan& plan = cache.nodes[node];
-  if (searchedByHash(node)) plan.exactWords.build(node);
   for (auto& entry : node->mChildren) {
     if (entry.second->mIsComplex) plan.complexChildren.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
@@ -209,6 +213,22 @@ LookupPlan& planOf(ParserTreeNode* node) {
       if (startsWithAmpersand(word.first)) plan.optionTables.push_back(&word.first);
     }
   }
+  return plan;
+}
+
+LookupPlan& exactPlanOf(ParserTreeNode* node) {
+  LookupPlan& plan = planOf(node);
+  if (!plan.exactWordsBuilt) {
+    plan.exactWords.build(node);
+    plan.exactWordsBuilt = true;
+  }
+  return plan;
+}
+
+// The steps by word of `plan`, the plan of `node`, worked out on first use.
+LookupPlan& withWordSteps(ParserTreeNode* node, LookupPlan& plan) {
+  if (plan.wordStepsBuilt) return plan;
+  plan.wordStepsBuilt = true;
   size_t position = 0;
   for (auto* map : {&node->mChildren, &node->mOptions}) {
     for (auto& entry : *map) {
@@ -270,9 +290,9 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
 
 ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
   bool exactOption = false;
-  const LookupPlan* planned = nullptr;
+  LookupPlan* planned = nullptr;
   if (searchedByHash(node)) {
-    planned = &planOf(node);
+    planned = &exactPlanOf(node);
     if (const ExactWords::Found* found = planned->exactWords.find(token)) {
       if (found->isChild) return found->child;
       if (found->isOption) {
@@ -289,7 +309,7 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
       exactOption = true;
     }
   }
-  const LookupPlan& plan = planned ? *planned : planOf(node);
+  LookupPlan& plan = planned ? *planned : planOf(node);
   if (!exactOption) {
     for (ParserTreeNode* child : plan.complexChildren) {
       if (child->mKeywords.count(token)) return child;
@@ -310,6 +330,7 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
     if (byWord == node->mOptions.end()) continue;
     if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
   }
+  withWordSteps(node, plan);
   for (const auto& entry : plan.angleWords) {
     if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
   }
@@ -383,7 +404,7 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
   }
   ParserTreeNode* any = nullptr;
   if (planCache().enabled) {
-    if (token != "\n") any = planOf(node).catchAll;
+    if (token != "\n") any = withWordSteps(node, planOf(node)).catchAll;
   } else {
     any = firstChildWithWord(node,
                              [&](const std::string& word) { return ParserToolCase::isAnyValidInput(word, token); });
