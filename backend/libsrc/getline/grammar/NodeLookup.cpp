@@ -1,6 +1,7 @@
 #include "grammar/NodeLookup.h"
 
 #include <algorithm>
+#include <cctype>
 #include <functional>
 #include <map>
 #include <set>
@@ -60,6 +61,44 @@ bool matchesOtherTokens(const std::string& word) {
                                                   "+/-<metric>", "+/-<delay>", "h.h.h"};
   return kPatterns.count(word) > 0 || word.find(':') != std::string::npos || ValueKinds::isKind(word);
 }
+
+// A numeric range word ("1-4094", "1.0-9.9") is matched by the range test,
+// which takes only one or two runs of digits joined by a dot: any other
+// token matches such a word only by being equal to it.
+class PatternTest {
+ public:
+  explicit PatternTest(const std::string& token) : mToken(token) {}
+
+  bool accepts(const std::string& word, bool range) {
+    if (range && !isDottedNumber()) return word == mToken;
+    return ParserToolCase::isNewValidInput(word, mToken);
+  }
+
+ private:
+  bool isDottedNumber() {
+    if (mDotted < 0) mDotted = dottedNumber(mToken) ? 1 : 0;
+    return mDotted == 1;
+  }
+
+  static bool dottedNumber(const std::string& text) {
+    bool digits = false;
+    int dots = 0;
+    for (char c : text) {
+      if (c == '.') {
+        if (!digits || ++dots > 1) return false;
+        digits = false;
+      } else if (std::isdigit(static_cast<unsigned char>(c))) {
+        digits = true;
+      } else {
+        return false;
+      }
+    }
+    return digits;
+  }
+
+  const std::string& mToken;
+  int mDotted = -1;  // unknown until asked
+};
 
 bool isCatchAll(const std::string& word) { return word == "hostname or a.b.c.d" || word == "word" || word == "line"; }
 
@@ -153,7 +192,13 @@ struct LookupPlan {
     ParserTreeNode* node;
   };
   std::vector<LiteralWord> literalWords;
-  std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
+  struct PatternWord {
+    size_t position;
+    const std::string* word;
+    ParserTreeNode* node;
+    bool range;  // a numeric range word (see PatternTest)
+  };
+  std::vector<PatternWord> patternWords;
   ParserTreeNode* catchAll = nullptr;
   int interfaceWords = -1;  // unknown until asked
   ExactWords exactWords;    // for nodes searchedByHash only
@@ -165,7 +210,12 @@ struct LookupPlan {
 // token other than themselves, in table order.
 struct TablePlan {
   const KeyTable* table = nullptr;
-  std::vector<std::pair<const std::string*, bool>> words;  // word, bracketed form
+  struct Word {
+    const std::string* word;
+    bool bracketed;
+    bool range;  // a numeric range word (see PatternTest)
+  };
+  std::vector<Word> words;
 };
 
 struct PlanCache {
@@ -235,7 +285,7 @@ LookupPlan& withWordSteps(ParserTreeNode* node, LookupPlan& plan) {
       for (auto& word : entry.second->mKeywords) {
         if (ParserToolCase::isPvFormStr(word.first)) plan.angleWords.emplace_back(&word.first, entry.second);
         if (matchesOtherTokens(word.first)) {
-          plan.patternWords.push_back({position, {&word.first, entry.second}});
+          plan.patternWords.push_back({position, &word.first, entry.second, ValueKinds::isRange(word.first)});
         } else {
           plan.literalWords.push_back({&word.first, position, entry.second});
         }
@@ -262,7 +312,9 @@ const TablePlan* tablePlanOf(const std::string& tableName) {
   plan.table = &table->second;
   for (auto& entry : table->second) {
     const bool bracketed = ParserToolCase::isPvFormStr(entry.first);
-    if (bracketed || matchesOtherTokens(entry.first)) plan.words.emplace_back(&entry.first, bracketed);
+    if (bracketed || matchesOtherTokens(entry.first)) {
+      plan.words.push_back({&entry.first, bracketed, ValueKinds::isRange(entry.first)});
+    }
   }
   return &plan;
 }
@@ -281,9 +333,10 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
     bestPosition = literal->position;
     best = literal->node;
   }
+  PatternTest test(token);
   for (const auto& entry : plan.patternWords) {
-    if (entry.first > bestPosition) break;
-    if (ParserToolCase::isNewValidInput(*entry.second.first, token)) return entry.second.second;
+    if (entry.position > bestPosition) break;
+    if (test.accepts(*entry.word, entry.range)) return entry.node;
   }
   return best;
 }
@@ -509,10 +562,11 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
     // Only bracketed and pattern words can match a token other than
     // themselves; the rest were answered by the lookup above.
     const TablePlan* plan = tablePlanOf(tableName);
+    PatternTest test(token);
     for (const auto& entry : plan->words) {
-      const std::string& word = *entry.first;
-      if (entry.second && ParserToolCase::isValidInput(word, token)) return true;
-      if (ParserToolCase::isNewValidInput(word, token)) return true;
+      const std::string& word = *entry.word;
+      if (entry.bracketed && ParserToolCase::isValidInput(word, token)) return true;
+      if (test.accepts(word, entry.range)) return true;
     }
     return false;
   }
