@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -70,11 +71,51 @@ class PatternTest {
   explicit PatternTest(const std::string& token) : mToken(token) {}
 
   bool accepts(const std::string& word, bool range) {
-    if (range && !isDottedNumber()) return word == mToken;
-    return ParserToolCase::isNewValidInput(word, mToken);
+    if (!range) return ParserToolCase::isNewValidInput(word, mToken);
+    // A word with a dash never equals a dotted number.
+    if (!isDottedNumber()) return word == mToken;
+    return inRange(word);
   }
 
  private:
+  // The range test for a dotted-number token, without copies: as many parts
+  // as the bounds, each part between them as a decimal of any length.
+  bool inRange(std::string_view word) const {
+    const size_t dash = word.find('-');
+    std::string_view low[2];
+    std::string_view high[2];
+    std::string_view value[2];
+    const size_t parts = dottedParts(word.substr(0, dash), low);
+    dottedParts(word.substr(dash + 1), high);
+    if (dottedParts(mToken, value) != parts) return false;
+    for (size_t i = 0; i < parts; ++i) {
+      if (compareNumbers(value[i], low[i]) < 0 || compareNumbers(value[i], high[i]) > 0) return false;
+    }
+    return true;
+  }
+
+  // Cuts "X" or "X.Y" (never more parts: both are dotted numbers).
+  static size_t dottedParts(std::string_view text, std::string_view* parts) {
+    const size_t dot = text.find('.');
+    parts[0] = text.substr(0, dot);
+    if (dot == std::string_view::npos) return 1;
+    parts[1] = text.substr(dot + 1);
+    return 2;
+  }
+
+  static std::string_view significant(std::string_view number) {
+    const size_t first = number.find_first_not_of('0');
+    return first == std::string_view::npos ? std::string_view("0") : number.substr(first);
+  }
+
+  static int compareNumbers(std::string_view a, std::string_view b) {
+    a = significant(a);
+    b = significant(b);
+    if (a.size() != b.size()) return a.size() < b.size() ? -1 : 1;
+    const int order = a.compare(b);
+    return order < 0 ? -1 : (order == 0 ? 0 : 1);
+  }
+
   bool isDottedNumber() {
     if (mDotted < 0) mDotted = dottedNumber(mToken) ? 1 : 0;
     return mDotted == 1;
