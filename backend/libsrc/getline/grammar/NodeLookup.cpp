@@ -212,6 +212,8 @@ bool searchedByHash(const ParserTreeNode* node) {
   return node->mChildren.size() + node->mOptions.size() >= kHashedWords;
 }
 
+struct TablePlan;
+
 // What the searches of findChild, lookupPass and hasInterfaceWords need of one
 // node, worked out once: the candidates of each step in the order the plain
 // scans visit them, with the words that cannot match a step left out. The
@@ -221,8 +223,16 @@ bool searchedByHash(const ParserTreeNode* node) {
 struct LookupPlan {
   std::vector<ParserTreeNode*> complexChildren;
   std::vector<ParserTreeNode*> complexOptions;
-  std::vector<std::pair<const std::string*, ParserTreeNode*>> childTables;
-  std::vector<const std::string*> optionTables;
+  // A KeyFile word of a child or option; its table is found on first use.
+  struct TableRef {
+    const std::string* name;
+    ParserTreeNode* node;
+    bool resolved = false;
+    const KeyTable* table = nullptr;
+    const TablePlan* plan = nullptr;
+  };
+  std::vector<TableRef> childTables;
+  std::vector<TableRef> optionTables;
   std::vector<std::pair<const std::string*, ParserTreeNode*>> angleWords;
   // The pattern step: the words that only match themselves, sorted by word
   // and then by position, so that the first of equal words is the first
@@ -295,13 +305,13 @@ LookupPlan& planOf(ParserTreeNode* node) {
   for (auto& entry : node->mChildren) {
     if (entry.second->mIsComplex) plan.complexChildren.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
-      if (startsWithAmpersand(word.first)) plan.childTables.emplace_back(&word.first, entry.second);
+      if (startsWithAmpersand(word.first)) plan.childTables.push_back({&word.first, entry.second});
     }
   }
   for (auto& entry : node->mOptions) {
     if (entry.second->mIsComplex) plan.complexOptions.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
-      if (startsWithAmpersand(word.first)) plan.optionTables.push_back(&word.first);
+      if (startsWithAmpersand(word.first)) plan.optionTables.push_back({&word.first, entry.second});
     }
   }
   return plan;
@@ -360,6 +370,32 @@ const TablePlan* tablePlanOf(const std::string& tableName) {
   return &plan;
 }
 
+// matchesKeyTable's planned test once the token is not a word of the table.
+bool tableWordsAccept(const TablePlan& plan, const std::string& token) {
+  // Only bracketed and pattern words can match a token other than
+  // themselves.
+  PatternTest test(token);
+  for (const auto& entry : plan.words) {
+    const std::string& word = *entry.word;
+    if (entry.bracketed && ParserToolCase::isValidInput(word, token)) return true;
+    if (test.accepts(word, entry.range)) return true;
+  }
+  return false;
+}
+
+// matchesKeyTable(token, *ref.name), with the table and its plan kept.
+bool matchesTable(LookupPlan::TableRef& ref, const std::string& token) {
+  if (!ref.resolved) {
+    auto table = gKeyTables().find(*ref.name);
+    ref.table = table == gKeyTables().end() ? nullptr : &table->second;
+    ref.resolved = true;
+  }
+  if (!ref.table) return false;
+  if (ref.table->count(token)) return true;
+  if (!ref.plan) ref.plan = tablePlanOf(*ref.name);
+  return tableWordsAccept(*ref.plan, token);
+}
+
 // findChild's pattern step: the first word, children before options, for
 // which isNewValidInput holds.
 ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& token) {
@@ -415,12 +451,12 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
     }
   }
   if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
-  for (const auto& entry : plan.childTables) {
-    if (matchesKeyTable(token, *entry.first)) return entry.second;
+  for (auto& entry : plan.childTables) {
+    if (matchesTable(entry, token)) return entry.node;
   }
-  for (const std::string* word : plan.optionTables) {
-    if (!matchesKeyTable(token, *word)) continue;
-    auto byWord = node->mOptions.find(*word);
+  for (auto& entry : plan.optionTables) {
+    if (!matchesTable(entry, token)) continue;
+    auto byWord = node->mOptions.find(*entry.name);
     if (byWord == node->mOptions.end()) continue;
     if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
   }
@@ -599,18 +635,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
   auto table = gKeyTables().find(tableName);
   if (table == gKeyTables().end()) return false;
   if (table->second.count(token)) return true;
-  if (planCache().enabled) {
-    // Only bracketed and pattern words can match a token other than
-    // themselves; the rest were answered by the lookup above.
-    const TablePlan* plan = tablePlanOf(tableName);
-    PatternTest test(token);
-    for (const auto& entry : plan->words) {
-      const std::string& word = *entry.word;
-      if (entry.bracketed && ParserToolCase::isValidInput(word, token)) return true;
-      if (test.accepts(word, entry.range)) return true;
-    }
-    return false;
-  }
+  if (planCache().enabled) return tableWordsAccept(*tablePlanOf(tableName), token);
   for (auto& entry : table->second) {
     const std::string& word = entry.first;
     if (ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token)) return true;
