@@ -41,18 +41,6 @@ class BannerTracker {
   bool mInside = false;
 };
 
-// Where the piece that begins at `start` ends: at the next carriage return
-// or line feed, or at the end of the text.
-size_t pieceEnd(const std::string& text, size_t start) {
-  const char* data = text.data();
-  const size_t size = text.size();
-  if (start >= size) return size;
-  const void* feed = std::memchr(data + start, '\n', size - start);
-  const size_t end = feed ? static_cast<size_t>(static_cast<const char*>(feed) - data) : size;
-  const void* ret = std::memchr(data + start, '\r', end - start);
-  return ret ? static_cast<size_t>(static_cast<const char*>(ret) - data) : end;
-}
-
 // One pass over the text: the non-empty pieces between carriage returns and
 // line feeds, with their file lines and banner marks.
 void splitReaderLines(const std::string& text, ReaderLineMap& map) {
@@ -66,7 +54,7 @@ void splitReaderLines(const std::string& text, ReaderLineMap& map) {
   int fileLine = 1;
   size_t start = 0;
   for (;;) {
-    const size_t end = pieceEnd(text, start);
+    const size_t end = readerPieceEnd(text, start);
     if (end > start) {
       map.fileLines.push_back(fileLine);
       map.lineStarts.push_back(start);
@@ -79,7 +67,7 @@ void splitReaderLines(const std::string& text, ReaderLineMap& map) {
 }
 
 std::string_view lineAt(const std::string& text, size_t start) {
-  return std::string_view(text).substr(start, pieceEnd(text, start) - start);
+  return std::string_view(text).substr(start, readerPieceEnd(text, start) - start);
 }
 
 }  // namespace
@@ -97,6 +85,16 @@ bool ReaderLineMap::isBannerText(int number) const {
 std::string ReaderLineMap::readerLine(const std::string& text, size_t index) const {
   if (index >= lineStarts.size() || lineStarts[index] > text.size()) return std::string();
   return std::string(lineAt(text, lineStarts[index]));
+}
+
+size_t readerPieceEnd(const std::string& text, size_t start) {
+  const char* data = text.data();
+  const size_t size = text.size();
+  if (start >= size) return size;
+  const void* feed = std::memchr(data + start, '\n', size - start);
+  const size_t end = feed ? static_cast<size_t>(static_cast<const char*>(feed) - data) : size;
+  const void* ret = std::memchr(data + start, '\r', end - start);
+  return ret ? static_cast<size_t>(static_cast<const char*>(ret) - data) : end;
 }
 
 ReaderLineMap mapReaderLines(const std::string& text) {

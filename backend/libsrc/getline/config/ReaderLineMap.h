@@ -35,4 +35,8 @@ struct VTYCONF_API ReaderLineMap {
 
 VTYCONF_API ReaderLineMap mapReaderLines(const std::string& text);
 
+// Where the piece of `text` that begins at `start` ends: at the next carriage
+// return or line feed, or at the end of the text.
+VTYCONF_API size_t readerPieceEnd(const std::string& text, size_t start);
+
 }  // namespace qxparser

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "config/CiscoCommandLine.h"
+#include "config/ReaderLineMap.h"
 #include "toolkit/TextWords.h"
 #include "grammar/InterfaceTypeOrder.h"
 #include "terminal/VTY.h"
@@ -51,8 +52,7 @@ void forEachPiece(const std::string& text, Take take) {
   std::string piece;
   const size_t size = text.size();
   while (start <= size) {
-    size_t end = start;
-    while (end < size && text[end] != '\r' && text[end] != '\n') ++end;
+    const size_t end = readerPieceEnd(text, start);
     if (end > start) {
       piece.assign(text, start, end - start);
       take(++number, piece);
