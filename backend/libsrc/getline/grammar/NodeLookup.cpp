@@ -60,7 +60,11 @@ void markVisited(ParserTreeNode* at, const std::string& token, const ParserTreeN
 bool matchesOtherTokens(const std::string& word) {
   static const std::set<std::string> kPatterns = {"a.b.c.d", "a.b.c.d/<1-32>", "oui:vpn-index", "id",
                                                   "+/-<metric>", "+/-<delay>", "h.h.h"};
-  return kPatterns.count(word) > 0 || word.find(':') != std::string::npos || ValueKinds::isKind(word);
+  if (word.find(':') != std::string::npos || kPatterns.count(word) > 0) return true;
+  // Every kind of value is named with a slash ("a.b.c.d/mask", "list/...")
+  // or is a range, which has a dash.
+  if (word.find('-') == std::string::npos && word.find('/') == std::string::npos) return false;
+  return ValueKinds::isKind(word);
 }
 
 // A numeric range word ("1-4094", "1.0-9.9") is matched by the range test,
