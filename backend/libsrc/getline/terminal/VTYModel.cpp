@@ -366,16 +366,16 @@ void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNod
     mCompleteLine += '\n';
     return;
   }
-  mInfoLine += prefix;
+  if (!prefix.empty()) mInfoLine += prefix;
   if (isValue) {
     mInfoLine += '<';
     mInfoLine += *word;
-    mInfoLine += "> ";
+    mInfoLine += '>';
   } else {
     mInfoLine += *word;
-    mInfoLine += ' ';
   }
-  mCompleteLine += prefix;
+  mInfoLine += ' ';
+  if (!prefix.empty()) mCompleteLine += prefix;
   mCompleteLine += *word;
   mCompleteLine += ' ';
 }
