@@ -181,7 +181,7 @@ std::shared_ptr<ConfigData> parseText(const std::string& text, const std::string
     QxParserUtil::getCmdInfoTyped(data->text, data->records, refusedLines);
   } catch (const std::exception& e) {
     QxParserUtil::deleteCommands(data->records);
-    raiseError(e.what(), name, qxparser::failingLine(data->lines));
+    raiseError(e.what(), name, qxparser::failingLine(data->lines, data->text));
   }
   std::map<int, std::string> messages;
   for (const qxparser::RefusedLine& line : refusedLines) messages.emplace(line.lineNo, line.message);

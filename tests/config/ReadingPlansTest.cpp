@@ -131,7 +131,8 @@ TEST_F(ReadingPlansTest, EveryNodeAnswersEveryTokenAsThePlainScan) {
       "00",          "65000",      "4294967296", "10.0.0.1",   "10.0.0.0/8",  "1:2",      "65000:100",
       "+5",          "-",          "0011.2233.4455", "GigabitEthernet0/1", "gigabitethernet", "0/1",
       "Loopback0",   "vlan",       "word",      "description", "permit",      "any",      "host",
-      "12:30",       "ethernet",   "x"};
+      "12:30",       "ethernet",   "x",         "4094",        "4095",        "007",      "1.5",
+      "01.05",       "1.",         "1-4094"};
   std::vector<ParserTreeNode*> queue;
   std::set<ParserTreeNode*> seen;
   for (auto& entry : gResourceTrees()) {

@@ -22,7 +22,7 @@
 
 namespace vtycli {
 
-// The line map (fileLineOf, isBannerText, readerLines) is the library's.
+// The line map (fileLineOf, isBannerText, readerLine) is the library's.
 struct ConfigInput : qxparser::ReaderLineMap {
   std::string path;                     // as given ("-" for standard input)
   std::string text;                     // the text handed to the library

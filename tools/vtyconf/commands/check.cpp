@@ -57,9 +57,9 @@ int runCheck(const CheckOptions& options) {
   for (const RefusedLine& line : refused) byLine.emplace(line.lineNo, &line);
 
   nlohmann::json out = nlohmann::json::array();
-  for (size_t i = 0; i < changes.readerLines.size() && i < prompts.size(); ++i) {
+  for (size_t i = 0; i < changes.lineCount() && i < prompts.size(); ++i) {
     const int number = static_cast<int>(i) + 1;
-    const std::string& text = changes.readerLines[i];
+    const std::string text = changes.readerLine(changes.text, i);
     const auto found = byLine.find(number);
     const CiscoCommandLine* record = i < records.size() ? records[i] : nullptr;
     if (options.json) {

@@ -156,7 +156,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   }
   if (!exceptionText.empty()) {
     summary = FileSummary();
-    const int line = qxparser::failingLine(input);
+    const int line = qxparser::failingLine(input, input.text);
     std::cerr << "vtyconf: " << input.displayName() << ":";
     if (line > 0) std::cerr << line << ":";
     std::cerr << " " << exceptionText << "\n";

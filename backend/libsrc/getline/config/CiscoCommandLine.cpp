@@ -186,12 +186,12 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
     }
     return;
   }
-  CmdPathEntry entry;
-  entry.node = node;
-  entry.words.insert(word);
   // Most paths are a handful of nodes long: room for them at once.
   if (treeNodes.empty()) treeNodes.reserve(kUsualPathLength);
-  treeNodes.push_back(std::move(entry));
+  // Made in place: an element moved in would cost a move and a destruction.
+  CmdPathEntry& entry = treeNodes.emplace_back();
+  entry.node = node;
+  entry.words.insert(word);
 }
 
 void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo) {

@@ -9,7 +9,7 @@
 
 namespace qxparser {
 
-int failingLine(const ReaderLineMap& lines) {
+int failingLine(const ReaderLineMap& lines, const std::string& text) {
   VTY vty("hostName", false);
   vty.parse("enable\n", true, nullptr);
   vty.parse("configure terminal \n", true, nullptr);
@@ -17,11 +17,11 @@ int failingLine(const ReaderLineMap& lines) {
   // command to the command of its mode, read on an earlier line.
   std::vector<CiscoCommandLine*> records;
   int found = 0;
-  for (size_t i = 0; i < lines.readerLines.size() && found == 0; ++i) {
+  for (size_t i = 0; i < lines.lineCount() && found == 0; ++i) {
     std::string errorText;
     int errorLine = 0;
     try {
-      vty.getComLineInfo(lines.readerLines[i] + "\r\n", records, errorText, errorLine, true);
+      vty.getComLineInfo(lines.readerLine(text, i) + "\r\n", records, errorText, errorLine, true);
     } catch (const std::exception&) {
       found = lines.fileLineOf(static_cast<int>(i) + 1);
     }

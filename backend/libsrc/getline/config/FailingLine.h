@@ -8,11 +8,14 @@
 // single-thread rule applies.
 #pragma once
 
+#include <string>
+
 #include "config/ReaderLineMap.h"
 #include "platform/Export.h"
 
 namespace qxparser {
 
-VTYCONF_API int failingLine(const ReaderLineMap& lines);
+// `text` is the text `lines` was made from.
+VTYCONF_API int failingLine(const ReaderLineMap& lines, const std::string& text);
 
 }  // namespace qxparser

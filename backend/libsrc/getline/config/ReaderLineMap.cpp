@@ -1,32 +1,15 @@
 #include "config/ReaderLineMap.h"
 
 #include <algorithm>
+#include <cstring>
+#include <string_view>
 
 namespace qxparser {
 
 namespace {
 
-void splitReaderLines(const std::string& text, ReaderLineMap& map) {
-  const size_t size = text.size();
-  const size_t lines = static_cast<size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
-  map.fileLines.reserve(lines);
-  map.readerLines.reserve(lines);
-  int fileLine = 1;
-  size_t start = 0;
-  for (size_t i = 0; i <= size; ++i) {
-    const char c = i < size ? text[i] : '\n';
-    if (c != '\r' && c != '\n') continue;
-    if (i > start) {
-      map.fileLines.push_back(fileLine);
-      map.readerLines.emplace_back(text, start, i - start);
-    }
-    if (c == '\n') ++fileLine;
-    start = i + 1;
-  }
-}
-
 // A banner's closing line with text before its delimiter ("*****^C").
-bool closesWithText(const std::string& line, char delimiter) {
+bool closesWithText(std::string_view line, char delimiter) {
   const size_t mark = delimiter == '\0' ? std::string::npos : line.find(delimiter);
   return mark != std::string::npos && line.find_first_not_of(" \t") < mark;
 }
@@ -37,24 +20,54 @@ bool closesWithText(const std::string& line, char delimiter) {
 // text stands before its delimiter: the device ends the banner there and
 // keeps the text, while the terminal hands the line to the grammar, which
 // cannot take it.
-void markBannerText(ReaderLineMap& map) {
-  char delimiter = '\0';
-  bool inside = false;
-  map.bannerText.reserve(map.readerLines.size());
-  for (const std::string& line : map.readerLines) {
+class BannerTracker {
+ public:
+  // Whether `line`, the next non-empty line, is banner text.
+  bool isText(std::string_view line) {
     size_t lead = line.find_first_not_of(" \t");
     if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
       size_t first = line.find(' ');
       size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
-      if (second != std::string::npos && second + 1 < line.size()) delimiter = line[second + 1];
+      if (second != std::string::npos && second + 1 < line.size()) mDelimiter = line[second + 1];
     }
-    if (inside && (delimiter == '\0' || line.find(delimiter) == std::string::npos)) {
-      map.bannerText.push_back(true);
-      continue;
-    }
-    map.bannerText.push_back(inside && closesWithText(line, delimiter));
-    if (delimiter != '\0' && std::count(line.begin(), line.end(), delimiter) % 2 != 0) inside = !inside;
+    if (mInside && (mDelimiter == '\0' || line.find(mDelimiter) == std::string::npos)) return true;
+    const bool text = mInside && closesWithText(line, mDelimiter);
+    if (mDelimiter != '\0' && std::count(line.begin(), line.end(), mDelimiter) % 2 != 0) mInside = !mInside;
+    return text;
   }
+
+ private:
+  char mDelimiter = '\0';
+  bool mInside = false;
+};
+
+// One pass over the text: the non-empty pieces between carriage returns and
+// line feeds, with their file lines and banner marks.
+void splitReaderLines(const std::string& text, ReaderLineMap& map) {
+  const size_t size = text.size();
+  const size_t lines = static_cast<size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+  map.fileLines.reserve(lines);
+  map.lineStarts.reserve(lines);
+  map.bannerText.reserve(lines);
+  BannerTracker banner;
+  const char* data = text.data();
+  int fileLine = 1;
+  size_t start = 0;
+  for (;;) {
+    const size_t end = readerPieceEnd(text, start);
+    if (end > start) {
+      map.fileLines.push_back(fileLine);
+      map.lineStarts.push_back(start);
+      map.bannerText.push_back(banner.isText(std::string_view(data + start, end - start)));
+    }
+    if (end >= size) break;
+    if (data[end] == '\n') ++fileLine;
+    start = end + 1;
+  }
+}
+
+std::string_view lineAt(const std::string& text, size_t start) {
+  return std::string_view(text).substr(start, readerPieceEnd(text, start) - start);
 }
 
 }  // namespace
@@ -69,10 +82,24 @@ bool ReaderLineMap::isBannerText(int number) const {
   return bannerText[static_cast<size_t>(number) - 1];
 }
 
+std::string ReaderLineMap::readerLine(const std::string& text, size_t index) const {
+  if (index >= lineStarts.size() || lineStarts[index] > text.size()) return std::string();
+  return std::string(lineAt(text, lineStarts[index]));
+}
+
+size_t readerPieceEnd(const std::string& text, size_t start) {
+  const char* data = text.data();
+  const size_t size = text.size();
+  if (start >= size) return size;
+  const void* feed = std::memchr(data + start, '\n', size - start);
+  const size_t end = feed ? static_cast<size_t>(static_cast<const char*>(feed) - data) : size;
+  const void* ret = std::memchr(data + start, '\r', end - start);
+  return ret ? static_cast<size_t>(static_cast<const char*>(ret) - data) : end;
+}
+
 ReaderLineMap mapReaderLines(const std::string& text) {
   ReaderLineMap map;
   splitReaderLines(text, map);
-  markBannerText(map);
   return map;
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "config/CiscoCommandLine.h"
+#include "config/ReaderLineMap.h"
 #include "toolkit/TextWords.h"
 #include "grammar/InterfaceTypeOrder.h"
 #include "terminal/VTY.h"
@@ -52,8 +53,7 @@ void forEachPiece(const std::string& text, Take take) {
   std::string piece;
   const size_t size = text.size();
   while (start <= size) {
-    size_t end = start;
-    while (end < size && text[end] != '\r' && text[end] != '\n') ++end;
+    const size_t end = readerPieceEnd(text, start);
     if (end > start) {
       piece.assign(text, start, end - start);
       take(++number, piece);
@@ -286,8 +286,13 @@ namespace {
 // Frees records of all levels read together: each record without a parent
 // with its children (a parent always stands among the records before them).
 void freeBlock(std::vector<CiscoCommandLine*>& records) {
+  // The records without a parent are found first: freeing one frees records
+  // behind it in the list.
+  std::vector<CiscoCommandLine*> roots;
   for (CiscoCommandLine* record : records) {
-    if (record->getParentCommand() != nullptr) continue;
+    if (record->getParentCommand() == nullptr) roots.push_back(record);
+  }
+  for (CiscoCommandLine* record : roots) {
     record->delOnlyChildCmds();
     delete record;
   }

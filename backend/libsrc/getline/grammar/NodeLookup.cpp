@@ -1,8 +1,11 @@
 #include "grammar/NodeLookup.h"
 
 #include <algorithm>
+#include <cctype>
+#include <functional>
 #include <map>
 #include <set>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -57,19 +60,183 @@ void markVisited(ParserTreeNode* at, const std::string& token, const ParserTreeN
 bool matchesOtherTokens(const std::string& word) {
   static const std::set<std::string> kPatterns = {"a.b.c.d", "a.b.c.d/<1-32>", "oui:vpn-index", "id",
                                                   "+/-<metric>", "+/-<delay>", "h.h.h"};
-  return kPatterns.count(word) > 0 || word.find(':') != std::string::npos || ValueKinds::isKind(word);
+  if (word.find(':') != std::string::npos || kPatterns.count(word) > 0) return true;
+  // Every kind of value is named with a slash ("a.b.c.d/mask", "list/...")
+  // or is a range, which has a dash.
+  if (word.find('-') == std::string::npos && word.find('/') == std::string::npos) return false;
+  return ValueKinds::isKind(word);
 }
+
+// A numeric range word ("1-4094", "1.0-9.9") is matched by the range test,
+// which takes only one or two runs of digits joined by a dot: any other
+// token matches such a word only by being equal to it.
+class PatternTest {
+ public:
+  explicit PatternTest(const std::string& token) : mToken(token) {}
+
+  bool accepts(const std::string& word, bool range) {
+    if (!range) return ParserToolCase::isNewValidInput(word, mToken);
+    // A word with a dash never equals a dotted number.
+    if (!isDottedNumber()) return word == mToken;
+    return inRange(word);
+  }
+
+ private:
+  // The range test for a dotted-number token, without copies: as many parts
+  // as the bounds, each part between them as a decimal of any length.
+  bool inRange(std::string_view word) const {
+    const size_t dash = word.find('-');
+    std::string_view low[2];
+    std::string_view high[2];
+    std::string_view value[2];
+    const size_t parts = dottedParts(word.substr(0, dash), low);
+    dottedParts(word.substr(dash + 1), high);
+    if (dottedParts(mToken, value) != parts) return false;
+    for (size_t i = 0; i < parts; ++i) {
+      if (compareNumbers(value[i], low[i]) < 0 || compareNumbers(value[i], high[i]) > 0) return false;
+    }
+    return true;
+  }
+
+  // Cuts "X" or "X.Y" (never more parts: both are dotted numbers).
+  static size_t dottedParts(std::string_view text, std::string_view* parts) {
+    const size_t dot = text.find('.');
+    parts[0] = text.substr(0, dot);
+    if (dot == std::string_view::npos) return 1;
+    parts[1] = text.substr(dot + 1);
+    return 2;
+  }
+
+  static std::string_view significant(std::string_view number) {
+    const size_t first = number.find_first_not_of('0');
+    return first == std::string_view::npos ? std::string_view("0") : number.substr(first);
+  }
+
+  static int compareNumbers(std::string_view a, std::string_view b) {
+    a = significant(a);
+    b = significant(b);
+    if (a.size() != b.size()) return a.size() < b.size() ? -1 : 1;
+    const int order = a.compare(b);
+    return order < 0 ? -1 : (order == 0 ? 0 : 1);
+  }
+
+  bool isDottedNumber() {
+    if (mDotted < 0) mDotted = dottedNumber(mToken) ? 1 : 0;
+    return mDotted == 1;
+  }
+
+  static bool dottedNumber(const std::string& text) {
+    bool digits = false;
+    int dots = 0;
+    for (char c : text) {
+      if (c == '.') {
+        if (!digits || ++dots > 1) return false;
+        digits = false;
+      } else if (std::isdigit(static_cast<unsigned char>(c))) {
+        digits = true;
+      } else {
+        return false;
+      }
+    }
+    return digits;
+  }
+
+  const std::string& mToken;
+  int mDotted = -1;  // unknown until asked
+};
 
 bool isCatchAll(const std::string& word) { return word == "hostname or a.b.c.d" || word == "word" || word == "line"; }
 
+// The keys of a node's mChildren and mOptions in one open-addressed hash
+// table: for a node with many of them, one probe instead of two binary
+// searches over the sorted maps. Answers exactly what the two finds answer.
+class ExactWords {
+ public:
+  struct Found {
+    ParserTreeNode* child = nullptr;   // mChildren's entry of the word
+    ParserTreeNode* option = nullptr;  // mOptions's entry of the word
+    bool isChild = false;
+    bool isOption = false;
+  };
+
+  void build(const ParserTreeNode* node) {
+    size_t capacity = 8;
+    while (capacity < 2 * (node->mChildren.size() + node->mOptions.size())) capacity *= 2;
+    mSlots.assign(capacity, Slot());
+    for (auto& entry : node->mChildren) {
+      Found& found = slotOf(entry.first).found;
+      found.child = entry.second;
+      found.isChild = true;
+    }
+    for (auto& entry : node->mOptions) {
+      Found& found = slotOf(entry.first).found;
+      found.option = entry.second;
+      found.isOption = true;
+    }
+  }
+
+  const Found* find(const std::string& token) const {
+    const size_t hash = std::hash<std::string>()(token);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      const Slot& slot = mSlots[at];
+      if (!slot.word) return nullptr;
+      if (slot.hash == hash && *slot.word == token) return &slot.found;
+    }
+  }
+
+ private:
+  struct Slot {
+    size_t hash = 0;
+    const std::string* word = nullptr;
+    Found found;
+  };
+
+  Slot& slotOf(const std::string& word) {
+    const size_t hash = std::hash<std::string>()(word);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      Slot& slot = mSlots[at];
+      if (!slot.word) {
+        slot.hash = hash;
+        slot.word = &word;
+        return slot;
+      }
+      if (slot.hash == hash && *slot.word == word) return slot;
+    }
+  }
+
+  std::vector<Slot> mSlots;
+};
+
+// Nodes with at least this many children and options are searched by hash.
+constexpr size_t kHashedWords = 12;
+
+bool searchedByHash(const ParserTreeNode* node) {
+  return node->mChildren.size() + node->mOptions.size() >= kHashedWords;
+}
+
+struct TablePlan;
+
 // What the searches of findChild, lookupPass and hasInterfaceWords need of one
 // node, worked out once: the candidates of each step in the order the plain
-// scans visit them, with the words that cannot match a step left out.
+// scans visit them, with the words that cannot match a step left out. The
+// exact words and the steps by word (angle-bracket, pattern and catch-all
+// words) are worked out only when a search first gets to them: most nodes
+// are left at once by an exact word.
 struct LookupPlan {
   std::vector<ParserTreeNode*> complexChildren;
   std::vector<ParserTreeNode*> complexOptions;
-  std::vector<std::pair<const std::string*, ParserTreeNode*>> childTables;
-  std::vector<const std::string*> optionTables;
+  // A KeyFile word of a child or option; its table is found on first use.
+  struct TableRef {
+    const std::string* name;
+    ParserTreeNode* node;
+    bool resolved = false;
+    const KeyTable* table = nullptr;
+    const TablePlan* plan = nullptr;
+  };
+  std::vector<TableRef> childTables;
+  std::vector<TableRef> optionTables;
   std::vector<std::pair<const std::string*, ParserTreeNode*>> angleWords;
   // The pattern step: the words that only match themselves, sorted by word
   // and then by position, so that the first of equal words is the first
@@ -80,16 +247,30 @@ struct LookupPlan {
     ParserTreeNode* node;
   };
   std::vector<LiteralWord> literalWords;
-  std::vector<std::pair<size_t, std::pair<const std::string*, ParserTreeNode*>>> patternWords;
+  struct PatternWord {
+    size_t position;
+    const std::string* word;
+    ParserTreeNode* node;
+    bool range;  // a numeric range word (see PatternTest)
+  };
+  std::vector<PatternWord> patternWords;
   ParserTreeNode* catchAll = nullptr;
   int interfaceWords = -1;  // unknown until asked
+  ExactWords exactWords;    // for nodes searchedByHash only
+  bool exactWordsBuilt = false;
+  bool wordStepsBuilt = false;
 };
 
 // Same as KeyTable lookups in matchesKeyTable: the words that can match a
 // token other than themselves, in table order.
 struct TablePlan {
   const KeyTable* table = nullptr;
-  std::vector<std::pair<const std::string*, bool>> words;  // word, bracketed form
+  struct Word {
+    const std::string* word;
+    bool bracketed;
+    bool range;  // a numeric range word (see PatternTest)
+  };
+  std::vector<Word> words;
 };
 
 struct PlanCache {
@@ -128,22 +309,38 @@ LookupPlan& planOf(ParserTreeNode* node) {
   for (auto& entry : node->mChildren) {
     if (entry.second->mIsComplex) plan.complexChildren.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
-      if (startsWithAmpersand(word.first)) plan.childTables.emplace_back(&word.first, entry.second);
+      if (startsWithAmpersand(word.first)) plan.childTables.push_back({&word.first, entry.second});
     }
   }
   for (auto& entry : node->mOptions) {
     if (entry.second->mIsComplex) plan.complexOptions.push_back(entry.second);
     for (auto& word : entry.second->mKeywords) {
-      if (startsWithAmpersand(word.first)) plan.optionTables.push_back(&word.first);
+      if (startsWithAmpersand(word.first)) plan.optionTables.push_back({&word.first, entry.second});
     }
   }
+  return plan;
+}
+
+LookupPlan& exactPlanOf(ParserTreeNode* node) {
+  LookupPlan& plan = planOf(node);
+  if (!plan.exactWordsBuilt) {
+    plan.exactWords.build(node);
+    plan.exactWordsBuilt = true;
+  }
+  return plan;
+}
+
+// The steps by word of `plan`, the plan of `node`, worked out on first use.
+LookupPlan& withWordSteps(ParserTreeNode* node, LookupPlan& plan) {
+  if (plan.wordStepsBuilt) return plan;
+  plan.wordStepsBuilt = true;
   size_t position = 0;
   for (auto* map : {&node->mChildren, &node->mOptions}) {
     for (auto& entry : *map) {
       for (auto& word : entry.second->mKeywords) {
         if (ParserToolCase::isPvFormStr(word.first)) plan.angleWords.emplace_back(&word.first, entry.second);
         if (matchesOtherTokens(word.first)) {
-          plan.patternWords.push_back({position, {&word.first, entry.second}});
+          plan.patternWords.push_back({position, &word.first, entry.second, ValueKinds::isRange(word.first)});
         } else {
           plan.literalWords.push_back({&word.first, position, entry.second});
         }
@@ -170,9 +367,37 @@ const TablePlan* tablePlanOf(const std::string& tableName) {
   plan.table = &table->second;
   for (auto& entry : table->second) {
     const bool bracketed = ParserToolCase::isPvFormStr(entry.first);
-    if (bracketed || matchesOtherTokens(entry.first)) plan.words.emplace_back(&entry.first, bracketed);
+    if (bracketed || matchesOtherTokens(entry.first)) {
+      plan.words.push_back({&entry.first, bracketed, ValueKinds::isRange(entry.first)});
+    }
   }
   return &plan;
+}
+
+// matchesKeyTable's planned test once the token is not a word of the table.
+bool tableWordsAccept(const TablePlan& plan, const std::string& token) {
+  // Only bracketed and pattern words can match a token other than
+  // themselves.
+  PatternTest test(token);
+  for (const auto& entry : plan.words) {
+    const std::string& word = *entry.word;
+    if (entry.bracketed && ParserToolCase::isValidInput(word, token)) return true;
+    if (test.accepts(word, entry.range)) return true;
+  }
+  return false;
+}
+
+// matchesKeyTable(token, *ref.name), with the table and its plan kept.
+bool matchesTable(LookupPlan::TableRef& ref, const std::string& token) {
+  if (!ref.resolved) {
+    auto table = gKeyTables().find(*ref.name);
+    ref.table = table == gKeyTables().end() ? nullptr : &table->second;
+    ref.resolved = true;
+  }
+  if (!ref.table) return false;
+  if (ref.table->count(token)) return true;
+  if (!ref.plan) ref.plan = tablePlanOf(*ref.name);
+  return tableWordsAccept(*ref.plan, token);
 }
 
 // findChild's pattern step: the first word, children before options, for
@@ -189,23 +414,36 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
     bestPosition = literal->position;
     best = literal->node;
   }
+  PatternTest test(token);
   for (const auto& entry : plan.patternWords) {
-    if (entry.first > bestPosition) break;
-    if (ParserToolCase::isNewValidInput(*entry.second.first, token)) return entry.second.second;
+    if (entry.position > bestPosition) break;
+    if (test.accepts(*entry.word, entry.range)) return entry.node;
   }
   return best;
 }
 
 ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
   bool exactOption = false;
-  auto exact = node->mChildren.find(token);
-  if (exact != node->mChildren.end()) return exact->second;
-  auto option = node->mOptions.find(token);
-  if (option != node->mOptions.end()) {
-    if (ParserTreeNode* entered = enterOption(node, token, option->second)) return entered;
-    exactOption = true;
+  LookupPlan* planned = nullptr;
+  if (searchedByHash(node)) {
+    planned = &exactPlanOf(node);
+    if (const ExactWords::Found* found = planned->exactWords.find(token)) {
+      if (found->isChild) return found->child;
+      if (found->isOption) {
+        if (ParserTreeNode* entered = enterOption(node, token, found->option)) return entered;
+        exactOption = true;
+      }
+    }
+  } else {
+    auto exact = node->mChildren.find(token);
+    if (exact != node->mChildren.end()) return exact->second;
+    auto option = node->mOptions.find(token);
+    if (option != node->mOptions.end()) {
+      if (ParserTreeNode* entered = enterOption(node, token, option->second)) return entered;
+      exactOption = true;
+    }
   }
-  const LookupPlan& plan = planOf(node);
+  LookupPlan& plan = planned ? *planned : planOf(node);
   if (!exactOption) {
     for (ParserTreeNode* child : plan.complexChildren) {
       if (child->mKeywords.count(token)) return child;
@@ -217,15 +455,16 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
     }
   }
   if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
-  for (const auto& entry : plan.childTables) {
-    if (matchesKeyTable(token, *entry.first)) return entry.second;
+  for (auto& entry : plan.childTables) {
+    if (matchesTable(entry, token)) return entry.node;
   }
-  for (const std::string* word : plan.optionTables) {
-    if (!matchesKeyTable(token, *word)) continue;
-    auto byWord = node->mOptions.find(*word);
+  for (auto& entry : plan.optionTables) {
+    if (!matchesTable(entry, token)) continue;
+    auto byWord = node->mOptions.find(*entry.name);
     if (byWord == node->mOptions.end()) continue;
     if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
   }
+  withWordSteps(node, plan);
   for (const auto& entry : plan.angleWords) {
     if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
   }
@@ -299,7 +538,7 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
   }
   ParserTreeNode* any = nullptr;
   if (planCache().enabled) {
-    if (token != "\n") any = planOf(node).catchAll;
+    if (token != "\n") any = withWordSteps(node, planOf(node)).catchAll;
   } else {
     any = firstChildWithWord(node,
                              [&](const std::string& word) { return ParserToolCase::isAnyValidInput(word, token); });
@@ -400,17 +639,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
   auto table = gKeyTables().find(tableName);
   if (table == gKeyTables().end()) return false;
   if (table->second.count(token)) return true;
-  if (planCache().enabled) {
-    // Only bracketed and pattern words can match a token other than
-    // themselves; the rest were answered by the lookup above.
-    const TablePlan* plan = tablePlanOf(tableName);
-    for (const auto& entry : plan->words) {
-      const std::string& word = *entry.first;
-      if (entry.second && ParserToolCase::isValidInput(word, token)) return true;
-      if (ParserToolCase::isNewValidInput(word, token)) return true;
-    }
-    return false;
-  }
+  if (planCache().enabled) return tableWordsAccept(*tablePlanOf(tableName), token);
   for (auto& entry : table->second) {
     const std::string& word = entry.first;
     if (ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token)) return true;

@@ -87,11 +87,30 @@ void VTYModel::resetModel() {
   saveState();
 }
 
+// The levels are copied into their saved twin only when the line is about to
+// change them (changeLevels); most lines leave them as they are.
 void VTYModel::saveState() {
-  *mSavedLevels = *mLevels;
+  mLevelsUnsaved = true;
   mSavedPrompt = mPrompt;
   mSavedMajorLevel = mMajorLevel;
   mSavedNewLevel = mNewLevel;
+}
+
+VTYModel::Levels& VTYModel::changeLevels() {
+  if (mLevelsUnsaved) {
+    *mSavedLevels = *mLevels;
+    mLevelsUnsaved = false;
+  }
+  return *mLevels;
+}
+
+void VTYModel::restoreState() {
+  if (!mLevelsUnsaved) std::swap(mLevels, mSavedLevels);
+  mLevelsUnsaved = false;
+  mInsideBanner = false;
+  mMajorLevel = mSavedMajorLevel;
+  mNewLevel = mSavedNewLevel;
+  mPrompt = mSavedPrompt;
 }
 
 void VTYModel::levelText(std::string& text, bool allLevels) const {
@@ -120,11 +139,7 @@ bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& m
     saveState();
     int status = tryLine(line, modeResult, errorText);
     if (status != 0) {
-      std::swap(mLevels, mSavedLevels);
-      mInsideBanner = false;
-      mMajorLevel = mSavedMajorLevel;
-      mNewLevel = mSavedNewLevel;
-      mPrompt = mSavedPrompt;
+      restoreState();
     } else {
       inBanner = mInsideBanner;
     }
@@ -138,11 +153,7 @@ bool VTYModel::parseLine(const std::string& line, std::string& errorText, int& m
     // as the device does, and puts the levels back.
     if (!mOwner->mRefuseRangeErrors) throw;
     clearOptionPairs();
-    std::swap(mLevels, mSavedLevels);
-    mInsideBanner = false;
-    mMajorLevel = mSavedMajorLevel;
-    mNewLevel = mSavedNewLevel;
-    mPrompt = mSavedPrompt;
+    restoreState();
     errorText = kInvalidInput;
     return false;
   }
@@ -163,7 +174,7 @@ int VTYModel::tryLine(const std::string& line, int& modeResult, std::string& err
   mOptionPairs.clear();
   if (!mCurrentNode && mTree && mTree->mRoot) {
     mCurrentNode = mTree->mRoot;
-    mLevels->nodes.push_back(mCurrentNode);
+    changeLevels().nodes.push_back(mCurrentNode);
   }
   int status = 2;
   mOwner->mLastErrorOffset = 0;
@@ -190,9 +201,10 @@ int VTYModel::tryLine(const std::string& line, int& modeResult, std::string& err
 }
 
 void VTYModel::popLevel() {
-  popBack(mLevels->nodes);
-  popBack(mLevels->commands);
-  popBack(mLevels->texts);
+  Levels& levels = changeLevels();
+  popBack(levels.nodes);
+  popBack(levels.commands);
+  popBack(levels.texts);
 }
 
 void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, std::string& errorText) {
@@ -298,9 +310,10 @@ void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode*
   }
   mCurrentNode = node;
   if (node->mEntersMode && !isNo) {
-    mLevels->nodes.push_back(node);
-    mLevels->commands.push_back(mCurrentCommand);
-    mLevels->texts.push_back(mCompleteLine);
+    Levels& levels = changeLevels();
+    levels.nodes.push_back(node);
+    levels.commands.push_back(mCurrentCommand);
+    levels.texts.push_back(mCompleteLine);
     mPrompt = gPromptSuffixes()[node];
     mMajorLevel = mLevels->texts.size() - 1;
     mNewLevel = true;
@@ -353,16 +366,16 @@ void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNod
     mCompleteLine += '\n';
     return;
   }
-  mInfoLine += prefix;
+  if (!prefix.empty()) mInfoLine += prefix;
   if (isValue) {
     mInfoLine += '<';
     mInfoLine += *word;
-    mInfoLine += "> ";
+    mInfoLine += '>';
   } else {
     mInfoLine += *word;
-    mInfoLine += ' ';
   }
-  mCompleteLine += prefix;
+  mInfoLine += ' ';
+  if (!prefix.empty()) mCompleteLine += prefix;
   mCompleteLine += *word;
   mCompleteLine += ' ';
 }
@@ -431,11 +444,12 @@ bool VTYModel::cliExitCommands(const std::string& line, int& modeResult, int& st
   const std::string word =
       ParserToolCase::string2Lower(line.substr(start, end == std::string::npos ? std::string::npos : end - start));
   if (word == "exit") {
-    popBack(mLevels->nodes);
-    popBack(mLevels->texts);
+    Levels& levels = changeLevels();
+    popBack(levels.nodes);
+    popBack(levels.texts);
     // A terminal that links commands keeps its stack of level commands in
     // step, so the next command is not linked to the mode just left.
-    if (mOwner->mLinkCommands) popBack(mLevels->commands);
+    if (mOwner->mLinkCommands) popBack(levels.commands);
     if (!mLevels->nodes.empty()) {
       mCurrentNode = mLevels->nodes.back();
       mPrompt = gPromptSuffixes()[mCurrentNode];

@@ -4,7 +4,8 @@
 // configuration levels (node, opening command, rebuilt text of each), the
 // prompt, the rebuilt texts of the current line, and banner state. Every
 // level container has a saved twin holding the state before the current
-// line; a failed line swaps them back. The model writes to its owner's output
+// line (copied only when the line changes them); a failed line swaps them
+// back. The model writes to its owner's output
 // stream. Not thread-safe; owned by its VTY.
 #pragma once
 
@@ -40,6 +41,11 @@ class VTYModel {
     std::deque<CiscoCommandLine*> commands;
     std::vector<std::string> texts;
   };
+  // Put back the state saveState kept (after a line that failed).
+  void restoreState();
+  // The current levels, for a change: the first change after saveState
+  // copies them into the saved twin.
+  Levels& changeLevels();
 
   VTY* mOwner;
   ParserTree* mTree;
@@ -49,6 +55,7 @@ class VTYModel {
   Levels mLevelsB;
   Levels* mLevels = &mLevelsA;       // current
   Levels* mSavedLevels = &mLevelsB;  // before the current line
+  bool mLevelsUnsaved = false;       // the saved twin is still to be copied
   std::string mPrompt;
   std::string mSavedPrompt;
   std::string mCompleteLine;
