@@ -527,14 +527,18 @@ void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& chan
     if (!identity.empty()) given.insert(identity);
   }
   if (given.empty()) return;
-  for (auto it = config.begin(); it != config.end();) {
-    if ((*it)->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed((*it)->getOriginalCmd())))) {
-      freeRecord(*it);
-      it = config.erase(it);
+  // One pass that keeps the rest in order (an erase each would move the
+  // level's tail once per route).
+  std::vector<CiscoCommandLine*> kept;
+  kept.reserve(config.size());
+  for (CiscoCommandLine* record : config) {
+    if (record->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed(record->getOriginalCmd())))) {
+      freeRecord(record);
     } else {
-      ++it;
+      kept.push_back(record);
     }
   }
+  config.swap(kept);
 }
 
 void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {

@@ -95,6 +95,10 @@ class Layout {
                             [](const CiscoCommandLine* r) { return !isExitLine(*r); });
     }
     const std::vector<CiscoCommandLine*>& records = reorder ? reordered : given;
+    // At the top level, the line number of the next record read behind each
+    // place (0: none), worked out once from the back.
+    std::vector<int> nextRead;
+    if (depth == 0) nextRead = nextReadLines(records);
     for (size_t i = 0; i < records.size(); ++i) {
       const CiscoCommandLine* record = records[i];
       if (depth == 0 && record->getFlag() == CMD_TEXT) continue;
@@ -104,7 +108,7 @@ class Layout {
         // A new block goes behind the comments that close the block before;
         // behind the last block read, ahead of a closing "end".
         // Lines read after an "end" are no configuration: never behind them.
-        const int next = nextReadLine(records, i + 1);
+        const int next = nextRead[i + 1];
         const int end = firstEndLine();
         const int limit = next > 0 ? next : endLine();
         flushBefore(end > 0 && (limit < 0 || limit > end) ? end : limit);
@@ -148,11 +152,15 @@ class Layout {
   }
 
  private:
-  static int nextReadLine(const std::vector<CiscoCommandLine*>& records, size_t from) {
-    for (size_t i = from; i < records.size(); ++i) {
-      if (records[i]->getFlag() != CMD_TEXT && records[i]->getLineNo() >= 1) return records[i]->getLineNo();
+  // For each place of `records` (and one past the end), the line number of
+  // the first record from there on that was read and is no comment (0: none).
+  static std::vector<int> nextReadLines(const std::vector<CiscoCommandLine*>& records) {
+    std::vector<int> next(records.size() + 1, 0);
+    for (size_t i = records.size(); i-- > 0;) {
+      const bool read = records[i]->getFlag() != CMD_TEXT && records[i]->getLineNo() >= 1;
+      next[i] = read ? records[i]->getLineNo() : next[i + 1];
     }
-    return 0;
+    return next;
   }
 
   // The line number of the last waiting "end" line (-1: none waits).
