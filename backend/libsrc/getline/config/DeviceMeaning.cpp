@@ -130,6 +130,7 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
   struct Standing {
     const CiscoCommandLine* record;
     std::vector<long> numbers;
+    std::vector<long> highestSoFar;
   };
   std::unordered_map<std::string, std::vector<Standing>> standing;
   bool anyAdded = false;
@@ -140,9 +141,15 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     }
     std::vector<long> numbers;
     const std::string kind = numberedKind(*record, numbers);
-    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers)});
+    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers), {}});
   }
   if (!anyAdded || standing.empty()) return;
+  for (auto& [kind, list] : standing) {
+    for (size_t j = 0; j < list.size(); ++j) {
+      list[j].highestSoFar = j == 0 || list[j - 1].highestSoFar < list[j].numbers ? list[j].numbers
+                                                                                  : list[j - 1].highestSoFar;
+    }
+  }
   for (size_t i = 0; i < records.size(); ++i) {
     CiscoCommandLine* record = records[i];
     std::vector<long> own;
@@ -151,8 +158,10 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     if (kind == standing.end()) continue;
     // Before the first one of its kind with a higher number, else behind
     // the last one of its kind.
-    const auto higher = std::find_if(kind->second.begin(), kind->second.end(),
-                                     [&own](const Standing& other) { return own < other.numbers; });
+    const auto higher = std::upper_bound(kind->second.begin(), kind->second.end(), own,
+                                         [](const std::vector<long>& number, const Standing& other) {
+                                           return number < other.highestSoFar;
+                                         });
     const bool before = higher != kind->second.end();
     const CiscoCommandLine* anchor = before ? higher->record : kind->second.back().record;
     const size_t at = static_cast<size_t>(std::find(records.begin(), records.end(), anchor) - records.begin());
