@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <list>
 #include <set>
 #include <string_view>
 #include <unordered_map>
@@ -144,32 +145,74 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     if (!kind.empty()) standing[kind].push_back({record, std::move(numbers), {}});
   }
   if (!anyAdded || standing.empty()) return;
-  for (auto& [kind, list] : standing) {
-    for (size_t j = 0; j < list.size(); ++j) {
-      list[j].highestSoFar = j == 0 || list[j - 1].highestSoFar < list[j].numbers ? list[j].numbers
-                                                                                  : list[j - 1].highestSoFar;
+  for (auto& entry : standing) {
+    std::vector<Standing>& same = entry.second;
+    for (size_t j = 0; j < same.size(); ++j) {
+      same[j].highestSoFar = j == 0 || same[j - 1].highestSoFar < same[j].numbers ? same[j].numbers
+                                                                                  : same[j - 1].highestSoFar;
     }
   }
-  for (size_t i = 0; i < records.size(); ++i) {
-    CiscoCommandLine* record = records[i];
+  // The records in a list, so that a move shifts nothing. A standing record
+  // never moves, so the standing records keep their order: numbered by it,
+  // they tell on which side of an added record its anchor stands, from the
+  // first standing record behind the added one.
+  using List = std::list<CiscoCommandLine*>;
+  List list(records.begin(), records.end());
+  std::unordered_map<const CiscoCommandLine*, List::iterator> where;
+  std::unordered_map<const CiscoCommandLine*, size_t> standingRank;
+  for (auto it = list.begin(); it != list.end(); ++it) {
+    where.emplace(*it, it);
+    if (!isAdded(**it)) standingRank.emplace(*it, standingRank.size());
+  }
+  const size_t none = standingRank.size();
+  // The rank of the first standing record behind each added one (none: it
+  // stands behind them all), kept up to date as added records move.
+  std::unordered_map<const CiscoCommandLine*, size_t> nextStanding;
+  size_t behind = none;
+  for (auto it = list.rbegin(); it != list.rend(); ++it) {
+    const auto rank = standingRank.find(*it);
+    if (rank != standingRank.end()) {
+      behind = rank->second;
+    } else {
+      nextStanding[*it] = behind;
+    }
+  }
+  // As a walk by position over the level that takes a record out of its
+  // place and puts it into another: behind a record moved further down, the
+  // record that followed it is passed over.
+  for (auto it = list.begin(); it != list.end();) {
+    CiscoCommandLine* record = *it;
     std::vector<long> own;
-    if (!isAdded(*record) || record->hasFlags(CMDBIT_NO)) continue;
-    const auto kind = standing.find(numberedKind(*record, own));
-    if (kind == standing.end()) continue;
-    // Before the first one of its kind with a higher number, else behind
-    // the last one of its kind.
+    const auto kind = !isAdded(*record) || record->hasFlags(CMDBIT_NO) ? standing.end()
+                                                                      : standing.find(numberedKind(*record, own));
+    if (kind == standing.end()) {
+      ++it;
+      continue;
+    }
     const auto higher = std::upper_bound(kind->second.begin(), kind->second.end(), own,
                                          [](const std::vector<long>& number, const Standing& other) {
                                            return number < other.highestSoFar;
                                          });
+    // Before the first one of its kind with a higher number, else behind
+    // the last one of its kind; nothing moves when it stands there already.
     const bool before = higher != kind->second.end();
     const CiscoCommandLine* anchor = before ? higher->record : kind->second.back().record;
-    const size_t at = static_cast<size_t>(std::find(records.begin(), records.end(), anchor) - records.begin());
-    const size_t place = before ? at : at + 1;
-    if (place >= records.size() || place == i || place == i + 1) continue;
-    records.erase(records.begin() + static_cast<long>(i));
-    records.insert(records.begin() + static_cast<long>(place < i ? place : place - 1), record);
+    const List::iterator at = where.at(anchor);
+    const List::iterator next = std::next(it);
+    const bool inPlace = before ? next == at
+                                : std::next(at) == list.end() || (it != list.begin() && std::prev(it) == at);
+    if (inPlace) {
+      it = next;
+      continue;
+    }
+    const size_t anchorRank = standingRank.at(anchor);
+    const bool forward = anchorRank >= nextStanding.at(record);
+    const List::iterator target = before ? at : std::next(at);
+    list.splice(target, list, it);
+    nextStanding[record] = before ? anchorRank : anchorRank + 1;
+    it = forward ? std::next(next) : next;
   }
+  records.assign(list.begin(), list.end());
 }
 
 void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {
