@@ -315,7 +315,9 @@ TEST_F(CorpusPropertiesTest, ReadingInBlocksHandsOverWhatOneReadingGives) {
     EXPECT_EQ(inBlocks, expected) << file.name;
     EXPECT_EQ(refusedInBlocks.size(), refusedWhole.size()) << file.name;
     // A configuration of more than a few blocks is not handed over whole.
-    if (expected.size() > 50) EXPECT_GT(blocks, 2u) << file.name;
+    if (expected.size() > 50) {
+      EXPECT_GT(blocks, 2u) << file.name;
+    }
   }
 }
 
