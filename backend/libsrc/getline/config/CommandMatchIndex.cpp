@@ -356,8 +356,8 @@ void CommandMatchIndex::describe(uint32_t id) {
   mSlots[id].bucket = bucket;
 }
 
-void CommandMatchIndex::buildTextTable(Bucket& bucket) {
-  bucket.byText = std::make_unique<TextTable>();
+template <typename Visit>
+uint32_t CommandMatchIndex::firstInOrder(const Bucket& bucket, Visit visit) const {
   size_t a = 0;
   size_t b = 0;
   while (a < bucket.negated.size() || b < bucket.positive.size()) {
@@ -365,8 +365,17 @@ void CommandMatchIndex::buildTextTable(Bucket& bucket) {
         b == bucket.positive.size() ||
         (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
     const uint32_t member = takeA ? bucket.negated[a++] : bucket.positive[b++];
-    (*bucket.byText)[mSlots[member].textHash].push_back(member);
+    if (visit(member)) return member;
   }
+  return kNone;
+}
+
+void CommandMatchIndex::buildTextTable(Bucket& bucket) {
+  bucket.byText = std::make_unique<TextTable>();
+  firstInOrder(bucket, [this, &bucket](uint32_t member) {
+    (*bucket.byText)[mSlots[member].textHash].push_back(member);
+    return false;
+  });
 }
 
 void CommandMatchIndex::enterLive(uint32_t id, bool atEnd) {
@@ -467,17 +476,10 @@ size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
   if (found == kNone) return npos;
   // The live commands stand in the level's order: the first that is
   // comparable is the answer.
-  const Bucket& bucket = mBuckets[found];
-  size_t a = 0;
-  size_t b = 0;
-  while (a < bucket.negated.size() || b < bucket.positive.size()) {
-    const bool takeA =
-        b == bucket.positive.size() ||
-        (a < bucket.negated.size() && mSlots[bucket.negated[a]].rank < mSlots[bucket.positive[b]].rank);
-    const Slot& candidate = mSlots[takeA ? bucket.negated[a++] : bucket.positive[b++]];
-    if (candidate.record->isComparable(probe)) return positionOf(candidate.rank);
-  }
-  return npos;
+  const uint32_t first = firstInOrder(mBuckets[found], [this, probe](uint32_t member) {
+    return mSlots[member].record->isComparable(probe);
+  });
+  return first == kNone ? npos : positionOf(mSlots[first].rank);
 }
 
 size_t CommandMatchIndex::firstNoable(const CiscoCommandLine* probe) const {

@@ -176,6 +176,11 @@ class CommandMatchIndex {
   void enterLive(uint32_t id, bool atEnd);
   void leaveLive(uint32_t id);
   void buildTextTable(Bucket& bucket);
+  // Hands `visit` the live members of a bucket in the level's order (its
+  // negated and positive lists merged by rank) until it answers true; the
+  // member it stopped at, or kNone.
+  template <typename Visit>
+  uint32_t firstInOrder(const Bucket& bucket, Visit visit) const;
   void updateRun(size_t position);
   size_t positionOf(uint64_t rank) const;
   uint64_t rankFor(size_t position);
