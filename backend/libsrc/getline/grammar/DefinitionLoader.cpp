@@ -4,12 +4,14 @@
 // rules step by step; see DefinitionLoader.h for the format in short.
 #include "grammar/DefinitionLoader.h"
 
+#include <algorithm>
 #include <fstream>
 #include <memory>
 #include <set>
 #include <string_view>
 #include <utility>
 
+#include "grammar/DefinitionLine.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/NodePool.h"
 #include "grammar/ParserException.h"
@@ -94,7 +96,7 @@ bool readTextLine(std::istream& stream, std::string& line) {
 
 ParserTreeNode* stackTop(ParserTree& tree) { return tree.mNodeStack.empty() ? nullptr : tree.mNodeStack.back(); }
 
-ParserTreeNode* findExistingChild(ParserTreeNode* top, const std::string& a) {
+ParserTreeNode* findExistingChild(ParserTreeNode* top, std::string_view a) {
   for (auto* map : {&top->mChildren, &top->mOptionalChildren, &top->mOptions}) {
     auto it = map->find(a);
     if (it != map->end()) return it->second;
@@ -112,14 +114,6 @@ ParserTreeNode::NodeMap& targetMap(ParserTreeNode* parent, ParserTreeNode* child
   if (child->mIsOption) return parent->mOptions;
   if (optional == 1) return parent->mOptionalChildren;
   return parent->mChildren;
-}
-
-// A child enters the map of its parent that its kind asks for; the parent
-// notes a complex child (blocks and includes fill the maps themselves).
-void putChild(ParserTreeNode* parent, const std::string& key, ParserTreeNode* child, int optional) {
-  ParserTreeNode::NodeMap& map = targetMap(parent, child, optional);
-  map.insert_or_assign(key, child);
-  if (child->mIsComplex && &map != &parent->mOptionalChildren) parent->mHasComplexChild = true;
 }
 
 // The loop begin that a node with "le" closes, or null.
@@ -184,55 +178,75 @@ void loadKeyFile(KeyTable& table, const std::string& path) {
   }
 }
 
-ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
-  if (filesInProgress().count(fileName)) {
-    malformed(tree, "\"" + fileName + "\" links itself; a definition file may not include or open its own mode");
-  }
-  // Links name files of the definition folder itself. A path would let a
-  // definition file read anything the process can open, a device or a pipe
-  // included, which may never end.
-  if (fileName.find_first_of("/\\") != std::string::npos) {
-    malformed(tree, "\"" + fileName + "\" is not a file name of the definition folder");
-  }
-  ParserTreeNode* root = NodePool::newNode();
-  root->mEntersMode = true;
-  tree.mNodeStack.push_back(root);
-  if (tree.mLoading.empty() || tree.mFilesFolder.empty()) {
-    tree.mFilesFolder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator;
-  }
-  std::string path = tree.mFilesFolder + fileName;
-  std::ifstream in(StlHelper::AToW(path));
-  if (!in) throw ParserException("error: can't open file: " + path);
-  const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
-  {
-    LoadGuard guard(tree, fileName);
-    readGrammarStream(tree, in);
-  }
-  // Levels that the file left open without their "!" end with the file: they
-  // must not become parents of the lines of the file that linked this one.
-  while (tree.mNodeStack.size() > base + 1) tree.mNodeStack.pop_back();
-  if (!tree.mNodeStack.empty()) tree.mNodeStack.pop_back();
-  return root;
-}
+namespace {
 
-void readGrammarStream(ParserTree& tree, std::istream& stream) {
-  std::string line, a, b, c, d, e;
-  while (readTextLine(stream, line)) {
-    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
-    if (line.empty()) continue;
-    ParserToolCase::parseCmdLine(line, a, b, c, d, e);
-    if (a.empty()) continue;
-    if (a[0] == '#') {
-      readComplexNode(tree, a, c, stream);
-    } else {
-      ParserTreeNode* node = addNodeLine(tree, a, b, c, d);
-      applyLinks(tree, e, node);
-    }
+// Calls `emit(word)` for each word of `text` cut at any of `separators`, the
+// way ParserToolCase::splitString cuts: runs of separators count as one, no
+// empty word comes out, and the text ends at its first NUL.
+template <typename Emit>
+void forEachWordOf(std::string_view text, std::string_view separators, Emit emit) {
+  text = text.substr(0, std::min(text.size(), text.find('\0')));
+  std::size_t pos = 0;
+  while ((pos = text.find_first_not_of(separators, pos)) != std::string_view::npos) {
+    std::size_t end = std::min(text.size(), text.find_first_of(separators, pos));
+    emit(text.substr(pos, end - pos));
+    pos = end;
   }
 }
 
-ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::string& b, const std::string& c,
-                            const std::string& d) {
+template <typename Map, typename Value>
+void putEntry(Map& map, std::string_view key, const Value& value) {
+  auto placed = map.emplace(key, value);
+  if (!placed.second) placed.first->second = value;
+}
+
+void putWord(ParserTreeNode::WordMap& map, std::string_view key, std::string_view value) {
+  auto placed = map.emplace(key, value);
+  if (!placed.second) placed.first->second.assign(value.data(), value.size());
+}
+
+// A child enters the map of its parent that its kind asks for; the parent
+// notes a complex child (blocks and includes fill the maps themselves).
+void putChild(ParserTreeNode* parent, std::string_view key, ParserTreeNode* child, int optional) {
+  ParserTreeNode::NodeMap& map = targetMap(parent, child, optional);
+  putEntry(map, key, child);
+  if (child->mIsComplex && &map != &parent->mOptionalChildren) parent->mHasComplexChild = true;
+}
+
+// The flag codes between slashes; the field ends at a NUL.
+void setFlags(ParserTreeNode* node, std::string_view c) {
+  c = c.substr(0, c.find('\0'));
+  for (std::size_t pos = 0; pos < c.size();) {
+    const std::size_t end = std::min(c.size(), c.find('/', pos));
+    if (end > pos) node->mFlags |= flagOfCode(c.substr(pos, end - pos));
+    pos = end + 1;
+  }
+}
+
+void addChildOf(ParserTreeNode* parent, std::string_view key, std::string_view help, ParserTreeNode* child,
+                int optional) {
+  if (key.empty() || !parent || !child) return;
+  putChild(parent, key, child, optional);
+  if (!child->mIsComplex) putWord(parent->mHelp, key, help);
+  if (!child->mParent) child->mParent = parent;
+}
+
+// The token between "[" and "]", each of them optional.
+std::string_view optionInner(std::string_view token, bool& open, bool& close) {
+  const std::size_t openPos = token.find('[');
+  const std::size_t closePos = token.find(']');
+  open = openPos != std::string_view::npos;
+  close = closePos != std::string_view::npos;
+  const std::size_t begin = open ? openPos + 1 : 0;
+  const std::size_t end = close ? closePos : token.size();
+  return end > begin ? token.substr(begin, end - begin) : std::string_view();
+}
+
+void finishing(ParserTree& tree, ParserTreeNode* parent, ParserTreeNode* node, std::string_view text,
+               int optional);
+
+ParserTreeNode* addLine(ParserTree& tree, std::string_view a, std::string_view b, std::string_view c,
+                        std::string_view d) {
   if (!a.empty() && a[0] == '!') {
     size_t base = tree.mLoading.empty() ? 0 : tree.mLoading.back().stackBase;
     // The root of the file is the bottom element for this file; closing it
@@ -249,12 +263,11 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
       return existing;
     }
   }
-  std::string key;
   bool open = false, close = false;
-  ParserToolCase::testOptionToken(a, key, open, close);
+  std::string_view key = optionInner(a, open, close);
   ParserTreeNode* node = nullptr;
   if (close) {
-    if (!open) malformed(tree, "token \"" + a + "\" closes \"]\" without opening \"[\"");
+    if (!open) malformed(tree, "token \"" + std::string(a) + "\" closes \"]\" without opening \"[\"");
     node = top;
   } else {
     node = NodePool::newNode();
@@ -263,46 +276,31 @@ ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::s
     node->mIsEnd = true;
     key = "\n";
   }
-  node->mKeywords.insert_or_assign(key, b);
-  parseNodeFlags(node, c);
+  putWord(node->mKeywords, key, b);
+  setFlags(node, c);
   if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
-  node->mText = d;
-  addChild(top, key, b, node, open ? 1 : 0);
-  finishNode(tree, top, node, d, open ? 1 : 0);
+  node->mText.assign(d.data(), d.size());
+  addChildOf(top, key, b, node, open ? 1 : 0);
+  finishing(tree, top, node, d, open ? 1 : 0);
   tree.mNodeStack.push_back(node);
   return node;
 }
 
-void parseNodeFlags(ParserTreeNode* node, const std::string& c) {
-  toolkit_detail::forEachWord(c, "/", [node](const char* begin, std::size_t length) {
-    node->mFlags |= flagOfCode(std::string_view(begin, length));
-  });
-}
-
-void parseConflicts(ParserTreeNode* node, const std::string& d) {
+void conflictsOf(ParserTreeNode* node, std::string_view d) {
   if (!node->hasFlag(NODE_FLAG_CF)) return;
   std::vector<std::string> words;
-  ParserToolCase::splitString(ParserToolCase::string2Lower(d), ",", words);
+  ParserToolCase::splitString(ParserToolCase::string2Lower(std::string(d)), ",", words);
   node->mConflicts.insert(words.begin(), words.end());
 }
 
-void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
-              int optional) {
-  if (key.empty() || !parent || !child) return;
-  putChild(parent, key, child, optional);
-  if (!child->mIsComplex) parent->mHelp.insert_or_assign(key, help);
-  if (!child->mParent) child->mParent = parent;
-}
-
-void finishNode(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, const std::string& text,
-                int optional) {
-  if (node->hasFlag(NODE_FLAG_MB) || node->hasFlag(NODE_FLAG_MA)) node->mText = text;
+void finishing(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, std::string_view text, int optional) {
+  if (node->hasFlag(NODE_FLAG_MB) || node->hasFlag(NODE_FLAG_MA)) node->mText.assign(text.data(), text.size());
   if (node->hasFlag(NODE_FLAG_LE)) {
     if (ParserTreeNode* begin = findLoopBegin(node)) {
-      addChild(node, begin->firstKeyword(), begin->firstKeywordHelp(), begin, optional);
+      addChildOf(node, begin->firstKeyword(), begin->firstKeywordHelp(), begin, optional);
     }
   }
-  parseConflicts(node, text);
+  conflictsOf(node, text);
   if (node->hasFlag(NODE_FLAG_OE)) {
     // From the end of an option the input may go on to any sibling option of
     // every enclosing group.
@@ -311,7 +309,7 @@ void finishNode(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, const
       ParserTreeNode::NodeMap siblings = anc->mParent->mOptions;
       for (auto& entry : siblings) {
         if (entry.second == node) continue;
-        addChild(node, entry.first, entry.second->firstKeywordHelp(), entry.second, optional);
+        addChildOf(node, entry.first, entry.second->firstKeywordHelp(), entry.second, optional);
       }
     }
   }
@@ -331,16 +329,18 @@ void finishNode(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, const
           if (entry.second->mParent == n && entry.second != n) work.push_back(entry.second);
         }
       }
-      if (n->hasFlag(NODE_FLAG_OE)) addChild(n, key, help, node, optional);
+      if (n->hasFlag(NODE_FLAG_OE)) addChildOf(n, key, help, node, optional);
     }
   }
 }
 
-void readComplexNode(ParserTree& tree, const std::string& a, const std::string& c, std::istream& stream) {
+void readLines(ParserTree& tree, DefinitionLines& lines);
+
+void readBlock(ParserTree& tree, std::string_view a, std::string_view c, DefinitionLines& lines) {
   if (a.empty() || a[0] != '#') return;
   ParserTreeNode* node = NodePool::newNode();
   node->mIsComplex = true;
-  parseNodeFlags(node, c);
+  setFlags(node, c);
   if (node->hasFlag(NODE_FLAG_OB)) node->mIsOption = true;
   ParserTreeNode* parent = stackTop(tree);
   if (!parent) malformed(tree, "block outside of any level");
@@ -350,26 +350,28 @@ void readComplexNode(ParserTree& tree, const std::string& a, const std::string& 
   parent->mHasComplexChild = true;
   if (!node->mParent) node->mParent = parent;
   tree.mNodeStack.push_back(node);
-  std::string line, ka, kb, kc, kd, ke;
-  while (readTextLine(stream, line)) {
+  DefinitionLine fields;
+  std::string_view line;
+  while (lines.next(line)) {
     if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
     if (line.empty()) continue;
-    ParserToolCase::parseCmdLine(line, ka, kb, kc, kd, ke);
-    if (ka.empty()) continue;
-    if (ka[0] == '#') break;
-    node->mKeywords.insert_or_assign(ka, kb);
+    fields.cut(line);
+    std::string_view word = fields.token();
+    if (word.empty()) continue;
+    if (word[0] == '#') break;
+    putWord(node->mKeywords, word, fields.help());
   }
-  finishNode(tree, parent, node, "", 0);
+  finishing(tree, parent, node, std::string_view(), 0);
 }
 
-void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
+void linkItems(ParserTree& tree, std::string_view e, ParserTreeNode* node) {
   if (e.empty() || !node) return;
-  std::vector<std::string> items;
-  ParserToolCase::splitString(e, " \t", items);
+  std::vector<std::string_view> items;
+  forEachWordOf(e, " \t", [&items](std::string_view word) { items.push_back(word); });
   for (size_t i = 0; i < items.size(); ++i) {
-    const std::string& item = items[i];
+    std::string_view item = items[i];
     if (item[0] == '&') {
-      std::string name = item.substr(1);
+      std::string name(item.substr(1));
       auto found = gSharedGrammars().find(name);
       ParserTreeNode* root = nullptr;
       if (found == gSharedGrammars().end()) {
@@ -387,10 +389,11 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
         if (root->mHasComplexChild) top->mHasComplexChild = true;
       }
     } else if (item[0] == '@') {
-      if (i + 1 >= items.size()) malformed(tree, "mode link \"" + item + "\" names no file");
-      const std::string& file = items[i + 1];
-      gPromptSuffixes()[node] = item.substr(1);
-      node->mModeName = item.substr(1);
+      if (i + 1 >= items.size()) malformed(tree, "mode link \"" + std::string(item) + "\" names no file");
+      const std::string file(items[i + 1]);
+      std::string mode(item.substr(1));
+      gPromptSuffixes()[node] = mode;
+      node->mModeName = std::move(mode);
       node->mEntersMode = true;
       tree.mNodeStack.push_back(node);
       auto found = tree.mFiles.find(file);
@@ -410,19 +413,124 @@ void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) {
   }
 }
 
+void readLines(ParserTree& tree, DefinitionLines& lines) {
+  DefinitionLine fields;
+  std::string_view line;
+  while (lines.next(line)) {
+    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
+    if (line.empty()) continue;
+    fields.cut(line);
+    std::string_view a = fields.token();
+    if (a.empty()) continue;
+    if (a[0] == '#') {
+      readBlock(tree, a, fields.flags(), lines);
+    } else {
+      ParserTreeNode* node = addLine(tree, a, fields.help(), fields.flags(), fields.text());
+      linkItems(tree, fields.links(), node);
+    }
+  }
+}
+
+// The whole content of an open file, read in a few large pieces.
+std::string wholeFile(std::istream& in) {
+  std::string content;
+  char piece[1 << 16];
+  while (in.read(piece, sizeof piece) || in.gcount() > 0) content.append(piece, static_cast<size_t>(in.gcount()));
+  return content;
+}
+
+}  // namespace
+
+ParserTreeNode* loadGrammarFile(ParserTree& tree, const std::string& fileName) {
+  if (filesInProgress().count(fileName)) {
+    malformed(tree, "\"" + fileName + "\" links itself; a definition file may not include or open its own mode");
+  }
+  // Links name files of the definition folder itself. A path would let a
+  // definition file read anything the process can open, a device or a pipe
+  // included, which may never end.
+  if (fileName.find_first_of("/\\") != std::string::npos) {
+    malformed(tree, "\"" + fileName + "\" is not a file name of the definition folder");
+  }
+  ParserTreeNode* root = NodePool::newNode();
+  root->mEntersMode = true;
+  tree.mNodeStack.push_back(root);
+  if (tree.mLoading.empty() || tree.mFilesFolder.empty()) {
+    tree.mFilesFolder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator;
+  }
+  std::string path = tree.mFilesFolder + fileName;
+  std::string content;
+  {
+    std::ifstream in(StlHelper::AToW(path));
+    if (!in) throw ParserException("error: can't open file: " + path);
+    content = wholeFile(in);
+  }
+  const size_t base = tree.mNodeStack.size() - 1;  // where this file's root stands
+  {
+    LoadGuard guard(tree, fileName);
+    DefinitionLines lines(content);
+    readLines(tree, lines);
+  }
+  // Levels that the file left open without their "!" end with the file: they
+  // must not become parents of the lines of the file that linked this one.
+  while (tree.mNodeStack.size() > base + 1) tree.mNodeStack.pop_back();
+  if (!tree.mNodeStack.empty()) tree.mNodeStack.pop_back();
+  return root;
+}
+
+void readGrammarStream(ParserTree& tree, std::istream& stream) {
+  DefinitionLines lines(stream);
+  readLines(tree, lines);
+}
+
+ParserTreeNode* addNodeLine(ParserTree& tree, const std::string& a, const std::string& b, const std::string& c,
+                            const std::string& d) {
+  return addLine(tree, a, b, c, d);
+}
+
+void parseNodeFlags(ParserTreeNode* node, const std::string& c) { setFlags(node, c); }
+
+void parseConflicts(ParserTreeNode* node, const std::string& d) { conflictsOf(node, d); }
+
+void addChild(ParserTreeNode* parent, const std::string& key, const std::string& help, ParserTreeNode* child,
+              int optional) {
+  addChildOf(parent, key, help, child, optional);
+}
+
+void finishNode(ParserTree& tree, ParserTreeNode* parent, ParserTreeNode* node, const std::string& text,
+                int optional) {
+  finishing(tree, parent, node, text, optional);
+}
+
+void readComplexNode(ParserTree& tree, const std::string& a, const std::string& c, std::istream& stream) {
+  DefinitionLines lines(stream);
+  readBlock(tree, a, c, lines);
+}
+
+void applyLinks(ParserTree& tree, const std::string& e, ParserTreeNode* node) { linkItems(tree, e, node); }
+
 void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
   if (!root || !node) return;
   node->mChildren.reserve(node->mChildren.size() + root->mChildren.size());
   node->mHelp.reserve(node->mHelp.size() + root->mChildren.size() + root->mOptionalChildren.size() +
                       root->mSpareChildren.size() + root->mOptions.size());
-  std::string key, help;
-  int optional = 0;
-  for (ParserTreeNode* child = nextChild(root, key, help, optional, true); child;
-       child = nextChild(root, key, help, optional, false)) {
-    if (key.empty()) continue;
-    putChild(node, key, child, optional);
-    if (!child->mIsComplex) node->mHelp.insert_or_assign(key, help);
-    if (!child->mParent) child->mParent = node;
+  // Every map of the root in the order nextChild walks them, a child's help
+  // from the root's help table ("" where it has none).
+  static const std::string kNoHelp;
+  const ParserTreeNode::NodeMap* maps[] = {&root->mChildren, &root->mOptionalChildren, &root->mSpareChildren,
+                                           &root->mOptions};
+  for (int m = 0; m < 4; ++m) {
+    const int optional = m == 1 ? 1 : 0;
+    for (const auto& entry : *maps[m]) {
+      const std::string& key = entry.first;
+      if (key.empty()) continue;
+      ParserTreeNode* child = entry.second;
+      putChild(node, key, child, optional);
+      if (!child->mIsComplex) {
+        auto help = root->mHelp.find(key);
+        putWord(node->mHelp, key, help == root->mHelp.end() ? kNoHelp : help->second);
+      }
+      if (!child->mParent) child->mParent = node;
+    }
   }
 }
 
