@@ -71,13 +71,14 @@ class CompactVector {
   template <typename... Args>
   T* emplace(const T* position, Args&&... args) {
     const std::size_t at = static_cast<std::size_t>(position - data());
-    T value(std::forward<Args>(args)...);
     const std::size_t count = size();
-    if (count == capacity()) regrow(count == 0 ? 1 : count * 2);
+    if (count == capacity()) return growInto(at, std::forward<Args>(args)...);
     T* items = data();
     if (at == count) {
-      ::new (static_cast<void*>(items + count)) T(std::move(value));
+      // Nothing moves: the arguments stay valid while the element is built.
+      ::new (static_cast<void*>(items + count)) T(std::forward<Args>(args)...);
     } else {
+      T value(std::forward<Args>(args)...);
       ::new (static_cast<void*>(items + count)) T(std::move(items[count - 1]));
       std::move_backward(items + at, items + count - 1, items + count);
       items[at] = std::move(value);
@@ -113,6 +114,34 @@ class CompactVector {
     reserve(other.size());
     std::uninitialized_copy(other.begin(), other.end(), data());
     mBlock->size = static_cast<uint32_t>(other.size());
+  }
+
+  // Inserts at `at` into a new block twice as large: the new element is built
+  // there first, while the old block (which the arguments may point into) is
+  // still whole, then the others move over around it.
+  template <typename... Args>
+  T* growInto(std::size_t at, Args&&... args) {
+    const std::size_t count = size();
+    const std::size_t capacity = count == 0 ? 1 : count * 2;
+    if (capacity > std::numeric_limits<uint32_t>::max()) throw std::length_error("CompactVector too long");
+    void* raw = ::operator new(sizeof(Header) + capacity * sizeof(T));
+    Header* block = ::new (raw) Header{0, static_cast<uint32_t>(capacity)};
+    T* items = reinterpret_cast<T*>(block + 1);
+    try {
+      ::new (static_cast<void*>(items + at)) T(std::forward<Args>(args)...);
+    } catch (...) {
+      ::operator delete(raw);
+      throw;
+    }
+    if (mBlock) {
+      std::uninitialized_move(begin(), begin() + at, items);
+      std::uninitialized_move(begin() + at, end(), items + at + 1);
+      std::destroy(begin(), end());
+      ::operator delete(mBlock);
+    }
+    block->size = static_cast<uint32_t>(count + 1);
+    mBlock = block;
+    return items + at;
   }
 
   void regrow(std::size_t capacity) {
