@@ -56,20 +56,32 @@ namespace {
 
 // The flag of one code, 0 for a code that means nothing.
 uint32_t flagOfCode(std::string_view code) {
-  static constexpr std::pair<std::string_view, uint32_t> kCodes[] = {
-      {"k", NODE_FLAG_K},   {"o", NODE_FLAG_O},   {"a", NODE_FLAG_A},   {"m", NODE_FLAG_M},   {"mb", NODE_FLAG_MB},
-      {"ma", NODE_FLAG_MA}, {"lb", NODE_FLAG_LB}, {"le", NODE_FLAG_LE}, {"n", NODE_FLAG_N},   {"sn", NODE_FLAG_SN},
-      {"sb", NODE_FLAG_SB}, {"ob", NODE_FLAG_OB}, {"oe", NODE_FLAG_OE}, {"nc", NODE_FLAG_NC}, {"cf", NODE_FLAG_CF},
-      {"rp", NODE_FLAG_RP}, {"ne", NODE_FLAG_NE}, {"nk", NODE_FLAG_NK}, {"if", NODE_FLAG_IF}, {"wa", NODE_FLAG_WA}};
   if (code.empty() || code.size() > 2) return 0;
-  // Compared byte by byte: the codes are one or two letters.
-  for (const auto& entry : kCodes) {
-    if (entry.first.size() == code.size() && entry.first[0] == code[0] &&
-        (code.size() == 1 || entry.first[1] == code[1])) {
-      return entry.second;
-    }
+  // The codes are one or two letters: the two bytes make one number.
+  constexpr auto pair = [](char first, char second) { return (static_cast<unsigned>(first) << 8) | second; };
+  switch (pair(code[0], code.size() == 2 ? code[1] : '\0')) {
+    case pair('k', 0): return NODE_FLAG_K;
+    case pair('o', 0): return NODE_FLAG_O;
+    case pair('a', 0): return NODE_FLAG_A;
+    case pair('m', 0): return NODE_FLAG_M;
+    case pair('n', 0): return NODE_FLAG_N;
+    case pair('m', 'b'): return NODE_FLAG_MB;
+    case pair('m', 'a'): return NODE_FLAG_MA;
+    case pair('l', 'b'): return NODE_FLAG_LB;
+    case pair('l', 'e'): return NODE_FLAG_LE;
+    case pair('s', 'n'): return NODE_FLAG_SN;
+    case pair('s', 'b'): return NODE_FLAG_SB;
+    case pair('o', 'b'): return NODE_FLAG_OB;
+    case pair('o', 'e'): return NODE_FLAG_OE;
+    case pair('n', 'c'): return NODE_FLAG_NC;
+    case pair('c', 'f'): return NODE_FLAG_CF;
+    case pair('r', 'p'): return NODE_FLAG_RP;
+    case pair('n', 'e'): return NODE_FLAG_NE;
+    case pair('n', 'k'): return NODE_FLAG_NK;
+    case pair('i', 'f'): return NODE_FLAG_IF;
+    case pair('w', 'a'): return NODE_FLAG_WA;
+    default: return 0;
   }
-  return 0;
 }
 
 // Files being read right now, to refuse a file that links itself.
