@@ -139,7 +139,10 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   };
   std::string exceptionText;
   try {
-    if (options.replay) {
+    if (input.lineCount() == 0) {
+      // No line to read (an empty text, or line breaks alone): no records,
+      // and no terminal needs to be made for them.
+    } else if (options.replay) {
       std::vector<CiscoCommandLine*> records;
       std::unique_ptr<std::vector<CiscoCommandLine*>, void (*)(std::vector<CiscoCommandLine*>*)> guard(
           &records, [](std::vector<CiscoCommandLine*>* v) { QxParserUtil::releaseResultRecords(*v); });

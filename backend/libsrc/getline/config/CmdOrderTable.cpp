@@ -1,6 +1,9 @@
 #include "config/CmdOrderTable.h"
 
+#include <atomic>
+#include <mutex>
 #include <unordered_map>
+#include <utility>
 
 #include "grammar/ParserTreeNode.h"
 
@@ -79,19 +82,74 @@ const OrderIndex* indexFor(const std::string& key, const std::vector<CiscoComman
 
 }  // namespace
 
-CmdOrderTable& gCmdOrderTable() {
+namespace {
+
+CmdOrderTable& table() {
   static auto* table = new CmdOrderTable();
   return *table;
 }
 
+struct DeferredFilling {
+  std::mutex mutex;
+  std::atomic<bool> pending{false};
+  std::function<void()> fill;
+};
+
+DeferredFilling& deferredFilling() {
+  static auto* deferred = new DeferredFilling();
+  return *deferred;
+}
+
+thread_local bool tFilling = false;
+
+}  // namespace
+
+CmdOrderTable& gCmdOrderTable() {
+  fillDeferredCmdOrderTable();
+  return table();
+}
+
+void deferCmdOrderTable(std::function<void()> fill) {
+  DeferredFilling& deferred = deferredFilling();
+  std::lock_guard<std::mutex> lock(deferred.mutex);
+  deferred.fill = std::move(fill);
+  deferred.pending.store(deferred.fill != nullptr, std::memory_order_release);
+}
+
+void fillDeferredCmdOrderTable() {
+  DeferredFilling& deferred = deferredFilling();
+  if (tFilling || !deferred.pending.load(std::memory_order_acquire)) return;
+  std::lock_guard<std::mutex> lock(deferred.mutex);
+  if (!deferred.pending.load(std::memory_order_relaxed)) return;
+  std::function<void()> fill = std::move(deferred.fill);
+  deferred.fill = nullptr;
+  // Cleared after the filling, thrown or not: a failed filling is not
+  // tried again by every terminal that follows.
+  struct Done {
+    DeferredFilling& deferred;
+    ~Done() {
+      tFilling = false;
+      deferred.pending.store(false, std::memory_order_release);
+    }
+  } done{deferred};
+  tFilling = true;
+  fill();
+}
+
 void clearCmdOrderTable() {
-  for (auto& entry : gCmdOrderTable()) {
+  {
+    DeferredFilling& deferred = deferredFilling();
+    std::lock_guard<std::mutex> lock(deferred.mutex);
+    deferred.fill = nullptr;
+    deferred.pending.store(false, std::memory_order_release);
+  }
+  for (auto& entry : table()) {
     for (CiscoCommandLine*& templ : entry.second) {
       delete templ;
       templ = nullptr;
     }
   }
-  gCmdOrderTable().clear();
+  table().clear();
   orderIndexes().clear();
   lastFile() = LastFile();
 }

@@ -22,9 +22,20 @@
 
 namespace qxparser {
 
-std::map<VTYModeType, ParserTree*>& gResourceTrees() {
+namespace {
+
+std::map<VTYModeType, ParserTree*>& resourceTrees() {
   static auto* trees = new std::map<VTYModeType, ParserTree*>();
   return *trees;
+}
+
+}  // namespace
+
+// Asked for by every terminal when it is made: the first one after resource
+// creation fills the command-order table.
+std::map<VTYModeType, ParserTree*>& gResourceTrees() {
+  fillDeferredCmdOrderTable();
+  return resourceTrees();
 }
 
 namespace {
@@ -40,32 +51,10 @@ void enterConfiguration(VTY& vty, const char* configure) {
 
 std::atomic<bool> gFreeRecordsOnReturn{true};
 
-}  // namespace
-
-void QxParserUtil::createNewParserResource() {
-  loadKeyFiles();
-  for (int mode = VIEW_MODE; mode <= CONFIG_MODE; ++mode) {
-    auto tree = std::make_unique<ParserTree>(kTopFiles[mode], true);
-    gPromptSuffixes()[tree->mRoot] = kSuffixes[mode];
-    ParserTree*& slot = gResourceTrees()[static_cast<VTYModeType>(mode)];
-    delete slot;
-    slot = tree.release();
-  }
-  clearCmdOrderTable();
-  fillCmdOrderTable();
-}
-
-void QxParserUtil::createParserResource() { createNewParserResource(); }
-
-void QxParserUtil::destroyParserResource() {
-  for (auto& entry : gResourceTrees()) delete entry.second;
-  gResourceTrees().clear();
-  VTY::mTrees4Modes.clear();
-  clearCmdOrderTable();
-}
-
-void QxParserUtil::fillCmdOrderTable() {
-  std::string folder = QXFileSystem::GetSystemResourceFolder() + "files" + platform::kPathSeparator + "commandorder";
+// The command-order table from the order files below `resourceFolder`: each
+// file read as a configuration, its records numbered in file order.
+void fillCmdOrderTableFrom(const std::string& resourceFolder) {
+  std::string folder = resourceFolder + "files" + platform::kPathSeparator + "commandorder";
   for (const Pathname& entry : Pathname(folder).dirContents()) {
     const std::string name = entry.file();
     if (name.empty() || name[0] == '.') continue;
@@ -80,9 +69,9 @@ void QxParserUtil::fillCmdOrderTable() {
     std::string errorText;
     int errorLine = 0;
     try {
-      getCmdInfo(text, records, errorText, errorLine);
+      QxParserUtil::getCmdInfo(text, records, errorText, errorLine);
     } catch (...) {
-      deleteCommands(records);
+      QxParserUtil::deleteCommands(records);
       throw;
     }
     std::vector<CiscoCommandLine*> templates;
@@ -106,6 +95,34 @@ void QxParserUtil::fillCmdOrderTable() {
     }
   }
 }
+
+}  // namespace
+
+void QxParserUtil::createNewParserResource() {
+  loadKeyFiles();
+  for (int mode = VIEW_MODE; mode <= CONFIG_MODE; ++mode) {
+    auto tree = std::make_unique<ParserTree>(kTopFiles[mode], true);
+    gPromptSuffixes()[tree->mRoot] = kSuffixes[mode];
+    ParserTree*& slot = resourceTrees()[static_cast<VTYModeType>(mode)];
+    delete slot;
+    slot = tree.release();
+  }
+  clearCmdOrderTable();
+  // Filled from this resource folder when first needed.
+  const std::string folder = QXFileSystem::GetSystemResourceFolder();
+  deferCmdOrderTable([folder] { fillCmdOrderTableFrom(folder); });
+}
+
+void QxParserUtil::createParserResource() { createNewParserResource(); }
+
+void QxParserUtil::destroyParserResource() {
+  for (auto& entry : resourceTrees()) delete entry.second;
+  resourceTrees().clear();
+  VTY::mTrees4Modes.clear();
+  clearCmdOrderTable();
+}
+
+void QxParserUtil::fillCmdOrderTable() { fillCmdOrderTableFrom(QXFileSystem::GetSystemResourceFolder()); }
 
 void QxParserUtil::setOverwriteCmds() {
   std::set<std::string>& set = ParserToolCase::overwriteCmds();

@@ -34,9 +34,11 @@ enum SEARCHTYPE {
 
 class VTYCONF_API QxParserUtil {
  public:
-  // Loads the KeyFiles, the trees of the three modes and the command-order
-  // table. Throws ParserException when a definition file is missing or
-  // malformed; trees built before the failure stay in place.
+  // Loads the KeyFiles and the trees of the three modes; the command-order
+  // table is filled from this resource folder when the first terminal is made
+  // (or the table is first asked for). Throws ParserException when a
+  // definition file is missing or malformed; trees built before the failure
+  // stay in place.
   static void createNewParserResource();
   static void createParserResource();
   static void destroyParserResource();
