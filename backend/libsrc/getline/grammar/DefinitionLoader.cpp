@@ -443,10 +443,21 @@ void readLines(ParserTree& tree, DefinitionLines& lines) {
   }
 }
 
-// The whole content of an open file, read in a few large pieces.
+// The whole content of an open file: one read into a string of the file's
+// size where the size can be told, else piece by piece.
 std::string wholeFile(std::istream& in) {
   std::string content;
-  char piece[1 << 16];
+  in.seekg(0, std::ios::end);
+  const std::streamoff size = in.tellg();
+  in.seekg(0, std::ios::beg);
+  if (size > 0 && in) {
+    content.resize(static_cast<size_t>(size));
+    in.read(&content[0], size);
+    content.resize(static_cast<size_t>(in.gcount()));
+    if (in.gcount() < size) return content;
+  }
+  in.clear();
+  char piece[4096];
   while (in.read(piece, sizeof piece) || in.gcount() > 0) content.append(piece, static_cast<size_t>(in.gcount()));
   return content;
 }
