@@ -543,14 +543,17 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
                                            &root->mOptions};
   for (int m = 0; m < 4; ++m) {
     const int optional = m == 1 ? 1 : 0;
+    // The map and the help table are both in key order: one walk over each.
+    auto help = root->mHelp.begin();
     for (const auto& entry : *maps[m]) {
       const std::string& key = entry.first;
       if (key.empty()) continue;
       ParserTreeNode* child = entry.second;
       putChild(node, key, child, optional);
       if (!child->mIsComplex) {
-        auto help = root->mHelp.find(key);
-        putWord(node->mHelp, key, help == root->mHelp.end() ? kNoHelp : help->second);
+        while (help != root->mHelp.end() && help->first < key) ++help;
+        const bool found = help != root->mHelp.end() && help->first == key;
+        putWord(node->mHelp, key, found ? help->second : kNoHelp);
       }
       if (!child->mParent) child->mParent = node;
     }
