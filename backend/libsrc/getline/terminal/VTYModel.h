@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "terminal/VTY.h"
+#include "toolkit/TextWords.h"
 
 namespace qxparser {
 
@@ -69,6 +70,8 @@ class VTYModel {
   uint64_t mSavedMajorLevel = 0;
   VTYModeType mModeType = VIEW_MODE;
   std::vector<ParserTreeNode*> mOptionPairs;
+  // The words of the line being walked (kept for the next line's words).
+  std::vector<WordSpan> mWords;
 
  private:
   int tryLine(const std::string& line, int& modeResult, std::string& errorText);
