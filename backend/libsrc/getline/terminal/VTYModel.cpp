@@ -284,7 +284,7 @@ void VTYModel::linkToParent() {
   if (!mCurrentCommand || (mCliMode && !mOwner->mLinkCommands)) return;
   CiscoCommandLine* parent = mLevels->commands.empty() ? nullptr : mLevels->commands.back();
   mCurrentCommand->setParentCommand(parent, parent != nullptr);
-  mCurrentCommand->setOrderNo(mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
+  mOrderNumbers.setOrderNo(*mCurrentCommand, mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
 }
 
 void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode* node, bool isNo, int& status) {

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "terminal/PathOrderMemo.h"
 #include "terminal/VTY.h"
 #include "toolkit/TextWords.h"
 
@@ -72,6 +73,7 @@ class VTYModel {
   std::vector<ParserTreeNode*> mOptionPairs;
   // The words of the line being walked (kept for the next line's words).
   std::vector<WordSpan> mWords;
+  PathOrderMemo mOrderNumbers;
 
  private:
   int tryLine(const std::string& line, int& modeResult, std::string& errorText);
