@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "grammar/DefinitionLoader.h"
+#include "grammar/LookupMemo.h"
 #include "grammar/NodePool.h"
 #include "toolkit/ParserToolCase.h"
 #include "toolkit/ValueKinds.h"
@@ -422,7 +423,26 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
   return best;
 }
 
-ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
+// findChild's steps by value, once the token is no word of the node: the
+// KeyFile tables, then the angle-bracket words, then the pattern words.
+ParserTreeNode* findByValue(ParserTreeNode* node, LookupPlan& plan, const std::string& token) {
+  for (auto& entry : plan.childTables) {
+    if (matchesTable(entry, token)) return entry.node;
+  }
+  for (auto& entry : plan.optionTables) {
+    if (!matchesTable(entry, token)) continue;
+    auto byWord = node->mOptions.find(*entry.name);
+    if (byWord == node->mOptions.end()) continue;
+    if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
+  }
+  withWordSteps(node, plan);
+  for (const auto& entry : plan.angleWords) {
+    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
+  }
+  return firstPatternMatch(plan, token);
+}
+
+ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo) {
   bool exactOption = false;
   LookupPlan* planned = nullptr;
   if (searchedByHash(node)) {
@@ -455,20 +475,16 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
     }
   }
   if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
-  for (auto& entry : plan.childTables) {
-    if (matchesTable(entry, token)) return entry.node;
-  }
-  for (auto& entry : plan.optionTables) {
-    if (!matchesTable(entry, token)) continue;
-    auto byWord = node->mOptions.find(*entry.name);
-    if (byWord == node->mOptions.end()) continue;
-    if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
-  }
-  withWordSteps(node, plan);
-  for (const auto& entry : plan.angleWords) {
-    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
-  }
-  return firstPatternMatch(plan, token);
+  // Without option tables the steps by value read no state of the walk.
+  if (!memo || !plan.optionTables.empty()) return findByValue(node, plan, token);
+  const PlanCache& cache = planCache();
+  memo->useStamp(cache.poolUsed, cache.generation);
+  const size_t hash = LookupMemo::hashOf(node, token);
+  ParserTreeNode* found = nullptr;
+  if (memo->find(node, token, hash, found)) return found;
+  found = findByValue(node, plan, token);
+  memo->keep(node, token, hash, found);
+  return found;
 }
 
 bool hasUpperCase(const std::string& text) {
@@ -482,7 +498,7 @@ bool hasUpperCase(const std::string& text) {
 
 ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
   if (!node) return nullptr;
-  if (planCache().enabled) return findChildPlanned(node, token);
+  if (planCache().enabled) return findChildPlanned(node, token, nullptr);
   bool exactOption = false;
   auto exact = node->mChildren.find(token);
   if (exact != node->mChildren.end()) return exact->second;
@@ -528,10 +544,12 @@ ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
 
 namespace {
 
-ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::string& keyOut, bool abbreviate) {
-  if (ParserTreeNode* found = findChild(node, token)) {
+ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::string& keyOut, bool abbreviate,
+                           LookupMemo* memo) {
+  ParserTreeNode* child = planCache().enabled ? findChildPlanned(node, token, memo) : findChild(node, token);
+  if (child) {
     keyOut = token;
-    return found;
+    return child;
   }
   if (abbreviate) {
     if (ParserTreeNode* found = findAbbreviation(node, token, keyOut)) return found;
@@ -550,35 +568,45 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
   return nullptr;
 }
 
-}  // namespace
-
-ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
-                       bool abbreviate) {
+ParserTreeNode* lookupWith(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                           bool abbreviate, LookupMemo* memo) {
   flagOut = false;
   if (!node) return nullptr;
-  if (ParserTreeNode* found = lookupPass(node, token, keyOut, abbreviate)) return found;
+  if (ParserTreeNode* found = lookupPass(node, token, keyOut, abbreviate, memo)) return found;
   if (!keyOut.empty()) return nullptr;
   // A failed pass changes nothing, so a token that is lower-case already
   // would fail again.
   if (planCache().enabled && !hasUpperCase(token)) return nullptr;
   const std::string lower = ParserToolCase::string2Lower(token);
-  if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate)) {
+  if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate, memo)) {
     keyOut = lower;
     return found;
   }
   return nullptr;
 }
 
+}  // namespace
+
+ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                       bool abbreviate) {
+  return lookupWith(node, token, flagOut, keyOut, abbreviate, nullptr);
+}
+
 ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
                             bool abbreviate, bool* retriedOut) {
+  return lookupToken(node, token, flagOut, keyOut, abbreviate, retriedOut, nullptr);
+}
+
+ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                            bool abbreviate, bool* retriedOut, LookupMemo* memo) {
   keyOut.clear();
-  ParserTreeNode* result = lookup(node, token, flagOut, keyOut, abbreviate);
+  ParserTreeNode* result = lookupWith(node, token, flagOut, keyOut, abbreviate, memo);
   if (!result && keyOut.empty()) {
     if (retriedOut) *retriedOut = true;
     // A lookup that finds nothing and no key has changed no state: the
     // second try gives the same answer.
     if (planCache().enabled) return nullptr;
-    return lookup(node, token, flagOut, keyOut, abbreviate);
+    return lookupWith(node, token, flagOut, keyOut, abbreviate, memo);
   }
   if (node) clearExcluded(node);
   if (retriedOut) *retriedOut = false;

@@ -21,6 +21,8 @@
 
 namespace qxparser {
 
+class LookupMemo;
+
 VTYCONF_API ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token);
 VTYCONF_API ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                    std::string& keyOut, bool abbreviate);
@@ -28,6 +30,10 @@ VTYCONF_API ParserTreeNode* lookup(ParserTreeNode* node, const std::string& toke
 // *retriedOut (read by help); on success the node's exclusions are cleared.
 VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                         std::string& keyOut, bool abbreviate, bool* retriedOut);
+// The same, keeping in `memo` (when given) what the searches by value find,
+// and answering from it what they found before (LookupMemo.h).
+VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
+                                        std::string& keyOut, bool abbreviate, bool* retriedOut, LookupMemo* memo);
 VTYCONF_API ParserTreeNode* findAbbreviation(ParserTreeNode* node, const std::string& token, std::string& keyOut);
 VTYCONF_API ParserTreeNode* enterOption(ParserTreeNode* node, const std::string& token, ParserTreeNode* child);
 VTYCONF_API bool isConflicting(const ParserTreeNode* node, const std::string& word);

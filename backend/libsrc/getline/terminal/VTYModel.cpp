@@ -237,7 +237,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
   while (true) {
     if (at == words.size()) {
       ParserTreeNode* before = mCurrentNode;
-      ParserTreeNode* node = lookupToken(mCurrentNode, kEndToken, flag, key, mCliMode, nullptr);
+      ParserTreeNode* node = lookupToken(mCurrentNode, kEndToken, flag, key, mCliMode, nullptr, &mLookups);
       if (node) {
         acceptToken(true, kEndToken, node, isNo, status);
         if (node->mIsOption) {
@@ -251,7 +251,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     }
     const WordSpan& word = words[at];
     token.assign(line, word.start, word.length);
-    ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr);
+    ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr, &mLookups);
     if (node && node->mIsOption) {
       mOptionPairs.push_back(mCurrentNode);
       mOptionPairs.push_back(node);
@@ -374,12 +374,12 @@ ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& fl
   if (digit == 0 || digit >= token.size()) return nullptr;
   const std::string name = token.substr(0, digit);
   const std::string rest = token.substr(digit);
-  ParserTreeNode* first = lookupToken(mCurrentNode, name, flag, key, mCliMode, nullptr);
+  ParserTreeNode* first = lookupToken(mCurrentNode, name, flag, key, mCliMode, nullptr, &mLookups);
   if (!first) return nullptr;
   mCurrentNode = first;
   recordToken(key, flag, first, isNo);
   if (mCurrentCommand) mCurrentCommand->addTreeNodes(first, key, isNo);
-  ParserTreeNode* result = lookupToken(mCurrentNode, rest, flag, key, mCliMode, nullptr);
+  ParserTreeNode* result = lookupToken(mCurrentNode, rest, flag, key, mCliMode, nullptr, &mLookups);
   key = rest;
   return result;
 }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "grammar/LookupMemo.h"
 #include "terminal/PathOrderMemo.h"
 #include "terminal/VTY.h"
 #include "toolkit/TextWords.h"
@@ -74,6 +75,7 @@ class VTYModel {
   // The words of the line being walked (kept for the next line's words).
   std::vector<WordSpan> mWords;
   PathOrderMemo mOrderNumbers;
+  LookupMemo mLookups;
 
  private:
   int tryLine(const std::string& line, int& modeResult, std::string& errorText);
