@@ -442,6 +442,37 @@ ParserTreeNode* findByValue(ParserTreeNode* node, LookupPlan& plan, const std::s
   return firstPatternMatch(plan, token);
 }
 
+// findChild's steps once the token is no word of the node: complex children
+// and options, the first child, then the steps by value.
+ParserTreeNode* findPastWords(ParserTreeNode* node, LookupPlan& plan, const std::string& token, bool exactOption) {
+  if (!exactOption) {
+    for (ParserTreeNode* child : plan.complexChildren) {
+      if (child->mKeywords.count(token)) return child;
+    }
+    for (ParserTreeNode* child : plan.complexOptions) {
+      if (child->mKeywords.count(token)) {
+        if (ParserTreeNode* entered = enterOption(node, token, child)) return entered;
+      }
+    }
+  }
+  if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
+  return findByValue(node, plan, token);
+}
+
+// findPastWords through `memo`, for a node where it reads no state of the
+// walk: one without options, or whose options hold no KeyFile word and the
+// token is none of them.
+ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, const std::string& token,
+                                  LookupMemo& memo) {
+  memo.useStamp(NodePool::used(), planCache().generation);
+  const size_t hash = LookupMemo::hashOf(node, token);
+  ParserTreeNode* found = nullptr;
+  if (memo.find(node, token, hash, found)) return found;
+  found = findPastWords(node, planned ? *planned : planOf(node), token, false);
+  memo.keep(node, token, hash, found);
+  return found;
+}
+
 ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo) {
   bool exactOption = false;
   LookupPlan* planned = nullptr;
@@ -463,28 +494,13 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token,
       exactOption = true;
     }
   }
+  // Without options nothing past the words reads the state of the walk.
+  if (memo && node->mOptions.empty()) return findPastWordsKept(node, planned, token, *memo);
   LookupPlan& plan = planned ? *planned : planOf(node);
-  if (!exactOption) {
-    for (ParserTreeNode* child : plan.complexChildren) {
-      if (child->mKeywords.count(token)) return child;
-    }
-    for (ParserTreeNode* child : plan.complexOptions) {
-      if (child->mKeywords.count(token)) {
-        if (ParserTreeNode* entered = enterOption(node, token, child)) return entered;
-      }
-    }
+  if (memo && !exactOption && plan.complexOptions.empty() && plan.optionTables.empty()) {
+    return findPastWordsKept(node, &plan, token, *memo);
   }
-  if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
-  // Without option tables the steps by value read no state of the walk.
-  if (!memo || !plan.optionTables.empty()) return findByValue(node, plan, token);
-  const PlanCache& cache = planCache();
-  memo->useStamp(cache.poolUsed, cache.generation);
-  const size_t hash = LookupMemo::hashOf(node, token);
-  ParserTreeNode* found = nullptr;
-  if (memo->find(node, token, hash, found)) return found;
-  found = findByValue(node, plan, token);
-  memo->keep(node, token, hash, found);
-  return found;
+  return findPastWords(node, plan, token, exactOption);
 }
 
 bool hasUpperCase(const std::string& text) {
