@@ -38,9 +38,10 @@ bool abbreviates(const std::string& line, const WordSpan& span, const std::strin
   return true;
 }
 
-// The first two words of a line (where they stand) and how many it holds.
+// The first two words of a line (where they stand) and how many it holds,
+// counted up to three (what the readers tell apart: none, one, two, more).
 struct LineWords {
-  explicit LineWords(const std::string& line) : count(wordSpans(line, spans, 2)) {}
+  explicit LineWords(const std::string& line) : count(wordSpans(line, spans, 2, 3)) {}
   std::string lowered(const std::string& line, size_t i) const {
     return loweredWord(line.substr(spans[i].start, spans[i].length));
   }
