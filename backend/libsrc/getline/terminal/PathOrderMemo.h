@@ -7,12 +7,12 @@
 // configuration repeats the same few paths (every "switchport mode access"),
 // so a terminal keeps the answers it found and looks each path up once. The
 // memo forgets everything when nodes have been made or the table has changed
-// its size since it was filled. Owned by one terminal model; not shared.
+// its size since it was filled, and starts over when it has grown to its
+// limit. Owned by one terminal model; not shared.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 namespace qxparser {
@@ -27,21 +27,25 @@ class PathOrderMemo {
   void setOrderNo(CiscoCommandLine& command, ParserTreeNode* modeNode);
 
  private:
-  using Key = std::vector<const ParserTreeNode*>;
-  struct KeyHash {
-    size_t operator()(const Key& key) const {
-      size_t hash = key.size();
-      for (const ParserTreeNode* node : key) hash = hash * 1000003u ^ (reinterpret_cast<std::uintptr_t>(node) >> 4);
-      return hash;
-    }
+  struct Slot {
+    size_t hash = 0;
+    bool used = false;
+    int number = 0;
+    // The mode node, then the nodes of the path.
+    std::vector<const ParserTreeNode*> nodes;
   };
   // No template fits: the command keeps the number it had.
   static constexpr int kNoFit = INT32_MIN;
+  static constexpr size_t kFirstSlots = 64;
+  static constexpr size_t kMostSlots = 16384;
 
   void forgetIfStale();
+  const Slot* find(size_t hash, const ParserTreeNode* modeNode, const CiscoCommandLine& command) const;
+  void keep(size_t hash, const ParserTreeNode* modeNode, const CiscoCommandLine& command, int number);
+  void grow();
 
-  std::unordered_map<Key, int, KeyHash> mNumbers;
-  Key mKey;  // the key being looked up (kept to spare an allocation)
+  std::vector<Slot> mSlots;
+  size_t mCount = 0;
   size_t mPoolUsed = 0;
   size_t mTableSize = 0;
 };

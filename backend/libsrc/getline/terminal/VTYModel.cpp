@@ -28,7 +28,11 @@ const char* const kSeparators = " \t\r\n";
 
 // A character of kSeparators (tested a character at a time: the library's
 // searches look through the separators for every character).
-bool isSeparator(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+// Every separator is a blank or a control character: most characters are
+// told apart by the first comparison.
+bool isSeparator(char c) {
+  return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || c == '\t' || c == '\r' || c == '\n');
+}
 
 // The words of `line` in one scan (a walk reads every word once, and wants
 // to know at once how many there are).
@@ -232,8 +236,9 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
   // Room in the record for the path at once: a node per word and the end.
   if (mCurrentCommand) mCurrentCommand->reservePath(words.size() - at + 1);
   bool flag = false;
-  std::string key;
-  std::string token;
+  // Buffers kept from line to line: a long word costs no allocation.
+  std::string& key = mKey;
+  std::string& token = mToken;
   while (true) {
     if (at == words.size()) {
       ParserTreeNode* before = mCurrentNode;
@@ -395,9 +400,11 @@ bool VTYModel::bannerStep(const std::string& line) {
     size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
     if (second != std::string::npos && second + 1 < size) mBannerDelimiter = line[second + 1];
   }
-  // One count of the delimiter answers both questions: is it on the line at
-  // all, and does the line open or close a banner.
-  const auto delimiters = std::count(line.begin(), line.end(), mBannerDelimiter);
+  // Whether the delimiter is on the line at all, and whether the line opens
+  // or closes a banner: counted only where it is there (most lines lack it).
+  const size_t firstDelimiter = line.find(mBannerDelimiter);
+  const auto delimiters =
+      firstDelimiter == std::string::npos ? 0 : std::count(line.begin() + firstDelimiter, line.end(), mBannerDelimiter);
   if (mInsideBanner && delimiters == 0) {
     if (mNewLevel) {
       mNewLevel = false;

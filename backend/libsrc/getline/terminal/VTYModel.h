@@ -74,6 +74,8 @@ class VTYModel {
   std::vector<ParserTreeNode*> mOptionPairs;
   // The words of the line being walked (kept for the next line's words).
   std::vector<WordSpan> mWords;
+  std::string mToken;  // the word being looked up
+  std::string mKey;    // the key it was found under
   PathOrderMemo mOrderNumbers;
   LookupMemo mLookups;
 
