@@ -735,6 +735,8 @@ void setLookupPlansEnabled(bool enabled) {
   resetLookupPlans();
 }
 
+bool lookupPlansEnabled() { return planCache().enabled; }
+
 void clearExcluded(ParserTreeNode* node) {
   if (node) node->mExcluded.clear();
 }

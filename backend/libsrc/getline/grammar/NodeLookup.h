@@ -47,8 +47,10 @@ VTYCONF_API void clearExcluded(ParserTreeNode* node);
 // step worked out once; they answer exactly what the plain scans answer. The
 // loader calls resetLookupPlans when it reads KeyFiles; a plan is also
 // dropped whenever a node has been made since it was built. Turning the
-// plans off runs the plain scans (used to compare the two).
+// plans off runs the plain scans (used to compare the two), and terminals
+// then keep no answers either (LookupMemo, their order numbers).
 VTYCONF_API void resetLookupPlans();
 VTYCONF_API void setLookupPlansEnabled(bool enabled);
+VTYCONF_API bool lookupPlansEnabled();
 
 }  // namespace qxparser

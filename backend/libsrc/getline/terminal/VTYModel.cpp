@@ -289,7 +289,12 @@ void VTYModel::linkToParent() {
   if (!mCurrentCommand || (mCliMode && !mOwner->mLinkCommands)) return;
   CiscoCommandLine* parent = mLevels->commands.empty() ? nullptr : mLevels->commands.back();
   mCurrentCommand->setParentCommand(parent, parent != nullptr);
-  mOrderNumbers.setOrderNo(*mCurrentCommand, mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
+  ParserTreeNode* mode = mLevels->nodes.empty() ? nullptr : mLevels->nodes.back();
+  if (lookupPlansEnabled()) {
+    mOrderNumbers.setOrderNo(*mCurrentCommand, mode);
+  } else {
+    mCurrentCommand->setOrderNo(mode);
+  }
 }
 
 void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode* node, bool isNo, int& status) {
