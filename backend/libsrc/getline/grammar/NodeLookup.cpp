@@ -459,11 +459,15 @@ ParserTreeNode* findPastWords(ParserTreeNode* node, LookupPlan& plan, const std:
   return findByValue(node, plan, token);
 }
 
+constexpr size_t kLongestKept = 15;
+
 // findPastWords through `memo`, for a node where it reads no state of the
 // walk: one without options, or whose options hold no KeyFile word and the
 // token is none of them.
 ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, const std::string& token,
                                   LookupMemo& memo) {
+  // Long tokens (descriptions, names) seldom come again: not worth a copy.
+  if (token.size() > kLongestKept) return findPastWords(node, planned ? *planned : planOf(node), token, false);
   memo.useStamp(NodePool::used(), planCache().generation);
   const size_t hash = LookupMemo::hashOf(node, token);
   ParserTreeNode* found = nullptr;
