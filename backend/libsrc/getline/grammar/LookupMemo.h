@@ -1,10 +1,13 @@
 // LookupMemo: what the searches by value found for a node and a token.
 //
-// Once a token is not a word of a node (nor of its complex children), the
-// search goes on through the KeyFile tables, the angle-bracket words and the
-// pattern words; for a node without option tables that search reads no state
-// of the walk, so it gives the same answer for the same node and token every
-// time while the grammar stays as it is. A configuration types the same
+// Once a token is not a word of a node, the search goes on through complex
+// children, the KeyFile tables, the angle-bracket words and the pattern
+// words; where no option takes part (a node without options, or one whose
+// options hold no complex entry or KeyFile word and do not have the token)
+// that search reads no state of the walk, so it gives the same answer for
+// the same node and token every time while the grammar stays as it is. For a
+// large node without options the memo holds the whole search, words
+// included: one probe of it is cheaper than the node's own word table. A configuration types the same
 // values again and again ("0.0.0.255", "255.255.255.0", a word tried at a
 // level it does not belong to), so a terminal keeps those answers, not found
 // included. A search that throws keeps nothing. Owned by one terminal model

@@ -477,7 +477,25 @@ ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, con
   return found;
 }
 
+ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo);
+
+// findChild through `memo` for a node without options, searched by hash:
+// the whole search reads no state of the walk, and one probe of the memo
+// costs less than finding the node's plan and probing its words.
+ParserTreeNode* findChildKept(ParserTreeNode* node, const std::string& token, LookupMemo& memo) {
+  memo.useStamp(NodePool::used(), planCache().generation);
+  const size_t hash = LookupMemo::hashOf(node, token);
+  ParserTreeNode* found = nullptr;
+  if (memo.find(node, token, hash, found)) return found;
+  found = findChildPlanned(node, token, nullptr);
+  memo.keep(node, token, hash, found);
+  return found;
+}
+
 ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo) {
+  if (memo && node->mOptions.empty() && token.size() <= kLongestKept && searchedByHash(node)) {
+    return findChildKept(node, token, *memo);
+  }
   bool exactOption = false;
   LookupPlan* planned = nullptr;
   if (searchedByHash(node)) {
