@@ -78,7 +78,7 @@ class LookupMemo {
   };
 
   static constexpr size_t kFirstSlots = 256;
-  static constexpr size_t kMostSlots = 32768;
+  static constexpr size_t kMostSlots = 16384;
 
   void clear() {
     mSlots.clear();
