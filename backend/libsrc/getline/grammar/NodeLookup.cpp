@@ -459,11 +459,12 @@ ParserTreeNode* findPastWords(ParserTreeNode* node, LookupPlan& plan, const std:
   return findByValue(node, plan, token);
 }
 
+// Tokens longer than this are not kept (no copy of them is made).
 constexpr size_t kLongestKept = 15;
 
 // findPastWords through `memo`, for a node where it reads no state of the
-// walk: one without options, or whose options hold no KeyFile word and the
-// token is none of them.
+// walk: one without options, or whose options hold no complex entry and no
+// KeyFile word and do not have the token.
 ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, const std::string& token,
                                   LookupMemo& memo) {
   // Long tokens (descriptions, names) seldom come again: not worth a copy.

@@ -30,8 +30,9 @@ VTYCONF_API ParserTreeNode* lookup(ParserTreeNode* node, const std::string& toke
 // *retriedOut (read by help); on success the node's exclusions are cleared.
 VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                         std::string& keyOut, bool abbreviate, bool* retriedOut);
-// The same, keeping in `memo` (when given) what the searches by value find,
-// and answering from it what they found before (LookupMemo.h).
+// The same, keeping in `memo` (when given) what the searches that read no
+// state of the walk find, and answering from it what they found before
+// (LookupMemo.h).
 VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                         std::string& keyOut, bool abbreviate, bool* retriedOut, LookupMemo* memo);
 VTYCONF_API ParserTreeNode* findAbbreviation(ParserTreeNode* node, const std::string& token, std::string& keyOut);

@@ -26,10 +26,10 @@ namespace {
 
 const char* const kSeparators = " \t\r\n";
 
-// A character of kSeparators (tested a character at a time: the library's
-// searches look through the separators for every character).
-// Every separator is a blank or a control character: most characters are
-// told apart by the first comparison.
+// A character of kSeparators, tested a character at a time (the library's
+// searches look through the separators for every character). Every separator
+// is a blank or a control character: most characters are told apart by the
+// first comparison.
 bool isSeparator(char c) {
   return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || c == '\t' || c == '\r' || c == '\n');
 }
