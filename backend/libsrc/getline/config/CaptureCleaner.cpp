@@ -16,11 +16,17 @@ bool isAlnum(char c) { return isDigit(c) || isUpper(c) || isLower(c); }
 bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r'; }
 
 // `line` without the blanks, tabs and carriage returns at its ends.
+// (A character at a time: the library's searches look through the set for
+// every character.)
+bool isTrimmed(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+
 std::string_view trimmed(std::string_view line) {
-  const size_t start = line.find_first_not_of(" \t\r");
-  if (start == std::string_view::npos) return {};
-  const size_t end = line.find_last_not_of(" \t\r");
-  return line.substr(start, end - start + 1);
+  size_t start = 0;
+  size_t end = line.size();
+  while (start < end && isTrimmed(line[start])) ++start;
+  if (start == end) return {};
+  while (isTrimmed(line[end - 1])) --end;
+  return line.substr(start, end - start);
 }
 
 // Steps over characters that `take` accepts from `at`; how many were taken.

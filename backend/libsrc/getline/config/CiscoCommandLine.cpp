@@ -180,7 +180,7 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
       // Prose keeps its typed order: the words join the first one.
       std::string joined = *entry.words.begin() + " " + word;
       entry.words.erase(entry.words.begin());
-      entry.words.insert(joined);
+      entry.words.insert(std::move(joined));
     } else {
       entry.words.insert(word);
     }

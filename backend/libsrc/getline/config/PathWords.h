@@ -53,29 +53,22 @@ class PathWords {
   }
 
   // False when the word was there already.
-  bool insert(std::string word) {
+  bool insert(const std::string& word) {
+    if (mState == kNoWord) {
+      // Copied straight into place: most nodes match one word.
+      mOne = word;
+      mState = kOneWord;
+      return true;
+    }
+    return insertMore(std::string(word));
+  }
+  bool insert(std::string&& word) {
     if (mState == kNoWord) {
       mOne = std::move(word);
       mState = kOneWord;
       return true;
     }
-    if (mState == kOneWord) {
-      if (mOne == word) return false;
-      auto* words = new std::vector<std::string>();
-      words->reserve(2);
-      const bool before = word < mOne;
-      if (before) words->push_back(std::move(word));
-      words->push_back(std::move(mOne));
-      if (!before) words->push_back(std::move(word));
-      mOne = std::string();
-      mState = toState(words);
-      return true;
-    }
-    std::vector<std::string>& words = *more();
-    const auto at = std::lower_bound(words.begin(), words.end(), word);
-    if (at != words.end() && *at == word) return false;
-    words.insert(at, std::move(word));
-    return true;
+    return insertMore(std::move(word));
   }
   template <typename Iterator>
   void insert(Iterator first, Iterator last) {
@@ -110,6 +103,26 @@ class PathWords {
   // vector that holds two or more (an address is never 0 or 1).
   static constexpr std::uintptr_t kNoWord = 0;
   static constexpr std::uintptr_t kOneWord = 1;
+
+  bool insertMore(std::string&& word) {
+    if (mState == kOneWord) {
+      if (mOne == word) return false;
+      auto* words = new std::vector<std::string>();
+      words->reserve(2);
+      const bool before = word < mOne;
+      if (before) words->push_back(std::move(word));
+      words->push_back(std::move(mOne));
+      if (!before) words->push_back(std::move(word));
+      mOne = std::string();
+      mState = toState(words);
+      return true;
+    }
+    std::vector<std::string>& words = *more();
+    const auto at = std::lower_bound(words.begin(), words.end(), word);
+    if (at != words.end() && *at == word) return false;
+    words.insert(at, std::move(word));
+    return true;
+  }
 
   static std::uintptr_t toState(std::vector<std::string>* words) { return reinterpret_cast<std::uintptr_t>(words); }
   bool hasMore() const { return mState > kOneWord; }

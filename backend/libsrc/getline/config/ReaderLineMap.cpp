@@ -24,15 +24,20 @@ class BannerTracker {
  public:
   // Whether `line`, the next non-empty line, is banner text.
   bool isText(std::string_view line) {
-    size_t lead = line.find_first_not_of(" \t");
-    if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
+    size_t lead = 0;
+    while (lead < line.size() && (line[lead] == ' ' || line[lead] == '\t')) ++lead;
+    if (line.size() - lead >= 4 && line.compare(lead, 4, "bann") == 0) {
       size_t first = line.find(' ');
       size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
       if (second != std::string::npos && second + 1 < line.size()) mDelimiter = line[second + 1];
     }
-    if (mInside && (mDelimiter == '\0' || line.find(mDelimiter) == std::string::npos)) return true;
+    // Most lines lack the delimiter: counted only from where it first stands.
+    const size_t mark = mDelimiter == '\0' ? std::string::npos : line.find(mDelimiter);
+    if (mInside && mark == std::string::npos) return true;
     const bool text = mInside && closesWithText(line, mDelimiter);
-    if (mDelimiter != '\0' && std::count(line.begin(), line.end(), mDelimiter) % 2 != 0) mInside = !mInside;
+    if (mark != std::string::npos && std::count(line.begin() + mark, line.end(), mDelimiter) % 2 != 0) {
+      mInside = !mInside;
+    }
     return text;
   }
 

@@ -19,17 +19,29 @@ namespace {
 
 const char* const kBlanks = " \t";
 const std::string kInvalidInput = "% Invalid input detected at ^";
+const std::string kEnable = "enable";
+const std::string kEnd = "end";
+const std::string kExit = "exit";
+const std::string kDo = "do";
+const std::string kExitPrefix = "exit-";
 
 
 
-// `word` abbreviates `full` (at least `least` letters of it).
-bool abbreviates(const std::string& word, const std::string& full, size_t least) {
-  return word.size() >= least && word.size() <= full.size() && full.compare(0, word.size(), word) == 0;
+// The word at `span` of `line`, lower-cased, abbreviates `full` (at least
+// `least` letters of it).
+bool abbreviates(const std::string& line, const WordSpan& span, const std::string& full, size_t least) {
+  if (span.length < least || span.length > full.size()) return false;
+  for (size_t i = 0; i < span.length; ++i) {
+    const char c = line[span.start + i];
+    if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) != full[i]) return false;
+  }
+  return true;
 }
 
-// The first two words of a line (where they stand) and how many it holds.
+// The first two words of a line (where they stand) and how many it holds,
+// counted up to three (what the readers tell apart: none, one, two, more).
 struct LineWords {
-  explicit LineWords(const std::string& line) : count(wordSpans(line, spans, 2)) {}
+  explicit LineWords(const std::string& line) : count(wordSpans(line, spans, 2, 3)) {}
   std::string lowered(const std::string& line, size_t i) const {
     return loweredWord(line.substr(spans[i].start, spans[i].length));
   }
@@ -39,8 +51,8 @@ struct LineWords {
 };
 
 bool isConfigureTerminal(const std::string& line, const LineWords& words) {
-  if (words.count == 0 || words.count > 2 || !abbreviates(words.lowered(line, 0), "configure", 4)) return false;
-  return words.count == 1 || abbreviates(words.lowered(line, 1), "terminal", 1);
+  if (words.count == 0 || words.count > 2 || !abbreviates(line, words.spans[0], "configure", 4)) return false;
+  return words.count == 1 || abbreviates(line, words.spans[1], "terminal", 1);
 }
 
 // Hands `take` the non-empty pieces of a text cut at carriage returns and
@@ -142,7 +154,7 @@ class Reading {
   // hold no configuration. True when the line was taken here.
   bool steers(const std::string& text, const LineWords& words) {
     if (words.count == 0 || text[words.spans[0].start] == '!') return true;
-    const std::string first = words.lowered(text, 0);
+    const WordSpan& first = words.spans[0];
     const bool configuring = mVty.currentMode() == CONFIG_MODE;
     if (isConfigureTerminal(text, words)) {
       if (!configuring) mVty.parse("configure terminal \n", true, nullptr);
@@ -150,20 +162,21 @@ class Reading {
     }
     // A script written for the exec prompt begins with "enable": no
     // configuration, and no error where the reading already configures.
-    if (first == "enable" && words.count == 1) return true;
+    if (words.count == 1 && wordIs(text, first, kEnable)) return true;
     if (!configuring) return false;
-    if (first == "end" || first == "exit") {
-      mVty.parse(first, true, nullptr);
+    if (wordIs(text, first, kEnd) || wordIs(text, first, kExit)) {
+      mVty.parse(words.lowered(text, 0), true, nullptr);
       return true;
     }
-    if (first == "do") return true;
-    if (first.compare(0, 5, "exit-") == 0) {
+    if (wordIs(text, first, kDo)) return true;
+    if (first.length >= kExitPrefix.size() && wordIs(text, WordSpan{first.start, kExitPrefix.size()}, kExitPrefix)) {
       // exit-address-family and its kind leave the mode inside a mode that
       // they name (the last word: family, interface, topology, policy...).
       // Where that mode is not the innermost one (a line before it was
       // refused or left it), the next lines find their level as replayed
       // text does.
-      const std::string named = first.substr(first.rfind('-') + 1);
+      const std::string lowered = words.lowered(text, 0);
+      const std::string named = lowered.substr(lowered.rfind('-') + 1);
       if (mVty.levelCount() >= 3 && mVty.innermostLevelText().find(named) != std::string::npos) {
         mVty.parse("exit", true, nullptr);
       }

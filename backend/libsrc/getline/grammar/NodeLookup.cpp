@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "grammar/DefinitionLoader.h"
+#include "grammar/LookupMemo.h"
 #include "grammar/NodePool.h"
 #include "toolkit/ParserToolCase.h"
 #include "toolkit/ValueKinds.h"
@@ -422,7 +423,80 @@ ParserTreeNode* firstPatternMatch(const LookupPlan& plan, const std::string& tok
   return best;
 }
 
-ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token) {
+// findChild's steps by value, once the token is no word of the node: the
+// KeyFile tables, then the angle-bracket words, then the pattern words.
+ParserTreeNode* findByValue(ParserTreeNode* node, LookupPlan& plan, const std::string& token) {
+  for (auto& entry : plan.childTables) {
+    if (matchesTable(entry, token)) return entry.node;
+  }
+  for (auto& entry : plan.optionTables) {
+    if (!matchesTable(entry, token)) continue;
+    auto byWord = node->mOptions.find(*entry.name);
+    if (byWord == node->mOptions.end()) continue;
+    if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
+  }
+  withWordSteps(node, plan);
+  for (const auto& entry : plan.angleWords) {
+    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
+  }
+  return firstPatternMatch(plan, token);
+}
+
+// findChild's steps once the token is no word of the node: complex children
+// and options, the first child, then the steps by value.
+ParserTreeNode* findPastWords(ParserTreeNode* node, LookupPlan& plan, const std::string& token, bool exactOption) {
+  if (!exactOption) {
+    for (ParserTreeNode* child : plan.complexChildren) {
+      if (child->mKeywords.count(token)) return child;
+    }
+    for (ParserTreeNode* child : plan.complexOptions) {
+      if (child->mKeywords.count(token)) {
+        if (ParserTreeNode* entered = enterOption(node, token, child)) return entered;
+      }
+    }
+  }
+  if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
+  return findByValue(node, plan, token);
+}
+
+// Tokens longer than this are not kept (no copy of them is made).
+constexpr size_t kLongestKept = 15;
+
+// findPastWords through `memo`, for a node where it reads no state of the
+// walk: one without options, or whose options hold no complex entry and no
+// KeyFile word and do not have the token.
+ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, const std::string& token,
+                                  LookupMemo& memo) {
+  // Long tokens (descriptions, names) seldom come again: not worth a copy.
+  if (token.size() > kLongestKept) return findPastWords(node, planned ? *planned : planOf(node), token, false);
+  memo.useStamp(NodePool::used(), planCache().generation);
+  const size_t hash = LookupMemo::hashOf(node, token);
+  ParserTreeNode* found = nullptr;
+  if (memo.find(node, token, hash, found)) return found;
+  found = findPastWords(node, planned ? *planned : planOf(node), token, false);
+  memo.keep(node, token, hash, found);
+  return found;
+}
+
+ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo);
+
+// findChild through `memo` for a node without options, searched by hash:
+// the whole search reads no state of the walk, and one probe of the memo
+// costs less than finding the node's plan and probing its words.
+ParserTreeNode* findChildKept(ParserTreeNode* node, const std::string& token, LookupMemo& memo) {
+  memo.useStamp(NodePool::used(), planCache().generation);
+  const size_t hash = LookupMemo::hashOf(node, token);
+  ParserTreeNode* found = nullptr;
+  if (memo.find(node, token, hash, found)) return found;
+  found = findChildPlanned(node, token, nullptr);
+  memo.keep(node, token, hash, found);
+  return found;
+}
+
+ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token, LookupMemo* memo) {
+  if (memo && node->mOptions.empty() && token.size() <= kLongestKept && searchedByHash(node)) {
+    return findChildKept(node, token, *memo);
+  }
   bool exactOption = false;
   LookupPlan* planned = nullptr;
   if (searchedByHash(node)) {
@@ -443,32 +517,13 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token)
       exactOption = true;
     }
   }
+  // Without options nothing past the words reads the state of the walk.
+  if (memo && node->mOptions.empty()) return findPastWordsKept(node, planned, token, *memo);
   LookupPlan& plan = planned ? *planned : planOf(node);
-  if (!exactOption) {
-    for (ParserTreeNode* child : plan.complexChildren) {
-      if (child->mKeywords.count(token)) return child;
-    }
-    for (ParserTreeNode* child : plan.complexOptions) {
-      if (child->mKeywords.count(token)) {
-        if (ParserTreeNode* entered = enterOption(node, token, child)) return entered;
-      }
-    }
+  if (memo && !exactOption && plan.complexOptions.empty() && plan.optionTables.empty()) {
+    return findPastWordsKept(node, &plan, token, *memo);
   }
-  if (node->hasFlag(NODE_FLAG_FIRST) && !node->mChildren.empty()) return node->mChildren.begin()->second;
-  for (auto& entry : plan.childTables) {
-    if (matchesTable(entry, token)) return entry.node;
-  }
-  for (auto& entry : plan.optionTables) {
-    if (!matchesTable(entry, token)) continue;
-    auto byWord = node->mOptions.find(*entry.name);
-    if (byWord == node->mOptions.end()) continue;
-    if (ParserTreeNode* entered = enterOption(node, token, byWord->second)) return entered;
-  }
-  withWordSteps(node, plan);
-  for (const auto& entry : plan.angleWords) {
-    if (ParserToolCase::isValidInput(*entry.first, token)) return entry.second;
-  }
-  return firstPatternMatch(plan, token);
+  return findPastWords(node, plan, token, exactOption);
 }
 
 bool hasUpperCase(const std::string& text) {
@@ -482,7 +537,7 @@ bool hasUpperCase(const std::string& text) {
 
 ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
   if (!node) return nullptr;
-  if (planCache().enabled) return findChildPlanned(node, token);
+  if (planCache().enabled) return findChildPlanned(node, token, nullptr);
   bool exactOption = false;
   auto exact = node->mChildren.find(token);
   if (exact != node->mChildren.end()) return exact->second;
@@ -528,10 +583,12 @@ ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
 
 namespace {
 
-ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::string& keyOut, bool abbreviate) {
-  if (ParserTreeNode* found = findChild(node, token)) {
+ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::string& keyOut, bool abbreviate,
+                           LookupMemo* memo) {
+  ParserTreeNode* child = planCache().enabled ? findChildPlanned(node, token, memo) : findChild(node, token);
+  if (child) {
     keyOut = token;
-    return found;
+    return child;
   }
   if (abbreviate) {
     if (ParserTreeNode* found = findAbbreviation(node, token, keyOut)) return found;
@@ -550,35 +607,45 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
   return nullptr;
 }
 
-}  // namespace
-
-ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
-                       bool abbreviate) {
+ParserTreeNode* lookupWith(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                           bool abbreviate, LookupMemo* memo) {
   flagOut = false;
   if (!node) return nullptr;
-  if (ParserTreeNode* found = lookupPass(node, token, keyOut, abbreviate)) return found;
+  if (ParserTreeNode* found = lookupPass(node, token, keyOut, abbreviate, memo)) return found;
   if (!keyOut.empty()) return nullptr;
   // A failed pass changes nothing, so a token that is lower-case already
   // would fail again.
   if (planCache().enabled && !hasUpperCase(token)) return nullptr;
   const std::string lower = ParserToolCase::string2Lower(token);
-  if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate)) {
+  if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate, memo)) {
     keyOut = lower;
     return found;
   }
   return nullptr;
 }
 
+}  // namespace
+
+ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                       bool abbreviate) {
+  return lookupWith(node, token, flagOut, keyOut, abbreviate, nullptr);
+}
+
 ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
                             bool abbreviate, bool* retriedOut) {
+  return lookupToken(node, token, flagOut, keyOut, abbreviate, retriedOut, nullptr);
+}
+
+ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut, std::string& keyOut,
+                            bool abbreviate, bool* retriedOut, LookupMemo* memo) {
   keyOut.clear();
-  ParserTreeNode* result = lookup(node, token, flagOut, keyOut, abbreviate);
+  ParserTreeNode* result = lookupWith(node, token, flagOut, keyOut, abbreviate, memo);
   if (!result && keyOut.empty()) {
     if (retriedOut) *retriedOut = true;
     // A lookup that finds nothing and no key has changed no state: the
     // second try gives the same answer.
     if (planCache().enabled) return nullptr;
-    return lookup(node, token, flagOut, keyOut, abbreviate);
+    return lookupWith(node, token, flagOut, keyOut, abbreviate, memo);
   }
   if (node) clearExcluded(node);
   if (retriedOut) *retriedOut = false;
@@ -690,6 +757,8 @@ void setLookupPlansEnabled(bool enabled) {
   planCache().enabled = enabled;
   resetLookupPlans();
 }
+
+bool lookupPlansEnabled() { return planCache().enabled; }
 
 void clearExcluded(ParserTreeNode* node) {
   if (node) node->mExcluded.clear();

@@ -21,6 +21,8 @@
 
 namespace qxparser {
 
+class LookupMemo;
+
 VTYCONF_API ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token);
 VTYCONF_API ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                    std::string& keyOut, bool abbreviate);
@@ -28,6 +30,11 @@ VTYCONF_API ParserTreeNode* lookup(ParserTreeNode* node, const std::string& toke
 // *retriedOut (read by help); on success the node's exclusions are cleared.
 VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
                                         std::string& keyOut, bool abbreviate, bool* retriedOut);
+// The same, keeping in `memo` (when given) what the searches that read no
+// state of the walk find, and answering from it what they found before
+// (LookupMemo.h).
+VTYCONF_API ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool& flagOut,
+                                        std::string& keyOut, bool abbreviate, bool* retriedOut, LookupMemo* memo);
 VTYCONF_API ParserTreeNode* findAbbreviation(ParserTreeNode* node, const std::string& token, std::string& keyOut);
 VTYCONF_API ParserTreeNode* enterOption(ParserTreeNode* node, const std::string& token, ParserTreeNode* child);
 VTYCONF_API bool isConflicting(const ParserTreeNode* node, const std::string& word);
@@ -41,8 +48,10 @@ VTYCONF_API void clearExcluded(ParserTreeNode* node);
 // step worked out once; they answer exactly what the plain scans answer. The
 // loader calls resetLookupPlans when it reads KeyFiles; a plan is also
 // dropped whenever a node has been made since it was built. Turning the
-// plans off runs the plain scans (used to compare the two).
+// plans off runs the plain scans (used to compare the two), and terminals
+// then keep no answers either (LookupMemo, their order numbers).
 VTYCONF_API void resetLookupPlans();
 VTYCONF_API void setLookupPlansEnabled(bool enabled);
+VTYCONF_API bool lookupPlansEnabled();
 
 }  // namespace qxparser

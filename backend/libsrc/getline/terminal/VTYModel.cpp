@@ -26,35 +26,30 @@ namespace {
 
 const char* const kSeparators = " \t\r\n";
 
-// find_first_of / find_first_not_of over kSeparators, a character at a time
-// (the library's versions search the separators for every character).
-bool isSeparator(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
-
-size_t nextSeparator(const std::string& line, size_t from) {
-  for (size_t i = from; i < line.size(); ++i) {
-    if (isSeparator(line[i])) return i;
-  }
-  return std::string::npos;
+// A character of kSeparators, tested a character at a time (the library's
+// searches look through the separators for every character). Every separator
+// is a blank or a control character: most characters are told apart by the
+// first comparison.
+bool isSeparator(char c) {
+  return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || c == '\t' || c == '\r' || c == '\n');
 }
 
-size_t nextWord(const std::string& line, size_t from) {
-  for (size_t i = from; i < line.size(); ++i) {
-    if (!isSeparator(line[i])) return i;
+// The words of `line` in one scan (a walk reads every word once, and wants
+// to know at once how many there are).
+void cutWords(const std::string& line, std::vector<WordSpan>& words) {
+  words.clear();
+  const char* const text = line.data();
+  const size_t size = line.size();
+  size_t i = 0;
+  while (true) {
+    while (i < size && isSeparator(text[i])) ++i;
+    if (i == size) return;
+    const size_t start = i;
+    while (i < size && !isSeparator(text[i])) ++i;
+    words.push_back(WordSpan{start, i - start});
   }
-  return std::string::npos;
 }
 
-// Words from `start` to the line's end.
-size_t wordsFrom(const std::string& line, size_t start) {
-  size_t count = 0;
-  bool inWord = false;
-  for (size_t i = start; i < line.size(); ++i) {
-    const bool separator = isSeparator(line[i]);
-    if (!separator && !inWord) ++count;
-    inWord = !separator;
-  }
-  return count;
-}
 const std::string kEndToken = "\n";
 const std::string kInvalidInput = "% Invalid input detected at ^";
 const std::string kIncomplete = "% Incomplete command.";
@@ -182,6 +177,7 @@ int VTYModel::tryLine(const std::string& line, int& modeResult, std::string& err
     mMajorLevel = mLevels->texts.size();
     return status;
   }
+  cutWords(line, mWords);
   bool climbed = false;
   while (!mLevels->nodes.empty() && status == 2) {
     walkLine(line, modeResult, status, errorText);
@@ -218,42 +214,35 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     errorText.clear();
     return;
   }
-  size_t start = nextWord(line, 0);
-  if (start == std::string::npos) {
+  const std::vector<WordSpan>& words = mWords;
+  if (words.empty()) {
     status = 0;
     return;
   }
-  size_t end = nextSeparator(line, start + 1);
-  const WordSpan first{start, (end == std::string::npos ? line.size() : end) - start};
-  if (line[start] == '!') {
+  if (line[words[0].start] == '!') {
     status = 0;
     return;
   }
-  if (mLevels->texts.empty() && wordIs(line, first, kVersionWord)) {
+  if (mLevels->texts.empty() && wordIs(line, words[0], kVersionWord)) {
     status = 0;
     return;
   }
   bool isNo = false;
-  auto advance = [&]() {
-    start = end == std::string::npos ? std::string::npos : nextWord(line, end);
-    end = start == std::string::npos ? std::string::npos : nextSeparator(line, start + 1);
-  };
-  if (wordIs(line, first, kNoWord)) {
-    size_t next = end == std::string::npos ? std::string::npos : nextWord(line, end);
-    if (next != std::string::npos) {
-      isNo = true;
-      advance();
-    }
+  size_t at = 0;
+  if (words.size() > 1 && wordIs(line, words[0], kNoWord)) {
+    isNo = true;
+    at = 1;
   }
   // Room in the record for the path at once: a node per word and the end.
-  if (mCurrentCommand && start != std::string::npos) mCurrentCommand->reservePath(wordsFrom(line, start) + 1);
+  if (mCurrentCommand) mCurrentCommand->reservePath(words.size() - at + 1);
   bool flag = false;
-  std::string key;
-  std::string token;
+  // Buffers kept from line to line: a long word costs no allocation.
+  std::string& key = mKey;
+  std::string& token = mToken;
   while (true) {
-    if (start == std::string::npos) {
+    if (at == words.size()) {
       ParserTreeNode* before = mCurrentNode;
-      ParserTreeNode* node = lookupToken(mCurrentNode, kEndToken, flag, key, mCliMode, nullptr);
+      ParserTreeNode* node = lookupToken(mCurrentNode, kEndToken, flag, key, mCliMode, nullptr, &mLookups);
       if (node) {
         acceptToken(true, kEndToken, node, isNo, status);
         if (node->mIsOption) {
@@ -265,8 +254,9 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
       }
       break;
     }
-    token.assign(line, start, end == std::string::npos ? std::string::npos : end - start);
-    ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr);
+    const WordSpan& word = words[at];
+    token.assign(line, word.start, word.length);
+    ParserTreeNode* node = lookupToken(mCurrentNode, token, flag, key, mCliMode, nullptr, &mLookups);
     if (node && node->mIsOption) {
       mOptionPairs.push_back(mCurrentNode);
       mOptionPairs.push_back(node);
@@ -275,7 +265,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     if (node) {
       acceptToken(flag, key, node, isNo, status);
     } else {
-      if (start > mOwner->mLastErrorOffset) mOwner->mLastErrorOffset = start;
+      if (word.start > mOwner->mLastErrorOffset) mOwner->mLastErrorOffset = word.start;
       if (mCliMode) {
         rejectToken("", isNo, status, errorText);
       } else {
@@ -285,7 +275,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
       }
       break;
     }
-    advance();
+    ++at;
   }
   if (status == 0) {
     finishCommand(isNo, modeResult);
@@ -299,7 +289,12 @@ void VTYModel::linkToParent() {
   if (!mCurrentCommand || (mCliMode && !mOwner->mLinkCommands)) return;
   CiscoCommandLine* parent = mLevels->commands.empty() ? nullptr : mLevels->commands.back();
   mCurrentCommand->setParentCommand(parent, parent != nullptr);
-  mCurrentCommand->setOrderNo(mLevels->nodes.empty() ? nullptr : mLevels->nodes.back());
+  ParserTreeNode* mode = mLevels->nodes.empty() ? nullptr : mLevels->nodes.back();
+  if (lookupPlansEnabled()) {
+    mOrderNumbers.setOrderNo(*mCurrentCommand, mode);
+  } else {
+    mCurrentCommand->setOrderNo(mode);
+  }
 }
 
 void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode* node, bool isNo, int& status) {
@@ -349,35 +344,38 @@ void VTYModel::rejectToken(const std::string& token, bool isNo, int& status, std
 }
 
 void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNode* node, bool isNo) {
-  std::string prefix;
+  // A node's text written in front of the token is followed by a blank.
+  const std::string* prefix = nullptr;
   const std::string* word = &token;
   if (node) {
     if (node->hasFlag(NODE_FLAG_MB) && !isNo) {
-      prefix = node->mText + " ";
+      prefix = &node->mText;
     } else if (node->hasFlag(NODE_FLAG_RP)) {
       word = &node->mText;
     }
   }
   // Appended piece by piece: this runs for every word of every line.
+  for (std::string* text : {&mInfoLine, &mCompleteLine}) {
+    if (prefix) {
+      text->append(*prefix);
+      text->push_back(' ');
+    }
+  }
   if (token == kEndToken) {
-    mInfoLine += prefix;
-    mInfoLine += '\n';
-    mCompleteLine += prefix;
-    mCompleteLine += '\n';
+    mInfoLine.push_back('\n');
+    mCompleteLine.push_back('\n');
     return;
   }
-  if (!prefix.empty()) mInfoLine += prefix;
   if (isValue) {
-    mInfoLine += '<';
-    mInfoLine += *word;
-    mInfoLine += '>';
+    mInfoLine.push_back('<');
+    mInfoLine.append(*word);
+    mInfoLine.push_back('>');
   } else {
-    mInfoLine += *word;
+    mInfoLine.append(*word);
   }
-  mInfoLine += ' ';
-  if (!prefix.empty()) mCompleteLine += prefix;
-  mCompleteLine += *word;
-  mCompleteLine += ' ';
+  mInfoLine.push_back(' ');
+  mCompleteLine.append(*word);
+  mCompleteLine.push_back(' ');
 }
 
 ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo) {
@@ -386,26 +384,33 @@ ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& fl
   if (digit == 0 || digit >= token.size()) return nullptr;
   const std::string name = token.substr(0, digit);
   const std::string rest = token.substr(digit);
-  ParserTreeNode* first = lookupToken(mCurrentNode, name, flag, key, mCliMode, nullptr);
+  ParserTreeNode* first = lookupToken(mCurrentNode, name, flag, key, mCliMode, nullptr, &mLookups);
   if (!first) return nullptr;
   mCurrentNode = first;
   recordToken(key, flag, first, isNo);
   if (mCurrentCommand) mCurrentCommand->addTreeNodes(first, key, isNo);
-  ParserTreeNode* result = lookupToken(mCurrentNode, rest, flag, key, mCliMode, nullptr);
+  ParserTreeNode* result = lookupToken(mCurrentNode, rest, flag, key, mCliMode, nullptr, &mLookups);
   key = rest;
   return result;
 }
 
 bool VTYModel::bannerStep(const std::string& line) {
-  size_t lead = line.find_first_not_of(" \t");
-  if (lead != std::string::npos && line.compare(lead, 4, "bann") == 0) {
+  const size_t size = line.size();
+  size_t lead = 0;
+  while (lead < size && (line[lead] == ' ' || line[lead] == '\t')) ++lead;
+  if (size - lead >= 4 && line.compare(lead, 4, "bann", 4) == 0) {
     // The delimiter stands behind the second blank, counted from the line's
     // start (leading blanks count).
     size_t first = line.find(' ');
     size_t second = first == std::string::npos ? std::string::npos : line.find(' ', first + 1);
-    if (second != std::string::npos && second + 1 < line.size()) mBannerDelimiter = line[second + 1];
+    if (second != std::string::npos && second + 1 < size) mBannerDelimiter = line[second + 1];
   }
-  if (mInsideBanner && line.find(mBannerDelimiter) == std::string::npos) {
+  // Whether the delimiter is on the line at all, and whether the line opens
+  // or closes a banner: counted only where it is there (most lines lack it).
+  const size_t firstDelimiter = line.find(mBannerDelimiter);
+  const auto delimiters =
+      firstDelimiter == std::string::npos ? 0 : std::count(line.begin() + firstDelimiter, line.end(), mBannerDelimiter);
+  if (mInsideBanner && delimiters == 0) {
     if (mNewLevel) {
       mNewLevel = false;
       mMajorLevel = mLevels->texts.size();
@@ -414,7 +419,7 @@ bool VTYModel::bannerStep(const std::string& line) {
     mInfoLine = line + "\n";
     return true;
   }
-  if (std::count(line.begin(), line.end(), mBannerDelimiter) % 2 != 0) mInsideBanner = !mInsideBanner;
+  if (delimiters % 2 != 0) mInsideBanner = !mInsideBanner;
   return false;
 }
 

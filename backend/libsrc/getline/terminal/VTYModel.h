@@ -14,7 +14,10 @@
 #include <string>
 #include <vector>
 
+#include "grammar/LookupMemo.h"
+#include "terminal/PathOrderMemo.h"
 #include "terminal/VTY.h"
+#include "toolkit/TextWords.h"
 
 namespace qxparser {
 
@@ -69,6 +72,12 @@ class VTYModel {
   uint64_t mSavedMajorLevel = 0;
   VTYModeType mModeType = VIEW_MODE;
   std::vector<ParserTreeNode*> mOptionPairs;
+  // The words of the line being walked (kept for the next line's words).
+  std::vector<WordSpan> mWords;
+  std::string mToken;  // the word being looked up
+  std::string mKey;    // the key it was found under
+  PathOrderMemo mOrderNumbers;
+  LookupMemo mLookups;
 
  private:
   int tryLine(const std::string& line, int& modeResult, std::string& errorText);

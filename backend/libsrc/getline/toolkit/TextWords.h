@@ -37,12 +37,14 @@ struct WordSpan {
   size_t length = 0;
 };
 
-// How many words `line` holds; the first `most` of them are put in `spans`.
-inline size_t wordSpans(const std::string& line, WordSpan* spans, size_t most) {
+// How many words `line` holds, counted up to `countUpTo` (the scan stops
+// there); the first `most` of them are put in `spans`.
+inline size_t wordSpans(const std::string& line, WordSpan* spans, size_t most,
+                        size_t countUpTo = static_cast<size_t>(-1)) {
   size_t count = 0;
   size_t i = 0;
   const size_t size = line.size();
-  while (true) {
+  while (count < countUpTo) {
     while (i < size && (line[i] == ' ' || line[i] == '\t')) ++i;
     if (i == size) return count;
     const size_t start = i;
@@ -50,6 +52,7 @@ inline size_t wordSpans(const std::string& line, WordSpan* spans, size_t most) {
     if (count < most) spans[count] = WordSpan{start, i - start};
     ++count;
   }
+  return count;
 }
 
 // Whether the word at `span` of `line`, lower-cased, is `lowered`.
