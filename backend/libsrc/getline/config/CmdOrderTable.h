@@ -3,8 +3,9 @@
 // Maps a grammar file name ("configuration_mod.cfm", "interface.cfm", ...) to
 // template commands in device order, each with its orderNo set. The templates
 // are owned by the table: QxParserUtil fills it at resource creation and
-// destroyParserResource deletes them. Read by CiscoCommandLine::setOrderNo.
-// Not thread-safe.
+// destroyParserResource deletes them. Read by CiscoCommandLine::setOrderNo,
+// from any number of threads at once (its lookup indexes are built under a
+// lock); filling and clearing it must not overlap any reading.
 #pragma once
 
 #include <map>

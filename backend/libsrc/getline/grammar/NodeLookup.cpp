@@ -1,6 +1,7 @@
 #include "grammar/NodeLookup.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cctype>
 #include <functional>
 #include <map>
@@ -273,18 +274,33 @@ struct TablePlan {
   std::vector<Word> words;
 };
 
+// Whether plans are used, and how often they were reset (KeyFiles read):
+// one setting for the process.
+std::atomic<bool> gPlansEnabled{true};
+std::atomic<size_t> gPlansGeneration{0};
+
+// Each thread keeps plans of its own: a plan is filled in part by part as
+// searches first reach them, so a plan shared by two walking threads would
+// be written while the other reads it. A thread builds only the plans of the
+// nodes its walks search.
 struct PlanCache {
   bool enabled = true;
   size_t poolUsed = static_cast<size_t>(-1);
-  size_t generation = 0;
   size_t builtGeneration = static_cast<size_t>(-1);
   std::unordered_map<const ParserTreeNode*, LookupPlan> nodes;
   std::unordered_map<std::string, TablePlan> tables;
 };
 
 PlanCache& planCache() {
-  static auto* cache = new PlanCache();
-  return *cache;
+  thread_local PlanCache cache;
+  const size_t generation = gPlansGeneration.load(std::memory_order_acquire);
+  if (cache.builtGeneration != generation) {
+    cache.nodes.clear();
+    cache.tables.clear();
+    cache.enabled = gPlansEnabled.load(std::memory_order_relaxed);
+    cache.builtGeneration = generation;
+  }
+  return cache;
 }
 
 // Plans stay valid while no node is made (every load makes nodes; the nodes
@@ -292,11 +308,10 @@ PlanCache& planCache() {
 PlanCache& currentPlans() {
   PlanCache& cache = planCache();
   const size_t used = NodePool::used();
-  if (cache.poolUsed != used || cache.builtGeneration != cache.generation) {
+  if (cache.poolUsed != used) {
     cache.nodes.clear();
     cache.tables.clear();
     cache.poolUsed = used;
-    cache.builtGeneration = cache.generation;
   }
   return cache;
 }
@@ -684,10 +699,10 @@ bool hasInterfaceWords(const ParserTreeNode* node) {
 
 int nodeStatus(const ParserTreeNode* node) { return node && node->mIsEnd ? 0 : 1; }
 
-void resetLookupPlans() { ++planCache().generation; }
+void resetLookupPlans() { gPlansGeneration.fetch_add(1, std::memory_order_release); }
 
 void setLookupPlansEnabled(bool enabled) {
-  planCache().enabled = enabled;
+  gPlansEnabled.store(enabled, std::memory_order_relaxed);
   resetLookupPlans();
 }
 
