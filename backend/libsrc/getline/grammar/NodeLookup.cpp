@@ -284,12 +284,13 @@ std::atomic<size_t> gPlansGeneration{0};
 // be written while the other reads it. A thread builds only the plans of the
 // nodes its walks search.
 struct PlanCache {
-  bool enabled = true;
   size_t poolUsed = static_cast<size_t>(-1);
   size_t builtGeneration = static_cast<size_t>(-1);
   std::unordered_map<const ParserTreeNode*, LookupPlan> nodes;
   std::unordered_map<std::string, TablePlan> tables;
 };
+
+bool plansOn() { return gPlansEnabled.load(std::memory_order_relaxed); }
 
 PlanCache& planCache() {
   thread_local PlanCache cache;
@@ -297,7 +298,6 @@ PlanCache& planCache() {
   if (cache.builtGeneration != generation) {
     cache.nodes.clear();
     cache.tables.clear();
-    cache.enabled = gPlansEnabled.load(std::memory_order_relaxed);
     cache.builtGeneration = generation;
   }
   return cache;
@@ -497,7 +497,7 @@ bool hasUpperCase(const std::string& text) {
 
 ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
   if (!node) return nullptr;
-  if (planCache().enabled) return findChildPlanned(node, token);
+  if (plansOn()) return findChildPlanned(node, token);
   bool exactOption = false;
   auto exact = node->mChildren.find(token);
   if (exact != node->mChildren.end()) return exact->second;
@@ -552,7 +552,7 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
     if (ParserTreeNode* found = findAbbreviation(node, token, keyOut)) return found;
   }
   ParserTreeNode* any = nullptr;
-  if (planCache().enabled) {
+  if (plansOn()) {
     if (token != "\n") any = withWordSteps(node, planOf(node)).catchAll;
   } else {
     any = firstChildWithWord(node,
@@ -575,7 +575,7 @@ ParserTreeNode* lookup(ParserTreeNode* node, const std::string& token, bool& fla
   if (!keyOut.empty()) return nullptr;
   // A failed pass changes nothing, so a token that is lower-case already
   // would fail again.
-  if (planCache().enabled && !hasUpperCase(token)) return nullptr;
+  if (plansOn() && !hasUpperCase(token)) return nullptr;
   const std::string lower = ParserToolCase::string2Lower(token);
   if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate)) {
     keyOut = lower;
@@ -592,7 +592,7 @@ ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool
     if (retriedOut) *retriedOut = true;
     // A lookup that finds nothing and no key has changed no state: the
     // second try gives the same answer.
-    if (planCache().enabled) return nullptr;
+    if (plansOn()) return nullptr;
     return lookup(node, token, flagOut, keyOut, abbreviate);
   }
   if (node) clearExcluded(node);
@@ -654,7 +654,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
   auto table = gKeyTables().find(tableName);
   if (table == gKeyTables().end()) return false;
   if (table->second.count(token)) return true;
-  if (planCache().enabled) return tableWordsAccept(*tablePlanOf(tableName), token);
+  if (plansOn()) return tableWordsAccept(*tablePlanOf(tableName), token);
   for (auto& entry : table->second) {
     const std::string& word = entry.first;
     if (ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token)) return true;
@@ -666,7 +666,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
 bool hasInterfaceWords(const ParserTreeNode* node) {
   if (!node) return false;
   static const std::string kInterfaceTable = "&interfacefile.cfm";
-  if (planCache().enabled) {
+  if (plansOn()) {
     LookupPlan& plan = planOf(const_cast<ParserTreeNode*>(node));
     if (plan.interfaceWords < 0) {
       // Worked out in full before it is kept, so that a word that throws

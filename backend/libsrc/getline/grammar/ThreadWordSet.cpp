@@ -1,5 +1,6 @@
 #include "grammar/ThreadWordSet.h"
 
+#include <atomic>
 #include <utility>
 #include <vector>
 
@@ -15,6 +16,13 @@ struct ThreadTable {
   size_t used = 0;
 };
 
+// Filled sets over all threads. While it is 0 no thread needs to look into
+// its table; a thread's own changes are always seen by itself, so a count
+// raised by another thread only costs the look.
+std::atomic<size_t> gFilledSets{0};
+
+bool noneFilled() { return gFilledSets.load(std::memory_order_relaxed) == 0; }
+
 ThreadTable& threadTable() {
   thread_local ThreadTable table;
   return table;
@@ -23,6 +31,7 @@ ThreadTable& threadTable() {
 }  // namespace
 
 const ThreadWordSet::Words* ThreadWordSet::words() const {
+  if (noneFilled()) return nullptr;
   const ThreadTable& table = threadTable();
   for (size_t i = 0; i < table.used; ++i) {
     if (table.filled[i].first == this) return &table.filled[i].second;
@@ -36,6 +45,7 @@ ThreadWordSet::Words& ThreadWordSet::wordsToFill() {
     if (table.filled[i].first == this) return table.filled[i].second;
   }
   if (table.used == table.filled.size()) table.filled.emplace_back();
+  gFilledSets.fetch_add(1, std::memory_order_relaxed);
   auto& entry = table.filled[table.used++];
   entry.first = this;
   entry.second.clear();
@@ -57,6 +67,7 @@ size_t ThreadWordSet::size() const {
 void ThreadWordSet::insert(const std::string& word) { wordsToFill().insert(word); }
 
 void ThreadWordSet::clear() {
+  if (noneFilled()) return;
   ThreadTable& table = threadTable();
   for (size_t i = 0; i < table.used; ++i) {
     if (table.filled[i].first != this) continue;
@@ -64,6 +75,7 @@ void ThreadWordSet::clear() {
     // moves behind the used part.
     std::swap(table.filled[i], table.filled[table.used - 1]);
     --table.used;
+    gFilledSets.fetch_sub(1, std::memory_order_relaxed);
     return;
   }
 }
