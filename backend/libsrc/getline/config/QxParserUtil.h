@@ -8,8 +8,10 @@
 // Resources: call createNewParserResource once before the first VTY and
 // destroyParserResource after the last. Records returned by the reading
 // operations belong to the caller, with their children; they may only be
-// compared while the resources live. Only one operation may run at a time in
-// a process (the grammar keeps per-line scratch state).
+// compared while the resources live. Readings may run on two threads at once
+// (the walker's scratch is kept per thread); the device-text operations are
+// for one thread at a time and read long texts on a second thread of their
+// own (SideReading).
 #pragma once
 
 #include <string>
