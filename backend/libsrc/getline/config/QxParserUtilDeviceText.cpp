@@ -281,20 +281,22 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // Each text is read once more here; the readings serve the typed lines and
   // the lines the comparison leaves out. They do not depend on the
   // comparison: with long texts, the thread that reads the second text for
-  // the comparison reads them next, while this one compares.
+  // the comparison reads it again next, and this one the first text once it
+  // has read it for the comparison.
   std::vector<CiscoCommandLine*> firstRead;
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
-  SideReading readings([&]() {
-    DeviceTextReader::read(nulAsBlank(second), secondRead);
+  SideReading secondAgain([&]() { DeviceTextReader::read(nulAsBlank(second), secondRead); });
+  SideReading firstAgain([&]() {
     if (mode != 0) DeviceTextReader::read(nulAsBlank(first), firstRead);
   });
   SideThread side;
-  const std::string written =
-      nulAsBlank(fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, readings));
+  const std::string written = nulAsBlank(
+      fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, secondAgain, firstAgain));
   if (first.empty()) return second;
-  readings.wait();
+  secondAgain.wait();
+  firstAgain.wait();
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.

@@ -92,7 +92,8 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   try {
     {
       // Long texts are read at once, the second on the side thread, which
-      // then goes on with the caller's work alongside. The second text's
+      // then goes on with the caller's work alongside, while this thread
+      // does the caller's work meanwhile. The second text's
       // refused lines follow those of the first, as one thread reading both
       // gives them.
       const bool beside = SideReading::worthAThread(first) && SideReading::worthAThread(second);
@@ -105,8 +106,10 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       SideReading secondSide([&]() { readNormalised(second, allLevels, secondTyped, secondCmds); });
       SideThread ownSide;
       SideThread& side = readers.side ? *readers.side : ownSide;
-      if (beside && side.post(secondSide) && readers.alongside) side.post(*readers.alongside);
+      const bool posted = beside && side.post(secondSide);
+      if (posted && readers.alongside) side.post(*readers.alongside);
       readNormalised(first, allLevels, readers.first, firstCmds);
+      if (posted && readers.meanwhile) readers.meanwhile->runNow();
       try {
         secondSide.wait();
       } catch (...) {

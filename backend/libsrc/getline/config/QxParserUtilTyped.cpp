@@ -68,10 +68,11 @@ std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, cons
 std::string QxParserUtil::fallbackTypedAlongside(const std::string& first, const std::string& second,
                                                  unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                                  std::vector<RefusedLine>* secondRefused, SideThread& side,
-                                                 SideReading& alongside) {
+                                                 SideReading& alongside, SideReading& meanwhile) {
   Readers readers;
   readers.side = &side;
   readers.alongside = &alongside;
+  readers.meanwhile = &meanwhile;
   return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, readers);
 }
 
