@@ -147,21 +147,19 @@ class VTYCONF_API QxParserUtil {
   friend struct QxParserUtilPeer;
   // Typed texts (non-null refused lists) are read by TypedTextReader, the
   // others replayed. Long texts are read at once, the second on `side` (a
-  // thread of the call's own when null), which then also does `alongside`,
-  // while the caller's thread does `meanwhile` once it has read the first;
-  // when the texts are read one after the other, both are left to their
+  // thread of the call's own when null), which then also does `alongside`;
+  // when the texts are read one after the other, `alongside` is left to its
   // owner.
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
     SideThread* side = nullptr;
     SideReading* alongside = nullptr;
-    SideReading* meanwhile = nullptr;
   };
   static std::string fallbackTypedAlongside(const std::string& first, const std::string& second, unsigned int mode,
                                             std::vector<RefusedLine>* firstRefused,
                                             std::vector<RefusedLine>* secondRefused, SideThread& side,
-                                            SideReading& alongside, SideReading& meanwhile);
+                                            SideReading& alongside);
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);

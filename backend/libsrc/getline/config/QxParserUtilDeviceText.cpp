@@ -281,22 +281,20 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // Each text is read once more here; the readings serve the typed lines and
   // the lines the comparison leaves out. They do not depend on the
   // comparison: with long texts, the thread that reads the second text for
-  // the comparison reads it again next, and this one the first text once it
-  // has read it for the comparison.
+  // the comparison reads it again next, while this one compares. The first
+  // text is read after the comparison, whose records are gone by then (read
+  // beside it, both readings would be held at once with the comparison's).
   std::vector<CiscoCommandLine*> firstRead;
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
   SideReading secondAgain([&]() { DeviceTextReader::read(nulAsBlank(second), secondRead); });
-  SideReading firstAgain([&]() {
-    if (mode != 0) DeviceTextReader::read(nulAsBlank(first), firstRead);
-  });
   SideThread side;
-  const std::string written = nulAsBlank(
-      fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, secondAgain, firstAgain));
+  const std::string written =
+      nulAsBlank(fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, secondAgain));
   if (first.empty()) return second;
   secondAgain.wait();
-  firstAgain.wait();
+  if (mode != 0) DeviceTextReader::read(nulAsBlank(first), firstRead);
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.

@@ -92,8 +92,7 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   try {
     {
       // Long texts are read at once, the second on the side thread, which
-      // then goes on with the caller's work alongside, while this thread
-      // does the caller's work meanwhile. The second text's
+      // then goes on with the caller's work alongside. The second text's
       // refused lines follow those of the first, as one thread reading both
       // gives them.
       const bool beside = SideReading::worthAThread(first) && SideReading::worthAThread(second);
@@ -109,7 +108,6 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       const bool posted = beside && side.post(secondSide);
       if (posted && readers.alongside) side.post(*readers.alongside);
       readNormalised(first, allLevels, readers.first, firstCmds);
-      if (posted && readers.meanwhile) readers.meanwhile->runNow();
       try {
         secondSide.wait();
       } catch (...) {

@@ -68,11 +68,10 @@ std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, cons
 std::string QxParserUtil::fallbackTypedAlongside(const std::string& first, const std::string& second,
                                                  unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                                  std::vector<RefusedLine>* secondRefused, SideThread& side,
-                                                 SideReading& alongside, SideReading& meanwhile) {
+                                                 SideReading& alongside) {
   Readers readers;
   readers.side = &side;
   readers.alongside = &alongside;
-  readers.meanwhile = &meanwhile;
   return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, readers);
 }
 

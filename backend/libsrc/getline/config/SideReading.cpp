@@ -30,13 +30,6 @@ void SideReading::run() {
   }
 }
 
-void SideReading::runNow() {
-  if (mPosted || mDone) return;
-  // Ends as a posted reading ends: wait() gives what it threw.
-  mPosted = true;
-  run();
-}
-
 void SideReading::wait() {
   if (mPosted) {
     // get() leaves the future empty: a second wait has nothing to wait for.

@@ -6,8 +6,8 @@
 // SideReading holds such a piece of work; a SideThread is the one extra
 // thread that runs the readings posted to it, in the order posted. wait()
 // waits for a posted reading and throws again, on the caller's thread, what
-// it threw; a reading that was never posted (nor run by runNow) runs in
-// wait(), on the calling thread, at the place where a serial job reads it. Texts are worth a thread
+// it threw; a reading that was never posted runs in wait(), on the calling
+// thread, at the place where a serial job reads it. Texts are worth a thread
 // only from kLinesForThread lines on: below that a thread costs more than it
 // saves.
 //
@@ -43,9 +43,6 @@ class SideReading {
   // Whether `text` has lines enough for a reading on a thread of its own.
   static bool worthAThread(const std::string& text);
 
-  // Does the work now, on the calling thread, unless it was posted or done;
-  // what it throws is kept for wait().
-  void runNow();
   // The work done (here, when it was never posted); throws what it threw.
   void wait();
   bool posted() const { return mPosted; }
