@@ -4,12 +4,14 @@
 #include <map>
 #include <set>
 #include <stdexcept>
+#include <thread>
 
 #include "ShippedGrammar.h"
 #include "support/CaseFile.h"
 #include "config/CmdOrderTable.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/ParserTree.h"
+#include "grammar/ThreadWordSet.h"
 
 namespace qxparser {
 
@@ -59,6 +61,44 @@ TEST_F(ReadingPlansTest, CorpusFilesReadTheSameWithAndWithoutPlans) {
   if (files.empty()) GTEST_SKIP() << "no corpus at " << corpusFolder();
   for (const CorpusFile& file : files) {
     EXPECT_EQ(readWith(true, file.text), readWith(false, file.text)) << file.name;
+  }
+}
+
+// Replayed and read as typed; and whether the walks left scratch behind.
+// (The plans stay on: switching them while another thread walks is not
+// allowed.)
+std::string readBothWays(const std::string& text) {
+  std::vector<CiscoCommandLine*> replayed;
+  std::string errorText;
+  int errorLine = 0;
+  QxParserUtil::getCmdInfo(text, replayed, errorText, errorLine);
+  std::vector<CiscoCommandLine*> typed;
+  std::vector<RefusedLine> refused;
+  TypedTextReader::read(text, typed, refused);
+  std::string description = describe(replayed) + errorText + std::to_string(errorLine) + describe(typed);
+  QxParserUtil::deleteCommands(replayed);
+  QxParserUtil::deleteCommands(typed);
+  return description + "scratch left " + std::to_string(ThreadWordSet::filledSets());
+}
+
+TEST_F(ReadingPlansTest, CorpusFilesReadOnTwoThreadsAtOnceReadAsAlone) {
+  const std::vector<CorpusFile> files = corpusFiles();
+  if (files.empty()) GTEST_SKIP() << "no corpus at " << corpusFolder();
+  std::vector<std::string> alone;
+  for (const CorpusFile& file : files) alone.push_back(readBothWays(file.text));
+  // The two threads take the files in opposite orders, so that different
+  // texts walk the shared grammar at the same time.
+  std::vector<std::string> forward(files.size());
+  std::vector<std::string> backward(files.size());
+  std::thread other([&]() {
+    for (size_t i = files.size(); i-- > 0;) backward[i] = readBothWays(files[i].text);
+  });
+  for (size_t i = 0; i < files.size(); ++i) forward[i] = readBothWays(files[i].text);
+  other.join();
+  for (size_t i = 0; i < files.size(); ++i) {
+    EXPECT_NE(alone[i].find("scratch left 0"), std::string::npos) << files[i].name;
+    EXPECT_EQ(forward[i], alone[i]) << files[i].name;
+    EXPECT_EQ(backward[i], alone[i]) << files[i].name;
   }
 }
 

@@ -30,7 +30,12 @@ std::unordered_map<std::string, OrderIndex>& orderIndexes() {
   return *indexes;
 }
 
+// Guards orderIndexes: threads that read at once build indexes of the same
+// table. An index, once built for the table's vector, is only read.
+std::mutex gIndexesLock;
+
 const OrderIndex& orderIndexOf(const std::string& key, const std::vector<CiscoCommandLine*>& templates) {
+  std::lock_guard<std::mutex> guard(gIndexesLock);
   OrderIndex& index = orderIndexes()[key];
   if (index.data == templates.data() && index.size == templates.size()) return index;
   index = OrderIndex();
@@ -50,22 +55,31 @@ const OrderIndex& orderIndexOf(const std::string& key, const std::vector<CiscoCo
 }
 
 // The table entry and index of the grammar file asked for last: the commands
-// of one mode ask for the same one in a row. Dropped with the table.
+// of one mode ask for the same one in a row. One for each thread; dropped
+// with the table (each clearing of the table counts up gTableClears).
+std::atomic<size_t> gTableClears{0};
+
 struct LastFile {
+  size_t clears = 0;
   std::string fileName;
   const std::vector<CiscoCommandLine*>* templates = nullptr;
   const OrderIndex* index = nullptr;
 };
 
 LastFile& lastFile() {
-  static auto* last = new LastFile();
-  return *last;
+  thread_local LastFile last;
+  return last;
 }
 
 // The templates and index for the grammar file `key`; null when the table has
 // no entry for it.
 const OrderIndex* indexFor(const std::string& key, const std::vector<CiscoCommandLine*>*& templates) {
   LastFile& last = lastFile();
+  const size_t clears = gTableClears.load(std::memory_order_acquire);
+  if (last.clears != clears) {
+    last = LastFile();
+    last.clears = clears;
+  }
   if (last.templates && last.fileName == key && last.index->data == last.templates->data() &&
       last.index->size == last.templates->size()) {
     templates = last.templates;
@@ -150,8 +164,11 @@ void clearCmdOrderTable() {
     }
   }
   table().clear();
-  orderIndexes().clear();
-  lastFile() = LastFile();
+  {
+    std::lock_guard<std::mutex> guard(gIndexesLock);
+    orderIndexes().clear();
+  }
+  gTableClears.fetch_add(1, std::memory_order_release);
 }
 
 bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command) {

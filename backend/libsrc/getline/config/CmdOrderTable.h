@@ -3,14 +3,15 @@
 // Maps a grammar file name ("configuration_mod.cfm", "interface.cfm", ...) to
 // template commands in device order, each with its orderNo set. The templates
 // are owned by the table: destroyParserResource deletes them. Read by
-// CiscoCommandLine::setOrderNo.
+// CiscoCommandLine::setOrderNo, from any number of threads at once (its
+// lookup indexes are built under a lock).
 //
 // Filling the table reads the order files with a terminal, which costs more
 // than a job that reads nothing (an empty configuration) needs: resource
 // creation hands the filling over with deferCmdOrderTable, and the first
-// terminal made afterwards (or the first gCmdOrderTable call) runs it, once.
-// Only that step is safe from two threads (a second caller waits for the
-// first to finish); the rest is not thread-safe.
+// terminal made afterwards (or the first gCmdOrderTable call) runs it, once;
+// a second caller waits for the first to finish. Clearing the table must not
+// overlap any reading.
 #pragma once
 
 #include <functional>

@@ -16,7 +16,8 @@
 //
 // The caller owns the records appended to `commands` (level 0 only; the rest
 // hang below them) and frees them with QxParserUtil::deleteCommands. Same
-// threading rule as every reading operation: one at a time per process.
+// threading rule as every reading operation: readings on different threads may
+// run at once.
 #pragma once
 
 #include <string>

@@ -8,8 +8,10 @@
 // Resources: call createNewParserResource once before the first VTY and
 // destroyParserResource after the last. Records returned by the reading
 // operations belong to the caller, with their children; they may only be
-// compared while the resources live. Only one operation may run at a time in
-// a process (the grammar keeps per-line scratch state).
+// compared while the resources live. Readings may run on two threads at once
+// (the walker's scratch is kept per thread); the device-text operations are
+// for one thread at a time and read long texts on a second thread of their
+// own (SideReading).
 #pragma once
 
 #include <string>
@@ -21,6 +23,9 @@
 #include "terminal/VTY.h"
 
 namespace qxparser {
+
+class SideReading;
+class SideThread;
 
 // What a search of a configuration file returns.
 enum SEARCHTYPE {
@@ -143,11 +148,27 @@ class VTYCONF_API QxParserUtil {
  private:
   friend struct QxParserUtilPeer;
   // Typed texts (non-null refused lists) are read by TypedTextReader, the
-  // others replayed.
+  // others replayed. Long texts are read at once, the second on `side` (a
+  // thread of the call's own when null), which then also does `alongside`;
+  // when the texts are read one after the other, `alongside` is left to its
+  // owner.
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
+    SideThread* side = nullptr;
+    SideReading* alongside = nullptr;
   };
+  static std::string fallbackTypedAlongside(const std::string& first, const std::string& second, unsigned int mode,
+                                            std::vector<RefusedLine>* firstRefused,
+                                            std::vector<RefusedLine>* secondRefused, SideThread& side,
+                                            SideReading& alongside);
+  static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
+                                         std::vector<RefusedLine>* firstRefused,
+                                         std::vector<RefusedLine>* secondRefused, Readers readers);
+  // One text of a fallback read into its top-level records and brought into
+  // the form a merge writes (see fallbackNormalised).
+  static void readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
+                             std::vector<CiscoCommandLine*>& commands);
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                         bool allLevels, const Readers& readers);
   static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);

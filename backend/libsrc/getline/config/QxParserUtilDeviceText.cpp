@@ -14,6 +14,7 @@
 #include "config/QxParserUtil.h"
 #include "config/ResultRollback.h"
 #include "config/RouteFilterMeaning.h"
+#include "config/SideReading.h"
 #include "config/VlanListMeaning.h"
 
 namespace qxparser {
@@ -191,11 +192,26 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds, true);
   RecordsGuard configGuard(configCmds, true);
   std::set<std::string> goneNeighbours;
+  std::string resolved;
+  SideReading changeReading([&]() {
+    DeviceTextReader::read(
+        BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(resolved), goneNeighbours),
+        changeCmds, changesRefused, false);
+  });
+  SideThread side;
+  // A change set without allowed-vlan lists reads the same whatever the
+  // configuration holds: long texts are then read at once (into lists of
+  // refused lines of their own).
+  const bool ownLists = changesRefused == nullptr || changesRefused != configRefused;
+  const bool beside = ownLists && !VlanListMeaning::needsConfig(changes) && SideReading::worthAThread(changes) &&
+                      SideReading::worthAThread(config);
+  if (beside) {
+    resolved = changes;
+    side.post(changeReading);
+  }
   DeviceTextReader::read(config, configCmds, configRefused);
-  const std::string resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
-  DeviceTextReader::read(
-      BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(resolved), goneNeighbours),
-      changeCmds, changesRefused, false);
+  if (!changeReading.posted()) resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
+  changeReading.wait();
   if (changes.empty()) return config;
   InterfaceRangeMeaning::expand(changeCmds, configCmds);
   AccessListMeaning::numberedThroughNamed(changeCmds, configCmds);
@@ -262,24 +278,29 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   }
   const std::string first = DeviceMeaning::settledText(firstGiven);
   const std::string second = DeviceMeaning::settledText(secondGiven);
-  const std::string written = nulAsBlank(fallbackConfigCmdsTyped(first, second, mode, firstRefused, secondRefused));
-  if (first.empty()) return second;
-  // A configuration's own spelling first: in delta mode the change set was
-  // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
-  // device's words rather than in its abbreviations.
-  // Each text is read once here; the readings serve the typed lines and the
-  // lines the comparison leaves out.
+  // Each text is read once more here; the readings serve the typed lines and
+  // the lines the comparison leaves out. They do not depend on the
+  // comparison: with long texts, the thread that reads the second text for
+  // the comparison reads it again next, while this one compares. The first
+  // text is read after the comparison, whose records are gone by then (read
+  // beside it, both readings would be held at once with the comparison's).
   std::vector<CiscoCommandLine*> firstRead;
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
+  SideReading secondAgain([&]() { DeviceTextReader::read(nulAsBlank(second), secondRead); });
+  SideThread side;
+  const std::string written =
+      nulAsBlank(fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, secondAgain));
+  if (first.empty()) return second;
+  secondAgain.wait();
+  if (mode != 0) DeviceTextReader::read(nulAsBlank(first), firstRead);
+  // A configuration's own spelling first: in delta mode the change set was
+  // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
+  // device's words rather than in its abbreviations.
   TypedLines typedLines;
-  DeviceTextReader::read(nulAsBlank(second), secondRead);
   collectTypedLines(secondRead, typedLines);
-  if (mode != 0) {
-    DeviceTextReader::read(nulAsBlank(first), firstRead);
-    collectTypedLines(firstRead, typedLines);
-  }
+  if (mode != 0) collectTypedLines(firstRead, typedLines);
   std::vector<CiscoCommandLine*> out;
   RecordsGuard guard(out, true);
   DeviceTextReader::read(written, out, nullptr, true, true);

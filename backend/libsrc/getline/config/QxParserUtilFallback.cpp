@@ -8,6 +8,7 @@
 #include "config/CommandMatchIndex.h"
 #include "config/QxParserUtil.h"
 #include "config/RecordCopy.h"
+#include "config/SideReading.h"
 #include "platform/StlHelper.h"
 
 namespace qxparser {
@@ -45,6 +46,42 @@ std::string QxParserUtil::fallbackConfigCmdsAllLevels(const std::string& first, 
   return fallbackNormalised(first, second, mode, true, Readers());
 }
 
+void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
+                                  std::vector<CiscoCommandLine*>& commands) {
+  std::string errorText;
+  int errorLine = 0;
+  // Over every level, a text that is itself a merge result (NUL indent bytes
+  // included) is read whole as well.
+  const std::string given = allLevels ? blanksForNul(text) : text;
+  if (typed) {
+    transformCmdsTyped(given, commands, typed);
+  } else {
+    transformCmds(given, commands, errorText, errorLine);
+  }
+  // The records are brought into the form that a merge writes, so that
+  // comments are gone and repeated words stand in one order.
+  // Text read as typed is read back the same way: a banner closed on its
+  // last text line ("text ^C") stays closed.
+  std::string normalised = expandMergedCmds(commands, 0);
+  if (allLevels) normalised = blanksForNul(normalised);
+  deleteTopLevel(commands);
+  if (typed) {
+    // Typed texts found their levels by their exits; the written form keeps
+    // them in its indent.
+    std::vector<CiscoCommandLine*> all;
+    std::vector<RefusedLine> unwanted;
+    try {
+      TypedTextReader::readByIndent(normalised, all, unwanted);
+    } catch (...) {
+      deleteCommands(all);
+      throw;
+    }
+    keepTopLevel(all, commands);
+  } else {
+    transformCmds(normalised, commands, errorText, errorLine);
+  }
+}
+
 std::string QxParserUtil::fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                              bool allLevels, const Readers& readers) {
   if (first.empty()) return second;
@@ -53,44 +90,31 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   std::vector<CiscoCommandLine*> out;
   std::string text;
   try {
-    std::string errorText;
-    int errorLine = 0;
-    // Over every level, a text that is itself a merge result (NUL indent
-    // bytes included) is read whole as well.
-    const std::string* texts[] = {&first, &second};
-    std::vector<CiscoCommandLine*>* sides[] = {&firstCmds, &secondCmds};
-    std::vector<RefusedLine>* typed[] = {readers.first, readers.second};
-    for (int i = 0; i < 2; ++i) {
-      const std::string given = allLevels ? blanksForNul(*texts[i]) : *texts[i];
-      if (typed[i]) {
-        transformCmdsTyped(given, *sides[i], typed[i]);
-      } else {
-        transformCmds(given, *sides[i], errorText, errorLine);
+    {
+      // Long texts are read at once, the second on the side thread, which
+      // then goes on with the caller's work alongside. The second text's
+      // refused lines follow those of the first, as one thread reading both
+      // gives them.
+      const bool beside = SideReading::worthAThread(first) && SideReading::worthAThread(second);
+      std::vector<RefusedLine> secondLines;
+      std::vector<RefusedLine>* secondTyped = beside && readers.second ? &secondLines : readers.second;
+      auto handOn = [&]() {
+        if (secondTyped != &secondLines) return;
+        readers.second->insert(readers.second->end(), secondLines.begin(), secondLines.end());
+      };
+      SideReading secondSide([&]() { readNormalised(second, allLevels, secondTyped, secondCmds); });
+      SideThread ownSide;
+      SideThread& side = readers.side ? *readers.side : ownSide;
+      const bool posted = beside && side.post(secondSide);
+      if (posted && readers.alongside) side.post(*readers.alongside);
+      readNormalised(first, allLevels, readers.first, firstCmds);
+      try {
+        secondSide.wait();
+      } catch (...) {
+        handOn();
+        throw;
       }
-    }
-    // Both sides are brought into the form that a merge writes, so that
-    // comments are gone and repeated words stand in one order.
-    // Text read as typed is read back the same way: a banner closed on its
-    // last text line ("text ^C") stays closed.
-    for (int i = 0; i < 2; ++i) {
-      std::string normalised = expandMergedCmds(*sides[i], 0);
-      if (allLevels) normalised = blanksForNul(normalised);
-      deleteTopLevel(*sides[i]);
-      if (typed[i]) {
-        // Typed texts found their levels by their exits; the written form
-        // keeps them in its indent.
-        std::vector<CiscoCommandLine*> all;
-        std::vector<RefusedLine> unwanted;
-        try {
-          TypedTextReader::readByIndent(normalised, all, unwanted);
-        } catch (...) {
-          deleteCommands(all);
-          throw;
-        }
-        keepTopLevel(all, *sides[i]);
-      } else {
-        transformCmds(normalised, *sides[i], errorText, errorLine);
-      }
+      handOn();
     }
     if (mode == 0) {
       fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);

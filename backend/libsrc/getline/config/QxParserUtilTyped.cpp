@@ -62,9 +62,24 @@ std::string QxParserUtil::mergeConfigCmdsTyped(const std::string& changes, const
 std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, const std::string& second,
                                                   unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                                   std::vector<RefusedLine>* secondRefused) {
+  return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, Readers());
+}
+
+std::string QxParserUtil::fallbackTypedAlongside(const std::string& first, const std::string& second,
+                                                 unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                                 std::vector<RefusedLine>* secondRefused, SideThread& side,
+                                                 SideReading& alongside) {
+  Readers readers;
+  readers.side = &side;
+  readers.alongside = &alongside;
+  return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, readers);
+}
+
+std::string QxParserUtil::fallbackWithReaders(const std::string& first, const std::string& second,
+                                              unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                              std::vector<RefusedLine>* secondRefused, Readers readers) {
   std::vector<RefusedLine> unwantedFirst;
   std::vector<RefusedLine> unwantedSecond;
-  Readers readers;
   readers.first = firstRefused ? firstRefused : &unwantedFirst;
   readers.second = secondRefused ? secondRefused : &unwantedSecond;
   if (first.empty()) {

@@ -17,7 +17,7 @@
 // (InterfaceTypeOrder).
 //
 // Records belong to the caller (all levels are returned, as by getCmdInfo).
-// Not thread-safe: it walks the shared grammar.
+// Readings on different threads may run at once (each has its own terminal).
 #pragma once
 
 #include <functional>

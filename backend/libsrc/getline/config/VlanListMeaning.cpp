@@ -106,8 +106,10 @@ std::string VlanListMeaning::written(const std::set<int>& numbers) {
   return out.empty() ? "none" : out;
 }
 
+bool VlanListMeaning::needsConfig(const std::string& changes) { return changes.find(kAllowed) != std::string::npos; }
+
 std::string VlanListMeaning::resolvedChanges(const std::string& changes, std::vector<CiscoCommandLine*>& config) {
-  if (changes.find(kAllowed) == std::string::npos) return changes;
+  if (!needsConfig(changes)) return changes;
   std::istringstream in(changes);
   std::string out, head;
   for (std::string line; std::getline(in, line);) {

@@ -20,6 +20,9 @@ class VlanListMeaning {
   // line of an interface written as the whole list the interface of `config`
   // ends with; the interface's own allowed-vlan lines leave `config`.
   static std::string resolvedChanges(const std::string& changes, std::vector<CiscoCommandLine*>& config);
+  // Whether resolvedChanges looks at `config` for `changes`: without an
+  // allowed-vlan line it gives `changes` back and leaves `config` alone.
+  static bool needsConfig(const std::string& changes);
 
   // In each interface of a rollback `out` that sets its allowed list anew,
   // the "no" of the old list goes: the plain form replaces the list already.

@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <fstream>
+#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -24,8 +25,10 @@ bool abbreviates(const std::string& word, const std::string& full) {
 
 std::string InterfaceTypeOrder::preferredType(const std::string& word) {
   // The KeyFile of the loaded resource folder, read once per folder.
+  static std::mutex lock;
   static std::string folder;
   static std::vector<std::string> types;
+  std::lock_guard<std::mutex> guard(lock);
   const std::string current = QXFileSystem::GetSystemResourceFolder();
   if (current != folder) {
     folder = current;

@@ -6,8 +6,8 @@
 // order of preference, so the first type a word abbreviates is the one meant.
 // The grammar lookup itself stays as it is (an ambiguous word is no match);
 // readers of typed text try a refused line once more with the preferred
-// types written out. The KeyFile is read once per resource folder. Not
-// thread-safe.
+// types written out. The KeyFile is read once per resource folder, under a
+// lock: readings on several threads may ask at once.
 #pragma once
 
 #include <string>

@@ -1,6 +1,7 @@
 #include "grammar/NodeLookup.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cctype>
 #include <functional>
 #include <map>
@@ -274,18 +275,33 @@ struct TablePlan {
   std::vector<Word> words;
 };
 
+// Whether plans are used, and how often they were reset (KeyFiles read):
+// one setting for the process.
+std::atomic<bool> gPlansEnabled{true};
+std::atomic<size_t> gPlansGeneration{0};
+
+// Each thread keeps plans of its own: a plan is filled in part by part as
+// searches first reach them, so a plan shared by two walking threads would
+// be written while the other reads it. A thread builds only the plans of the
+// nodes its walks search.
 struct PlanCache {
-  bool enabled = true;
   size_t poolUsed = static_cast<size_t>(-1);
-  size_t generation = 0;
   size_t builtGeneration = static_cast<size_t>(-1);
   std::unordered_map<const ParserTreeNode*, LookupPlan> nodes;
   std::unordered_map<std::string, TablePlan> tables;
 };
 
+bool plansOn() { return gPlansEnabled.load(std::memory_order_relaxed); }
+
 PlanCache& planCache() {
-  static auto* cache = new PlanCache();
-  return *cache;
+  thread_local PlanCache cache;
+  const size_t generation = gPlansGeneration.load(std::memory_order_acquire);
+  if (cache.builtGeneration != generation) {
+    cache.nodes.clear();
+    cache.tables.clear();
+    cache.builtGeneration = generation;
+  }
+  return cache;
 }
 
 // Plans stay valid while no node is made (every load makes nodes; the nodes
@@ -293,11 +309,10 @@ PlanCache& planCache() {
 PlanCache& currentPlans() {
   PlanCache& cache = planCache();
   const size_t used = NodePool::used();
-  if (cache.poolUsed != used || cache.builtGeneration != cache.generation) {
+  if (cache.poolUsed != used) {
     cache.nodes.clear();
     cache.tables.clear();
     cache.poolUsed = used;
-    cache.builtGeneration = cache.generation;
   }
   return cache;
 }
@@ -469,7 +484,7 @@ ParserTreeNode* findPastWordsKept(ParserTreeNode* node, LookupPlan* planned, con
                                   LookupMemo& memo) {
   // Long tokens (descriptions, names) seldom come again: not worth a copy.
   if (token.size() > kLongestKept) return findPastWords(node, planned ? *planned : planOf(node), token, false);
-  memo.useStamp(NodePool::used(), planCache().generation);
+  memo.useStamp(NodePool::used(), gPlansGeneration.load(std::memory_order_acquire));
   const size_t hash = LookupMemo::hashOf(node, token);
   ParserTreeNode* found = nullptr;
   if (memo.find(node, token, hash, found)) return found;
@@ -484,7 +499,7 @@ ParserTreeNode* findChildPlanned(ParserTreeNode* node, const std::string& token,
 // the whole search reads no state of the walk, and one probe of the memo
 // costs less than finding the node's plan and probing its words.
 ParserTreeNode* findChildKept(ParserTreeNode* node, const std::string& token, LookupMemo& memo) {
-  memo.useStamp(NodePool::used(), planCache().generation);
+  memo.useStamp(NodePool::used(), gPlansGeneration.load(std::memory_order_acquire));
   const size_t hash = LookupMemo::hashOf(node, token);
   ParserTreeNode* found = nullptr;
   if (memo.find(node, token, hash, found)) return found;
@@ -537,7 +552,7 @@ bool hasUpperCase(const std::string& text) {
 
 ParserTreeNode* findChild(ParserTreeNode* node, const std::string& token) {
   if (!node) return nullptr;
-  if (planCache().enabled) return findChildPlanned(node, token, nullptr);
+  if (plansOn()) return findChildPlanned(node, token, nullptr);
   bool exactOption = false;
   auto exact = node->mChildren.find(token);
   if (exact != node->mChildren.end()) return exact->second;
@@ -585,7 +600,7 @@ namespace {
 
 ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::string& keyOut, bool abbreviate,
                            LookupMemo* memo) {
-  ParserTreeNode* child = planCache().enabled ? findChildPlanned(node, token, memo) : findChild(node, token);
+  ParserTreeNode* child = plansOn() ? findChildPlanned(node, token, memo) : findChild(node, token);
   if (child) {
     keyOut = token;
     return child;
@@ -594,7 +609,7 @@ ParserTreeNode* lookupPass(ParserTreeNode* node, const std::string& token, std::
     if (ParserTreeNode* found = findAbbreviation(node, token, keyOut)) return found;
   }
   ParserTreeNode* any = nullptr;
-  if (planCache().enabled) {
+  if (plansOn()) {
     if (token != "\n") any = withWordSteps(node, planOf(node)).catchAll;
   } else {
     any = firstChildWithWord(node,
@@ -615,7 +630,7 @@ ParserTreeNode* lookupWith(ParserTreeNode* node, const std::string& token, bool&
   if (!keyOut.empty()) return nullptr;
   // A failed pass changes nothing, so a token that is lower-case already
   // would fail again.
-  if (planCache().enabled && !hasUpperCase(token)) return nullptr;
+  if (plansOn() && !hasUpperCase(token)) return nullptr;
   const std::string lower = ParserToolCase::string2Lower(token);
   if (ParserTreeNode* found = lookupPass(node, lower, keyOut, abbreviate, memo)) {
     keyOut = lower;
@@ -644,7 +659,7 @@ ParserTreeNode* lookupToken(ParserTreeNode* node, const std::string& token, bool
     if (retriedOut) *retriedOut = true;
     // A lookup that finds nothing and no key has changed no state: the
     // second try gives the same answer.
-    if (planCache().enabled) return nullptr;
+    if (plansOn()) return nullptr;
     return lookupWith(node, token, flagOut, keyOut, abbreviate, memo);
   }
   if (node) clearExcluded(node);
@@ -706,7 +721,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
   auto table = gKeyTables().find(tableName);
   if (table == gKeyTables().end()) return false;
   if (table->second.count(token)) return true;
-  if (planCache().enabled) return tableWordsAccept(*tablePlanOf(tableName), token);
+  if (plansOn()) return tableWordsAccept(*tablePlanOf(tableName), token);
   for (auto& entry : table->second) {
     const std::string& word = entry.first;
     if (ParserToolCase::isPvFormStr(word) && ParserToolCase::isValidInput(word, token)) return true;
@@ -718,7 +733,7 @@ bool matchesKeyTable(const std::string& token, const std::string& tableName) {
 bool hasInterfaceWords(const ParserTreeNode* node) {
   if (!node) return false;
   static const std::string kInterfaceTable = "&interfacefile.cfm";
-  if (planCache().enabled) {
+  if (plansOn()) {
     LookupPlan& plan = planOf(const_cast<ParserTreeNode*>(node));
     if (plan.interfaceWords < 0) {
       // Worked out in full before it is kept, so that a word that throws
@@ -751,14 +766,14 @@ bool hasInterfaceWords(const ParserTreeNode* node) {
 
 int nodeStatus(const ParserTreeNode* node) { return node && node->mIsEnd ? 0 : 1; }
 
-void resetLookupPlans() { ++planCache().generation; }
+void resetLookupPlans() { gPlansGeneration.fetch_add(1, std::memory_order_release); }
 
 void setLookupPlansEnabled(bool enabled) {
-  planCache().enabled = enabled;
+  gPlansEnabled.store(enabled, std::memory_order_relaxed);
   resetLookupPlans();
 }
 
-bool lookupPlansEnabled() { return planCache().enabled; }
+bool lookupPlansEnabled() { return plansOn(); }
 
 void clearExcluded(ParserTreeNode* node) {
   if (node) node->mExcluded.clear();

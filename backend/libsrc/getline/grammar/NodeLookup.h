@@ -9,8 +9,10 @@
 // "hostname or a.b.c.d"; then everything again with the token lower-cased.
 //
 // Lookups change the option state of nodes (mVisitedOptions) and clear
-// mExcluded, and keep plans of the nodes they searched (below); they are for
-// one thread at a time. A token of only zeros typed
+// mExcluded, both kept by the calling thread, and keep plans of the nodes
+// they searched (below), also per thread: threads may search the same nodes
+// at once. Resetting or turning off the plans must not happen while another
+// thread searches. A token of only zeros typed
 // into a numeric range throws std::out_of_range, which nothing here catches.
 #pragma once
 

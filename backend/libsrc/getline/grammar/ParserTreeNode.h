@@ -6,9 +6,9 @@
 // parents; mParent is only the first of them. Nodes are owned by NodePool and
 // live until the process ends; they are never freed one by one.
 //
-// After loading, only mVisitedOptions (per-line scratch state of the walker)
-// and mExcluded change. Because that state sits on shared nodes, only one
-// terminal may walk lines at a time.
+// After loading, nodes do not change: the walker's per-line scratch
+// (mVisitedOptions, mExcluded) is kept by each thread apart (ThreadWordSet),
+// so terminals on different threads may walk the same nodes at once.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +17,7 @@
 #include "grammar/FlatMap.h"
 #include "grammar/FlatSet.h"
 #include "grammar/RareText.h"
+#include "grammar/ThreadWordSet.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -75,9 +76,7 @@ class VTYCONF_API ParserTreeNode {
   NodeMap mSpareChildren;
   NodeMap mOptions;
   WordMap mKeywords;
-  WordSet mExcluded;
   WordSet mConflicts;
-  WordSet mVisitedOptions;
   uint32_t mFlags = 0;
   int32_t mComplexCounter;
   bool mEntersMode = false;
@@ -88,6 +87,9 @@ class VTYCONF_API ParserTreeNode {
   // (it may stay set after an include replaces them): only then does a
   // definition line search the blocks' words of its parent.
   bool mHasComplexChild = false;
+  // Per-line scratch of the walker, kept by each thread (no storage here).
+  ThreadWordSet mExcluded;
+  ThreadWordSet mVisitedOptions;
 };
 
 }  // namespace qxparser

@@ -1,6 +1,7 @@
 #include "terminal/VTY.h"
 
 #include <memory>
+#include <mutex>
 #include <utility>
 
 #include "config/CiscoCommandLine.h"
@@ -19,10 +20,16 @@ std::map<VTYModeType, ParserTree*>& gResourceTrees();
 
 namespace {
 
-// Whether the last good line changed the mode. Shared by all terminals, as the
-// design has it: a failed line right after a mode change resets the model of
-// the new mode a second time (kept on purpose).
-bool gModeChanged = false;
+// Whether the last good line changed the mode. Shared by all terminals of a
+// thread, as the design has it: a failed line right after a mode change
+// resets the model of the new mode a second time (kept on purpose). Each
+// thread has its own, so that what one thread reads does not change another
+// thread's reading.
+thread_local bool gModeChanged = false;
+
+// Guards mTrees4Modes, which every new terminal fills in from the loaded
+// resources.
+std::mutex gTreesLock;
 
 // Where the non-empty pieces of `text` cut at carriage returns and line
 // feeds stand, up to its first NUL byte, as ParserToolCase::splitString cuts
@@ -48,8 +55,15 @@ bool isBlankOrEnd(const std::string& line) {
 }  // namespace
 
 VTY::VTY(const std::string& hostName, bool cliMode) : mCliMode(cliMode), mHostName(hostName) {
-  for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) mTrees4Modes[mode] = gResourceTrees()[mode];
-  for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) installMode(mode);
+  ParserTree* trees[3];
+  {
+    std::lock_guard<std::mutex> guard(gTreesLock);
+    for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) {
+      trees[mode] = gResourceTrees()[mode];
+      mTrees4Modes[mode] = trees[mode];
+    }
+  }
+  for (VTYModeType mode : {VIEW_MODE, EXEC_MODE, CONFIG_MODE}) installMode(mode, trees[mode]);
   mModeStack.push_back(VIEW_MODE);
 }
 
@@ -59,8 +73,8 @@ VTY::VTY(const VTY&) : std::basic_ios<char>(), std::stringstream() {}
 
 VTY::~VTY() { DestroyModelAll(); }
 
-void VTY::installMode(VTYModeType mode) {
-  auto model = std::make_unique<VTYModel>(this, mTrees4Modes[mode]);
+void VTY::installMode(VTYModeType mode, ParserTree* tree) {
+  auto model = std::make_unique<VTYModel>(this, tree);
   model->mModeType = mode;
   mModels[mode] = model.release();
 }

@@ -6,10 +6,13 @@
 // device's answers collect (taken with getOutputString). Lines go in through
 // parse(); a whole configuration through getComLineInfo(). The grammar trees
 // are shared by every VTY (mTrees4Modes, filled by createNewParserResource);
-// everything that changes as lines go through lives in the VTY.
+// everything that changes as lines go through lives in the VTY, or, for the
+// walker's scratch on grammar nodes, with the thread (ThreadWordSet).
 //
-// Records passed to parse() stay owned by the caller. Only one VTY may work
-// at a time: the grammar nodes keep per-line scratch state.
+// Records passed to parse() stay owned by the caller. A VTY is used by one
+// thread at a time; VTYs on different threads may work at once over the
+// same loaded grammar (see "Readings on two threads" in the library guide),
+// as long as nothing loads or destroys the resources meanwhile.
 #pragma once
 
 #include <deque>
@@ -126,13 +129,16 @@ class VTYCONF_API VTY : public std::stringstream {
   // the line's length for an incomplete command.
   size_t lastErrorOffset() const { return mLastErrorOffset; }
 
+  // Kept for callers that count terminals; nothing changes it.
   static int mInstanceCounter;
+  // The trees of the loaded resources; a new VTY brings it up to date (under
+  // a lock), and it must not be changed while terminals work.
   static std::map<VTYModeType, ParserTree*> mTrees4Modes;
 
  private:
   friend class VTYModel;
   VTY(const VTY&);
-  void installMode(VTYModeType mode);
+  void installMode(VTYModeType mode, ParserTree* tree);
   void DestroyModelAll();
   VTYModel* currentModel() const;
   // The context text for a record: the one handed out last when it is the

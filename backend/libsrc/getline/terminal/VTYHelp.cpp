@@ -218,7 +218,7 @@ void VTYModel::nextWords(const std::string& line, std::vector<ConfigHint>& hints
   for (size_t pass = 0; pass <= count; ++pass) {
     hookLine(line);
     ParserTreeNode* asked = mLevels->nodes.empty() ? nullptr : mLevels->nodes.back();
-    const std::string prompt = gPromptSuffixes()[asked];
+    const std::string prompt = promptSuffixOf(asked);
     // The stream is read, not emptied: each pass sees the text of the ones
     // before it, and once "Unrecognized command" is in, later passes drop out.
     const std::string text = mOwner->mOutput.str();
@@ -246,7 +246,7 @@ void VTYModel::nextWordsEachLevel(const std::string& line, std::vector<ConfigHin
     const std::string text = mOwner->mOutput.str();
     if (!text.empty() && text.find("Unrecognized command") == std::string::npos &&
         text.find("Invalid input") == std::string::npos) {
-      hints.push_back({gPromptSuffixes()[asked], text});
+      hints.push_back({promptSuffixOf(asked), text});
     }
     if (!mLevels->nodes.empty()) mLevels->nodes.pop_back();
     if (!mLevels->commands.empty()) mLevels->commands.pop_back();

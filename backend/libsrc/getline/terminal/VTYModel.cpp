@@ -63,8 +63,15 @@ void popBack(T& container) {
 
 }  // namespace
 
+const std::string& promptSuffixOf(ParserTreeNode* node) {
+  static const std::string kNone;
+  const auto& suffixes = gPromptSuffixes();
+  const auto found = suffixes.find(node);
+  return found == suffixes.end() ? kNone : found->second;
+}
+
 VTYModel::VTYModel(VTY* owner, ParserTree* tree) : mOwner(owner), mTree(tree), mCliMode(owner->mCliMode) {
-  mPrompt = gPromptSuffixes()[tree ? tree->mRoot : nullptr];
+  mPrompt = promptSuffixOf(tree ? tree->mRoot : nullptr);
   resetModel();
 }
 
@@ -75,7 +82,7 @@ void VTYModel::resetModel() {
   mLevels->commands.clear();
   mLevels->texts.clear();
   if (root) mLevels->nodes.push_back(root);
-  mPrompt = gPromptSuffixes()[root];
+  mPrompt = promptSuffixOf(root);
   mMajorLevel = 0;
   mInsideBanner = false;
   mNewLevel = false;
@@ -207,7 +214,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
   mCompleteLine.clear();
   mInfoLine.clear();
   mCurrentNode = mLevels->nodes.back();
-  mPrompt = gPromptSuffixes()[mCurrentNode];
+  mPrompt = promptSuffixOf(mCurrentNode);
   if (bannerStep(line)) {
     modeResult = MODE_NO_CHANGE;
     status = 0;
@@ -309,7 +316,7 @@ void VTYModel::acceptToken(bool isValue, const std::string& key, ParserTreeNode*
     levels.nodes.push_back(node);
     levels.commands.push_back(mCurrentCommand);
     levels.texts.push_back(mCompleteLine);
-    mPrompt = gPromptSuffixes()[node];
+    mPrompt = promptSuffixOf(node);
     mMajorLevel = mLevels->texts.size() - 1;
     mNewLevel = true;
   } else {
@@ -457,7 +464,7 @@ bool VTYModel::cliExitCommands(const std::string& line, int& modeResult, int& st
     if (mOwner->mLinkCommands) popBack(levels.commands);
     if (!mLevels->nodes.empty()) {
       mCurrentNode = mLevels->nodes.back();
-      mPrompt = gPromptSuffixes()[mCurrentNode];
+      mPrompt = promptSuffixOf(mCurrentNode);
     } else {
       modeResult = MODE_EXIT;
     }

@@ -102,6 +102,10 @@ class VTYModel {
   void recordOptionPair(ParserTreeNode* from, ParserTreeNode* to);
 };
 
+// The prompt suffix of the mode that `node` opens ("" for any other node).
+// Only looks: the table is shared by the terminals of every thread.
+const std::string& promptSuffixOf(ParserTreeNode* node);
+
 // Writes the listing of next words of `node` to `out`: word, tab stops, help,
 // wrapped at 79 columns. Only words that `prefix` abbreviates are listed.
 // True when at least one entry was printed.
