@@ -365,12 +365,44 @@ struct SettledKey {
   bool operator==(const SettledKey& other) const {
     return lead == other.lead && head == other.head && words == other.words;
   }
-  struct Hash {
-    size_t operator()(const SettledKey& key) const {
-      const std::hash<std::string_view> text;
-      return text(key.words) ^ (text(key.head) * 31) ^ (key.lead * 0x9e3779b97f4a7c15ULL);
+};
+
+// The line number last stored for each key: open addressing over slots that
+// keep the key's hash, so that a text of many lines makes no node per line.
+// The hash of a block's head is given by the caller, made once per block.
+class LastLines {
+ public:
+  static constexpr size_t npos = static_cast<size_t>(-1);
+
+  explicit LastLines(size_t count) {
+    size_t size = 16;
+    while (size < 2 * count + 2) size *= 2;
+    mSlots.resize(size);
+  }
+
+  // The line stored for `key`, which the caller may change; a new slot
+  // holds npos.
+  size_t& line(const SettledKey& key, size_t headHash) {
+    const size_t hash = std::hash<std::string_view>()(key.words) ^ (headHash * 31) ^ (key.lead * 0x9e3779b97f4a7c15ULL);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      Slot& slot = mSlots[at];
+      if (slot.line == npos) {
+        slot.hash = hash;
+        slot.key = key;
+        return slot.line;
+      }
+      if (slot.hash == hash && slot.key == key) return slot.line;
     }
+  }
+
+ private:
+  struct Slot {
+    size_t hash = 0;
+    SettledKey key;
+    size_t line = npos;
   };
+  std::vector<Slot> mSlots;
 };
 
 // `text` without the blanks, carriage returns and line ends behind it.
@@ -393,29 +425,31 @@ std::string DeviceMeaning::settledText(const std::string& text) {
   }
   // Per mode block: the last line of each command, by its words without "no".
   // A line undone later becomes "!" at the indent of the line that undoes it.
-  std::unordered_map<SettledKey, size_t, SettledKey::Hash> last;
-  last.reserve(lines.size());
+  LastLines last(lines.size());
   std::vector<int> commentIndent(lines.size(), -1);
   std::string_view head;
+  const size_t noHeadHash = std::hash<std::string_view>()(std::string_view());
+  size_t headHash = noHeadHash;
   for (size_t i = 0; i < lines.size(); ++i) {
     std::string_view line = lines[i];
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     const size_t lead = line.find_first_not_of(' ');
     if (lead == std::string_view::npos || line[lead] == '!') continue;
-    if (lead == 0) head = line;
+    if (lead == 0) {
+      head = line;
+      headHash = std::hash<std::string_view>()(head);
+    }
     const std::string_view words = trimmedView(line.substr(lead));
     const bool negated = words.compare(0, 3, "no ") == 0;
     const SettledKey key{lead == 0 ? std::string_view() : head, lead, negated ? words.substr(3) : words};
-    const auto found = last.find(key);
-    if (found != last.end()) {
-      std::string_view before = trimmedView(lines[found->second]);
+    size_t& found = last.line(key, lead == 0 ? noHeadHash : headHash);
+    if (found != LastLines::npos) {
+      std::string_view before = trimmedView(lines[found]);
       before.remove_prefix(std::min(before.size(), before.find_first_not_of(' ')));
       // The later line undoes the earlier one: the earlier one says nothing.
-      if ((before.compare(0, 3, "no ") == 0) != negated) commentIndent[found->second] = static_cast<int>(lead);
-      found->second = i;
-    } else {
-      last.emplace(key, i);
+      if ((before.compare(0, 3, "no ") == 0) != negated) commentIndent[found] = static_cast<int>(lead);
     }
+    found = i;
   }
   std::string out;
   out.reserve(text.size() + 1);
@@ -539,30 +573,34 @@ void DeviceMeaning::settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& reco
 
 namespace {
 
+bool isRouteOption(std::string_view word) {
+  return word == "name" || word == "tag" || word == "permanent" || word == "track" || word == "global" ||
+         word == "multicast" || word == "dhcp";
+}
+
 // What names a static route: "ip route [vrf V] PREFIX MASK" and the next hop
 // or interface (both when given); distance, name, tag and the other options
 // are its settings. "" for any other line.
-std::string routeIdentity(const std::string& line) {
-  if (line.find("route") == std::string::npos) return {};
-  std::istringstream words(line);
-  std::string word, identity;
-  words >> word;
-  if (word != "ip") return {};
-  words >> word;
-  if (word != "route") return {};
-  identity = "ip route";
+std::string routeIdentity(std::string_view line) {
+  if (line.find("route") == std::string_view::npos) return {};
+  meaning::WordCursor words(line);
+  std::string_view word;
+  if (!words.next(word) || word != "ip") return {};
+  if (!words.next(word) || word != "route") return {};
+  std::string identity = "ip route";
   int values = 0;
-  while (words >> word) {
+  while (words.next(word)) {
     if (word == "vrf" && values == 0) {
-      std::string name;
-      words >> name;
-      identity += " vrf " + name;
+      std::string_view name;
+      words.next(name);
+      identity += " vrf ";
+      identity += name;
       continue;
     }
-    const bool number = word.find_first_not_of("0123456789") == std::string::npos;
-    static const std::set<std::string> options = {"name", "tag", "permanent", "track", "global", "multicast", "dhcp"};
-    if ((number && values >= 2) || options.count(word)) break;
-    identity += " " + word;
+    const bool number = word.find_first_not_of("0123456789") == std::string_view::npos;
+    if ((number && values >= 2) || isRouteOption(word)) break;
+    identity += ' ';
+    identity += word;
     ++values;
   }
   return values >= 3 ? identity : std::string();
@@ -575,7 +613,8 @@ void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& chan
   std::set<std::string> given;
   for (const CiscoCommandLine* change : changes) {
     if (change->hasFlags(CMDBIT_NO)) continue;
-    const std::string identity = routeIdentity(trimmed(change->getOriginalCmd()));
+    // Blanks behind a line make no word: the text need not be trimmed.
+    const std::string identity = routeIdentity(change->getOriginalCmd());
     if (!identity.empty()) given.insert(identity);
   }
   if (given.empty()) return;
@@ -584,7 +623,12 @@ void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& chan
   std::vector<CiscoCommandLine*> kept;
   kept.reserve(config.size());
   for (CiscoCommandLine* record : config) {
-    if (record->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed(record->getOriginalCmd())))) {
+    if (record->getTreeNodeSize() == 0) {
+      kept.push_back(record);
+      continue;
+    }
+    const std::string identity = routeIdentity(record->getOriginalCmd());
+    if (!identity.empty() && given.count(identity)) {
       freeRecord(record);
     } else {
       kept.push_back(record);
@@ -597,12 +641,12 @@ void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {
   std::set<std::string> given;
   for (const CiscoCommandLine* record : out) {
     if (record->hasFlags(CMDBIT_NO)) continue;
-    const std::string identity = routeIdentity(trimmed(record->getOriginalCmd()));
+    const std::string identity = routeIdentity(record->getOriginalCmd());
     if (!identity.empty()) given.insert(identity);
   }
   for (auto it = out.begin(); it != out.end();) {
     const std::string text = trimmed((*it)->getOriginalCmd());
-    if (startsWith(text, "no ") && given.count(routeIdentity(text.substr(3)))) {
+    if (startsWith(text, "no ") && given.count(routeIdentity(std::string_view(text).substr(3)))) {
       freeRecord(*it);
       it = out.erase(it);
     } else {

@@ -34,8 +34,9 @@ std::vector<ReadLine> nonEmptyLines(const std::string& text) {
       ++position;
       continue;
     }
-    size_t end = text.find_first_of("\r\n", position);
-    if (end == std::string::npos) end = text.size();
+    // A plain scan: find_first_of looks each character up in the set.
+    size_t end = position;
+    while (end < text.size() && text[end] != '\n' && text[end] != '\r') ++end;
     ReadLine line;
     line.start = position;
     line.length = end - position;
