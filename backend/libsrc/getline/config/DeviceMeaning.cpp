@@ -128,21 +128,26 @@ bool isAdded(const CiscoCommandLine& record) {
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
   // The standing records of each kind with their numbers, in their order:
   // only added records move here, so the standing ones keep that order.
+  // Records are named by their place in `records` as given.
   struct Standing {
-    const CiscoCommandLine* record;
+    size_t index;
     std::vector<long> numbers;
     std::vector<long> highestSoFar;
   };
+  const size_t count = records.size();
   std::unordered_map<std::string, std::vector<Standing>> standing;
+  std::vector<bool> added(count);
   bool anyAdded = false;
-  for (const CiscoCommandLine* record : records) {
-    if (isAdded(*record)) {
+  for (size_t i = 0; i < count; ++i) {
+    const CiscoCommandLine* record = records[i];
+    added[i] = isAdded(*record);
+    if (added[i]) {
       anyAdded = true;
       continue;
     }
     std::vector<long> numbers;
     const std::string kind = numberedKind(*record, numbers);
-    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers), {}});
+    if (!kind.empty()) standing[kind].push_back({i, std::move(numbers), {}});
   }
   if (!anyAdded || standing.empty()) return;
   for (auto& entry : standing) {
@@ -156,35 +161,36 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
   // never moves, so the standing records keep their order: numbered by it,
   // they tell on which side of an added record its anchor stands, from the
   // first standing record behind the added one.
-  using List = std::list<CiscoCommandLine*>;
-  List list(records.begin(), records.end());
-  std::unordered_map<const CiscoCommandLine*, List::iterator> where;
-  std::unordered_map<const CiscoCommandLine*, size_t> standingRank;
-  for (auto it = list.begin(); it != list.end(); ++it) {
-    where.emplace(*it, it);
-    if (!isAdded(**it)) standingRank.emplace(*it, standingRank.size());
+  using List = std::list<size_t>;
+  List list;
+  std::vector<List::iterator> where(count);
+  std::vector<size_t> standingRank(count, 0);
+  size_t standingCount = 0;
+  for (size_t i = 0; i < count; ++i) {
+    where[i] = list.insert(list.end(), i);
+    if (!added[i]) standingRank[i] = standingCount++;
   }
-  const size_t none = standingRank.size();
+  const size_t none = standingCount;
   // The rank of the first standing record behind each added one (none: it
   // stands behind them all), kept up to date as added records move.
-  std::unordered_map<const CiscoCommandLine*, size_t> nextStanding;
+  std::vector<size_t> nextStanding(count, none);
   size_t behind = none;
-  for (auto it = list.rbegin(); it != list.rend(); ++it) {
-    const auto rank = standingRank.find(*it);
-    if (rank != standingRank.end()) {
-      behind = rank->second;
+  for (size_t i = count; i-- > 0;) {
+    if (!added[i]) {
+      behind = standingRank[i];
     } else {
-      nextStanding[*it] = behind;
+      nextStanding[i] = behind;
     }
   }
   // As a walk by position over the level that takes a record out of its
   // place and puts it into another: behind a record moved further down, the
   // record that followed it is passed over.
   for (auto it = list.begin(); it != list.end();) {
-    CiscoCommandLine* record = *it;
+    const size_t index = *it;
+    const CiscoCommandLine* record = records[index];
     std::vector<long> own;
-    const auto kind = !isAdded(*record) || record->hasFlags(CMDBIT_NO) ? standing.end()
-                                                                      : standing.find(numberedKind(*record, own));
+    const auto kind = !added[index] || record->hasFlags(CMDBIT_NO) ? standing.end()
+                                                                   : standing.find(numberedKind(*record, own));
     if (kind == standing.end()) {
       ++it;
       continue;
@@ -196,8 +202,8 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     // Before the first one of its kind with a higher number, else behind
     // the last one of its kind; nothing moves when it stands there already.
     const bool before = higher != kind->second.end();
-    const CiscoCommandLine* anchor = before ? higher->record : kind->second.back().record;
-    const List::iterator at = where.at(anchor);
+    const size_t anchor = before ? higher->index : kind->second.back().index;
+    const List::iterator at = where[anchor];
     const List::iterator next = std::next(it);
     const bool inPlace = before ? next == at
                                 : std::next(at) == list.end() || (it != list.begin() && std::prev(it) == at);
@@ -205,14 +211,17 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
       it = next;
       continue;
     }
-    const size_t anchorRank = standingRank.at(anchor);
-    const bool forward = anchorRank >= nextStanding.at(record);
+    const size_t anchorRank = standingRank[anchor];
+    const bool forward = anchorRank >= nextStanding[index];
     const List::iterator target = before ? at : std::next(at);
     list.splice(target, list, it);
-    nextStanding[record] = before ? anchorRank : anchorRank + 1;
+    nextStanding[index] = before ? anchorRank : anchorRank + 1;
     it = forward ? std::next(next) : next;
   }
-  records.assign(list.begin(), list.end());
+  std::vector<CiscoCommandLine*> placed;
+  placed.reserve(count);
+  for (const size_t index : list) placed.push_back(records[index]);
+  records.swap(placed);
 }
 
 void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {

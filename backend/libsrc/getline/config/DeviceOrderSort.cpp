@@ -85,6 +85,17 @@ class MinTree {
   std::vector<Mins> mNodes;
 };
 
+// Whether `other`, standing behind `held`, beats it: the comparison of the
+// procedure.
+bool beats(const DeviceOrderKey& held, const DeviceOrderKey& other) {
+  if (hasLine(held) && hasLine(other)) return other.lineNo < held.lineNo;
+  if (hasOrder(held) && hasOrder(other)) return other.orderNo < held.orderNo;
+  return false;
+}
+
+// Positions looked at one by one behind a candidate before the trees are asked.
+constexpr size_t kNearScan = 16;
+
 // Whether some key behind `held` beats it, given the least line number,
 // order number and order number without a line number behind it.
 bool beaten(const DeviceOrderKey& held, int lines, int orders, int unlinedOrders) {
@@ -118,32 +129,42 @@ std::vector<size_t> selectionOrderByTrees(const std::vector<DeviceOrderKey>& key
   const size_t count = keys.size();
   std::vector<size_t> order(count);
   std::iota(order.begin(), order.end(), size_t{0});
-  // A command with a line number meets others with line numbers by line,
-  // and the rest by order.
+  // The keys in their present places, swapped along with `order`.
+  std::vector<DeviceOrderKey> placed(keys);
   MinTree mins(keys);
+  // The first position behind `candidate` whose key beats the key there. A
+  // few positions are looked at one by one (beaters often stand close, in a
+  // stretch of new commands), the rest through the trees: a command with a
+  // line number meets others with line numbers by line, and the rest by order.
+  const auto nextBeater = [&](size_t candidate) {
+    const DeviceOrderKey& held = placed[candidate];
+    const size_t near = std::min(count, candidate + 1 + kNearScan);
+    for (size_t j = candidate + 1; j < near; ++j) {
+      if (beats(held, placed[j])) return j;
+    }
+    if (near == count) return kNone;
+    size_t next = kNone;
+    if (hasLine(held)) {
+      next = mins.firstBelow(&Mins::lines, near, held.lineNo);
+      if (hasOrder(held)) {
+        const size_t byOrder = mins.firstBelow(&Mins::unlinedOrders, near, held.orderNo);
+        if (byOrder < next) next = byOrder;
+      }
+    } else if (hasOrder(held)) {
+      next = mins.firstBelow(&Mins::orders, near, held.orderNo);
+    }
+    return next < count ? next : kNone;
+  };
   for (size_t i = 0; i < count; ++i) {
     // The candidate only changes at the first later position that beats it;
     // jump from one such position to the next.
     size_t candidate = i;
-    for (;;) {
-      const DeviceOrderKey& held = keys[order[candidate]];
-      size_t next = kNone;
-      if (hasLine(held)) {
-        next = mins.firstBelow(&Mins::lines, candidate + 1, held.lineNo);
-        if (hasOrder(held)) {
-          const size_t byOrder = mins.firstBelow(&Mins::unlinedOrders, candidate + 1, held.orderNo);
-          if (byOrder < next) next = byOrder;
-        }
-      } else if (hasOrder(held)) {
-        next = mins.firstBelow(&Mins::orders, candidate + 1, held.orderNo);
-      }
-      if (next == kNone || next >= count) break;
-      candidate = next;
-    }
+    for (size_t next = nextBeater(candidate); next != kNone; next = nextBeater(candidate)) candidate = next;
     if (candidate != i) {
       std::swap(order[i], order[candidate]);
-      mins.set(i, Mins::of(keys[order[i]]));
-      mins.set(candidate, Mins::of(keys[order[candidate]]));
+      std::swap(placed[i], placed[candidate]);
+      mins.set(i, Mins::of(placed[i]));
+      mins.set(candidate, Mins::of(placed[candidate]));
     }
   }
   return order;
