@@ -265,17 +265,22 @@ void askedKeys(const std::vector<CiscoCommandLine*>& records, const std::string&
 }
 
 // The asked keys that `records` holds (a command by its text under the
-// texts of its mode heads).
-void heldKeys(const std::vector<CiscoCommandLine*>& records, const std::string& mode, const NegationKeys& keys,
+// texts of its mode heads). `key` holds the mode's text on entry and again on
+// return; each key is built in it.
+void heldKeys(const std::vector<CiscoCommandLine*>& records, std::string& key, const NegationKeys& keys,
               std::unordered_set<std::string>& held) {
+  const size_t mode = key.size();
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
-    std::string key = mode + trimmed(record->getOriginalCmd());
+    const std::string& text = record->getOriginalCmd();
+    key.resize(mode);
+    key.append(text, 0, text.find_last_not_of(" \r\n") + 1);
     if (keys.asked.count(key)) held.insert(key);
     if (record->getChildCommands().empty()) continue;
-    key += "\n";
+    key += '\n';
     if (keys.modes.count(key)) heldKeys(record->getChildCommands(), key, keys, held);
   }
+  key.resize(mode);
 }
 
 void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
@@ -313,8 +318,9 @@ void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
   if (keys.asked.empty()) return;
   std::unordered_set<std::string> before;
   std::unordered_set<std::string> after;
-  heldKeys(from, "", keys, before);
-  heldKeys(to, "", keys, after);
+  std::string key;
+  heldKeys(from, key, keys, before);
+  heldKeys(to, key, keys, after);
   dropIn(out, "", before, after);
 }
 
@@ -328,13 +334,27 @@ std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& 
 void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<CiscoCommandLine*>& into,
                           CiscoCommandLine* parent) {
   if (extra.empty()) return;
+  // The texts that the records of `extra` are looked up by; of `into`, only
+  // records with such a text need to be known.
+  std::set<std::string, std::less<>> wantedHeads;
+  std::set<std::string, std::less<>> wantedTexts;
+  for (const CiscoCommandLine* record : extra) {
+    if (record->getFlag() == CMD_TEXT) continue;
+    if (record->hasFlags(CMDBIT_OPENS_MODE)) {
+      wantedHeads.insert(record->getOriginalCmd());
+    } else {
+      wantedTexts.insert(trimmed(record->getOriginalCmd()));
+    }
+  }
   // The first mode head of `into` by its text, and the text of every record
   // of it, kept up to date as records join.
   std::unordered_map<std::string, CiscoCommandLine*> heads;
   std::unordered_set<std::string> texts;
-  const auto known = [&heads, &texts](CiscoCommandLine* record) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE)) heads.emplace(record->getOriginalCmd(), record);
-    texts.insert(trimmed(record->getOriginalCmd()));
+  const auto known = [&](CiscoCommandLine* record) {
+    const std::string& text = record->getOriginalCmd();
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && wantedHeads.count(text)) heads.emplace(text, record);
+    const std::string_view bare = std::string_view(text).substr(0, text.find_last_not_of(" \r\n") + 1);
+    if (wantedTexts.count(bare)) texts.emplace(bare);
   };
   for (CiscoCommandLine* record : into) known(record);
   for (CiscoCommandLine* record : extra) {
