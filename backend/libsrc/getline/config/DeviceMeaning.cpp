@@ -691,10 +691,12 @@ void collectShownNegations(const std::vector<CiscoCommandLine*>& records, const 
   const std::string indent(static_cast<size_t>(depth), ' ');
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
+    const bool opens = record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO);
+    if (!opens && !(depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED))) continue;
     const std::string text = trimmed(record->getOriginalCmd());
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO)) {
+    if (opens) {
       collectShownNegations(record->getChildCommands(), heads + indent + text + "\n", depth + 1, out);
-    } else if (depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED)) {
+    } else {
       out += heads + indent + text + "\n";
     }
   }
