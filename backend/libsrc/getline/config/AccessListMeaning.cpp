@@ -44,22 +44,21 @@ bool isNamedList(const std::string& head) {
 }
 
 // The number of a top-level "access-list N ..." line ("no " allowed), or "".
-std::string listNumber(const std::string& line, bool negated) {
-  const std::string lead = negated ? "no access-list " : "access-list ";
+std::string listNumber(std::string_view line, bool negated) {
+  const std::string_view lead = negated ? "no access-list " : "access-list ";
   if (line.compare(0, lead.size(), lead) != 0) return {};
   const size_t end = line.find_first_not_of("0123456789", lead.size());
-  if (end == lead.size() || end == std::string::npos || line[end] != ' ') return {};
-  return line.substr(lead.size(), end - lead.size());
+  if (end == lead.size() || end == std::string_view::npos || line[end] != ' ') return {};
+  return std::string(line.substr(lead.size(), end - lead.size()));
 }
 
 std::map<std::string, std::vector<std::string>> numberedLists(const std::string& text) {
   std::map<std::string, std::vector<std::string>> lists;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) {
-    line.erase(line.find_last_not_of(" \t\r") + 1);
+  meaning::forEachLine(text, [&lists](std::string_view line) {
+    line = line.substr(0, line.find_last_not_of(" \t\r") + 1);
     const std::string number = listNumber(line, false);
-    if (!number.empty()) lists[number].push_back(line);
-  }
+    if (!number.empty()) lists[number].emplace_back(line);
+  });
   return lists;
 }
 
@@ -274,13 +273,18 @@ std::vector<Entry> namedEntries(const CiscoCommandLine& list, bool& shown) {
 }  // namespace
 
 std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
-  std::istringstream in(changes);
   std::string out;
-  for (std::string line; std::getline(in, line);) {
+  out.reserve(changes.size() + 1);
+  meaning::forEachLine(changes, [&out](std::string_view line) {
     const std::string number = listNumber(line, true);
-    out += number.empty() ? line : "no access-list " + number;
-    out += "\n";
-  }
+    if (number.empty()) {
+      out += line;
+    } else {
+      out += "no access-list ";
+      out += number;
+    }
+    out += '\n';
+  });
   return out;
 }
 
@@ -389,6 +393,11 @@ void AccessListMeaning::numberedThroughNamed(std::vector<CiscoCommandLine*>& cha
 void AccessListMeaning::resequence(std::vector<CiscoCommandLine*>& changes,
                                    std::vector<CiscoCommandLine*>& config) {
   for (size_t i = 0; i < changes.size();) {
+    // Only a line that holds the word is read word by word.
+    if (changes[i]->getOriginalCmd().find("resequence") == std::string::npos) {
+      ++i;
+      continue;
+    }
     std::istringstream words(trimmed(changes[i]->getOriginalCmd()));
     std::string ip, accessList, verb, name;
     long start = 10, step = 10;

@@ -193,15 +193,16 @@ std::string ipv4FamilyOf(const std::vector<CiscoCommandLine*>& config, const std
 
 std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
                                                        std::set<std::string>& gone) {
-  std::istringstream in(changes);
   std::string out;
   out.reserve(changes.size() + 1);
-  for (std::string line; std::getline(in, line);) {
-    if (line.find("neighbor") == std::string::npos) {
-      out += line;
+  meaning::forEachLine(changes, [&out, &gone](std::string_view view) {
+    // Only a "no" line that names a neighbour can take the neighbour away.
+    if (view.find("neighbor") == std::string_view::npos || meaning::firstWord(view) != "no") {
+      out += view;
       out += '\n';
-      continue;
+      return;
     }
+    std::string line(view);
     std::istringstream words(line);
     std::string no, neighbor, who, what;
     words >> no >> neighbor >> who >> what;
@@ -214,7 +215,7 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
       line = line.substr(0, line.find_first_not_of(' ')) + "no neighbor " + who;
     }
     out += line + "\n";
-  }
+  });
   return out;
 }
 

@@ -166,8 +166,13 @@ CommandMatchIndex::KeySet::KeySet(const std::vector<CiscoCommandLine*>& commands
   std::sort(mKeys.begin(), mKeys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
 }
 
-bool CommandMatchIndex::KeySet::containsKeyOf(const CiscoCommandLine* probe) const {
-  const uint64_t hash = keyHash(probe);
+CommandMatchIndex::KeySet::KeySet(std::vector<std::pair<uint64_t, const CiscoCommandLine*>> keys)
+    : mKeys(std::move(keys)) {
+  // Only the order of the hashes matters to the lookups.
+  std::sort(mKeys.begin(), mKeys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+}
+
+bool CommandMatchIndex::KeySet::containsKeyOf(const CiscoCommandLine* probe, uint64_t hash) const {
   auto at = std::lower_bound(mKeys.begin(), mKeys.end(), hash,
                              [](const auto& entry, uint64_t key) { return entry.first < key; });
   for (; at != mKeys.end() && at->first == hash; ++at) {
@@ -470,9 +475,15 @@ uint64_t CommandMatchIndex::rankFor(size_t position) {
   return before + (after - before) / 2;
 }
 
-size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe) const {
+uint64_t CommandMatchIndex::keyHashAt(size_t position) const {
+  const Slot& slot = mSlots[mLevel[position]];
+  if (mIndexed && slot.live) return mBuckets[slot.bucket].hash;
+  return keyHash(slot.record);
+}
+
+size_t CommandMatchIndex::firstComparable(const CiscoCommandLine* probe, uint64_t probeHash) const {
   if (!mIndexed) return scanComparable(probe);
-  const uint32_t found = findBucket(probe, keyHash(probe));
+  const uint32_t found = findBucket(probe, probeHash);
   if (found == kNone) return npos;
   // The live commands stand in the level's order: the first that is
   // comparable is the answer.

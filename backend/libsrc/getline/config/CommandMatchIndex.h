@@ -56,7 +56,12 @@ class CommandMatchIndex {
   CommandMatchIndex& operator=(const CommandMatchIndex&) = delete;
 
   // Position of the first command C with C->isComparable(probe), or npos.
-  size_t firstComparable(const CiscoCommandLine* probe) const;
+  size_t firstComparable(const CiscoCommandLine* probe) const { return firstComparable(probe, keyHash(probe)); }
+  // The same, given keyHash(probe).
+  size_t firstComparable(const CiscoCommandLine* probe, uint64_t probeHash) const;
+  // keyHash of the command at `position`, as the index took it when the
+  // command came in (or was refreshed).
+  uint64_t keyHashAt(size_t position) const;
   // Position of the first command C with C->isNoable(probe), or npos.
   size_t firstNoable(const CiscoCommandLine* probe) const;
 
@@ -95,7 +100,11 @@ class CommandMatchIndex {
   class KeySet {
    public:
     explicit KeySet(const std::vector<CiscoCommandLine*>& commands);
-    bool containsKeyOf(const CiscoCommandLine* probe) const;
+    // The same from the commands with their keyHash (those without a path
+    // or marked removed are left out here).
+    explicit KeySet(std::vector<std::pair<uint64_t, const CiscoCommandLine*>> keys);
+    bool containsKeyOf(const CiscoCommandLine* probe) const { return containsKeyOf(probe, keyHash(probe)); }
+    bool containsKeyOf(const CiscoCommandLine* probe, uint64_t probeHash) const;
 
    private:
     std::vector<std::pair<uint64_t, const CiscoCommandLine*>> mKeys;

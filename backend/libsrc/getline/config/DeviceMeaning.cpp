@@ -128,21 +128,26 @@ bool isAdded(const CiscoCommandLine& record) {
 void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) {
   // The standing records of each kind with their numbers, in their order:
   // only added records move here, so the standing ones keep that order.
+  // Records are named by their place in `records` as given.
   struct Standing {
-    const CiscoCommandLine* record;
+    size_t index;
     std::vector<long> numbers;
     std::vector<long> highestSoFar;
   };
+  const size_t count = records.size();
   std::unordered_map<std::string, std::vector<Standing>> standing;
+  std::vector<bool> added(count);
   bool anyAdded = false;
-  for (const CiscoCommandLine* record : records) {
-    if (isAdded(*record)) {
+  for (size_t i = 0; i < count; ++i) {
+    const CiscoCommandLine* record = records[i];
+    added[i] = isAdded(*record);
+    if (added[i]) {
       anyAdded = true;
       continue;
     }
     std::vector<long> numbers;
     const std::string kind = numberedKind(*record, numbers);
-    if (!kind.empty()) standing[kind].push_back({record, std::move(numbers), {}});
+    if (!kind.empty()) standing[kind].push_back({i, std::move(numbers), {}});
   }
   if (!anyAdded || standing.empty()) return;
   for (auto& entry : standing) {
@@ -156,35 +161,36 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
   // never moves, so the standing records keep their order: numbered by it,
   // they tell on which side of an added record its anchor stands, from the
   // first standing record behind the added one.
-  using List = std::list<CiscoCommandLine*>;
-  List list(records.begin(), records.end());
-  std::unordered_map<const CiscoCommandLine*, List::iterator> where;
-  std::unordered_map<const CiscoCommandLine*, size_t> standingRank;
-  for (auto it = list.begin(); it != list.end(); ++it) {
-    where.emplace(*it, it);
-    if (!isAdded(**it)) standingRank.emplace(*it, standingRank.size());
+  using List = std::list<size_t>;
+  List list;
+  std::vector<List::iterator> where(count);
+  std::vector<size_t> standingRank(count, 0);
+  size_t standingCount = 0;
+  for (size_t i = 0; i < count; ++i) {
+    where[i] = list.insert(list.end(), i);
+    if (!added[i]) standingRank[i] = standingCount++;
   }
-  const size_t none = standingRank.size();
+  const size_t none = standingCount;
   // The rank of the first standing record behind each added one (none: it
   // stands behind them all), kept up to date as added records move.
-  std::unordered_map<const CiscoCommandLine*, size_t> nextStanding;
+  std::vector<size_t> nextStanding(count, none);
   size_t behind = none;
-  for (auto it = list.rbegin(); it != list.rend(); ++it) {
-    const auto rank = standingRank.find(*it);
-    if (rank != standingRank.end()) {
-      behind = rank->second;
+  for (size_t i = count; i-- > 0;) {
+    if (!added[i]) {
+      behind = standingRank[i];
     } else {
-      nextStanding[*it] = behind;
+      nextStanding[i] = behind;
     }
   }
   // As a walk by position over the level that takes a record out of its
   // place and puts it into another: behind a record moved further down, the
   // record that followed it is passed over.
   for (auto it = list.begin(); it != list.end();) {
-    CiscoCommandLine* record = *it;
+    const size_t index = *it;
+    const CiscoCommandLine* record = records[index];
     std::vector<long> own;
-    const auto kind = !isAdded(*record) || record->hasFlags(CMDBIT_NO) ? standing.end()
-                                                                      : standing.find(numberedKind(*record, own));
+    const auto kind = !added[index] || record->hasFlags(CMDBIT_NO) ? standing.end()
+                                                                   : standing.find(numberedKind(*record, own));
     if (kind == standing.end()) {
       ++it;
       continue;
@@ -196,8 +202,8 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
     // Before the first one of its kind with a higher number, else behind
     // the last one of its kind; nothing moves when it stands there already.
     const bool before = higher != kind->second.end();
-    const CiscoCommandLine* anchor = before ? higher->record : kind->second.back().record;
-    const List::iterator at = where.at(anchor);
+    const size_t anchor = before ? higher->index : kind->second.back().index;
+    const List::iterator at = where[anchor];
     const List::iterator next = std::next(it);
     const bool inPlace = before ? next == at
                                 : std::next(at) == list.end() || (it != list.begin() && std::prev(it) == at);
@@ -205,14 +211,17 @@ void DeviceMeaning::placeInNumberOrder(std::vector<CiscoCommandLine*>& records) 
       it = next;
       continue;
     }
-    const size_t anchorRank = standingRank.at(anchor);
-    const bool forward = anchorRank >= nextStanding.at(record);
+    const size_t anchorRank = standingRank[anchor];
+    const bool forward = anchorRank >= nextStanding[index];
     const List::iterator target = before ? at : std::next(at);
     list.splice(target, list, it);
-    nextStanding[record] = before ? anchorRank : anchorRank + 1;
+    nextStanding[index] = before ? anchorRank : anchorRank + 1;
     it = forward ? std::next(next) : next;
   }
-  records.assign(list.begin(), list.end());
+  std::vector<CiscoCommandLine*> placed;
+  placed.reserve(count);
+  for (const size_t index : list) placed.push_back(records[index]);
+  records.swap(placed);
 }
 
 void DeviceMeaning::dropRepeats(std::vector<CiscoCommandLine*>& records) {
@@ -256,17 +265,22 @@ void askedKeys(const std::vector<CiscoCommandLine*>& records, const std::string&
 }
 
 // The asked keys that `records` holds (a command by its text under the
-// texts of its mode heads).
-void heldKeys(const std::vector<CiscoCommandLine*>& records, const std::string& mode, const NegationKeys& keys,
+// texts of its mode heads). `key` holds the mode's text on entry and again on
+// return; each key is built in it.
+void heldKeys(const std::vector<CiscoCommandLine*>& records, std::string& key, const NegationKeys& keys,
               std::unordered_set<std::string>& held) {
+  const size_t mode = key.size();
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
-    std::string key = mode + trimmed(record->getOriginalCmd());
+    const std::string& text = record->getOriginalCmd();
+    key.resize(mode);
+    key.append(text, 0, text.find_last_not_of(" \r\n") + 1);
     if (keys.asked.count(key)) held.insert(key);
     if (record->getChildCommands().empty()) continue;
-    key += "\n";
+    key += '\n';
     if (keys.modes.count(key)) heldKeys(record->getChildCommands(), key, keys, held);
   }
+  key.resize(mode);
 }
 
 void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
@@ -304,8 +318,9 @@ void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
   if (keys.asked.empty()) return;
   std::unordered_set<std::string> before;
   std::unordered_set<std::string> after;
-  heldKeys(from, "", keys, before);
-  heldKeys(to, "", keys, after);
+  std::string key;
+  heldKeys(from, key, keys, before);
+  heldKeys(to, key, keys, after);
   dropIn(out, "", before, after);
 }
 
@@ -319,13 +334,27 @@ std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& 
 void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<CiscoCommandLine*>& into,
                           CiscoCommandLine* parent) {
   if (extra.empty()) return;
+  // The texts that the records of `extra` are looked up by; of `into`, only
+  // records with such a text need to be known.
+  std::set<std::string, std::less<>> wantedHeads;
+  std::set<std::string, std::less<>> wantedTexts;
+  for (const CiscoCommandLine* record : extra) {
+    if (record->getFlag() == CMD_TEXT) continue;
+    if (record->hasFlags(CMDBIT_OPENS_MODE)) {
+      wantedHeads.insert(record->getOriginalCmd());
+    } else {
+      wantedTexts.insert(trimmed(record->getOriginalCmd()));
+    }
+  }
   // The first mode head of `into` by its text, and the text of every record
   // of it, kept up to date as records join.
   std::unordered_map<std::string, CiscoCommandLine*> heads;
   std::unordered_set<std::string> texts;
-  const auto known = [&heads, &texts](CiscoCommandLine* record) {
-    if (record->hasFlags(CMDBIT_OPENS_MODE)) heads.emplace(record->getOriginalCmd(), record);
-    texts.insert(trimmed(record->getOriginalCmd()));
+  const auto known = [&](CiscoCommandLine* record) {
+    const std::string& text = record->getOriginalCmd();
+    if (record->hasFlags(CMDBIT_OPENS_MODE) && wantedHeads.count(text)) heads.emplace(text, record);
+    const std::string_view bare = std::string_view(text).substr(0, text.find_last_not_of(" \r\n") + 1);
+    if (wantedTexts.count(bare)) texts.emplace(bare);
   };
   for (CiscoCommandLine* record : into) known(record);
   for (CiscoCommandLine* record : extra) {
@@ -365,12 +394,44 @@ struct SettledKey {
   bool operator==(const SettledKey& other) const {
     return lead == other.lead && head == other.head && words == other.words;
   }
-  struct Hash {
-    size_t operator()(const SettledKey& key) const {
-      const std::hash<std::string_view> text;
-      return text(key.words) ^ (text(key.head) * 31) ^ (key.lead * 0x9e3779b97f4a7c15ULL);
+};
+
+// The line number last stored for each key: open addressing over slots that
+// keep the key's hash, so that a text of many lines makes no node per line.
+// The hash of a block's head is given by the caller, made once per block.
+class LastLines {
+ public:
+  static constexpr size_t npos = static_cast<size_t>(-1);
+
+  explicit LastLines(size_t count) {
+    size_t size = 16;
+    while (size < 2 * count + 2) size *= 2;
+    mSlots.resize(size);
+  }
+
+  // The line stored for `key`, which the caller may change; a new slot
+  // holds npos.
+  size_t& line(const SettledKey& key, size_t headHash) {
+    const size_t hash = std::hash<std::string_view>()(key.words) ^ (headHash * 31) ^ (key.lead * 0x9e3779b97f4a7c15ULL);
+    const size_t mask = mSlots.size() - 1;
+    for (size_t at = hash & mask;; at = (at + 1) & mask) {
+      Slot& slot = mSlots[at];
+      if (slot.line == npos) {
+        slot.hash = hash;
+        slot.key = key;
+        return slot.line;
+      }
+      if (slot.hash == hash && slot.key == key) return slot.line;
     }
+  }
+
+ private:
+  struct Slot {
+    size_t hash = 0;
+    SettledKey key;
+    size_t line = npos;
   };
+  std::vector<Slot> mSlots;
 };
 
 // `text` without the blanks, carriage returns and line ends behind it.
@@ -393,29 +454,31 @@ std::string DeviceMeaning::settledText(const std::string& text) {
   }
   // Per mode block: the last line of each command, by its words without "no".
   // A line undone later becomes "!" at the indent of the line that undoes it.
-  std::unordered_map<SettledKey, size_t, SettledKey::Hash> last;
-  last.reserve(lines.size());
+  LastLines last(lines.size());
   std::vector<int> commentIndent(lines.size(), -1);
   std::string_view head;
+  const size_t noHeadHash = std::hash<std::string_view>()(std::string_view());
+  size_t headHash = noHeadHash;
   for (size_t i = 0; i < lines.size(); ++i) {
     std::string_view line = lines[i];
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     const size_t lead = line.find_first_not_of(' ');
     if (lead == std::string_view::npos || line[lead] == '!') continue;
-    if (lead == 0) head = line;
+    if (lead == 0) {
+      head = line;
+      headHash = std::hash<std::string_view>()(head);
+    }
     const std::string_view words = trimmedView(line.substr(lead));
     const bool negated = words.compare(0, 3, "no ") == 0;
     const SettledKey key{lead == 0 ? std::string_view() : head, lead, negated ? words.substr(3) : words};
-    const auto found = last.find(key);
-    if (found != last.end()) {
-      std::string_view before = trimmedView(lines[found->second]);
+    size_t& found = last.line(key, lead == 0 ? noHeadHash : headHash);
+    if (found != LastLines::npos) {
+      std::string_view before = trimmedView(lines[found]);
       before.remove_prefix(std::min(before.size(), before.find_first_not_of(' ')));
       // The later line undoes the earlier one: the earlier one says nothing.
-      if ((before.compare(0, 3, "no ") == 0) != negated) commentIndent[found->second] = static_cast<int>(lead);
-      found->second = i;
-    } else {
-      last.emplace(key, i);
+      if ((before.compare(0, 3, "no ") == 0) != negated) commentIndent[found] = static_cast<int>(lead);
     }
+    found = i;
   }
   std::string out;
   out.reserve(text.size() + 1);
@@ -539,30 +602,34 @@ void DeviceMeaning::settingsAheadOfSubModes(std::vector<CiscoCommandLine*>& reco
 
 namespace {
 
+bool isRouteOption(std::string_view word) {
+  return word == "name" || word == "tag" || word == "permanent" || word == "track" || word == "global" ||
+         word == "multicast" || word == "dhcp";
+}
+
 // What names a static route: "ip route [vrf V] PREFIX MASK" and the next hop
 // or interface (both when given); distance, name, tag and the other options
 // are its settings. "" for any other line.
-std::string routeIdentity(const std::string& line) {
-  if (line.find("route") == std::string::npos) return {};
-  std::istringstream words(line);
-  std::string word, identity;
-  words >> word;
-  if (word != "ip") return {};
-  words >> word;
-  if (word != "route") return {};
-  identity = "ip route";
+std::string routeIdentity(std::string_view line) {
+  if (line.find("route") == std::string_view::npos) return {};
+  meaning::WordCursor words(line);
+  std::string_view word;
+  if (!words.next(word) || word != "ip") return {};
+  if (!words.next(word) || word != "route") return {};
+  std::string identity = "ip route";
   int values = 0;
-  while (words >> word) {
+  while (words.next(word)) {
     if (word == "vrf" && values == 0) {
-      std::string name;
-      words >> name;
-      identity += " vrf " + name;
+      std::string_view name;
+      words.next(name);
+      identity += " vrf ";
+      identity += name;
       continue;
     }
-    const bool number = word.find_first_not_of("0123456789") == std::string::npos;
-    static const std::set<std::string> options = {"name", "tag", "permanent", "track", "global", "multicast", "dhcp"};
-    if ((number && values >= 2) || options.count(word)) break;
-    identity += " " + word;
+    const bool number = word.find_first_not_of("0123456789") == std::string_view::npos;
+    if ((number && values >= 2) || isRouteOption(word)) break;
+    identity += ' ';
+    identity += word;
     ++values;
   }
   return values >= 3 ? identity : std::string();
@@ -575,7 +642,8 @@ void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& chan
   std::set<std::string> given;
   for (const CiscoCommandLine* change : changes) {
     if (change->hasFlags(CMDBIT_NO)) continue;
-    const std::string identity = routeIdentity(trimmed(change->getOriginalCmd()));
+    // Blanks behind a line make no word: the text need not be trimmed.
+    const std::string identity = routeIdentity(change->getOriginalCmd());
     if (!identity.empty()) given.insert(identity);
   }
   if (given.empty()) return;
@@ -584,7 +652,12 @@ void DeviceMeaning::replaceSameRoutes(const std::vector<CiscoCommandLine*>& chan
   std::vector<CiscoCommandLine*> kept;
   kept.reserve(config.size());
   for (CiscoCommandLine* record : config) {
-    if (record->getTreeNodeSize() > 0 && given.count(routeIdentity(trimmed(record->getOriginalCmd())))) {
+    if (record->getTreeNodeSize() == 0) {
+      kept.push_back(record);
+      continue;
+    }
+    const std::string identity = routeIdentity(record->getOriginalCmd());
+    if (!identity.empty() && given.count(identity)) {
       freeRecord(record);
     } else {
       kept.push_back(record);
@@ -597,12 +670,12 @@ void DeviceMeaning::dropReplacedRoutes(std::vector<CiscoCommandLine*>& out) {
   std::set<std::string> given;
   for (const CiscoCommandLine* record : out) {
     if (record->hasFlags(CMDBIT_NO)) continue;
-    const std::string identity = routeIdentity(trimmed(record->getOriginalCmd()));
+    const std::string identity = routeIdentity(record->getOriginalCmd());
     if (!identity.empty()) given.insert(identity);
   }
   for (auto it = out.begin(); it != out.end();) {
     const std::string text = trimmed((*it)->getOriginalCmd());
-    if (startsWith(text, "no ") && given.count(routeIdentity(text.substr(3)))) {
+    if (startsWith(text, "no ") && given.count(routeIdentity(std::string_view(text).substr(3)))) {
       freeRecord(*it);
       it = out.erase(it);
     } else {
@@ -618,10 +691,12 @@ void collectShownNegations(const std::vector<CiscoCommandLine*>& records, const 
   const std::string indent(static_cast<size_t>(depth), ' ');
   for (const CiscoCommandLine* record : records) {
     if (record->getTreeNodeSize() == 0) continue;
+    const bool opens = record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO);
+    if (!opens && !(depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED))) continue;
     const std::string text = trimmed(record->getOriginalCmd());
-    if (record->hasFlags(CMDBIT_OPENS_MODE) && !record->hasFlags(CMDBIT_NO)) {
+    if (opens) {
       collectShownNegations(record->getChildCommands(), heads + indent + text + "\n", depth + 1, out);
-    } else if (depth > 0 && record->hasFlags(CMDBIT_NO) && record->hasFlags(CMDBIT_STORED)) {
+    } else {
       out += heads + indent + text + "\n";
     }
   }

@@ -7,6 +7,9 @@
 // outcome of that procedure: selectionOrderPlain runs it as it is (quadratic),
 // selectionOrder finds each pass's candidate by jumping from one change of
 // candidate to the next through minimum trees, which gives the same sequence.
+// It leaves alone the positions ahead of the first one that a later key beats
+// (one pass from the back finds it), and runs the plain procedure on a rest
+// of a few keys.
 //
 // Plain values in and out; no shared state; not tied to any grammar.
 #pragma once

@@ -2,6 +2,7 @@
 #include "config/DeviceTextReader.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -19,6 +20,16 @@ struct ReadLine {
   int emptyBefore = 0;
 };
 
+// Where the line that starts at `from` ends: at the first carriage return or
+// line feed, else at the end. Two searches for one character each (a search
+// for either looks every character up in a set).
+size_t lineEnd(const std::string& text, size_t from) {
+  size_t end = text.find('\n', from);
+  if (end == std::string::npos) end = text.size();
+  const void* back = std::memchr(text.data() + from, '\r', end - from);
+  return back == nullptr ? end : static_cast<size_t>(static_cast<const char*>(back) - text.data());
+}
+
 // The non-empty lines of `text`, numbered as the terminal numbers them (cut at
 // carriage returns and line feeds, empty pieces dropped), each with the count
 // of empty lines that stood before it.
@@ -34,8 +45,7 @@ std::vector<ReadLine> nonEmptyLines(const std::string& text) {
       ++position;
       continue;
     }
-    size_t end = text.find_first_of("\r\n", position);
-    if (end == std::string::npos) end = text.size();
+    size_t end = lineEnd(text, position);
     ReadLine line;
     line.start = position;
     line.length = end - position;
@@ -105,6 +115,10 @@ void DeviceTextReader::attachRawText(const std::string& text, const std::vector<
     const int number = record->getLineNo();
     if (number < 1 || static_cast<size_t>(number) > lines.size()) continue;
     const ReadLine& line = lines[static_cast<size_t>(number) - 1];
+    if (line.emptyBefore == 0) {
+      record->setRawText(text.substr(line.start, line.length));
+      continue;
+    }
     std::string raw;
     raw.reserve(static_cast<size_t>(line.emptyBefore) + line.length);
     raw.append(static_cast<size_t>(line.emptyBefore), '\n');

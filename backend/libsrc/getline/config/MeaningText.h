@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "config/CiscoCommandLine.h"
@@ -21,6 +22,64 @@ inline std::string trimmed(std::string text) {
 
 inline bool startsWith(const std::string& text, const std::string& lead) {
   return text.compare(0, lead.size(), lead) == 0;
+}
+
+// The blanks that separate words of a line as a stream reads them (blank,
+// tab, line end, carriage return, vertical tab, form feed).
+inline bool isWordBreak(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+// The words of `text`, cut at those blanks; no empty words.
+inline std::vector<std::string> wordsOf(std::string_view text) {
+  std::vector<std::string> words;
+  size_t i = 0;
+  while (true) {
+    while (i < text.size() && isWordBreak(text[i])) ++i;
+    if (i == text.size()) return words;
+    const size_t start = i;
+    while (i < text.size() && !isWordBreak(text[i])) ++i;
+    words.emplace_back(text.substr(start, i - start));
+  }
+}
+
+// The words of a text one after the other, without copies: next() gives
+// the following word, or false (leaving `word` alone) when none is left.
+class WordCursor {
+ public:
+  explicit WordCursor(std::string_view text) : mText(text) {}
+  bool next(std::string_view& word) {
+    while (mAt < mText.size() && isWordBreak(mText[mAt])) ++mAt;
+    if (mAt == mText.size()) return false;
+    const size_t start = mAt;
+    while (mAt < mText.size() && !isWordBreak(mText[mAt])) ++mAt;
+    word = mText.substr(start, mAt - start);
+    return true;
+  }
+
+ private:
+  std::string_view mText;
+  size_t mAt = 0;
+};
+
+// The first word of `text` (empty when there is none), without a copy.
+inline std::string_view firstWord(std::string_view text) {
+  size_t i = 0;
+  while (i < text.size() && isWordBreak(text[i])) ++i;
+  const size_t start = i;
+  while (i < text.size() && !isWordBreak(text[i])) ++i;
+  return text.substr(start, i - start);
+}
+
+// Calls `each` with every line of `text` as a line reader gives them: cut at
+// line feeds, the feed not included, nothing behind a last feed.
+template <typename Each>
+void forEachLine(const std::string& text, Each&& each) {
+  size_t start = 0;
+  while (start < text.size()) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    each(std::string_view(text).substr(start, end - start));
+    start = end + 1;
+  }
 }
 
 // Frees one record with its children.

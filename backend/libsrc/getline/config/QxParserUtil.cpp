@@ -2,7 +2,9 @@
 // text to command records.
 #include "config/QxParserUtil.h"
 
+#include <algorithm>
 #include <atomic>
+#include <functional>
 #include <fstream>
 #include <memory>
 #include <set>
@@ -193,19 +195,20 @@ bool QxParserUtil::isTheSameCmd(const std::string& a, const std::string& b, bool
 
 void QxParserUtil::deleteCommands(std::vector<CiscoCommandLine*>& commands) {
   // Records of all levels may stand in the vector, and children are owned by
-  // their parents: free each record once, children included.
-  std::unordered_set<CiscoCommandLine*> reachable;
-  reachable.reserve(commands.size());
-  std::vector<CiscoCommandLine*> below;
-  for (CiscoCommandLine* record : commands) {
-    below.clear();
-    record->getAllChildCommands(below);
-    reachable.insert(below.begin(), below.end());
-  }
+  // their parents: free each record once, children included. Sorted
+  // addresses tell which records hang below others, and whether one is
+  // listed twice (then a set keeps count of those freed).
+  const std::less<const CiscoCommandLine*> byAddress;
+  std::vector<CiscoCommandLine*> reachable;
+  for (CiscoCommandLine* record : commands) record->getAllChildCommands(reachable);
+  std::sort(reachable.begin(), reachable.end(), byAddress);
+  std::vector<CiscoCommandLine*> listed(commands);
+  std::sort(listed.begin(), listed.end(), byAddress);
+  const bool repeated = std::adjacent_find(listed.begin(), listed.end()) != listed.end();
   std::unordered_set<CiscoCommandLine*> freed;
-  freed.reserve(commands.size());
   for (CiscoCommandLine* record : commands) {
-    if (reachable.count(record) || !freed.insert(record).second) continue;
+    if (std::binary_search(reachable.begin(), reachable.end(), record, byAddress)) continue;
+    if (repeated && !freed.insert(record).second) continue;
     record->delOnlyChildCmds();
     delete record;
   }

@@ -257,12 +257,19 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
     if (!head->getChildCommands().empty()) out.push_back(head.release());
   };
   CommandMatchIndex toIndex(to);
+  // The key hashes of `from`, taken once: the pass below reads the records
+  // and changes none of them.
+  std::vector<std::pair<uint64_t, const CiscoCommandLine*>> fromKeys;
+  fromKeys.reserve(from.size());
 
   for (CiscoCommandLine* command : from) {
+    const bool keyed = !command->hasFlags(CMDBIT_REMOVED) && !command->getTreeNodes().empty();
+    const uint64_t hash = CommandMatchIndex::keyHash(command);
+    if (keyed) fromKeys.emplace_back(hash, command);
     if (!command->hasFlags(CMDBIT_STORED)) continue;
     const CiscoCommandLineFlag kind = command->getFlag();
     const bool opensMode = command->hasFlags(CMDBIT_OPENS_MODE);
-    const size_t at = toIndex.firstComparable(command);
+    const size_t at = toIndex.firstComparable(command, hash);
     if (at == CommandMatchIndex::npos) {
       if (kind != CMD_MERGEABLE) {
         negate(command);
@@ -306,10 +313,11 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
 
   // New commands go behind the negations. A command of `from` is comparable
   // with a target exactly when their key signatures agree.
-  const CommandMatchIndex::KeySet fromKeys(from);
-  for (CiscoCommandLine* target : to) {
+  const CommandMatchIndex::KeySet fromKeySet(std::move(fromKeys));
+  for (size_t i = 0; i < to.size(); ++i) {
+    CiscoCommandLine* target = to[i];
     if (!target->hasFlags(CMDBIT_STORED)) continue;
-    if (!fromKeys.containsKeyOf(target)) out.push_back(copyUnder(target, parent));
+    if (!fromKeySet.containsKeyOf(target, toIndex.keyHashAt(i))) out.push_back(copyUnder(target, parent));
   }
 }
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <map>
-#include <sstream>
 #include <string>
 
 #include "config/DeviceTextReader.h"
@@ -16,13 +15,7 @@ namespace {
 
 using meaning::freeRecord;
 using meaning::trimmed;
-
-std::vector<std::string> wordsOf(const std::string& text) {
-  std::istringstream in(text);
-  std::vector<std::string> words;
-  for (std::string word; in >> word;) words.push_back(word);
-  return words;
-}
+using meaning::wordsOf;
 
 bool isNumber(const std::string& word) {
   return !word.empty() && word.size() < 10 && word.find_first_not_of("0123456789") == std::string::npos;
