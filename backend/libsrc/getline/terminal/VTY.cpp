@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "config/CiscoCommandLine.h"
+#include "config/CmdOrderTable.h"
 #include "grammar/DefinitionLoader.h"
 #include "grammar/InterfaceTypeOrder.h"
 #include "grammar/ParserTree.h"
@@ -55,6 +56,9 @@ bool isBlankOrEnd(const std::string& line) {
 }  // namespace
 
 VTY::VTY(const std::string& hostName, bool cliMode) : mCliMode(cliMode), mHostName(hostName) {
+  // The order table's filling makes terminals of its own: it runs before
+  // the lock is taken, so that they can take it.
+  fillDeferredCmdOrderTable();
   ParserTree* trees[3];
   {
     std::lock_guard<std::mutex> guard(gTreesLock);
