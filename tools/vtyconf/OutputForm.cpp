@@ -2,6 +2,7 @@
 
 #include "OutputText.h"
 #include "config/QxParserUtil.h"
+#include "config/SideReading.h"
 
 namespace vtycli {
 
@@ -11,6 +12,13 @@ void addMergeFormFlag(CLI::App& sub, bool& mergeForm) {
   sub.add_flag(
       "--merge-form", mergeForm,
       "print the library's merge-writer form instead of device text (full lower-case words, no comments)");
+}
+
+void addReadingThreadsOption(CLI::App& sub) {
+  sub.add_option_function<int>(
+         "-j,--jobs", [](const int& jobs) { qxparser::SideReading::setThreadsAllowed(jobs > 1); },
+         "threads for reading the two texts: 1 or 2 (default: 2 where the machine has more than one processor)")
+      ->check(CLI::Range(1, 2));
 }
 
 std::string mergeOutput(const std::string& changes, const std::string& config, bool mergeForm,

@@ -20,6 +20,11 @@ namespace vtycli {
 // Adds the --merge-form flag to a subcommand.
 void addMergeFormFlag(CLI::App& sub, bool& mergeForm);
 
+// -j/--jobs of a job on two texts: 1 reads them one after the other on one
+// processor; 2 (the default where the machine has more than one) lets long
+// texts be read at once.
+void addReadingThreadsOption(CLI::App& sub);
+
 // Device text is read as the device reads pasted text: refused lines are
 // appended to the lists. The merge-writer form is that of the specified
 // operations, which replay the texts and report nothing.

@@ -71,6 +71,7 @@ CommandRegistration registration{CommandSpec{
       sub.add_flag("--cut-at-deep-levels", options->cutAtDeepLevels,
                    "compare as fallbackConfigCmds does: nothing from the first command two levels inside a mode on");
       addMergeFormFlag(sub, options->mergeForm);
+      addReadingThreadsOption(sub);
       sub.footer("Example: vtyconf fallback changes.txt router1.cfg --delta");
       return [options]() {
         ConfigInput first;

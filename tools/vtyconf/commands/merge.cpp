@@ -30,6 +30,7 @@ CommandRegistration registration{CommandSpec{
       sub.add_option("CONFIG", options->config, "the configuration ('-' for standard input)")->required();
       sub.add_option("-o,--output", options->output, "write the result to FILE");
       addMergeFormFlag(sub, options->mergeForm);
+      addReadingThreadsOption(sub);
       sub.footer("Example: vtyconf merge changes.txt router1.cfg -o merged.cfg");
       return [options]() {
         ConfigInput changes;

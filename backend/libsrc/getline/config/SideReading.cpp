@@ -1,5 +1,6 @@
 #include "config/SideReading.h"
 
+#include <atomic>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -12,7 +13,21 @@ SideReading::~SideReading() {
   if (mPosted && mEnd.valid()) mEnd.wait();
 }
 
+namespace {
+
+std::atomic<bool>& allowedFlag() {
+  static std::atomic<bool> allowed{std::thread::hardware_concurrency() != 1};
+  return allowed;
+}
+
+}  // namespace
+
+void SideReading::setThreadsAllowed(bool allowed) { allowedFlag().store(allowed, std::memory_order_relaxed); }
+
+bool SideReading::threadsAllowed() { return allowedFlag().load(std::memory_order_relaxed); }
+
 bool SideReading::worthAThread(const std::string& text) {
+  if (!threadsAllowed()) return false;
   // Counting stops at the threshold: a long text is not scanned whole.
   size_t lines = 0;
   for (size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1)) {

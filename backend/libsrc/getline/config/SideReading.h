@@ -9,7 +9,8 @@
 // it threw; a reading that was never posted runs in wait(), on the calling
 // thread, at the place where a serial job reads it. Texts are worth a thread
 // only from kLinesForThread lines on: below that a thread costs more than it
-// saves.
+// saves. setThreadsAllowed(false) keeps every reading on the caller's thread
+// (the default on a machine with one processor).
 //
 // Lifetimes: a SideReading's destructor waits for it when it was posted, and
 // a SideThread's destructor runs what was posted to it and then ends its
@@ -29,9 +30,11 @@
 #include <string>
 #include <thread>
 
+#include "platform/Export.h"
+
 namespace qxparser {
 
-class SideReading {
+class VTYCONF_API SideReading {
  public:
   static constexpr size_t kLinesForThread = 2000;
 
@@ -40,8 +43,13 @@ class SideReading {
   SideReading& operator=(const SideReading&) = delete;
   ~SideReading();
 
-  // Whether `text` has lines enough for a reading on a thread of its own.
+  // Whether `text` has lines enough for a reading on a thread of its own
+  // (never while threads are not allowed).
   static bool worthAThread(const std::string& text);
+
+  // Whether readings may run on a second thread at all, for the process.
+  static void setThreadsAllowed(bool allowed);
+  static bool threadsAllowed();
 
   // The work done (here, when it was never posted); throws what it threw.
   void wait();
