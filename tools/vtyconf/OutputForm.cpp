@@ -2,7 +2,6 @@
 
 #include "OutputText.h"
 #include "config/QxParserUtil.h"
-#include "config/SideReading.h"
 
 namespace vtycli {
 
@@ -16,7 +15,7 @@ void addMergeFormFlag(CLI::App& sub, bool& mergeForm) {
 
 void addReadingThreadsOption(CLI::App& sub) {
   sub.add_option_function<int>(
-         "-j,--jobs", [](const int& jobs) { qxparser::SideReading::setThreadsAllowed(jobs > 1); },
+         "-j,--jobs", [](const int& jobs) { QxParserUtil::setReadingThreadsAllowed(jobs > 1); },
          "threads for reading the two texts: 1 or 2 (default: 2 where the machine has more than one processor)")
       ->check(CLI::Range(1, 2));
 }

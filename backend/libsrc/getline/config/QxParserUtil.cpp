@@ -13,6 +13,7 @@
 
 #include "config/CmdOrderTable.h"
 #include "config/DeviceTextReader.h"
+#include "config/SideReading.h"
 #include "grammar/DefinitionLoader.h"
 #include "grammar/ParserException.h"
 #include "grammar/ParserTree.h"
@@ -229,5 +230,11 @@ void QxParserUtil::releaseResultRecords(std::vector<CiscoCommandLine*>& commands
   kept->insert(kept->end(), commands.begin(), commands.end());
   commands.clear();
 }
+
+}  // namespace qxparser
+
+namespace qxparser {
+
+void QxParserUtil::setReadingThreadsAllowed(bool allowed) { SideReading::setThreadsAllowed(allowed); }
 
 }  // namespace qxparser

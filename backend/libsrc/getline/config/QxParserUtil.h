@@ -109,6 +109,10 @@ class VTYCONF_API QxParserUtil {
   // they built their result from before they return (the default). A program
   // that ends after one such operation may turn this off: the records then
   // stay reachable until the process ends, whose exit frees them at once.
+  // Whether long texts of one job may be read on a second thread at once
+  // (see SideReading; by default where the machine has more than one
+  // processor).
+  static void setReadingThreadsAllowed(bool allowed);
   static void setFreeRecordsOnReturn(bool free);
   static bool freeRecordsOnReturn();
   // deleteCommands, or (with freeRecordsOnReturn off) the records kept

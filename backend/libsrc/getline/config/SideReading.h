@@ -30,11 +30,9 @@
 #include <string>
 #include <thread>
 
-#include "platform/Export.h"
-
 namespace qxparser {
 
-class VTYCONF_API SideReading {
+class SideReading {
  public:
   static constexpr size_t kLinesForThread = 2000;
 
