@@ -348,6 +348,20 @@ void finishing(ParserTree&, ParserTreeNode* parent, ParserTreeNode* node, std::s
 
 void readLines(ParserTree& tree, DefinitionLines& lines);
 
+// The next line of `lines` that holds a first word, cut into `fields`, its
+// first word in `token`; every line passed is counted for the messages.
+bool nextDefinition(ParserTree& tree, DefinitionLines& lines, DefinitionLine& fields, std::string_view& token) {
+  std::string_view line;
+  while (lines.next(line)) {
+    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
+    if (line.empty()) continue;
+    fields.cut(line);
+    token = fields.token();
+    if (!token.empty()) return true;
+  }
+  return false;
+}
+
 void readBlock(ParserTree& tree, std::string_view a, std::string_view c, DefinitionLines& lines) {
   if (a.empty() || a[0] != '#') return;
   ParserTreeNode* node = NodePool::newNode();
@@ -363,13 +377,8 @@ void readBlock(ParserTree& tree, std::string_view a, std::string_view c, Definit
   if (!node->mParent) node->mParent = parent;
   tree.mNodeStack.push_back(node);
   DefinitionLine fields;
-  std::string_view line;
-  while (lines.next(line)) {
-    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
-    if (line.empty()) continue;
-    fields.cut(line);
-    std::string_view word = fields.token();
-    if (word.empty()) continue;
+  std::string_view word;
+  while (nextDefinition(tree, lines, fields, word)) {
     if (word[0] == '#') break;
     putWord(node->mKeywords, word, fields.help());
   }
@@ -427,13 +436,8 @@ void linkItems(ParserTree& tree, std::string_view e, ParserTreeNode* node) {
 
 void readLines(ParserTree& tree, DefinitionLines& lines) {
   DefinitionLine fields;
-  std::string_view line;
-  while (lines.next(line)) {
-    if (!tree.mLoading.empty()) ++tree.mLoading.back().line;
-    if (line.empty()) continue;
-    fields.cut(line);
-    std::string_view a = fields.token();
-    if (a.empty()) continue;
+  std::string_view a;
+  while (nextDefinition(tree, lines, fields, a)) {
     if (a[0] == '#') {
       readBlock(tree, a, fields.flags(), lines);
     } else {

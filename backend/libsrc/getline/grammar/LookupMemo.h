@@ -21,6 +21,8 @@
 #include <string>
 #include <vector>
 
+#include "grammar/MemoSlots.h"
+
 namespace qxparser {
 
 class ParserTreeNode;
@@ -41,31 +43,18 @@ class LookupMemo {
 
   // Whether an answer is kept for node and token (then put in `answer`).
   bool find(const ParserTreeNode* node, const std::string& token, size_t hash, ParserTreeNode*& answer) const {
-    if (mSlots.empty()) return false;
-    const size_t mask = mSlots.size() - 1;
-    for (size_t at = hash & mask;; at = (at + 1) & mask) {
-      const Slot& slot = mSlots[at];
-      if (!slot.used) return false;
-      if (slot.hash == hash && slot.node == node && slot.token == token) {
-        answer = slot.answer;
-        return true;
-      }
-    }
+    const Slot* slot = mSlots.find(hash, [&](const Slot& kept) { return kept.node == node && kept.token == token; });
+    if (!slot) return false;
+    answer = slot->answer;
+    return true;
   }
 
   // Keeps an answer that find has just not found.
   void keep(const ParserTreeNode* node, const std::string& token, size_t hash, ParserTreeNode* answer) {
-    if (2 * (mCount + 1) > mSlots.size()) grow();
-    const size_t mask = mSlots.size() - 1;
-    size_t at = hash & mask;
-    while (mSlots[at].used) at = (at + 1) & mask;
-    Slot& slot = mSlots[at];
-    slot.used = true;
-    slot.hash = hash;
+    Slot& slot = mSlots.add(hash);
     slot.node = node;
     slot.token = token;
     slot.answer = answer;
-    ++mCount;
   }
 
  private:
@@ -77,35 +66,9 @@ class LookupMemo {
     ParserTreeNode* answer = nullptr;
   };
 
-  static constexpr size_t kFirstSlots = 256;
-  static constexpr size_t kMostSlots = 16384;
+  void clear() { mSlots.clear(); }
 
-  void clear() {
-    mSlots.clear();
-    mCount = 0;
-  }
-
-  // Twice the room, the answers moved over; past the limit, empty again.
-  void grow() {
-    if (mSlots.size() >= kMostSlots) {
-      for (Slot& slot : mSlots) slot = Slot();
-      mCount = 0;
-      return;
-    }
-    std::vector<Slot> old;
-    old.swap(mSlots);
-    mSlots.resize(old.empty() ? kFirstSlots : 2 * old.size());
-    const size_t mask = mSlots.size() - 1;
-    for (Slot& slot : old) {
-      if (!slot.used) continue;
-      size_t at = slot.hash & mask;
-      while (mSlots[at].used) at = (at + 1) & mask;
-      mSlots[at] = std::move(slot);
-    }
-  }
-
-  std::vector<Slot> mSlots;
-  size_t mCount = 0;
+  MemoSlots<Slot, 256, 16384> mSlots;
   size_t mPoolUsed = static_cast<size_t>(-1);
   size_t mGeneration = static_cast<size_t>(-1);
 };

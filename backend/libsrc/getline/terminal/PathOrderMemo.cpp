@@ -36,53 +36,20 @@ void PathOrderMemo::forgetIfStale() {
   const size_t tableSize = gCmdOrderTable().size();
   if (used == mPoolUsed && tableSize == mTableSize) return;
   mSlots.clear();
-  mCount = 0;
   mPoolUsed = used;
   mTableSize = tableSize;
 }
 
 const PathOrderMemo::Slot* PathOrderMemo::find(size_t hash, const ParserTreeNode* modeNode,
                                                const CiscoCommandLine& command) const {
-  if (mSlots.empty()) return nullptr;
-  const size_t mask = mSlots.size() - 1;
-  for (size_t at = hash & mask;; at = (at + 1) & mask) {
-    const Slot& slot = mSlots[at];
-    if (!slot.used) return nullptr;
-    if (slot.hash == hash && sameNodes(slot.nodes, modeNode, command.getTreeNodes())) return &slot;
-  }
+  return mSlots.find(hash, [&](const Slot& slot) { return sameNodes(slot.nodes, modeNode, command.getTreeNodes()); });
 }
 
 void PathOrderMemo::keep(size_t hash, const ParserTreeNode* modeNode, const CiscoCommandLine& command, int number) {
-  if (2 * (mCount + 1) > mSlots.size()) grow();
-  const size_t mask = mSlots.size() - 1;
-  size_t at = hash & mask;
-  while (mSlots[at].used) at = (at + 1) & mask;
-  Slot& slot = mSlots[at];
-  slot.used = true;
-  slot.hash = hash;
+  Slot& slot = mSlots.add(hash);
   slot.number = number;
   slot.nodes.push_back(modeNode);
   for (const CmdPathEntry& entry : command.getTreeNodes()) slot.nodes.push_back(entry.node);
-  ++mCount;
-}
-
-// Twice the room, the numbers moved over; past the limit, empty again.
-void PathOrderMemo::grow() {
-  if (mSlots.size() >= kMostSlots) {
-    for (Slot& slot : mSlots) slot = Slot();
-    mCount = 0;
-    return;
-  }
-  std::vector<Slot> old;
-  old.swap(mSlots);
-  mSlots.resize(old.empty() ? kFirstSlots : 2 * old.size());
-  const size_t mask = mSlots.size() - 1;
-  for (Slot& slot : old) {
-    if (!slot.used) continue;
-    size_t at = slot.hash & mask;
-    while (mSlots[at].used) at = (at + 1) & mask;
-    mSlots[at] = std::move(slot);
-  }
 }
 
 void PathOrderMemo::setOrderNo(CiscoCommandLine& command, ParserTreeNode* modeNode) {

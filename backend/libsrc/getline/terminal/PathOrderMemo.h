@@ -15,6 +15,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "grammar/MemoSlots.h"
+
 namespace qxparser {
 
 class CiscoCommandLine;
@@ -36,16 +38,12 @@ class PathOrderMemo {
   };
   // No template fits: the command keeps the number it had.
   static constexpr int kNoFit = INT32_MIN;
-  static constexpr size_t kFirstSlots = 64;
-  static constexpr size_t kMostSlots = 16384;
 
   void forgetIfStale();
   const Slot* find(size_t hash, const ParserTreeNode* modeNode, const CiscoCommandLine& command) const;
   void keep(size_t hash, const ParserTreeNode* modeNode, const CiscoCommandLine& command, int number);
-  void grow();
 
-  std::vector<Slot> mSlots;
-  size_t mCount = 0;
+  MemoSlots<Slot, 64, 16384> mSlots;
   size_t mPoolUsed = 0;
   size_t mTableSize = 0;
 };
