@@ -28,19 +28,6 @@ inline bool startsWith(const std::string& text, const std::string& lead) {
 // tab, line end, carriage return, vertical tab, form feed).
 inline bool isWordBreak(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-// The words of `text`, cut at those blanks; no empty words.
-inline std::vector<std::string> wordsOf(std::string_view text) {
-  std::vector<std::string> words;
-  size_t i = 0;
-  while (true) {
-    while (i < text.size() && isWordBreak(text[i])) ++i;
-    if (i == text.size()) return words;
-    const size_t start = i;
-    while (i < text.size() && !isWordBreak(text[i])) ++i;
-    words.emplace_back(text.substr(start, i - start));
-  }
-}
-
 // The words of a text one after the other, without copies: next() gives
 // the following word, or false (leaving `word` alone) when none is left.
 class WordCursor {
@@ -60,13 +47,19 @@ class WordCursor {
   size_t mAt = 0;
 };
 
+// The words of `text`, cut at those blanks; no empty words.
+inline std::vector<std::string> wordsOf(std::string_view text) {
+  std::vector<std::string> words;
+  WordCursor cursor(text);
+  for (std::string_view word; cursor.next(word);) words.emplace_back(word);
+  return words;
+}
+
 // The first word of `text` (empty when there is none), without a copy.
 inline std::string_view firstWord(std::string_view text) {
-  size_t i = 0;
-  while (i < text.size() && isWordBreak(text[i])) ++i;
-  const size_t start = i;
-  while (i < text.size() && !isWordBreak(text[i])) ++i;
-  return text.substr(start, i - start);
+  std::string_view word;
+  WordCursor(text).next(word);
+  return word;
 }
 
 // Calls `each` with every line of `text` as a line reader gives them: cut at
