@@ -34,7 +34,7 @@ std::string describe(const std::vector<CiscoCommandLine*>& records) {
         << record->getOriginalStr() << '|' << major << '|';
     for (const CmdPathEntry& entry : record->getTreeNodes()) {
       out << entry.node << '{';
-      for (const std::string& word : entry.words) out << word << ',';
+      for (std::string_view word : entry.words) out << word << ',';
       out << '}';
     }
     out << "|subs " << record->getSubCommands().size() << '\n';

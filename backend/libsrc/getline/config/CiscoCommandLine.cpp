@@ -178,7 +178,7 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
     if (entry.node != node) continue;
     if (node->hasFlag(NODE_FLAG_WA) && !entry.words.empty()) {
       // Prose keeps its typed order: the words join the first one.
-      std::string joined = *entry.words.begin() + " " + word;
+      std::string joined = std::string(*entry.words.begin()) + " " + word;
       entry.words.erase(entry.words.begin());
       entry.words.insert(std::move(joined));
     } else {

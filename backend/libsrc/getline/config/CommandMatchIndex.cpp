@@ -38,7 +38,7 @@ size_t nextKey(const std::vector<CmdPathEntry>& path, size_t from) {
   return from;
 }
 
-uint64_t textHash(const std::string& text) { return std::hash<std::string>{}(text); }
+uint64_t textHash(std::string_view text) { return std::hash<std::string_view>{}(text); }
 
 }  // namespace
 
@@ -52,7 +52,7 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
       appendRaw(key, position);
       appendRaw(key, entry.node);
       appendRaw(key, static_cast<uint32_t>(entry.words.size()));
-      for (const std::string& word : entry.words) {
+      for (std::string_view word : entry.words) {
         appendRaw(key, static_cast<uint32_t>(word.size()));
         key += word;
       }
@@ -69,7 +69,7 @@ uint64_t CommandMatchIndex::keyHash(const CiscoCommandLine* command) {
     hash = mix(hash, i);
     hash = mix(hash, reinterpret_cast<uintptr_t>(path[i].node));
     hash = mix(hash, path[i].words.size());
-    for (const std::string& word : path[i].words) hash = mix(hash, textHash(word));
+    for (std::string_view word : path[i].words) hash = mix(hash, textHash(word));
   }
   return hash;
 }

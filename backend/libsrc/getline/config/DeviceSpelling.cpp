@@ -104,7 +104,7 @@ void collectWords(const CiscoCommandLine& record, std::vector<std::string>& inte
   for (const CmdPathEntry& entry : record.getTreeNodes()) {
     if (entry.node == nullptr) continue;
     const bool isInterface = entry.node->mKeywords.count(interfaceKeyFile) != 0;
-    for (const std::string& word : entry.words) {
+    for (std::string_view word : entry.words) {
       lowerInto(word, key);
       if (isInterface && !holds(interfaces, key)) interfaces.push_back(key);
       if (entry.node->mKeywords.count(key) != 0 && !holds(keywords, key)) keywords.push_back(key);
