@@ -195,6 +195,17 @@ bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLin
     } else {
       ok = QxParserUtil::getCmdInfoTyped(text, all, refused ? *refused : unwanted);
     }
+  } catch (...) {
+    QxParserUtil::deleteCommands(all);
+    throw;
+  }
+  settle(text, all, commands, keepRefused);
+  return ok;
+}
+
+void DeviceTextReader::settle(const std::string& text, std::vector<CiscoCommandLine*>& all,
+                              std::vector<CiscoCommandLine*>& commands, bool keepRefused) {
+  try {
     attachRawText(text, all);
   } catch (...) {
     QxParserUtil::deleteCommands(all);
@@ -209,7 +220,7 @@ bool DeviceTextReader::read(const std::string& text, std::vector<CiscoCommandLin
   for (CiscoCommandLine* record : all) {
     if (record->getParentCommand() == nullptr && record->getLevel() != 0) delete record;
   }
-  return ok;
+  all.clear();
 }
 
 }  // namespace qxparser

@@ -38,6 +38,13 @@ class VTYCONF_API DeviceTextReader {
   static bool read(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                    std::vector<RefusedLine>* refused = nullptr, bool keepRefused = true, bool byIndent = false);
 
+  // The steps of `read` after the walk: `all` is a typed reading of `text`
+  // (all levels, in line order, as TypedTextReader::read gives it). Its
+  // level-0 records are appended to `commands`, which owns them from then on;
+  // records that nobody holds are freed, and `all` is emptied.
+  static void settle(const std::string& text, std::vector<CiscoCommandLine*>& all,
+                     std::vector<CiscoCommandLine*>& commands, bool keepRefused = true);
+
   // Gives each record of `records` (all levels, as getCmdInfo returned them
   // for `text`) the line it was read from.
   static void attachRawText(const std::string& text, const std::vector<CiscoCommandLine*>& records);

@@ -152,27 +152,31 @@ class VTYCONF_API QxParserUtil {
  private:
   friend struct QxParserUtilPeer;
   // Typed texts (non-null refused lists) are read by TypedTextReader, the
-  // others replayed. Long texts are read at once, the second on `side` (a
-  // thread of the call's own when null), which then also does `alongside`;
-  // when the texts are read one after the other, `alongside` is left to its
-  // owner.
+  // others replayed. Long texts are read at once, the second on a thread of
+  // the call's own. Where `firstReading` or `secondReading` is set, the typed
+  // reading of that text (all levels, in line order) is appended there for
+  // the caller, who owns it then, instead of being freed once the text is
+  // normalised.
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
-    SideThread* side = nullptr;
-    SideReading* alongside = nullptr;
+    std::vector<CiscoCommandLine*>* firstReading = nullptr;
+    std::vector<CiscoCommandLine*>* secondReading = nullptr;
   };
-  static std::string fallbackTypedAlongside(const std::string& first, const std::string& second, unsigned int mode,
-                                            std::vector<RefusedLine>* firstRefused,
-                                            std::vector<RefusedLine>* secondRefused, SideThread& side,
-                                            SideReading& alongside);
+  static std::string fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
+                                          std::vector<RefusedLine>* firstRefused,
+                                          std::vector<RefusedLine>* secondRefused,
+                                          std::vector<CiscoCommandLine*>* firstReading,
+                                          std::vector<CiscoCommandLine*>* secondReading);
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);
   // One text of a fallback read into its top-level records and brought into
-  // the form a merge writes (see fallbackNormalised).
+  // the form a merge writes (see fallbackNormalised). `reading`: as
+  // Readers::firstReading.
   static void readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
-                             std::vector<CiscoCommandLine*>& commands);
+                             std::vector<CiscoCommandLine*>& commands,
+                             std::vector<CiscoCommandLine*>* reading = nullptr);
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                         bool allLevels, const Readers& readers);
   static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);

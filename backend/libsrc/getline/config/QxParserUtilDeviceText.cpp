@@ -177,6 +177,14 @@ void dropComments(std::vector<CiscoCommandLine*>& records) {
   QxParserUtil::deleteCommands(comments);
 }
 
+// A typed reading of `text` (all levels, as the comparison kept it) in the
+// form DeviceTextReader::read gives: its top-level records.
+void settleReading(const std::string& text, std::vector<CiscoCommandLine*>& records) {
+  std::vector<CiscoCommandLine*> all;
+  all.swap(records);
+  DeviceTextReader::settle(text, all, records);
+}
+
 std::string nulAsBlank(std::string text) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
@@ -278,23 +286,20 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   }
   const std::string first = DeviceMeaning::settledText(firstGiven);
   const std::string second = DeviceMeaning::settledText(secondGiven);
-  // Each text is read once more here; the readings serve the typed lines and
-  // the lines the comparison leaves out. They do not depend on the
-  // comparison: with long texts, the thread that reads the second text for
-  // the comparison reads it again next, while this one compares. The first
-  // text is read after the comparison, whose records are gone by then (read
-  // beside it, both readings would be held at once with the comparison's).
+  // The comparison's typed readings of the two texts serve again, for the
+  // typed lines and the lines the comparison leaves out: no text is read a
+  // third time. (The first text's is wanted only where it is a whole
+  // configuration, mode 1.) They are held through the comparison, which
+  // costs memory that reading them again would not.
   std::vector<CiscoCommandLine*> firstRead;
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
-  SideReading secondAgain([&]() { DeviceTextReader::read(nulAsBlank(second), secondRead); });
-  SideThread side;
-  const std::string written =
-      nulAsBlank(fallbackTypedAlongside(first, second, mode, firstRefused, secondRefused, side, secondAgain));
+  const std::string written = nulAsBlank(
+      fallbackTypedKeeping(first, second, mode, firstRefused, secondRefused, mode != 0 ? &firstRead : nullptr, &secondRead));
   if (first.empty()) return second;
-  secondAgain.wait();
-  if (mode != 0) DeviceTextReader::read(nulAsBlank(first), firstRead);
+  settleReading(nulAsBlank(second), secondRead);
+  if (mode != 0) settleReading(nulAsBlank(first), firstRead);
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.

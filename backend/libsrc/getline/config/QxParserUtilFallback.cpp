@@ -47,13 +47,23 @@ std::string QxParserUtil::fallbackConfigCmdsAllLevels(const std::string& first, 
 }
 
 void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
-                                  std::vector<CiscoCommandLine*>& commands) {
+                                  std::vector<CiscoCommandLine*>& commands, std::vector<CiscoCommandLine*>* reading) {
   std::string errorText;
   int errorLine = 0;
   // Over every level, a text that is itself a merge result (NUL indent bytes
   // included) is read whole as well.
   const std::string given = allLevels ? blanksForNul(text) : text;
-  if (typed) {
+  const bool handedOn = typed != nullptr && reading != nullptr;
+  // Where the caller keeps the whole reading, its top level is only lent.
+  std::vector<CiscoCommandLine*> lent;
+  std::vector<CiscoCommandLine*>& read = handedOn ? lent : commands;
+  if (handedOn) {
+    const size_t from = reading->size();
+    TypedTextReader::read(given, *reading, *typed);
+    for (size_t at = from; at < reading->size(); ++at) {
+      if ((*reading)[at]->getLevel() == 0) lent.push_back((*reading)[at]);
+    }
+  } else if (typed) {
     transformCmdsTyped(given, commands, typed);
   } else {
     transformCmds(given, commands, errorText, errorLine);
@@ -62,9 +72,9 @@ void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::
   // comments are gone and repeated words stand in one order.
   // Text read as typed is read back the same way: a banner closed on its
   // last text line ("text ^C") stays closed.
-  std::string normalised = expandMergedCmds(commands, 0);
+  std::string normalised = expandMergedCmds(read, 0);
   if (allLevels) normalised = blanksForNul(normalised);
-  deleteTopLevel(commands);
+  if (!handedOn) deleteTopLevel(commands);
   if (typed) {
     // Typed texts found their levels by their exits; the written form keeps
     // them in its indent.
@@ -91,8 +101,7 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   std::string text;
   try {
     {
-      // Long texts are read at once, the second on the side thread, which
-      // then goes on with the caller's work alongside. The second text's
+      // Long texts are read at once, the second on the side thread. The second text's
       // refused lines follow those of the first, as one thread reading both
       // gives them.
       const bool beside = SideReading::worthAThread(first) && SideReading::worthAThread(second);
@@ -102,12 +111,10 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         if (secondTyped != &secondLines) return;
         readers.second->insert(readers.second->end(), secondLines.begin(), secondLines.end());
       };
-      SideReading secondSide([&]() { readNormalised(second, allLevels, secondTyped, secondCmds); });
-      SideThread ownSide;
-      SideThread& side = readers.side ? *readers.side : ownSide;
-      const bool posted = beside && side.post(secondSide);
-      if (posted && readers.alongside) side.post(*readers.alongside);
-      readNormalised(first, allLevels, readers.first, firstCmds);
+      SideReading secondSide([&]() { readNormalised(second, allLevels, secondTyped, secondCmds, readers.secondReading); });
+      SideThread side;
+      if (beside) side.post(secondSide);
+      readNormalised(first, allLevels, readers.first, firstCmds, readers.firstReading);
       try {
         secondSide.wait();
       } catch (...) {

@@ -65,13 +65,14 @@ std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, cons
   return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, Readers());
 }
 
-std::string QxParserUtil::fallbackTypedAlongside(const std::string& first, const std::string& second,
-                                                 unsigned int mode, std::vector<RefusedLine>* firstRefused,
-                                                 std::vector<RefusedLine>* secondRefused, SideThread& side,
-                                                 SideReading& alongside) {
+std::string QxParserUtil::fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
+                                               std::vector<RefusedLine>* firstRefused,
+                                               std::vector<RefusedLine>* secondRefused,
+                                               std::vector<CiscoCommandLine*>* firstReading,
+                                               std::vector<CiscoCommandLine*>* secondReading) {
   Readers readers;
-  readers.side = &side;
-  readers.alongside = &alongside;
+  readers.firstReading = firstReading;
+  readers.secondReading = secondReading;
   return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, readers);
 }
 
