@@ -272,20 +272,16 @@ std::vector<Entry> namedEntries(const CiscoCommandLine& list, bool& shown) {
 
 }  // namespace
 
-std::string AccessListMeaning::wholeListChanges(const std::string& changes) {
-  std::string out;
-  out.reserve(changes.size() + 1);
-  meaning::forEachLine(changes, [&out](std::string_view line) {
+bool AccessListMeaning::wholeListChanges(const std::string& changes, std::string& out) {
+  return meaning::rewriteLines(changes, out, [](std::string_view line, std::string& piece) {
     const std::string number = listNumber(line, true);
     if (number.empty()) {
-      out += line;
+      piece += line;
     } else {
-      out += "no access-list ";
-      out += number;
+      piece += "no access-list ";
+      piece += number;
     }
-    out += '\n';
   });
-  return out;
 }
 
 std::string AccessListMeaning::changedNumberedLists(const std::string& first, const std::string& second,

@@ -23,8 +23,10 @@ namespace qxparser {
 class AccessListMeaning {
  public:
   // `changes` with every top-level "no access-list N ..." of a numbered list
-  // cut to "no access-list N", which is what the device does with it.
-  static std::string wholeListChanges(const std::string& changes);
+  // cut to "no access-list N", which is what the device does with it, and
+  // every line closed by a line feed.
+  // Into `out`; false, with `out` untouched, where `changes` stands as it is.
+  static bool wholeListChanges(const std::string& changes, std::string& out);
 
   // For each numbered access list that `first` holds and `second` holds with
   // other entries (or in another order): "no access-list N" and the entries of

@@ -191,15 +191,12 @@ std::string ipv4FamilyOf(const std::vector<CiscoCommandLine*>& config, const std
 
 }  // namespace
 
-std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes,
-                                                       std::set<std::string>& gone) {
-  std::string out;
-  out.reserve(changes.size() + 1);
-  meaning::forEachLine(changes, [&out, &gone](std::string_view view) {
+bool BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone,
+                                                std::string& out) {
+  return meaning::rewriteLines(changes, out, [&gone](std::string_view view, std::string& piece) {
     // Only a "no" line that names a neighbour can take the neighbour away.
     if (view.find("neighbor") == std::string_view::npos || meaning::firstWord(view) != "no") {
-      out += view;
-      out += '\n';
+      piece += view;
       return;
     }
     std::string line(view);
@@ -214,9 +211,8 @@ std::string BgpNeighbourMeaning::wholeNeighbourChanges(const std::string& change
       gone.insert(who);
       line = line.substr(0, line.find_first_not_of(' ')) + "no neighbor " + who;
     }
-    out += line + "\n";
+    piece += line;
   });
-  return out;
 }
 
 void BgpNeighbourMeaning::dropGoneNeighbours(std::vector<CiscoCommandLine*>& config,

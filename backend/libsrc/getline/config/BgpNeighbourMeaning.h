@@ -31,7 +31,9 @@ class BgpNeighbourMeaning {
   // `changes` with "no neighbor X remote-as ..." and "no neighbor GROUP
   // peer-group" cut to "no neighbor X" (the device takes the whole neighbour
   // or peer group away); the neighbours that go this way are added to `gone`.
-  static std::string wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone);
+  // Into `out`, every line closed by a line feed; false, with `out`
+  // untouched, where `changes` stands as it is.
+  static bool wholeNeighbourChanges(const std::string& changes, std::set<std::string>& gone, std::string& out);
 
   // Takes the lines of the `gone` neighbours, and of the members of `gone`
   // peer groups, out of every "router bgp" record of `config` and out of its

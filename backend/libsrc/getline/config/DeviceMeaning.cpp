@@ -443,6 +443,11 @@ std::string_view trimmedView(std::string_view text) {
 }  // namespace
 
 std::string DeviceMeaning::settledText(const std::string& text) {
+  std::string out;
+  return settleText(text, out) ? out : text;
+}
+
+bool DeviceMeaning::settleText(const std::string& text, std::string& out) {
   // The lines as a line reader cuts them: at line feeds, nothing behind the
   // last one.
   std::vector<std::string_view> lines;
@@ -480,7 +485,12 @@ std::string DeviceMeaning::settledText(const std::string& text) {
     }
     found = i;
   }
-  std::string out;
+  // Lines joined again as they were cut give the text back.
+  if (std::find_if(commentIndent.begin(), commentIndent.end(), [](int indent) { return indent >= 0; }) ==
+      commentIndent.end()) {
+    return false;
+  }
+  out.clear();
   out.reserve(text.size() + 1);
   for (size_t i = 0; i < lines.size(); ++i) {
     if (commentIndent[i] < 0) {
@@ -492,7 +502,7 @@ std::string DeviceMeaning::settledText(const std::string& text) {
     out += '\n';
   }
   if (!text.empty() && text.back() != '\n' && !out.empty()) out.pop_back();
-  return out;
+  return true;
 }
 
 namespace {

@@ -90,6 +90,9 @@ class DeviceMeaning {
   // comment line of its indent: the device is left in the later line's state,
   // and the line numbers stay as they were.
   static std::string settledText(const std::string& text);
+  // The same into `out`; false, with `out` untouched, where no line is undone
+  // (the settled text is then `text` itself, and no copy of it is made).
+  static bool settleText(const std::string& text, std::string& out);
 
   // Moves the records of `extra` into `into`: a mode head that `into` holds
   // already takes the children, a command it holds already is dropped, any

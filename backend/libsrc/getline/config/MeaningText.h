@@ -75,6 +75,41 @@ void forEachLine(const std::string& text, Each&& each) {
   }
 }
 
+// Writes `text` line by line as forEachLine cuts it, each line as
+// `form(line, piece)` appends its new form (without the feed) to `piece`,
+// every line closed by a feed. Into `out`, and only where that differs from
+// `text`: the lines are copied from the first one that changes on, and
+// false (`out` untouched) says that `text` stands as it is.
+template <typename Form>
+bool rewriteLines(const std::string& text, std::string& out, Form&& form) {
+  bool changed = false;
+  std::string piece;
+  size_t start = 0;
+  while (start < text.size()) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    const std::string_view line = std::string_view(text).substr(start, end - start);
+    piece.clear();
+    form(line, piece);
+    if (!changed && piece != line) {
+      changed = true;
+      out.clear();
+      out.reserve(text.size() + 1);
+      out.append(text, 0, start);
+    }
+    if (changed) {
+      out += piece;
+      out += '\n';
+    }
+    start = end + 1;
+  }
+  if (changed || text.empty() || text.back() == '\n') return changed;
+  // Only the feed behind the last line is new.
+  out = text;
+  out += '\n';
+  return true;
+}
+
 // Frees one record with its children.
 inline void freeRecord(CiscoCommandLine* record) {
   std::vector<CiscoCommandLine*> alone{record};

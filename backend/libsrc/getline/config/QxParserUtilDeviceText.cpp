@@ -200,11 +200,18 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   RecordsGuard changeGuard(changeCmds, true);
   RecordsGuard configGuard(configCmds, true);
   std::set<std::string> goneNeighbours;
-  std::string resolved;
+  // The change set as read: allowed-vlan lists resolved against the
+  // configuration, whole lists and neighbours undone at once. A step that
+  // changes nothing makes no copy of the text.
+  const std::string* resolved = &changes;
+  std::string resolvedText;
   SideReading changeReading([&]() {
-    DeviceTextReader::read(
-        BgpNeighbourMeaning::wholeNeighbourChanges(AccessListMeaning::wholeListChanges(resolved), goneNeighbours),
-        changeCmds, changesRefused, false);
+    std::string lists;
+    std::string neighbours;
+    const std::string& listed = AccessListMeaning::wholeListChanges(*resolved, lists) ? lists : *resolved;
+    const std::string& read =
+        BgpNeighbourMeaning::wholeNeighbourChanges(listed, goneNeighbours, neighbours) ? neighbours : listed;
+    DeviceTextReader::read(read, changeCmds, changesRefused, false);
   });
   SideThread side;
   // A change set without allowed-vlan lists reads the same whatever the
@@ -213,12 +220,12 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   const bool ownLists = changesRefused == nullptr || changesRefused != configRefused;
   const bool beside = ownLists && !VlanListMeaning::needsConfig(changes) && SideReading::worthAThread(changes) &&
                       SideReading::worthAThread(config);
-  if (beside) {
-    resolved = changes;
-    side.post(changeReading);
-  }
+  if (beside) side.post(changeReading);
   DeviceTextReader::read(config, configCmds, configRefused);
-  if (!changeReading.posted()) resolved = VlanListMeaning::resolvedChanges(changes, configCmds);
+  if (!changeReading.posted() && VlanListMeaning::needsConfig(changes)) {
+    resolvedText = VlanListMeaning::resolvedChanges(changes, configCmds);
+    resolved = &resolvedText;
+  }
   changeReading.wait();
   if (changes.empty()) return config;
   InterfaceRangeMeaning::expand(changeCmds, configCmds);
@@ -284,8 +291,10 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     }
     return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
-  const std::string first = DeviceMeaning::settledText(firstGiven);
-  const std::string second = DeviceMeaning::settledText(secondGiven);
+  std::string firstSettled;
+  std::string secondSettled;
+  const std::string& first = DeviceMeaning::settleText(firstGiven, firstSettled) ? firstSettled : firstGiven;
+  const std::string& second = DeviceMeaning::settleText(secondGiven, secondSettled) ? secondSettled : secondGiven;
   // The comparison's typed readings of the two texts serve again, for the
   // typed lines and the lines the comparison leaves out: no text is read a
   // third time. (The first text's is wanted only where it is a whole
