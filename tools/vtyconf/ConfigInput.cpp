@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <thread>
 #include <utility>
 
 #include "config/QxParserUtil.h"
@@ -104,6 +105,40 @@ bool loadResources() {
     std::cerr << "vtyconf: " << e.what() << "\n";
     return false;
   }
+}
+
+bool readInputsAndLoad(const std::vector<std::string>& paths, std::vector<ConfigInput*> inputs) {
+  auto readAll = [&]() {
+    for (size_t i = 0; i < paths.size(); ++i) {
+      if (!readInput(paths[i], *inputs[i])) return false;
+    }
+    return true;
+  };
+  if (!qxparser::QxParserUtil::readingThreadsAllowed()) return readAll() && loadResources();
+  // Reading an input touches no state of the grammar: the two overlap.
+  std::string loadError;
+  bool loaded = false;
+  std::thread loader([&loadError, &loaded]() {
+    try {
+      qxparser::QxParserUtil::createNewParserResource();
+      loaded = true;
+    } catch (const std::exception& e) {
+      loadError = e.what();
+    } catch (...) {
+      loadError = "the definition files cannot be loaded";
+    }
+  });
+  bool read = false;
+  try {
+    read = readAll();
+  } catch (...) {
+    loader.join();
+    throw;
+  }
+  loader.join();
+  if (!read) return false;
+  if (!loaded) std::cerr << "vtyconf: " << loadError << "\n";
+  return loaded;
 }
 
 }  // namespace vtycli

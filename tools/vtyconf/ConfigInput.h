@@ -57,4 +57,11 @@ bool readInput(const std::string& path, ConfigInput& input, bool keepCapture = f
 // loaded.
 bool loadResources();
 
+// readInput for each of `paths` into `inputs`, and then loadResources: where
+// jobs may use a second thread (QxParserUtil::readingThreadsAllowed), the
+// definition files load on it while the inputs are read. The messages come
+// as the serial steps give them; the resources are loaded only when every
+// input was read.
+bool readInputsAndLoad(const std::vector<std::string>& paths, std::vector<ConfigInput*> inputs);
+
 }  // namespace vtycli

@@ -76,8 +76,7 @@ CommandRegistration registration{CommandSpec{
       return [options]() {
         ConfigInput first;
         ConfigInput second;
-        if (!readInput(options->first, first) || !readInput(options->second, second)) return 2;
-        if (!loadResources()) return 2;
+        if (!readInputsAndLoad({options->first, options->second}, {&first, &second})) return 2;
         // One operation, then the process ends: its exit frees the records.
         qxparser::QxParserUtil::setFreeRecordsOnReturn(false);
         const unsigned int mode = options->delta ? 0u : 1u;

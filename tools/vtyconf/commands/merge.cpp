@@ -35,8 +35,7 @@ CommandRegistration registration{CommandSpec{
       return [options]() {
         ConfigInput changes;
         ConfigInput config;
-        if (!readInput(options->changes, changes) || !readInput(options->config, config)) return 2;
-        if (!loadResources()) return 2;
+        if (!readInputsAndLoad({options->changes, options->config}, {&changes, &config})) return 2;
         // One operation, then the process ends: its exit frees the records.
         qxparser::QxParserUtil::setFreeRecordsOnReturn(false);
         std::vector<qxparser::RefusedLine> changesRefused;

@@ -237,4 +237,6 @@ namespace qxparser {
 
 void QxParserUtil::setReadingThreadsAllowed(bool allowed) { SideReading::setThreadsAllowed(allowed); }
 
+bool QxParserUtil::readingThreadsAllowed() { return SideReading::threadsAllowed(); }
+
 }  // namespace qxparser

@@ -105,14 +105,15 @@ class VTYCONF_API QxParserUtil {
   // their children (records of all levels may be in the vector).
   static void deleteCommands(std::vector<CiscoCommandLine*>& commands);
 
-  // vtyconf's own: whether the device-text operations below free the records
-  // they built their result from before they return (the default). A program
-  // that ends after one such operation may turn this off: the records then
-  // stay reachable until the process ends, whose exit frees them at once.
   // Whether long texts of one job may be read on a second thread at once
   // (see SideReading; by default where the machine has more than one
   // processor).
   static void setReadingThreadsAllowed(bool allowed);
+  static bool readingThreadsAllowed();
+  // vtyconf's own: whether the device-text operations below free the records
+  // they built their result from before they return (the default). A program
+  // that ends after one such operation may turn this off: the records then
+  // stay reachable until the process ends, whose exit frees them at once.
   static void setFreeRecordsOnReturn(bool free);
   static bool freeRecordsOnReturn();
   // deleteCommands, or (with freeRecordsOnReturn off) the records kept
