@@ -14,6 +14,7 @@
 // own (SideReading).
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -157,18 +158,19 @@ class VTYCONF_API QxParserUtil {
   // the call's own. Where `firstReading` or `secondReading` is set, the typed
   // reading of that text (all levels, in line order) is appended there for
   // the caller, who owns it then, instead of being freed once the text is
-  // normalised.
+  // normalised; `afterFirst` and `afterSecond` (where set) run on the thread
+  // that read the text, right after it.
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
     std::vector<CiscoCommandLine*>* firstReading = nullptr;
     std::vector<CiscoCommandLine*>* secondReading = nullptr;
+    std::function<void()> afterFirst;
+    std::function<void()> afterSecond;
   };
   static std::string fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
                                           std::vector<RefusedLine>* firstRefused,
-                                          std::vector<RefusedLine>* secondRefused,
-                                          std::vector<CiscoCommandLine*>* firstReading,
-                                          std::vector<CiscoCommandLine*>* secondReading);
+                                          std::vector<RefusedLine>* secondRefused, Readers kept);
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);
@@ -181,6 +183,10 @@ class VTYCONF_API QxParserUtil {
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                         bool allLevels, const Readers& readers);
   static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);
+  // Top-level records that a result was built from, with their children:
+  // deleteTopLevel, or left to the process's end as releaseResultRecords
+  // leaves them.
+  static void dropRecords(std::vector<CiscoCommandLine*>& commands);
   static void transformCmdsTyped(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                                  std::vector<RefusedLine>* refused);
   static bool transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,

@@ -304,11 +304,18 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   std::vector<CiscoCommandLine*> secondRead;
   RecordsGuard firstGuard(firstRead, true);
   RecordsGuard secondGuard(secondRead, true);
-  const std::string written = nulAsBlank(
-      fallbackTypedKeeping(first, second, mode, firstRefused, secondRefused, mode != 0 ? &firstRead : nullptr, &secondRead));
+  // Each is brought into the form DeviceTextReader::read gives by the thread
+  // that read it, while the other thread may still be reading.
+  Readers kept;
+  kept.secondReading = &secondRead;
+  kept.afterSecond = [&second, &secondRead]() { settleReading(nulAsBlank(second), secondRead); };
+  if (mode != 0) {
+    kept.firstReading = &firstRead;
+    kept.afterFirst = [&first, &firstRead]() { settleReading(nulAsBlank(first), firstRead); };
+  }
+  const std::string written =
+      nulAsBlank(fallbackTypedKeeping(first, second, mode, firstRefused, secondRefused, std::move(kept)));
   if (first.empty()) return second;
-  settleReading(nulAsBlank(second), secondRead);
-  if (mode != 0) settleReading(nulAsBlank(first), firstRead);
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.

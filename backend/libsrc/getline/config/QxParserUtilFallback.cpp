@@ -74,7 +74,7 @@ void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::
   // last text line ("text ^C") stays closed.
   std::string normalised = expandMergedCmds(read, 0);
   if (allLevels) normalised = blanksForNul(normalised);
-  if (!handedOn) deleteTopLevel(commands);
+  if (!handedOn) dropRecords(commands);
   if (typed) {
     // Typed texts found their levels by their exits; the written form keeps
     // them in its indent.
@@ -111,10 +111,14 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         if (secondTyped != &secondLines) return;
         readers.second->insert(readers.second->end(), secondLines.begin(), secondLines.end());
       };
-      SideReading secondSide([&]() { readNormalised(second, allLevels, secondTyped, secondCmds, readers.secondReading); });
+      SideReading secondSide([&]() {
+        readNormalised(second, allLevels, secondTyped, secondCmds, readers.secondReading);
+        if (readers.afterSecond) readers.afterSecond();
+      });
       SideThread side;
       if (beside) side.post(secondSide);
       readNormalised(first, allLevels, readers.first, firstCmds, readers.firstReading);
+      if (readers.afterFirst) readers.afterFirst();
       try {
         secondSide.wait();
       } catch (...) {
@@ -135,10 +139,18 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
     deleteTopLevel(out);
     throw;
   }
-  deleteTopLevel(firstCmds);
-  deleteTopLevel(secondCmds);
-  deleteTopLevel(out);
+  dropRecords(firstCmds);
+  dropRecords(secondCmds);
+  dropRecords(out);
   return text;
+}
+
+void QxParserUtil::dropRecords(std::vector<CiscoCommandLine*>& commands) {
+  if (freeRecordsOnReturn()) {
+    deleteTopLevel(commands);
+  } else {
+    releaseResultRecords(commands);
+  }
 }
 
 void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,

@@ -67,13 +67,8 @@ std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, cons
 
 std::string QxParserUtil::fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
                                                std::vector<RefusedLine>* firstRefused,
-                                               std::vector<RefusedLine>* secondRefused,
-                                               std::vector<CiscoCommandLine*>* firstReading,
-                                               std::vector<CiscoCommandLine*>* secondReading) {
-  Readers readers;
-  readers.firstReading = firstReading;
-  readers.secondReading = secondReading;
-  return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, readers);
+                                               std::vector<RefusedLine>* secondRefused, Readers kept) {
+  return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept));
 }
 
 std::string QxParserUtil::fallbackWithReaders(const std::string& first, const std::string& second,
