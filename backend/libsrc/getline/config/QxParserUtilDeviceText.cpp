@@ -66,9 +66,10 @@ std::string lastLine(const std::string& raw) {
   return line;
 }
 
-// The command of each full form without "no " (the first that a reading
-// gave), looked up by views into the records' own texts: the readings stay
-// unchanged while the rollback is written.
+// For the commands of a result, by their full form without "no ": the
+// command of a reading (the first that a reading gave) with that form. Keys
+// are views into the result's own texts, which stay unchanged while the
+// rollback is written; only the forms the result holds are kept.
 using TypedLines = std::unordered_map<std::string_view, const CiscoCommandLine*>;
 
 std::string_view withoutNoView(const std::string& text) {
@@ -77,15 +78,23 @@ std::string_view withoutNoView(const std::string& text) {
   return view;
 }
 
-// The commands of `records` (a reading of a text), all levels: the top level
-// first, then the commands below each, depth first.
+// The forms of `records` (a result, all levels) that lendTypedLines asks for.
+void wantTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
+  for (const CiscoCommandLine* record : records) {
+    if (record->getTreeNodeSize() != 0) lines.emplace(withoutNoView(record->getOriginalCmd()), nullptr);
+    wantTypedLines(record->getChildCommands(), lines);
+  }
+}
+
+// Finds the wanted forms among `records` (a reading of a text), all levels:
+// the top level first, then the commands below each, depth first.
 void collectTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
   std::vector<CiscoCommandLine*> all(records);
   for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
-  lines.reserve(lines.size() + all.size());
   for (const CiscoCommandLine* record : all) {
     if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
-    lines.emplace(withoutNoView(record->getOriginalCmd()), record);
+    const auto wanted = lines.find(withoutNoView(record->getOriginalCmd()));
+    if (wanted != lines.end() && wanted->second == nullptr) wanted->second = record;
   }
 }
 
@@ -320,8 +329,6 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.
   TypedLines typedLines;
-  collectTypedLines(secondRead, typedLines);
-  if (mode != 0) collectTypedLines(firstRead, typedLines);
   std::vector<CiscoCommandLine*> out;
   RecordsGuard guard(out, true);
   DeviceTextReader::read(written, out, nullptr, true, true);
@@ -337,6 +344,9 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   DeviceMeaning::dropReplacedRoutes(out);
   VlanListMeaning::dropReplacedLists(out);
   DeviceMeaning::settingsAheadOfSubModes(out, false);
+  wantTypedLines(out, typedLines);
+  collectTypedLines(secondRead, typedLines);
+  if (mode != 0) collectTypedLines(firstRead, typedLines);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
