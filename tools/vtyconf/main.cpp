@@ -22,16 +22,10 @@ std::vector<CommandSpec>& commandRegistry() {
 }
 
 // A run builds and frees millions of small records; the allocator's fast
-// bins only add their consolidation work to that pattern. Texts of a few
-// megabytes are copied and dropped step after step: kept in the heap rather
-// than mapped and unmapped each time, their pages are touched once, and a
-// process that ends soon keeps what it freed instead of handing it back.
+// bins only add their consolidation work to that pattern.
 void tuneAllocator() {
 #if defined(__GLIBC__)
-  constexpr int kLargeBlock = 256 * 1024 * 1024;
   mallopt(M_MXFAST, 0);
-  mallopt(M_MMAP_THRESHOLD, kLargeBlock);
-  mallopt(M_TRIM_THRESHOLD, kLargeBlock);
 #endif
 }
 
