@@ -183,10 +183,6 @@ class VTYCONF_API QxParserUtil {
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                         bool allLevels, const Readers& readers);
   static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);
-  // Top-level records that a result was built from, with their children:
-  // deleteTopLevel, or left to the process's end as releaseResultRecords
-  // leaves them.
-  static void dropRecords(std::vector<CiscoCommandLine*>& commands);
   static void transformCmdsTyped(const std::string& text, std::vector<CiscoCommandLine*>& commands,
                                  std::vector<RefusedLine>* refused);
   static bool transformCmds(const std::string& text, std::vector<CiscoCommandLine*>& commands,

@@ -74,7 +74,7 @@ void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::
   // last text line ("text ^C") stays closed.
   std::string normalised = expandMergedCmds(read, 0);
   if (allLevels) normalised = blanksForNul(normalised);
-  if (!handedOn) dropRecords(commands);
+  if (!handedOn) deleteTopLevel(commands);
   if (typed) {
     // Typed texts found their levels by their exits; the written form keeps
     // them in its indent.
@@ -139,18 +139,10 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
     deleteTopLevel(out);
     throw;
   }
-  dropRecords(firstCmds);
-  dropRecords(secondCmds);
-  dropRecords(out);
+  deleteTopLevel(firstCmds);
+  deleteTopLevel(secondCmds);
+  deleteTopLevel(out);
   return text;
-}
-
-void QxParserUtil::dropRecords(std::vector<CiscoCommandLine*>& commands) {
-  if (freeRecordsOnReturn()) {
-    deleteTopLevel(commands);
-  } else {
-    releaseResultRecords(commands);
-  }
 }
 
 void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
