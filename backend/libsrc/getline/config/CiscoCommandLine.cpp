@@ -24,19 +24,18 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       majorCmdStr(other.majorCmdStr),
       currentCommand(other.currentCommand),
       originalCmd(other.originalCmd),
-      originalStr(other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr),
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
       treeNodes(other.treeNodes),
-      mRawText(other.mRawText),
-      mReadForm(other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr) {
+      mRawText(other.mRawText) {
+  copyTexts(other);
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
     childCommands.push_back(copy.release());
   }
-  if (!other.subCommands) return;
-  for (auto& entry : *other.subCommands) {
+  if (!other.mRare || !other.mRare->subCommands) return;
+  for (auto& entry : *other.mRare->subCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
     ownSubCommands()[entry.first] = copy.release();
@@ -49,16 +48,15 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   majorCmdStr = other.majorCmdStr;
   currentCommand = other.currentCommand;
   originalCmd = other.originalCmd;
-  originalStr = other.originalStr ? std::make_unique<std::string>(*other.originalStr) : nullptr;
   flag = other.flag;
   orderNo = other.orderNo;
   flags = other.flags;
   treeNodes = other.treeNodes;
   mRawText = other.mRawText;
-  mReadForm = other.mReadForm ? std::make_unique<std::string>(*other.mReadForm) : nullptr;
-  if (!other.subCommands) return *this;
-  for (auto& entry : *other.subCommands) {
-    if (subCommands && subCommands->count(entry.first)) continue;  // an existing entry stays
+  copyTexts(other);
+  if (!other.mRare || !other.mRare->subCommands) return *this;
+  for (auto& entry : *other.mRare->subCommands) {
+    if (ownSubCommands().count(entry.first)) continue;  // an existing entry stays
     auto copy = std::make_unique<CiscoCommandLine>(*entry.second);
     copy->parentCommand = this;
     ownSubCommands()[entry.first] = copy.release();
@@ -67,18 +65,35 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
 }
 
 CiscoCommandLine::~CiscoCommandLine() {
-  if (!subCommands) return;
-  for (auto& entry : *subCommands) delete entry.second;
+  if (!mRare || !mRare->subCommands) return;
+  for (auto& entry : *mRare->subCommands) delete entry.second;
+}
+
+void CiscoCommandLine::copyTexts(const CiscoCommandLine& other) {
+  const Rare* theirs = other.mRare.get();
+  const bool str = theirs && theirs->originalStr;
+  const bool read = theirs && theirs->readForm;
+  if (!str && !read) {
+    if (mRare) {
+      mRare->originalStr.reset();
+      mRare->readForm.reset();
+    }
+    return;
+  }
+  Rare& mine = rare();
+  mine.originalStr = str ? std::make_unique<std::string>(*theirs->originalStr) : nullptr;
+  mine.readForm = read ? std::make_unique<std::string>(*theirs->readForm) : nullptr;
 }
 
 const std::map<ParserTreeNode*, CiscoCommandLine*>& CiscoCommandLine::getSubCommands() const {
   static const SubCommands kNone;
-  return subCommands ? *subCommands : kNone;
+  return mRare && mRare->subCommands ? *mRare->subCommands : kNone;
 }
 
 CiscoCommandLine::SubCommands& CiscoCommandLine::ownSubCommands() {
-  if (!subCommands) subCommands = std::make_unique<SubCommands>();
-  return *subCommands;
+  Rare& held = rare();
+  if (!held.subCommands) held.subCommands = std::make_unique<SubCommands>();
+  return *held.subCommands;
 }
 
 void CiscoCommandLine::setMajorCommands(const std::string& text) {
@@ -91,14 +106,14 @@ void CiscoCommandLine::setMajorCommands(const std::string& text) {
 
 const std::string& CiscoCommandLine::getOriginalStr() const {
   static const std::string kNone;
-  return originalStr ? *originalStr : kNone;
+  return mRare && mRare->originalStr ? *mRare->originalStr : kNone;
 }
 
 void CiscoCommandLine::setOriginalStr(const std::string& text) {
-  if (originalStr) {
-    *originalStr = text;
+  if (mRare && mRare->originalStr) {
+    *mRare->originalStr = text;
   } else if (!text.empty()) {
-    originalStr = std::make_unique<std::string>(text);
+    rare().originalStr = std::make_unique<std::string>(text);
   }
 }
 
@@ -119,8 +134,8 @@ void CiscoCommandLine::getAllChildCommands(std::vector<CiscoCommandLine*>& out) 
 void CiscoCommandLine::setFlags(unsigned int bits, bool recursive) {
   flags |= bits;
   if (!recursive) return;
-  if (!subCommands) return;
-  for (auto& entry : *subCommands) entry.second->setFlags(bits, true);
+  if (!mRare || !mRare->subCommands) return;
+  for (auto& entry : *mRare->subCommands) entry.second->setFlags(bits, true);
 }
 
 void CiscoCommandLine::setNoCompleteCmd(bool value) {
@@ -148,11 +163,12 @@ void CiscoCommandLine::clearVisitedOption() {
   treeNodes.clear();
   // Nested commands of a dropped walk would otherwise receive the words of
   // the next attempt at another level.
-  if (subCommands) {
-    for (auto& entry : *subCommands) delete entry.second;
-    subCommands.reset();
+  if (!mRare) return;
+  if (mRare->subCommands) {
+    for (auto& entry : *mRare->subCommands) delete entry.second;
+    mRare->subCommands.reset();
   }
-  currentSubCommand = nullptr;
+  mRare->currentSubCommand = nullptr;
 }
 
 void CiscoCommandLine::delOnlyChildCmds() {
@@ -200,7 +216,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
     SubCommands& subs = ownSubCommands();
     auto existing = subs.find(node);
     if (existing != subs.end()) {
-      currentSubCommand = existing->second;
+      rare().currentSubCommand = existing->second;
       return;
     }
     auto sub = std::make_unique<CiscoCommandLine>();
@@ -216,12 +232,12 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
     if ((flags & CMDBIT_SUB) && parentCommand) parentCommand->setNoCompleteCmd(noComplete);
     sub->takeFlagFrom(node);
     sub->enterNode(node, word);
-    currentSubCommand = sub.get();
+    rare().currentSubCommand = sub.get();
     subs[node] = sub.release();
     return;
   }
-  if (currentSubCommand) {
-    currentSubCommand->addTreeNodes(node, word, isNo);
+  if (CiscoCommandLine* sub = currentSub()) {
+    sub->addTreeNodes(node, word, isNo);
     return;
   }
   if (isNo) {
@@ -367,7 +383,7 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
       continue;
     }
     if (hasN) {
-      if (currentSubCommand == mineSub) currentSubCommand = nullptr;
+      if (currentSub() == mineSub) rare().currentSubCommand = nullptr;
       mineSub->delOnlyChildCmds();
       delete mineSub;
       subs.erase(found);

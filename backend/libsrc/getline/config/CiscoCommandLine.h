@@ -94,13 +94,15 @@ class VTYCONF_API CiscoCommandLine {
   const std::string& getRawText() const { return mRawText; }
   void setRawText(const std::string& text) {
     mRawText = text;
-    mReadForm.reset();
+    forgetReadForm();
   }
   void setRawText(std::string&& text) {
     mRawText = std::move(text);
-    mReadForm.reset();
+    forgetReadForm();
   }
-  bool isAsRead() const { return !mRawText.empty() && (!mReadForm || originalCmd == *mReadForm); }
+  bool isAsRead() const {
+    return !mRawText.empty() && (!mRare || !mRare->readForm || originalCmd == *mRare->readForm);
+  }
 
   std::vector<CiscoCommandLine*>& getChildCommands() { return childCommands; }
   const std::vector<CiscoCommandLine*>& getChildCommands() const { return childCommands; }
@@ -143,11 +145,31 @@ class VTYCONF_API CiscoCommandLine {
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
   SubCommands& ownSubCommands();
+  // The line text and read form of `other`, as copies.
+  void copyTexts(const CiscoCommandLine& other);
   // The form originalCmd had when the text was read is kept only once
   // originalCmd is about to change (until then it is originalCmd itself).
-  void keepReadForm() {
-    if (!mRawText.empty() && !mReadForm) mReadForm = std::make_unique<std::string>(originalCmd);
+  // What few records hold, in one block that only they allocate: the text
+  // of a line that is no command, the nested option commands, and the form a
+  // command had when it was read (kept once a command read from a line is
+  // changed).
+  struct Rare {
+    std::unique_ptr<std::string> originalStr;
+    std::unique_ptr<std::string> readForm;
+    std::unique_ptr<SubCommands> subCommands;
+    CiscoCommandLine* currentSubCommand = nullptr;
+  };
+  Rare& rare() {
+    if (!mRare) mRare = std::make_unique<Rare>();
+    return *mRare;
   }
+  void keepReadForm() {
+    if (!mRawText.empty() && !(mRare && mRare->readForm)) rare().readForm = std::make_unique<std::string>(originalCmd);
+  }
+  void forgetReadForm() {
+    if (mRare) mRare->readForm.reset();
+  }
+  CiscoCommandLine* currentSub() const { return mRare ? mRare->currentSubCommand : nullptr; }
 
   int level = 0;
   int lineNo = 0;
@@ -157,7 +179,6 @@ class VTYCONF_API CiscoCommandLine {
   std::string currentCommand;
   std::string originalCmd;
   // Set for text records only (a command has none): made when set.
-  std::unique_ptr<std::string> originalStr;
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
@@ -167,11 +188,9 @@ class VTYCONF_API CiscoCommandLine {
   // element.
   std::vector<CmdPathEntry> treeNodes;
   // Made when the first nested command is (most commands have none).
-  std::unique_ptr<SubCommands> subCommands;
-  CiscoCommandLine* currentSubCommand = nullptr;
   // vtyconf's own (copied and assigned with the strings above).
   std::string mRawText;
-  std::unique_ptr<std::string> mReadForm;
+  std::unique_ptr<Rare> mRare;
 };
 
 }  // namespace qxparser
