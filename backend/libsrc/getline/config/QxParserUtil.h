@@ -25,8 +25,6 @@
 
 namespace qxparser {
 
-class SideReading;
-class SideThread;
 
 // What a search of a configuration file returns.
 enum SEARCHTYPE {
@@ -168,9 +166,6 @@ class VTYCONF_API QxParserUtil {
     std::function<void()> afterFirst;
     std::function<void()> afterSecond;
   };
-  static std::string fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
-                                          std::vector<RefusedLine>* firstRefused,
-                                          std::vector<RefusedLine>* secondRefused, Readers kept);
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);

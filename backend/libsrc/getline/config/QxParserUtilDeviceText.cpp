@@ -323,7 +323,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     kept.afterFirst = [&first, &firstRead]() { settleReading(nulAsBlank(first), firstRead); };
   }
   const std::string written =
-      nulAsBlank(fallbackTypedKeeping(first, second, mode, firstRefused, secondRefused, std::move(kept)));
+      nulAsBlank(fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept)));
   if (first.empty()) return second;
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the

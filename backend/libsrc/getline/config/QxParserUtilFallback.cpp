@@ -101,9 +101,9 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
   std::string text;
   try {
     {
-      // Long texts are read at once, the second on the side thread. The second text's
-      // refused lines follow those of the first, as one thread reading both
-      // gives them.
+      // Long texts are read at once, the second on the side thread. The
+      // second text's refused lines follow those of the first, as one thread
+      // reading both gives them.
       const bool beside = SideReading::worthAThread(first) && SideReading::worthAThread(second);
       std::vector<RefusedLine> secondLines;
       std::vector<RefusedLine>* secondTyped = beside && readers.second ? &secondLines : readers.second;

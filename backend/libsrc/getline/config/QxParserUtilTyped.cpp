@@ -65,12 +65,6 @@ std::string QxParserUtil::fallbackConfigCmdsTyped(const std::string& first, cons
   return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, Readers());
 }
 
-std::string QxParserUtil::fallbackTypedKeeping(const std::string& first, const std::string& second, unsigned int mode,
-                                               std::vector<RefusedLine>* firstRefused,
-                                               std::vector<RefusedLine>* secondRefused, Readers kept) {
-  return fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept));
-}
-
 std::string QxParserUtil::fallbackWithReaders(const std::string& first, const std::string& second,
                                               unsigned int mode, std::vector<RefusedLine>* firstRefused,
                                               std::vector<RefusedLine>* secondRefused, Readers readers) {
