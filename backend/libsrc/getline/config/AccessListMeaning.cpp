@@ -118,6 +118,12 @@ std::string numberedHead(const std::string& head) {
   return {};
 }
 
+// numberedHead of a record's command (looked at only where it can be one).
+std::string numberedHeadOf(const CiscoCommandLine& record) {
+  const std::string& text = record.getOriginalCmd();
+  return startsWith(text, "ip access-list ") ? numberedHead(trimmed(text)) : std::string();
+}
+
 // The entry text of a line, without a leading sequence number (whose value
 // goes to `sequence`, -1 without one).
 std::string entryText(const std::string& line, long& sequence) {
@@ -367,11 +373,11 @@ std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandL
 void AccessListMeaning::numberedThroughNamed(std::vector<CiscoCommandLine*>& changes,
                                              const std::vector<CiscoCommandLine*>& config) {
   for (size_t i = 0; i < changes.size(); ++i) {
-    const std::string number = numberedHead(trimmed(changes[i]->getOriginalCmd()));
+    const std::string number = numberedHeadOf(*changes[i]);
     if (number.empty() || !changes[i]->hasFlags(CMDBIT_OPENS_MODE)) continue;
     // A configuration that shows the list in its named form keeps it so.
     const bool shownNamed = std::any_of(config.begin(), config.end(), [&number](const CiscoCommandLine* record) {
-      return record->hasFlags(CMDBIT_OPENS_MODE) && numberedHead(trimmed(record->getOriginalCmd())) == number;
+      return record->hasFlags(CMDBIT_OPENS_MODE) && numberedHeadOf(*record) == number;
     });
     if (shownNamed) continue;
     std::vector<Entry> entries = numberedEntries(config, number);

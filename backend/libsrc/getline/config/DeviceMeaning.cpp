@@ -87,25 +87,27 @@ namespace {
 // The kind of a numbered top-level command and the numbers that order it
 // ("" when it has no such place).
 std::string numberedKind(const CiscoCommandLine& record, std::vector<long>& numbers) {
-  const std::string text = trimmed(record.getOriginalCmd());
-  std::string kind;
+  // The text without the blanks and line end behind it, looked at in place.
+  std::string_view text(record.getOriginalCmd());
+  text = text.substr(0, text.find_last_not_of(" \r\n") + 1);
+  std::string_view kind;
   size_t from = 0;
   if (startsWith(text, "vlan ")) {
     kind = "vlan";
     from = 5;
-  } else if (startsWith(text, "ip route ") && text.find(" vrf ") == std::string::npos) {
+  } else if (startsWith(text, "ip route ") && text.find(" vrf ") == std::string_view::npos) {
     kind = "ip route";
     from = 9;
   } else if (startsWith(text, "interface ")) {
     from = text.find_first_of("0123456789", 10);
-    if (from == std::string::npos) return {};
+    if (from == std::string_view::npos) return {};
     kind = text.substr(0, from);
   } else {
     return {};
   }
   const size_t end = kind == "ip route" ? text.find(' ', text.find(' ', from) + 1) : text.size();
-  const std::string part = text.substr(from, end == std::string::npos ? std::string::npos : end - from);
-  if (part.find_first_not_of("0123456789./: ") != std::string::npos) return {};
+  const std::string_view part = text.substr(from, end == std::string_view::npos ? std::string_view::npos : end - from);
+  if (part.find_first_not_of("0123456789./: ") != std::string_view::npos) return {};
   long value = -1;
   for (char c : part) {
     if (c >= '0' && c <= '9') {
@@ -116,7 +118,7 @@ std::string numberedKind(const CiscoCommandLine& record, std::vector<long>& numb
     }
   }
   if (value >= 0) numbers.push_back(value);
-  return numbers.empty() ? std::string() : kind;
+  return numbers.empty() ? std::string() : std::string(kind);
 }
 
 bool isAdded(const CiscoCommandLine& record) {

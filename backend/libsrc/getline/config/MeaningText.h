@@ -20,7 +20,7 @@ inline std::string trimmed(std::string text) {
   return text;
 }
 
-inline bool startsWith(const std::string& text, const std::string& lead) {
+inline bool startsWith(std::string_view text, std::string_view lead) {
   return text.compare(0, lead.size(), lead) == 0;
 }
 

@@ -75,11 +75,27 @@ bool numbersOff(const std::vector<CiscoCommandLine*>& config) {
   return false;
 }
 
+// Whether a line names a prefix list (only such lines are looked at word by
+// word).
+bool namesPrefixList(const CiscoCommandLine* record) {
+  return record->getOriginalCmd().find("prefix-list") != std::string::npos;
+}
+
+// Whether `changes` hold a prefix-list entry without a sequence number: only
+// such entries are numbered.
+bool anyUnnumberedEntry(const std::vector<CiscoCommandLine*>& changes) {
+  std::string list;
+  long sequence = -1;
+  return std::any_of(changes.begin(), changes.end(), [&](const CiscoCommandLine* record) {
+    return namesPrefixList(record) && prefixEntry(wordsOf(record->getOriginalCmd()), list, sequence) && sequence < 0;
+  });
+}
+
 }  // namespace
 
 void RouteFilterMeaning::numberPrefixEntries(std::vector<CiscoCommandLine*>& changes,
                                              const std::vector<CiscoCommandLine*>& config) {
-  if (numbersOff(config)) return;
+  if (numbersOff(config) || !anyUnnumberedEntry(changes)) return;
   std::map<std::string, long> highest;
   // The number of each entry by its list and what follows the number.
   std::map<std::string, long> numbered;
@@ -90,15 +106,11 @@ void RouteFilterMeaning::numberPrefixEntries(std::vector<CiscoCommandLine*>& cha
     if (sequence > highest[list]) highest[list] = sequence;
     numbered.emplace(list + " " + afterNumber(words), sequence);
   };
-  // Only lines that name a prefix list are looked at word by word.
-  const auto names = [](const CiscoCommandLine* record) {
-    return record->getOriginalCmd().find("prefix-list") != std::string::npos;
-  };
   for (const CiscoCommandLine* record : config) {
-    if (names(record)) note(wordsOf(record->getOriginalCmd()));
+    if (namesPrefixList(record)) note(wordsOf(record->getOriginalCmd()));
   }
   for (CiscoCommandLine*& record : changes) {
-    if (!names(record)) continue;
+    if (!namesPrefixList(record)) continue;
     const std::vector<std::string> words = wordsOf(record->getOriginalCmd());
     if (!prefixEntry(words, list, sequence)) continue;
     if (sequence >= 0) {
