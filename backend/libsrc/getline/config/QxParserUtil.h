@@ -25,6 +25,7 @@
 
 namespace qxparser {
 
+class SideReading;
 
 // What a search of a configuration file returns.
 enum SEARCHTYPE {
@@ -157,7 +158,10 @@ class VTYCONF_API QxParserUtil {
   // reading of that text (all levels, in line order) is appended there for
   // the caller, who owns it then, instead of being freed once the text is
   // normalised; `afterFirst` and `afterSecond` (where set) run on the thread
-  // that read the text, right after it.
+  // that read the text, right after it. `besideComparison` (where set) is
+  // posted to the second thread once both texts are read, to run while the
+  // texts are compared; texts read one after the other leave it to its
+  // owner's wait().
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
@@ -165,6 +169,7 @@ class VTYCONF_API QxParserUtil {
     std::vector<CiscoCommandLine*>* secondReading = nullptr;
     std::function<void()> afterFirst;
     std::function<void()> afterSecond;
+    SideReading* besideComparison = nullptr;
   };
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,

@@ -116,15 +116,34 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const TypedLi
   }
 }
 
+// What the rollback of one configuration to another takes from the two
+// typed readings and texts alone, not from the comparison: worked out beside
+// it.
+struct ReadingChanges {
+  // Lines the comparison misses (see addMissedCommands).
+  std::string missed;
+  // Named access lists that changed: their heads, and their entries' edits.
+  std::vector<std::string> namedHeads;
+  std::string namedLists;
+  // Numbered access lists that changed: their numbers, and the lists anew.
+  std::vector<std::string> numbers;
+  std::string numberedLists;
+
+  void find(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
+            const std::string& first, const std::string& second) {
+    missed = DeviceMeaning::missedCommands(from, to);
+    namedLists = AccessListMeaning::changedNamedLists(from, to, namedHeads);
+    numberedLists = AccessListMeaning::changedNumberedLists(first, second, numbers);
+  }
+};
+
 // A line that `from` (a reading of the first text) states only in its "no"
 // form and `to` (of the second) holds positive is written too: the
 // comparison takes the two for one.
 void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
-                       std::vector<CiscoCommandLine*>& out) {
+                       const ReadingChanges& changes, std::vector<CiscoCommandLine*>& out) {
   DeviceMeaning::dropUnchangedNegations(out, from, to);
-  std::vector<std::string> heads;
-  std::string missed = DeviceMeaning::missedCommands(from, to);
-  const std::string lists = AccessListMeaning::changedNamedLists(from, to, heads);
+  const std::vector<std::string>& heads = changes.namedHeads;
   // A named list that changed is written by its entries alone.
   for (auto it = out.begin(); it != out.end();) {
     if (std::find(heads.begin(), heads.end(), (*it)->getOriginalCmd()) != heads.end()) {
@@ -135,7 +154,7 @@ void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::ve
       ++it;
     }
   }
-  missed += lists + DeviceMeaning::changedBanners(out, from, to);
+  const std::string missed = changes.missed + changes.namedLists + DeviceMeaning::changedBanners(out, from, to);
   if (missed.empty()) return;
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
@@ -145,18 +164,15 @@ void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::ve
 
 // A numbered access list that changed is deleted and written anew: a "no"
 // of one of its entries would delete it whole on the device.
-void rewriteChangedLists(const std::string& first, const std::string& second,
-                         std::vector<CiscoCommandLine*>& out) {
-  std::vector<std::string> numbers;
-  const std::string lists = AccessListMeaning::changedNumberedLists(first, second, numbers);
-  if (lists.empty()) return;
+void rewriteChangedLists(const ReadingChanges& changes, std::vector<CiscoCommandLine*>& out) {
+  if (changes.numberedLists.empty()) return;
   std::vector<CiscoCommandLine*> gone;
   RecordsGuard goneGuard(gone);
   for (auto it = out.begin(); it != out.end();) {
     const std::string& text = (*it)->getOriginalCmd();
     const std::string bare = withoutNo(text);
     bool listed = false;
-    for (const std::string& number : numbers) {
+    for (const std::string& number : changes.numbers) {
       const std::string lead = "access-list " + number + " ";
       listed = listed || bare.compare(0, lead.size(), lead) == 0;
     }
@@ -169,7 +185,7 @@ void rewriteChangedLists(const std::string& first, const std::string& second,
   }
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
-  DeviceTextReader::read(lists, extra);
+  DeviceTextReader::read(changes.numberedLists, extra);
   DeviceMeaning::graft(extra, out, nullptr);
 }
 
@@ -322,9 +338,17 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     kept.firstReading = &firstRead;
     kept.afterFirst = [&first, &firstRead]() { settleReading(nulAsBlank(first), firstRead); };
   }
+  // Of a configuration's rollback, what the readings tell without the
+  // comparison is worked out on the second thread while this one compares.
+  ReadingChanges readingChanges;
+  SideReading besideComparison([&]() {
+    if (mode != 0) readingChanges.find(firstRead, secondRead, nulAsBlank(first), nulAsBlank(second));
+  });
+  kept.besideComparison = &besideComparison;
   const std::string written =
       nulAsBlank(fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept)));
   if (first.empty()) return second;
+  besideComparison.wait();
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.
@@ -336,8 +360,8 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // "!" lines go.
   dropComments(out);
   if (mode != 0) {
-    addMissedCommands(firstRead, secondRead, out);
-    rewriteChangedLists(nulAsBlank(first), nulAsBlank(second), out);
+    addMissedCommands(firstRead, secondRead, readingChanges, out);
+    rewriteChangedLists(readingChanges, out);
   }
   BgpNeighbourMeaning::orderNeighbours(out);
   DeviceMeaning::dropRepeats(out);

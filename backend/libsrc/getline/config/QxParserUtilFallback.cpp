@@ -115,6 +115,8 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         readNormalised(second, allLevels, secondTyped, secondCmds, readers.secondReading);
         if (readers.afterSecond) readers.afterSecond();
       });
+      // Each thread frees the records it read for the comparison.
+      SideReading secondFreed([&]() { deleteTopLevel(secondCmds); });
       SideThread side;
       if (beside) side.post(secondSide);
       readNormalised(first, allLevels, readers.first, firstCmds, readers.firstReading);
@@ -126,13 +128,15 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         throw;
       }
       handOn();
+      if (beside && readers.besideComparison) side.post(*readers.besideComparison);
+      if (mode == 0) {
+        fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);
+      } else {
+        fallbackCiscoCommandFile(firstCmds, secondCmds, out, nullptr);
+      }
+      text = expandMergedCmds(out, 0);
+      if (beside && side.post(secondFreed)) deleteTopLevel(firstCmds);
     }
-    if (mode == 0) {
-      fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);
-    } else {
-      fallbackCiscoCommandFile(firstCmds, secondCmds, out, nullptr);
-    }
-    text = expandMergedCmds(out, 0);
   } catch (...) {
     deleteTopLevel(firstCmds);
     deleteTopLevel(secondCmds);
