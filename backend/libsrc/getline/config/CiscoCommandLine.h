@@ -147,12 +147,11 @@ class VTYCONF_API CiscoCommandLine {
   SubCommands& ownSubCommands();
   // The line text and read form of `other`, as copies.
   void copyTexts(const CiscoCommandLine& other);
-  // The form originalCmd had when the text was read is kept only once
-  // originalCmd is about to change (until then it is originalCmd itself).
-  // What few records hold, in one block that only they allocate: the text
-  // of a line that is no command, the nested option commands, and the form a
-  // command had when it was read (kept once a command read from a line is
-  // changed).
+  // What few records hold, in one block that only they allocate: the text of
+  // a line that is no command (made when set), the nested option commands
+  // (made with the first), and the form originalCmd had when the text was
+  // read (kept only once originalCmd is about to change; until then it is
+  // originalCmd itself).
   struct Rare {
     std::unique_ptr<std::string> originalStr;
     std::unique_ptr<std::string> readForm;
@@ -164,7 +163,8 @@ class VTYCONF_API CiscoCommandLine {
     return *mRare;
   }
   void keepReadForm() {
-    if (!mRawText.empty() && !(mRare && mRare->readForm)) rare().readForm = std::make_unique<std::string>(originalCmd);
+    if (mRawText.empty() || (mRare && mRare->readForm)) return;
+    rare().readForm = std::make_unique<std::string>(originalCmd);
   }
   void forgetReadForm() {
     if (mRare) mRare->readForm.reset();
@@ -178,7 +178,6 @@ class VTYCONF_API CiscoCommandLine {
   std::shared_ptr<const std::string> majorCmdStr;
   std::string currentCommand;
   std::string originalCmd;
-  // Set for text records only (a command has none): made when set.
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
@@ -187,7 +186,6 @@ class VTYCONF_API CiscoCommandLine {
   // Each node appears once in the path; a repeated node adds words to its
   // element.
   std::vector<CmdPathEntry> treeNodes;
-  // Made when the first nested command is (most commands have none).
   // vtyconf's own (copied and assigned with the strings above).
   std::string mRawText;
   std::unique_ptr<Rare> mRare;
