@@ -8,6 +8,7 @@
 #include "ShippedGrammar.h"
 #include "support/CaseFile.h"
 #include "config/ConfigDiff.h"
+#include "config/SideReading.h"
 
 namespace qxparser {
 namespace {
@@ -92,6 +93,86 @@ TEST_F(DeviceTextTest, NoOpMergeGivesEveryCorpusLineBack) {
   if (files == 0) GTEST_SKIP() << "no corpus at " << corpusFolders()[0] << " or " << corpusFolders()[1];
   std::cout << files << " files, " << kept << " of " << distinct << " distinct lines given back\n";
   EXPECT_EQ(kept, distinct);
+}
+
+// A configuration long enough to be read on two threads: loopbacks, access
+// lists, static routes, prefix lists, VLANs, a banner, BGP neighbours and a
+// named list, with one refused line. `variant` changes some of each; `typed`
+// stands ahead of the closing "end".
+std::string longConfiguration(int variant, const std::string& typed = std::string()) {
+  std::string text = "hostname R" + std::to_string(variant) + "\n!\nbanner motd ^C\nAuthorised access only\n^C\n!\n";
+  for (int i = 0; i < 420; ++i) {
+    const std::string n = std::to_string(i);
+    const bool changed = variant != 0 && i % 9 == 0;
+    text += "interface Loopback" + n + "\n description loop " + (changed ? "moved " : "") + n + "\n";
+    text += " ip address 10." + std::to_string(i / 250) + "." + std::to_string(i % 250) + ".1 255.255.255.255\n";
+    text += changed ? " shutdown\n!\n" : "!\n";
+    if (!(changed && i % 2 == 0)) {
+      text += "access-list " + std::to_string(100 + i % 40) + " permit ip host 192.0.2." + std::to_string(i % 250) +
+              " any\n";
+    }
+    text += "ip route 10.200." + std::to_string(i % 250) + ".0 255.255.255.0 192.0.2." + std::to_string(1 + (changed ? 1 : 0)) +
+            "\n";
+    text += "ip prefix-list P" + std::to_string(i % 20) + " seq " + std::to_string(5 * (i / 20 + 1)) +
+            " permit 10." + std::to_string(i % 200) + ".0.0/16\n";
+    if (i < 300) text += "vlan " + std::to_string(2 + i) + "\n name V" + n + (changed ? "x" : "") + "\n!\n";
+  }
+  text += "interface Loopback1\n no-such-command at all\n!\n";
+  text += "router bgp 65000\n";
+  for (int j = 1; j <= 30; ++j) {
+    if (variant != 0 && j % 10 == 0) continue;
+    text += " neighbor 198.51.100." + std::to_string(j) + " remote-as 6500" + std::to_string(1 + j % 3) + "\n";
+  }
+  text += "!\nip access-list extended WEB\n permit tcp any any eq 80\n";
+  if (variant != 0) text += " permit tcp any any eq 443\n";
+  return text + "!\n" + typed + "end\n";
+}
+
+std::string refusedText(const std::vector<RefusedLine>& refused) {
+  std::string out;
+  for (const RefusedLine& line : refused) {
+    out += std::to_string(line.lineNo) + ":" + std::to_string(line.position) + ":" + line.message + ":" + line.text + "\n";
+  }
+  return out;
+}
+
+// The output of a merge or fallback, and its refused lines, in one text.
+std::string runWithRefused(const std::string& operation, const std::string& first, const std::string& second) {
+  std::vector<RefusedLine> firstRefused;
+  std::vector<RefusedLine> secondRefused;
+  std::string out;
+  if (operation == "merge") {
+    out = QxParserUtil::mergeConfigCmdsDeviceText(first, second, &firstRefused, &secondRefused);
+  } else {
+    out = QxParserUtil::fallbackConfigCmdsDeviceText(first, second, operation == "fallback-file" ? 1 : 0,
+                                                     &firstRefused, &secondRefused);
+  }
+  return out + "--\n" + refusedText(firstRefused) + "--\n" + refusedText(secondRefused);
+}
+
+// Texts of 2,000 lines and more are read on two threads at once: the results,
+// and the refused lines with their order, are those of one thread.
+TEST_F(DeviceTextTest, LongTextsGiveOnTwoThreadsWhatOneGives) {
+  const std::string running = longConfiguration(0);
+  // The changed copy typed as a change set, with abbreviations at its end.
+  const std::string intended = longConfiguration(1, "int Lo7\n desc typed\n no shut\n!\n");
+  const auto lineCount = [](const std::string& text) { return std::count(text.begin(), text.end(), '\n'); };
+  ASSERT_GE(lineCount(running), static_cast<long>(SideReading::kLinesForThread));
+  ASSERT_GE(lineCount(intended), static_cast<long>(SideReading::kLinesForThread));
+  const bool allowed = SideReading::threadsAllowed();
+  for (const std::string operation : {"merge", "fallback-delta", "fallback-file"}) {
+    SCOPED_TRACE(operation);
+    const std::string& first = operation == "fallback-file" ? running : intended;
+    const std::string& second = operation == "fallback-file" ? intended : running;
+    QxParserUtil::setReadingThreadsAllowed(false);
+    const std::string serial = runWithRefused(operation, first, second);
+    QxParserUtil::setReadingThreadsAllowed(true);
+    const std::string beside = runWithRefused(operation, first, second);
+    QxParserUtil::setReadingThreadsAllowed(allowed);
+    EXPECT_GT(serial.size(), 100u);
+    EXPECT_NE(serial.find("no-such-command"), std::string::npos) << "the refused line is reported";
+    EXPECT_EQ(beside, serial);
+  }
 }
 
 }  // namespace
