@@ -238,6 +238,8 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
         BgpNeighbourMeaning::wholeNeighbourChanges(listed, goneNeighbours, neighbours) ? neighbours : listed;
     DeviceTextReader::read(read, changeCmds, changesRefused, false);
   });
+  // Records freed before returning go by the thread that read them.
+  SideReading changesFreed([&]() { deleteCommands(changeCmds); });
   SideThread side;
   // A change set without allowed-vlan lists reads the same whatever the
   // configuration holds: long texts are then read at once (into lists of
@@ -280,7 +282,9 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   DeviceMeaning::placeInNumberOrder(configCmds);
   DeviceMeaning::keepBeforeEnd(configCmds);
   DeviceMeaning::settingsAheadOfSubModes(configCmds, true);
-  return DeviceTextWriter::write(configCmds);
+  std::string text = DeviceTextWriter::write(configCmds);
+  if (freeRecordsOnReturn() && changeReading.posted() && side.post(changesFreed)) deleteCommands(configCmds);
+  return text;
 }
 
 std::string QxParserUtil::sortConfigDeviceText(const std::string& config) {
