@@ -210,6 +210,15 @@ void settleReading(const std::string& text, std::vector<CiscoCommandLine*>& reco
   DeviceTextReader::settle(text, all, records);
 }
 
+// `text` with its NUL bytes as blanks: the text itself where it has none,
+// else a copy in `copy`.
+const std::string& nulAsBlank(const std::string& text, std::string& copy) {
+  if (text.find('\0') == std::string::npos) return text;
+  copy = text;
+  std::replace(copy.begin(), copy.end(), '\0', ' ');
+  return copy;
+}
+
 std::string nulAsBlank(std::string text) {
   std::replace(text.begin(), text.end(), '\0', ' ');
   return text;
@@ -337,16 +346,22 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // that read it, while the other thread may still be reading.
   Readers kept;
   kept.secondReading = &secondRead;
-  kept.afterSecond = [&second, &secondRead]() { settleReading(nulAsBlank(second), secondRead); };
+  // The texts as their readings saw them (a merge result's NUL indent bytes
+  // as blanks), made once.
+  std::string firstCopy;
+  std::string secondCopy;
+  const std::string& firstText = nulAsBlank(first, firstCopy);
+  const std::string& secondText = nulAsBlank(second, secondCopy);
+  kept.afterSecond = [&secondText, &secondRead]() { settleReading(secondText, secondRead); };
   if (mode != 0) {
     kept.firstReading = &firstRead;
-    kept.afterFirst = [&first, &firstRead]() { settleReading(nulAsBlank(first), firstRead); };
+    kept.afterFirst = [&firstText, &firstRead]() { settleReading(firstText, firstRead); };
   }
   // Of a configuration's rollback, what the readings tell without the
   // comparison is worked out on the second thread while this one compares.
   ReadingChanges readingChanges;
   SideReading besideComparison([&]() {
-    if (mode != 0) readingChanges.find(firstRead, secondRead, nulAsBlank(first), nulAsBlank(second));
+    if (mode != 0) readingChanges.find(firstRead, secondRead, firstText, secondText);
   });
   kept.besideComparison = &besideComparison;
   const std::string written =

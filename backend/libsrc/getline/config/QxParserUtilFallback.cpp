@@ -56,7 +56,7 @@ void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::
   const bool handedOn = typed != nullptr && reading != nullptr;
   // Where the caller keeps the whole reading, its top level is only lent.
   std::vector<CiscoCommandLine*> lent;
-  std::vector<CiscoCommandLine*>& read = handedOn ? lent : commands;
+  std::vector<CiscoCommandLine*>& topLevel = handedOn ? lent : commands;
   if (handedOn) {
     const size_t from = reading->size();
     TypedTextReader::read(given, *reading, *typed);
@@ -72,7 +72,7 @@ void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::
   // comments are gone and repeated words stand in one order.
   // Text read as typed is read back the same way: a banner closed on its
   // last text line ("text ^C") stays closed.
-  std::string normalised = expandMergedCmds(read, 0);
+  std::string normalised = expandMergedCmds(topLevel, 0);
   if (allLevels) normalised = blanksForNul(normalised);
   if (!handedOn) deleteTopLevel(commands);
   if (typed) {
