@@ -14,6 +14,7 @@
 #include "config/DeviceTextReader.h"
 #include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
+#include "config/ReadingSketch.h"
 
 namespace qxparser {
 
@@ -266,21 +267,22 @@ void askedKeys(const std::vector<CiscoCommandLine*>& records, const std::string&
   }
 }
 
-// The asked keys that `records` holds (a command by its text under the
-// texts of its mode heads). `key` holds the mode's text on entry and again on
-// return; each key is built in it.
-void heldKeys(const std::vector<CiscoCommandLine*>& records, std::string& key, const NegationKeys& keys,
+// The asked keys that the entries of `sketch` from `begin` to `stop` (one
+// mode's commands) hold: a command by its text under the texts of its mode
+// heads. `key` holds the mode's text on entry and again on return; each key
+// is built in it.
+void heldKeys(const ReadingSketch& sketch, size_t begin, size_t stop, std::string& key, const NegationKeys& keys,
               std::unordered_set<std::string>& held) {
   const size_t mode = key.size();
-  for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() == 0) continue;
-    const std::string& text = record->getOriginalCmd();
+  for (size_t at = begin; at < stop; at = sketch.end(at)) {
+    if (!sketch.hasPath(at)) continue;
+    const std::string_view text = sketch.command(at);
     key.resize(mode);
-    key.append(text, 0, text.find_last_not_of(" \r\n") + 1);
+    key.append(text.substr(0, text.find_last_not_of(" \r\n") + 1));
     if (keys.asked.count(key)) held.insert(key);
-    if (record->getChildCommands().empty()) continue;
+    if (sketch.end(at) == at + 1) continue;
     key += '\n';
-    if (keys.modes.count(key)) heldKeys(record->getChildCommands(), key, keys, held);
+    if (keys.modes.count(key)) heldKeys(sketch, at + 1, sketch.end(at), key, keys, held);
   }
   key.resize(mode);
 }
@@ -311,9 +313,8 @@ void dropIn(std::vector<CiscoCommandLine*>& records, const std::string& mode,
 
 }  // namespace
 
-void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
-                                           const std::vector<CiscoCommandLine*>& from,
-                                           const std::vector<CiscoCommandLine*>& to) {
+void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const ReadingSketch& from,
+                                           const ReadingSketch& to) {
   // Only the keys that the negations of `out` ask about are looked for.
   NegationKeys keys;
   askedKeys(out, "", keys);
@@ -321,8 +322,8 @@ void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
   std::unordered_set<std::string> before;
   std::unordered_set<std::string> after;
   std::string key;
-  heldKeys(from, key, keys, before);
-  heldKeys(to, key, keys, after);
+  heldKeys(from, 0, from.size(), key, keys, before);
+  heldKeys(to, 0, to.size(), key, keys, after);
   dropIn(out, "", before, after);
 }
 
@@ -527,7 +528,9 @@ std::string bannerText(const CiscoCommandLine& record) {
   return text;
 }
 
-std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records) {
+}  // namespace
+
+std::map<std::string, std::string> DeviceMeaning::bannersOf(const std::vector<CiscoCommandLine*>& records) {
   std::map<std::string, std::string> banners;
   for (const CiscoCommandLine* record : records) {
     const std::string kind = bannerKind(*record);
@@ -535,8 +538,6 @@ std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*
   }
   return banners;
 }
-
-}  // namespace
 
 void DeviceMeaning::replaceBanners(const std::vector<CiscoCommandLine*>& changes,
                                    std::vector<CiscoCommandLine*>& config) {
@@ -555,8 +556,9 @@ void DeviceMeaning::replaceBanners(const std::vector<CiscoCommandLine*>& changes
   }
 }
 
-std::string DeviceMeaning::changedBanners(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
-                                          const std::vector<CiscoCommandLine*>& to) {
+std::string DeviceMeaning::changedBanners(std::vector<CiscoCommandLine*>& out,
+                                          const std::map<std::string, std::string>& before,
+                                          const std::map<std::string, std::string>& after) {
   for (auto it = out.begin(); it != out.end();) {
     const std::string text = trimmed((*it)->getOriginalCmd());
     // "no ^C": a closing delimiter that the comparison took for a command.
@@ -569,8 +571,6 @@ std::string DeviceMeaning::changedBanners(std::vector<CiscoCommandLine*>& out, c
       ++it;
     }
   }
-  const auto before = bannersOf(from);
-  const auto after = bannersOf(to);
   std::string text;
   for (const auto& [kind, banner] : before) {
     if (!after.count(kind)) text += "no " + kind + "\n";

@@ -11,6 +11,7 @@
 // BgpNeighbourMeaning. Same threading rule as every reading operation.
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@
 #include "config/CiscoCommandLine.h"
 
 namespace qxparser {
+
+class ReadingSketch;
 
 class DeviceMeaning {
  public:
@@ -41,11 +44,11 @@ class DeviceMeaning {
   static void placeInNumberOrder(std::vector<CiscoCommandLine*>& records);
 
   // Takes out of a rollback `out` each "no X" whose X stands unchanged in both
-  // `from` and `to` (in the same mode) while `to` holds no "no X": the
-  // comparison by grammar path negated a line that nobody changed.
-  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out,
-                                     const std::vector<CiscoCommandLine*>& from,
-                                     const std::vector<CiscoCommandLine*>& to);
+  // `from` and `to` (sketches of the two readings; in the same mode) while
+  // `to` holds no "no X": the comparison by grammar path negated a line that
+  // nobody changed.
+  static void dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, const ReadingSketch& from,
+                                     const ReadingSketch& to);
 
   // A setting of an interface stands ahead of the interface's sub-mode
   // blocks (a "pvc"): behind them the device would take it for a line of the
@@ -75,11 +78,17 @@ class DeviceMeaning {
   // the device replaces a banner's whole text.
   static void replaceBanners(const std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config);
 
+  // The banners among `records` (a top level) by kind ("banner motd"), each
+  // as the device shows it: its line, its text, its closing line.
+  static std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records);
+
   // Takes every banner line out of a rollback `out` and returns, as text,
-  // what turns the banners of `from` into those of `to`: "no banner KIND"
-  // for one that goes, the whole banner for one that comes or changed.
-  static std::string changedBanners(std::vector<CiscoCommandLine*>& out, const std::vector<CiscoCommandLine*>& from,
-                                    const std::vector<CiscoCommandLine*>& to);
+  // what turns the banners `before` into those `after` (both as bannersOf
+  // gives them): "no banner KIND" for one that goes, the whole banner for one
+  // that comes or changed.
+  static std::string changedBanners(std::vector<CiscoCommandLine*>& out,
+                                    const std::map<std::string, std::string>& before,
+                                    const std::map<std::string, std::string>& after);
 
   // Takes out of a rollback each command that its mode states a second time
   // (the comparison and the lines it misses may both write it).

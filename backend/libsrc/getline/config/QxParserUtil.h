@@ -154,32 +154,45 @@ class VTYCONF_API QxParserUtil {
   friend struct QxParserUtilPeer;
   // Typed texts (non-null refused lists) are read by TypedTextReader, the
   // others replayed. Long texts are read at once, the second on a thread of
-  // the call's own. Where `firstReading` or `secondReading` is set, the typed
-  // reading of that text (all levels, in line order) is appended there for
-  // the caller, who owns it then, instead of being freed once the text is
-  // normalised; `afterFirst` and `afterSecond` (where set) run on the thread
-  // that read the text, right after it. `besideComparison` (where set) is
-  // posted to the second thread once both texts are read, to run while the
-  // texts are compared; texts read one after the other leave it to its
-  // owner's wait().
+  // the call's own. Each text is read twice: as typed, then in the form a
+  // merge writes (see fallbackNormalised). A caller may look at the typed
+  // readings before they go (TypedReading); `bothRead` (where set) runs on
+  // this thread once both texts are read as typed, and `bothReadBeside` on
+  // the second thread at the same time (one after the other where the texts
+  // are read one after the other). `besideComparison` (where set) is posted
+  // to the second thread once both texts are read in the merge form, to run
+  // while the texts are compared; texts read one after the other leave it to
+  // its owner's wait().
+  struct TypedReading {
+    // Filled with the typed reading of the text (all levels, in line order)
+    // instead of its being freed at once; owned by the caller then.
+    std::vector<CiscoCommandLine*>* records = nullptr;
+    // On the thread that read the text, right after it.
+    std::function<void()> read;
+    // On the same thread, once `bothRead` and `bothReadBeside` are done and
+    // before the text is read again.
+    std::function<void()> release;
+  };
   struct Readers {
     std::vector<RefusedLine>* first = nullptr;
     std::vector<RefusedLine>* second = nullptr;
-    std::vector<CiscoCommandLine*>* firstReading = nullptr;
-    std::vector<CiscoCommandLine*>* secondReading = nullptr;
-    std::function<void()> afterFirst;
-    std::function<void()> afterSecond;
+    TypedReading firstTyped;
+    TypedReading secondTyped;
+    std::function<void()> bothRead;
+    SideReading* bothReadBeside = nullptr;
     SideReading* besideComparison = nullptr;
   };
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);
-  // One text of a fallback read into its top-level records and brought into
-  // the form a merge writes (see fallbackNormalised). `reading`: as
-  // Readers::firstReading.
-  static void readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
-                             std::vector<CiscoCommandLine*>& commands,
-                             std::vector<CiscoCommandLine*>* reading = nullptr);
+  // The first reading of one text of a fallback: as typed (into
+  // `reading->records` where given, else freed) and written in the form a
+  // merge writes, which it returns.
+  static std::string readTyped(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
+                               const TypedReading& reading);
+  // The second: that form read into its top-level records, by indent where
+  // the text was typed.
+  static void readMergeForm(const std::string& form, bool typed, std::vector<CiscoCommandLine*>& commands);
   static std::string fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
                                         bool allLevels, const Readers& readers);
   static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);

@@ -12,6 +12,7 @@
 #include "config/DeviceTextWriter.h"
 #include "config/InterfaceRangeMeaning.h"
 #include "config/QxParserUtil.h"
+#include "config/ReadingSketch.h"
 #include "config/ResultRollback.h"
 #include "config/RouteFilterMeaning.h"
 #include "config/SideReading.h"
@@ -58,22 +59,19 @@ std::string withoutNo(const std::string& text) {
   return text.compare(0, 3, "no ") == 0 ? text.substr(3) : text;
 }
 
-// The line a record was read from, without trailing blanks.
-std::string lastLine(const std::string& raw) {
-  const size_t cut = raw.rfind('\n');
-  std::string line = cut == std::string::npos ? raw : raw.substr(cut + 1);
-  line.erase(line.find_last_not_of(" \t") + 1);
-  return line;
-}
-
 // For the commands of a result, by their full form without "no ": the
-// command of a reading (the first that a reading gave) with that form. Keys
-// are views into the result's own texts, which stay unchanged while the
-// rollback is written; only the forms the result holds are kept.
-using TypedLines = std::unordered_map<std::string_view, const CiscoCommandLine*>;
+// command of a reading (the first that a reading gave) with that form, as
+// its full text and the line it was typed as. Keys are views into the
+// result's own texts, which stay unchanged while the rollback is written;
+// only the forms the result holds are kept.
+struct TypedLine {
+  bool found = false;
+  std::string command;
+  std::string line;
+};
+using TypedLines = std::unordered_map<std::string_view, TypedLine>;
 
-std::string_view withoutNoView(const std::string& text) {
-  std::string_view view(text);
+std::string_view withoutNoView(std::string_view view) {
   if (view.compare(0, 3, "no ") == 0) view.remove_prefix(3);
   return view;
 }
@@ -81,20 +79,23 @@ std::string_view withoutNoView(const std::string& text) {
 // The forms of `records` (a result, all levels) that lendTypedLines asks for.
 void wantTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
   for (const CiscoCommandLine* record : records) {
-    if (record->getTreeNodeSize() != 0) lines.emplace(withoutNoView(record->getOriginalCmd()), nullptr);
+    if (record->getTreeNodeSize() != 0) lines.emplace(withoutNoView(record->getOriginalCmd()), TypedLine());
     wantTypedLines(record->getChildCommands(), lines);
   }
 }
 
-// Finds the wanted forms among `records` (a reading of a text), all levels:
+// Finds the wanted forms in `sketch` (of a reading of a text), all levels:
 // the top level first, then the commands below each, depth first.
-void collectTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& lines) {
-  std::vector<CiscoCommandLine*> all(records);
-  for (const CiscoCommandLine* record : records) record->getAllChildCommands(all);
-  for (const CiscoCommandLine* record : all) {
-    if (record->getTreeNodeSize() == 0 || record->getRawText().empty()) continue;
-    const auto wanted = lines.find(withoutNoView(record->getOriginalCmd()));
-    if (wanted != lines.end() && wanted->second == nullptr) wanted->second = record;
+void collectTypedLines(const ReadingSketch& sketch, TypedLines& lines) {
+  const auto look = [&sketch, &lines](size_t at) {
+    if (!sketch.hasPath(at) || !sketch.wasTyped(at)) return;
+    const auto wanted = lines.find(withoutNoView(sketch.command(at)));
+    if (wanted == lines.end() || wanted->second.found) return;
+    wanted->second = TypedLine{true, std::string(sketch.command(at)), sketch.typedLine(at)};
+  };
+  for (size_t at = 0; at < sketch.size(); at = sketch.end(at)) look(at);
+  for (size_t top = 0; top < sketch.size(); top = sketch.end(top)) {
+    for (size_t at = top + 1; at < sketch.end(top); ++at) look(at);
   }
 }
 
@@ -105,11 +106,11 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const TypedLi
     // A banner's text keeps the line it was read from, blanks and all.
     if (record->getTreeNodeSize() == 0) continue;
     const auto found = lines.find(withoutNoView(record->getOriginalCmd()));
-    const CiscoCommandLine* typed = found == lines.end() ? nullptr : found->second;
-    if (typed != nullptr && typed->getOriginalCmd() == record->getOriginalCmd()) {
-      record->setRawText(lastLine(typed->getRawText()));
+    const TypedLine* typed = found == lines.end() || !found->second.found ? nullptr : &found->second;
+    if (typed != nullptr && typed->command == record->getOriginalCmd()) {
+      record->setRawText(typed->line);
     } else {
-      record->setRawText(typed == nullptr ? std::string() : lastLine(typed->getRawText()));
+      record->setRawText(typed == nullptr ? std::string() : typed->line);
       record->setFlags(CMDBIT_FROM_CHANGES, true);
     }
     lendTypedLines(record->getChildCommands(), lines);
@@ -117,8 +118,8 @@ void lendTypedLines(const std::vector<CiscoCommandLine*>& records, const TypedLi
 }
 
 // What the rollback of one configuration to another takes from the two
-// typed readings and texts alone, not from the comparison: worked out beside
-// it.
+// typed readings and texts alone, not from the comparison: worked out while
+// both readings are at hand, and beside the comparison.
 struct ReadingChanges {
   // Lines the comparison misses (see addMissedCommands).
   std::string missed;
@@ -128,20 +129,13 @@ struct ReadingChanges {
   // Numbered access lists that changed: their numbers, and the lists anew.
   std::vector<std::string> numbers;
   std::string numberedLists;
-
-  void find(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
-            const std::string& first, const std::string& second) {
-    missed = DeviceMeaning::missedCommands(from, to);
-    namedLists = AccessListMeaning::changedNamedLists(from, to, namedHeads);
-    numberedLists = AccessListMeaning::changedNumberedLists(first, second, numbers);
-  }
 };
 
 // A line that `from` (a reading of the first text) states only in its "no"
 // form and `to` (of the second) holds positive is written too: the
 // comparison takes the two for one.
-void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
-                       const ReadingChanges& changes, std::vector<CiscoCommandLine*>& out) {
+void addMissedCommands(const ReadingSketch& from, const ReadingSketch& to, const ReadingChanges& changes,
+                       std::vector<CiscoCommandLine*>& out) {
   DeviceMeaning::dropUnchangedNegations(out, from, to);
   const std::vector<std::string>& heads = changes.namedHeads;
   // A named list that changed is written by its entries alone.
@@ -154,7 +148,8 @@ void addMissedCommands(const std::vector<CiscoCommandLine*>& from, const std::ve
       ++it;
     }
   }
-  const std::string missed = changes.missed + changes.namedLists + DeviceMeaning::changedBanners(out, from, to);
+  const std::string missed =
+      changes.missed + changes.namedLists + DeviceMeaning::changedBanners(out, from.banners(), to.banners());
   if (missed.empty()) return;
   std::vector<CiscoCommandLine*> extra;
   RecordsGuard extraGuard(extra);
@@ -200,14 +195,6 @@ void dropComments(std::vector<CiscoCommandLine*>& records) {
                                [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
                 records.end());
   QxParserUtil::deleteCommands(comments);
-}
-
-// A typed reading of `text` (all levels, as the comparison kept it) in the
-// form DeviceTextReader::read gives: its top-level records.
-void settleReading(const std::string& text, std::vector<CiscoCommandLine*>& records) {
-  std::vector<CiscoCommandLine*> all;
-  all.swap(records);
-  DeviceTextReader::settle(text, all, records);
 }
 
 // `text` with its NUL bytes as blanks: the text itself where it has none,
@@ -336,38 +323,66 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // The comparison's typed readings of the two texts serve again, for the
   // typed lines and the lines the comparison leaves out: no text is read a
   // third time. (The first text's is wanted only where it is a whole
-  // configuration, mode 1.) They are held through the comparison, which
-  // costs memory that reading them again would not.
+  // configuration, mode 1.) Each is brought into the form
+  // DeviceTextReader::read gives and sketched by the thread that read it,
+  // and freed before the texts are read again for the comparison: only the
+  // sketches stay.
   std::vector<CiscoCommandLine*> firstRead;
   std::vector<CiscoCommandLine*> secondRead;
-  RecordsGuard firstGuard(firstRead, true);
-  RecordsGuard secondGuard(secondRead, true);
-  // Each is brought into the form DeviceTextReader::read gives by the thread
-  // that read it, while the other thread may still be reading.
-  Readers kept;
-  kept.secondReading = &secondRead;
+  RecordsGuard firstGuard(firstRead);
+  RecordsGuard secondGuard(secondRead);
+  ReadingSketch firstSketch;
+  ReadingSketch secondSketch;
   // The texts as their readings saw them (a merge result's NUL indent bytes
   // as blanks), made once.
   std::string firstCopy;
   std::string secondCopy;
   const std::string& firstText = nulAsBlank(first, firstCopy);
   const std::string& secondText = nulAsBlank(second, secondCopy);
-  kept.afterSecond = [&secondText, &secondRead]() { settleReading(secondText, secondRead); };
-  if (mode != 0) {
-    kept.firstReading = &firstRead;
-    kept.afterFirst = [&firstText, &firstRead]() { settleReading(firstText, firstRead); };
-  }
-  // Of a configuration's rollback, what the readings tell without the
-  // comparison is worked out on the second thread while this one compares.
+  // A reading once read (all levels) is brought into the form
+  // DeviceTextReader::read gives (its top-level records) and sketched; it is
+  // freed before its text is read again.
+  const auto keptReading = [](const std::string& text, std::vector<CiscoCommandLine*>& records,
+                              ReadingSketch& sketch) {
+    TypedReading reading;
+    reading.records = &records;
+    reading.read = [&text, &records, &sketch]() {
+      std::vector<CiscoCommandLine*> all;
+      all.swap(records);
+      DeviceTextReader::settle(text, all, records);
+      sketch = ReadingSketch(records);
+    };
+    reading.release = [&records]() { deleteTopLevel(records); };
+    return reading;
+  };
+  Readers kept;
+  kept.secondTyped = keptReading(secondText, secondRead, secondSketch);
+  if (mode != 0) kept.firstTyped = keptReading(firstText, firstRead, firstSketch);
+  // Of a configuration's rollback, what needs both readings is worked out
+  // on the two threads while both are at hand; what needs the texts alone,
+  // on the second thread while this one compares.
   ReadingChanges readingChanges;
-  SideReading besideComparison([&]() {
-    if (mode != 0) readingChanges.find(firstRead, secondRead, firstText, secondText);
+  SideReading namedLists([&]() {
+    if (mode != 0) {
+      readingChanges.namedLists =
+          AccessListMeaning::changedNamedLists(firstRead, secondRead, readingChanges.namedHeads);
+    }
   });
-  kept.besideComparison = &besideComparison;
+  if (mode != 0) {
+    kept.bothRead = [&]() { readingChanges.missed = DeviceMeaning::missedCommands(firstRead, secondRead); };
+    kept.bothReadBeside = &namedLists;
+  }
+  SideReading numberedLists([&]() {
+    if (mode != 0) {
+      readingChanges.numberedLists =
+          AccessListMeaning::changedNumberedLists(firstText, secondText, readingChanges.numbers);
+    }
+  });
+  kept.besideComparison = &numberedLists;
   const std::string written =
       nulAsBlank(fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept)));
   if (first.empty()) return second;
-  besideComparison.wait();
+  numberedLists.wait();
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.
@@ -379,7 +394,7 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   // "!" lines go.
   dropComments(out);
   if (mode != 0) {
-    addMissedCommands(firstRead, secondRead, readingChanges, out);
+    addMissedCommands(firstSketch, secondSketch, readingChanges, out);
     rewriteChangedLists(readingChanges, out);
   }
   BgpNeighbourMeaning::orderNeighbours(out);
@@ -388,8 +403,8 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   VlanListMeaning::dropReplacedLists(out);
   DeviceMeaning::settingsAheadOfSubModes(out, false);
   wantTypedLines(out, typedLines);
-  collectTypedLines(secondRead, typedLines);
-  if (mode != 0) collectTypedLines(firstRead, typedLines);
+  collectTypedLines(secondSketch, typedLines);
+  if (mode != 0) collectTypedLines(firstSketch, typedLines);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }

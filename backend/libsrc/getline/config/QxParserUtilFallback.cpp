@@ -46,50 +46,60 @@ std::string QxParserUtil::fallbackConfigCmdsAllLevels(const std::string& first, 
   return fallbackNormalised(first, second, mode, true, Readers());
 }
 
-void QxParserUtil::readNormalised(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
-                                  std::vector<CiscoCommandLine*>& commands, std::vector<CiscoCommandLine*>* reading) {
-  std::string errorText;
-  int errorLine = 0;
+std::string QxParserUtil::readTyped(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
+                                    const TypedReading& reading) {
   // Over every level, a text that is itself a merge result (NUL indent bytes
   // included) is read whole as well.
   const std::string given = allLevels ? blanksForNul(text) : text;
-  const bool handedOn = typed != nullptr && reading != nullptr;
+  const bool handedOn = typed != nullptr && reading.records != nullptr;
   // Where the caller keeps the whole reading, its top level is only lent.
-  std::vector<CiscoCommandLine*> lent;
-  std::vector<CiscoCommandLine*>& topLevel = handedOn ? lent : commands;
-  if (handedOn) {
-    const size_t from = reading->size();
-    TypedTextReader::read(given, *reading, *typed);
-    for (size_t at = from; at < reading->size(); ++at) {
-      if ((*reading)[at]->getLevel() == 0) lent.push_back((*reading)[at]);
+  std::vector<CiscoCommandLine*> topLevel;
+  try {
+    if (handedOn) {
+      const size_t from = reading.records->size();
+      TypedTextReader::read(given, *reading.records, *typed);
+      for (size_t at = from; at < reading.records->size(); ++at) {
+        if ((*reading.records)[at]->getLevel() == 0) topLevel.push_back((*reading.records)[at]);
+      }
+    } else if (typed) {
+      transformCmdsTyped(given, topLevel, typed);
+    } else {
+      std::string errorText;
+      int errorLine = 0;
+      transformCmds(given, topLevel, errorText, errorLine);
     }
-  } else if (typed) {
-    transformCmdsTyped(given, commands, typed);
-  } else {
-    transformCmds(given, commands, errorText, errorLine);
+    // The records are brought into the form that a merge writes, so that
+    // comments are gone and repeated words stand in one order.
+    // Text read as typed is read back the same way: a banner closed on its
+    // last text line ("text ^C") stays closed.
+    std::string form = expandMergedCmds(topLevel, 0);
+    if (allLevels) form = blanksForNul(std::move(form));
+    if (!handedOn) deleteTopLevel(topLevel);
+    return form;
+  } catch (...) {
+    if (!handedOn) deleteTopLevel(topLevel);
+    throw;
   }
-  // The records are brought into the form that a merge writes, so that
-  // comments are gone and repeated words stand in one order.
-  // Text read as typed is read back the same way: a banner closed on its
-  // last text line ("text ^C") stays closed.
-  std::string normalised = expandMergedCmds(topLevel, 0);
-  if (allLevels) normalised = blanksForNul(normalised);
-  if (!handedOn) deleteTopLevel(commands);
-  if (typed) {
-    // Typed texts found their levels by their exits; the written form keeps
-    // them in its indent.
-    std::vector<CiscoCommandLine*> all;
-    std::vector<RefusedLine> unwanted;
-    try {
-      TypedTextReader::readByIndent(normalised, all, unwanted);
-    } catch (...) {
-      deleteCommands(all);
-      throw;
-    }
-    keepTopLevel(all, commands);
-  } else {
-    transformCmds(normalised, commands, errorText, errorLine);
+}
+
+void QxParserUtil::readMergeForm(const std::string& form, bool typed, std::vector<CiscoCommandLine*>& commands) {
+  if (!typed) {
+    std::string errorText;
+    int errorLine = 0;
+    transformCmds(form, commands, errorText, errorLine);
+    return;
   }
+  // Typed texts found their levels by their exits; the written form keeps
+  // them in its indent.
+  std::vector<CiscoCommandLine*> all;
+  std::vector<RefusedLine> unwanted;
+  try {
+    TypedTextReader::readByIndent(form, all, unwanted);
+  } catch (...) {
+    deleteCommands(all);
+    throw;
+  }
+  keepTopLevel(all, commands);
 }
 
 std::string QxParserUtil::fallbackNormalised(const std::string& first, const std::string& second, unsigned int mode,
@@ -111,23 +121,41 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         if (secondTyped != &secondLines) return;
         readers.second->insert(readers.second->end(), secondLines.begin(), secondLines.end());
       };
-      SideReading secondSide([&]() {
-        readNormalised(second, allLevels, secondTyped, secondCmds, readers.secondReading);
-        if (readers.afterSecond) readers.afterSecond();
+      // First as typed, written in the merge form...
+      std::string firstForm;
+      std::string secondForm;
+      const TypedReading& secondReading = readers.secondTyped;
+      SideReading secondTypedRead([&]() {
+        secondForm = readTyped(second, allLevels, secondTyped, secondReading);
+        if (secondReading.read) secondReading.read();
+      });
+      // ...then that form read, once the typed readings have served.
+      SideReading secondFormRead([&]() {
+        if (secondReading.release) secondReading.release();
+        readMergeForm(secondForm, secondTyped != nullptr, secondCmds);
+        std::string().swap(secondForm);
       });
       // Each thread frees the records it read for the comparison.
       SideReading secondFreed([&]() { deleteTopLevel(secondCmds); });
       SideThread side;
-      if (beside) side.post(secondSide);
-      readNormalised(first, allLevels, readers.first, firstCmds, readers.firstReading);
-      if (readers.afterFirst) readers.afterFirst();
+      if (beside) side.post(secondTypedRead);
+      firstForm = readTyped(first, allLevels, readers.first, readers.firstTyped);
+      if (readers.firstTyped.read) readers.firstTyped.read();
       try {
-        secondSide.wait();
+        secondTypedRead.wait();
       } catch (...) {
         handOn();
         throw;
       }
       handOn();
+      if (readers.bothReadBeside && beside) side.post(*readers.bothReadBeside);
+      if (readers.bothRead) readers.bothRead();
+      if (readers.bothReadBeside) readers.bothReadBeside->wait();
+      if (beside) side.post(secondFormRead);
+      if (readers.firstTyped.release) readers.firstTyped.release();
+      readMergeForm(firstForm, readers.first != nullptr, firstCmds);
+      std::string().swap(firstForm);
+      secondFormRead.wait();
       if (beside && readers.besideComparison) side.post(*readers.besideComparison);
       if (mode == 0) {
         fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);

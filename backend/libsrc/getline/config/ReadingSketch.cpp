@@ -1,0 +1,98 @@
+// ReadingSketch: the parts of a typed reading that the device-text rollback
+// reads after the comparison.
+#include "config/ReadingSketch.h"
+
+#include <stdexcept>
+
+#include "config/DeviceMeaning.h"
+
+namespace qxparser {
+
+namespace {
+
+// The last line of a raw text, trailing blanks and tabs cut.
+std::string_view typedLineOf(const std::string& raw) {
+  std::string_view line(raw);
+  const size_t cut = line.rfind('\n');
+  if (cut != std::string_view::npos) line.remove_prefix(cut + 1);
+  const size_t last = line.find_last_not_of(" \t");
+  return line.substr(0, last == std::string_view::npos ? 0 : last + 1);
+}
+
+// A command's text without its trailing blanks and line end.
+std::string_view bareCommand(std::string_view command) {
+  const size_t last = command.find_last_not_of(" \r\n");
+  return command.substr(0, last == std::string_view::npos ? 0 : last + 1);
+}
+
+// How many records `records` and those below them hold, and the length of
+// their texts: a sketch takes its room at once, not by doubling.
+void measure(const std::vector<CiscoCommandLine*>& records, size_t& count, size_t& texts) {
+  for (const CiscoCommandLine* record : records) {
+    ++count;
+    texts += record->getOriginalCmd().size();
+    measure(record->getChildCommands(), count, texts);
+  }
+}
+
+}  // namespace
+
+ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel) {
+  size_t count = 0;
+  size_t texts = 0;
+  measure(topLevel, count, texts);
+  mEntries.reserve(count);
+  // Typed lines other than their commands' texts are few in a configuration.
+  mTexts.reserve(texts + texts / 16);
+  for (const CiscoCommandLine* record : topLevel) add(*record);
+  mBanners = DeviceMeaning::bannersOf(topLevel);
+}
+
+uint32_t ReadingSketch::keep(std::string_view text) {
+  if (mTexts.size() + text.size() > UINT32_MAX) throw std::length_error("reading too large to sketch");
+  const auto at = static_cast<uint32_t>(mTexts.size());
+  mTexts.append(text);
+  return at;
+}
+
+void ReadingSketch::add(const CiscoCommandLine& record) {
+  const size_t at = mEntries.size();
+  mEntries.emplace_back();
+  Entry entry;
+  const std::string& command = record.getOriginalCmd();
+  entry.commandAt = keep(command);
+  entry.commandSize = static_cast<uint32_t>(command.size());
+  entry.hasPath = record.getTreeNodeSize() > 0;
+  if (!record.getRawText().empty()) {
+    const std::string_view line = typedLineOf(record.getRawText());
+    const size_t indent = line.find_first_not_of(' ');
+    if (indent != std::string_view::npos && line.substr(indent) == bareCommand(command)) {
+      entry.typed = Typed::Indented;
+      entry.lineAt = static_cast<uint32_t>(indent);
+    } else {
+      entry.typed = Typed::Stored;
+      entry.lineAt = keep(line);
+      entry.lineSize = static_cast<uint32_t>(line.size());
+    }
+  }
+  for (const CiscoCommandLine* child : record.getChildCommands()) add(*child);
+  entry.end = static_cast<uint32_t>(mEntries.size());
+  mEntries[at] = entry;
+}
+
+std::string ReadingSketch::typedLine(size_t at) const {
+  const Entry& entry = mEntries[at];
+  switch (entry.typed) {
+    case Typed::None:
+      return std::string();
+    case Typed::Stored:
+      return mTexts.substr(entry.lineAt, entry.lineSize);
+    case Typed::Indented:
+      break;
+  }
+  std::string line(entry.lineAt, ' ');
+  line.append(bareCommand(command(at)));
+  return line;
+}
+
+}  // namespace qxparser

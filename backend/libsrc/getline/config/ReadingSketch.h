@@ -1,0 +1,78 @@
+// ReadingSketch: what the device-text rollback still asks of a typed reading
+// once the two configurations are compared, kept without the reading.
+//
+// The rollback spells each command it writes in the words an input typed for
+// it, leaves out the negations of lines that stand unchanged in both inputs,
+// and writes changed banners whole. For that it needs, of each record of a
+// typed reading: its full text (getOriginalCmd), the line it was typed as
+// (the last line of its raw text, trailing blanks cut), whether it has a
+// grammar path, and where it stands among the records of its mode; and the
+// banners the reading holds. A sketch keeps exactly that, in a tenth of the
+// reading's memory, so that the reading can be freed before the texts are
+// read a second time for the comparison.
+//
+// Entries stand in the reading's order, each followed by those of its
+// children (depth first): entry `i`'s children are `i + 1`, then `end` of
+// that one, and so on while below `end(i)`. The texts live in one buffer of
+// the sketch; a typed line that is its command's text behind blanks of
+// indent (the usual case in a configuration the device wrote) is not stored
+// again. Immutable once made; safe to read from several threads.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "config/CiscoCommandLine.h"
+
+namespace qxparser {
+
+class ReadingSketch {
+ public:
+  ReadingSketch() = default;
+  // The sketch of a reading's top-level records (as DeviceTextReader::read
+  // gives them) and everything below them.
+  explicit ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel);
+
+  size_t size() const { return mEntries.size(); }
+  // The index behind entry `at`'s children, grandchildren and so on.
+  size_t end(size_t at) const { return mEntries[at].end; }
+  // The record's getOriginalCmd().
+  std::string_view command(size_t at) const {
+    const Entry& entry = mEntries[at];
+    return std::string_view(mTexts).substr(entry.commandAt, entry.commandSize);
+  }
+  // Whether the record had a grammar path (getTreeNodeSize() > 0).
+  bool hasPath(size_t at) const { return mEntries[at].hasPath; }
+  // Whether the record was read from a line (its raw text is not empty).
+  bool wasTyped(size_t at) const { return mEntries[at].typed != Typed::None; }
+  // The line the record was typed as, trailing blanks and tabs cut.
+  std::string typedLine(size_t at) const;
+  // The banners by kind ("banner motd"), each as the device shows it.
+  const std::map<std::string, std::string>& banners() const { return mBanners; }
+
+ private:
+  enum class Typed : uint8_t { None, Stored, Indented };
+  struct Entry {
+    uint32_t commandAt = 0;
+    uint32_t commandSize = 0;
+    // Stored: the typed line's place in mTexts. Indented: `lineAt` blanks,
+    // then the command's text without its trailing blanks and line end.
+    uint32_t lineAt = 0;
+    uint32_t lineSize = 0;
+    uint32_t end = 0;
+    bool hasPath = false;
+    Typed typed = Typed::None;
+  };
+
+  void add(const CiscoCommandLine& record);
+  uint32_t keep(std::string_view text);
+
+  std::vector<Entry> mEntries;
+  std::string mTexts;
+  std::map<std::string, std::string> mBanners;
+};
+
+}  // namespace qxparser

@@ -1,0 +1,82 @@
+// ReadingSketch against the reading it sketches: for every record, depth
+// first, the same full text, the same typed line, the same path flag and the
+// same children; and the banners. On a typed text with abbreviations, tabs,
+// carriage returns and a banner, and on every file of the public corpus.
+#include "ShippedGrammar.h"
+#include "config/DeviceMeaning.h"
+#include "config/DeviceTextReader.h"
+#include "config/ReadingSketch.h"
+
+namespace qxparser {
+namespace {
+
+// The last line of a raw text, trailing blanks and tabs cut: the typed line.
+std::string typedLineOf(const std::string& raw) {
+  const size_t cut = raw.rfind('\n');
+  std::string line = cut == std::string::npos ? raw : raw.substr(cut + 1);
+  line.erase(line.find_last_not_of(" \t") + 1);
+  return line;
+}
+
+// Compares the records of one mode with the sketch entries from `at` on;
+// returns the index behind them.
+size_t compare(const std::vector<CiscoCommandLine*>& records, const ReadingSketch& sketch, size_t at,
+               const std::string& where) {
+  for (const CiscoCommandLine* record : records) {
+    SCOPED_TRACE(where + " entry " + std::to_string(at) + ": " + record->getOriginalCmd());
+    if (at >= sketch.size()) {
+      ADD_FAILURE() << "sketch ends early";
+      return at;
+    }
+    EXPECT_EQ(sketch.command(at), record->getOriginalCmd());
+    EXPECT_EQ(sketch.hasPath(at), record->getTreeNodeSize() > 0);
+    EXPECT_EQ(sketch.wasTyped(at), !record->getRawText().empty());
+    EXPECT_EQ(sketch.typedLine(at), record->getRawText().empty() ? "" : typedLineOf(record->getRawText()));
+    const size_t behind = compare(record->getChildCommands(), sketch, at + 1, where);
+    EXPECT_EQ(sketch.end(at), behind);
+    at = sketch.end(at);
+  }
+  return at;
+}
+
+void checkSketch(const std::string& text, const std::string& where) {
+  std::vector<CiscoCommandLine*> records;
+  DeviceTextReader::read(text, records);
+  const ReadingSketch sketch(records);
+  EXPECT_EQ(compare(records, sketch, 0, where), sketch.size()) << where;
+  EXPECT_EQ(sketch.banners(), DeviceMeaning::bannersOf(records)) << where;
+  QxParserUtil::deleteCommands(records);
+}
+
+class ReadingSketchTest : public ShippedGrammarTest {};
+
+TEST_F(ReadingSketchTest, HoldsWhatTheReadingHolds) {
+  checkSketch(
+      "hostname r1\n"
+      "int Gi0/1\n"
+      " desc uplink  \n"
+      "\tip addr 10.0.0.1 255.255.255.0\r\n"
+      " no shut\n"
+      "interface GigabitEthernet0/2\n"
+      " shutdown\n"
+      "!\n"
+      "banner motd ^C\n"
+      "Authorised use only\n"
+      "^C\n"
+      "router ospf 1\n"
+      " network 10.0.0.0 0.0.0.255 area 0\n"
+      "line vty 0 4\n"
+      " transport input ssh\n"
+      "end\n",
+      "typed text");
+  EXPECT_EQ(ReadingSketch().size(), 0u);
+}
+
+TEST_F(ReadingSketchTest, HoldsWhatTheReadingHoldsOverTheCorpus) {
+  const std::vector<CorpusFile> files = corpusFiles();
+  if (files.empty()) GTEST_SKIP() << "corpus folder " << corpusFolder() << " absent";
+  for (const CorpusFile& file : files) checkSketch(file.text, file.name);
+}
+
+}  // namespace
+}  // namespace qxparser
