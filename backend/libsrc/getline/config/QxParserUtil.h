@@ -25,6 +25,7 @@
 
 namespace qxparser {
 
+class CommandMatchIndex;
 class SideReading;
 
 // What a search of a configuration file returns.
@@ -208,10 +209,14 @@ class VTYCONF_API QxParserUtil {
   static void mergeCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
                                  CiscoCommandLine* parent);
   static std::string expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth);
+  // `index` (where given): the CommandMatchIndex of `config` (`to`), made
+  // beforehand; else the call makes its own.
   static void fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
-                                    std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent);
+                                    std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent,
+                                    CommandMatchIndex* index = nullptr);
   static void fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from, std::vector<CiscoCommandLine*>& to,
-                                       std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent);
+                                       std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent,
+                                       CommandMatchIndex* index = nullptr);
   static CiscoCommandLine* createNoCommand(CiscoCommandLine* command);
   // vtyconf's own: deletes level-0 records with all their children.
   static void deleteTopLevel(std::vector<CiscoCommandLine*>& commands);

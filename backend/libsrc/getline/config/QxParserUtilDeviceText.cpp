@@ -316,10 +316,20 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     }
     return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
+  // Long texts are settled at once, the second on a thread of its own.
   std::string firstSettled;
   std::string secondSettled;
-  const std::string& first = DeviceMeaning::settleText(firstGiven, firstSettled) ? firstSettled : firstGiven;
-  const std::string& second = DeviceMeaning::settleText(secondGiven, secondSettled) ? secondSettled : secondGiven;
+  bool secondChanged = false;
+  SideReading secondSettling([&]() { secondChanged = DeviceMeaning::settleText(secondGiven, secondSettled); });
+  bool firstChanged = false;
+  {
+    SideThread side;
+    if (SideReading::worthAThread(firstGiven) && SideReading::worthAThread(secondGiven)) side.post(secondSettling);
+    firstChanged = DeviceMeaning::settleText(firstGiven, firstSettled);
+    secondSettling.wait();
+  }
+  const std::string& first = firstChanged ? firstSettled : firstGiven;
+  const std::string& second = secondChanged ? secondSettled : secondGiven;
   // The comparison's typed readings of the two texts serve again, for the
   // typed lines and the lines the comparison leaves out: no text is read a
   // third time. (The first text's is wanted only where it is a whole

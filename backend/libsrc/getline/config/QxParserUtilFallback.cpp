@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <sstream>
 
 #include "config/CommandMatchIndex.h"
@@ -130,10 +131,14 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         if (secondReading.read) secondReading.read();
       });
       // ...then that form read, once the typed readings have served.
+      // The comparison's index of the second text's top level is made by
+      // the thread that read it, while the other may still be reading.
+      std::optional<CommandMatchIndex> secondIndex;
       SideReading secondFormRead([&]() {
         if (secondReading.release) secondReading.release();
         readMergeForm(secondForm, secondTyped != nullptr, secondCmds);
         std::string().swap(secondForm);
+        if (beside) secondIndex.emplace(secondCmds);
       });
       // Each thread frees the records it read for the comparison.
       SideReading secondFreed([&]() { deleteTopLevel(secondCmds); });
@@ -157,11 +162,13 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       std::string().swap(firstForm);
       secondFormRead.wait();
       if (beside && readers.besideComparison) side.post(*readers.besideComparison);
+      CommandMatchIndex* index = secondIndex ? &*secondIndex : nullptr;
       if (mode == 0) {
-        fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr);
+        fallbackCiscoCommands(firstCmds, secondCmds, out, nullptr, index);
       } else {
-        fallbackCiscoCommandFile(firstCmds, secondCmds, out, nullptr);
+        fallbackCiscoCommandFile(firstCmds, secondCmds, out, nullptr, index);
       }
+      secondIndex.reset();
       text = expandMergedCmds(out, 0);
       if (beside && side.post(secondFreed)) deleteTopLevel(firstCmds);
     }
@@ -178,14 +185,16 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
 }
 
 void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes, std::vector<CiscoCommandLine*>& config,
-                                         std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent) {
+                                         std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent,
+                                         CommandMatchIndex* given) {
   // Commands to restore; lives for the whole pass.
   std::vector<CiscoCommandLine*> restore;
   auto flush = [&]() {
     for (CiscoCommandLine* record : restore) out.push_back(copyUnder(record, parent));
     restore.clear();
   };
-  CommandMatchIndex index(config);
+  std::optional<CommandMatchIndex> own;
+  CommandMatchIndex& index = given != nullptr ? *given : own.emplace(config);
   auto mark = [&restore, &index](CiscoCommandLine* record) {
     record->setFlags(CMDBIT_REMOVED, false);
     restore.push_back(record);
@@ -285,7 +294,8 @@ void QxParserUtil::fallbackCiscoCommands(std::vector<CiscoCommandLine*>& changes
 }
 
 void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from, std::vector<CiscoCommandLine*>& to,
-                                            std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent) {
+                                            std::vector<CiscoCommandLine*>& out, CiscoCommandLine* parent,
+                                            CommandMatchIndex* given) {
   auto negate = [&](CiscoCommandLine* record) {
     CiscoCommandLine* negated = createNoCommand(record);
     negated->setParentCommand(parent, false);
@@ -299,7 +309,8 @@ void QxParserUtil::fallbackCiscoCommandFile(std::vector<CiscoCommandLine*>& from
                              head.get());
     if (!head->getChildCommands().empty()) out.push_back(head.release());
   };
-  CommandMatchIndex toIndex(to);
+  std::optional<CommandMatchIndex> own;
+  CommandMatchIndex& toIndex = given != nullptr ? *given : own.emplace(to);
   // The key hashes of `from`, taken once: the pass below reads the records
   // and changes none of them.
   std::vector<std::pair<uint64_t, const CiscoCommandLine*>> fromKeys;

@@ -42,8 +42,9 @@ ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel) {
   size_t texts = 0;
   measure(topLevel, count, texts);
   mEntries.reserve(count);
-  // Typed lines other than their commands' texts are few in a configuration.
-  mTexts.reserve(texts + texts / 16);
+  // Typed lines other than their commands' texts are few in a configuration
+  // (interface heads, abbreviations).
+  mTexts.reserve(texts + texts / 8);
   for (const CiscoCommandLine* record : topLevel) add(*record);
   mBanners = DeviceMeaning::bannersOf(topLevel);
 }
@@ -63,7 +64,10 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   entry.commandAt = keep(command);
   entry.commandSize = static_cast<uint32_t>(command.size());
   entry.hasPath = record.getTreeNodeSize() > 0;
-  if (!record.getRawText().empty()) {
+  if (!record.getRawText().empty() && !entry.hasPath) {
+    // Comments and refused lines: nobody looks their typed lines up.
+    entry.typed = Typed::Unkept;
+  } else if (!record.getRawText().empty()) {
     const std::string_view line = typedLineOf(record.getRawText());
     const size_t indent = line.find_first_not_of(' ');
     if (indent != std::string_view::npos && line.substr(indent) == bareCommand(command)) {
@@ -84,6 +88,7 @@ std::string ReadingSketch::typedLine(size_t at) const {
   const Entry& entry = mEntries[at];
   switch (entry.typed) {
     case Typed::None:
+    case Typed::Unkept:
       return std::string();
     case Typed::Stored:
       return mTexts.substr(entry.lineAt, entry.lineSize);

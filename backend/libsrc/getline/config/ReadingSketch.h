@@ -5,9 +5,9 @@
 // it, leaves out the negations of lines that stand unchanged in both inputs,
 // and writes changed banners whole. For that it needs, of each record of a
 // typed reading: its full text (getOriginalCmd), the line it was typed as
-// (the last line of its raw text, trailing blanks cut), whether it has a
-// grammar path, and where it stands among the records of its mode; and the
-// banners the reading holds. A sketch keeps exactly that, in a tenth of the
+// (the last line of its raw text, trailing blanks cut; asked only of records
+// with a grammar path), whether it has a grammar path, and where it stands
+// among the records of its mode; and the banners the reading holds. A sketch keeps exactly that, in a tenth of the
 // reading's memory, so that the reading can be freed before the texts are
 // read a second time for the comparison.
 //
@@ -48,13 +48,15 @@ class ReadingSketch {
   bool hasPath(size_t at) const { return mEntries[at].hasPath; }
   // Whether the record was read from a line (its raw text is not empty).
   bool wasTyped(size_t at) const { return mEntries[at].typed != Typed::None; }
-  // The line the record was typed as, trailing blanks and tabs cut.
+  // The line the record was typed as, trailing blanks and tabs cut; empty
+  // for a record without a grammar path (a comment, a refused line).
   std::string typedLine(size_t at) const;
   // The banners by kind ("banner motd"), each as the device shows it.
   const std::map<std::string, std::string>& banners() const { return mBanners; }
 
  private:
-  enum class Typed : uint8_t { None, Stored, Indented };
+  // None: not read from a line. Unkept: read from one, not kept (no path).
+  enum class Typed : uint8_t { None, Unkept, Stored, Indented };
   struct Entry {
     uint32_t commandAt = 0;
     uint32_t commandSize = 0;
