@@ -33,6 +33,11 @@ bool looksBinary(const std::string& text) {
 
 void setQuietInput(bool quiet) { gQuietInput = quiet; }
 
+const qxparser::ReaderLineMap& ConfigInput::lines() const {
+  if (!mLines) mLines = qxparser::mapReaderLines(text);
+  return *mLines;
+}
+
 std::string ConfigInput::displayName() const {
   if (path == "-") return "<stdin>";
   size_t slash = path.find_last_of("/\\");
@@ -72,8 +77,6 @@ bool readConfigInput(const std::string& path, bool keepCapture, ConfigInput& out
     return false;
   }
   if (!keepCapture) cleanCapture(out.text, out.leftOut);
-
-  static_cast<qxparser::ReaderLineMap&>(out) = qxparser::mapReaderLines(out.text);
   return true;
 }
 

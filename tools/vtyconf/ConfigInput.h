@@ -10,9 +10,12 @@
 //
 // The library reads only non-empty lines and numbers them from 1
 // (splitting at carriage returns and line feeds); fileLineOf maps such a
-// number back to the line of the file. Plain values, no shared state.
+// number back to the line of the file. The line map is made when first asked
+// for: a job whose every line reads needs none. Plain values, no shared state
+// (one thread at a time per input).
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,14 +25,26 @@
 
 namespace vtycli {
 
-// The line map (fileLineOf, isBannerText, readerLine) is the library's.
-struct ConfigInput : qxparser::ReaderLineMap {
+struct ConfigInput {
   std::string path;                     // as given ("-" for standard input)
   std::string text;                     // the text handed to the library
   std::vector<std::string> leftOut;     // "LINE: text" of every line left out
 
   // The name used in messages: the file name without its folders.
   std::string displayName() const;
+
+  // The library's line map of `text` (which must not change once it is
+  // asked for), and its questions asked of it.
+  const qxparser::ReaderLineMap& lines() const;
+  int fileLineOf(int number) const { return lines().fileLineOf(number); }
+  bool isBannerText(int number) const { return lines().isBannerText(number); }
+  size_t lineCount() const { return lines().lineCount(); }
+  std::string readerLine(size_t index) const { return lines().readerLine(text, index); }
+  // Whether `text` holds a line to read at all (without the map).
+  bool hasLines() const { return text.find_first_not_of("\r\n") != std::string::npos; }
+
+ private:
+  mutable std::optional<qxparser::ReaderLineMap> mLines;
 };
 
 // Reads `path`; false with `error` set when the file cannot be read.

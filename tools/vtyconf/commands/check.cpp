@@ -59,7 +59,7 @@ int runCheck(const CheckOptions& options) {
   nlohmann::json out = nlohmann::json::array();
   for (size_t i = 0; i < changes.lineCount() && i < prompts.size(); ++i) {
     const int number = static_cast<int>(i) + 1;
-    const std::string text = changes.readerLine(changes.text, i);
+    const std::string text = changes.readerLine(i);
     const auto found = byLine.find(number);
     const CiscoCommandLine* record = i < records.size() ? records[i] : nullptr;
     if (options.json) {

@@ -64,7 +64,7 @@ void showParse(const ConfigInput& input) {
     if (!isRefusedRecord(*record)) continue;
     const size_t index = static_cast<size_t>(record->getLineNo()) - 1;
     refused.push_back(input.displayName() + ":" + std::to_string(input.fileLineOf(record->getLineNo())) + ": " +
-                      input.readerLine(input.text, index));
+                      input.readerLine(index));
   }
   QxParserUtil::deleteCommands(records);
   std::cout << total << " commands read, " << refused.size() << " refused\n";

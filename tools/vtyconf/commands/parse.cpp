@@ -139,7 +139,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   };
   std::string exceptionText;
   try {
-    if (input.lineCount() == 0) {
+    if (!input.hasLines()) {
       // No line to read (an empty text, or line breaks alone): no records,
       // and no terminal needs to be made for them.
     } else if (options.replay) {
@@ -159,7 +159,7 @@ int parseOne(const std::string& path, const ParseOptions& options, const GlobalO
   }
   if (!exceptionText.empty()) {
     summary = FileSummary();
-    const int line = qxparser::failingLine(input, input.text);
+    const int line = qxparser::failingLine(input.lines(), input.text);
     std::cerr << "vtyconf: " << input.displayName() << ":";
     if (line > 0) std::cerr << line << ":";
     std::cerr << " " << exceptionText << "\n";

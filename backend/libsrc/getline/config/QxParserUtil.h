@@ -163,7 +163,9 @@ class VTYCONF_API QxParserUtil {
   // are read one after the other). `besideComparison` (where set) is posted
   // to the second thread once both texts are read in the merge form, to run
   // while the texts are compared; texts read one after the other leave it to
-  // its owner's wait().
+  // its owner's wait(). Where `compared` is set, the top-level records the
+  // texts were compared by are moved there, for the caller to free, instead
+  // of being freed before the call returns.
   struct TypedReading {
     // Filled with the typed reading of the text (all levels, in line order)
     // instead of its being freed at once; owned by the caller then.
@@ -182,6 +184,7 @@ class VTYCONF_API QxParserUtil {
     std::function<void()> bothRead;
     SideReading* bothReadBeside = nullptr;
     SideReading* besideComparison = nullptr;
+    std::vector<CiscoCommandLine*>* compared = nullptr;
   };
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,

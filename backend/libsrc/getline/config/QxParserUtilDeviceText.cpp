@@ -389,10 +389,18 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     }
   });
   kept.besideComparison = &numberedLists;
+  // The records the texts were compared by are freed on the second thread
+  // while this one writes the rollback.
+  std::vector<CiscoCommandLine*> compared;
+  RecordsGuard comparedGuard(compared);
+  kept.compared = &compared;
   const std::string written =
       nulAsBlank(fallbackWithReaders(first, second, mode, firstRefused, secondRefused, std::move(kept)));
   if (first.empty()) return second;
   numberedLists.wait();
+  SideReading comparedFreed([&compared]() { deleteTopLevel(compared); });
+  SideThread side;
+  if (!SideReading::worthAThread(first) || !side.post(comparedFreed)) deleteTopLevel(compared);
   // A configuration's own spelling first: in delta mode the change set was
   // typed (`int Gi0/3`), and a command only it holds is spelt anew in the
   // device's words rather than in its abbreviations.

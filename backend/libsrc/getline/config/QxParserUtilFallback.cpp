@@ -170,7 +170,14 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       }
       secondIndex.reset();
       text = expandMergedCmds(out, 0);
-      if (beside && side.post(secondFreed)) deleteTopLevel(firstCmds);
+      if (readers.compared != nullptr) {
+        readers.compared->insert(readers.compared->end(), firstCmds.begin(), firstCmds.end());
+        firstCmds.clear();
+        readers.compared->insert(readers.compared->end(), secondCmds.begin(), secondCmds.end());
+        secondCmds.clear();
+      } else if (beside && side.post(secondFreed)) {
+        deleteTopLevel(firstCmds);
+      }
     }
   } catch (...) {
     deleteTopLevel(firstCmds);
