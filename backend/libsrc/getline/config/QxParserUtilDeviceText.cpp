@@ -11,6 +11,7 @@
 #include "config/DeviceTextReader.h"
 #include "config/DeviceTextWriter.h"
 #include "config/InterfaceRangeMeaning.h"
+#include "config/NulBytes.h"
 #include "config/QxParserUtil.h"
 #include "config/ReadingSketch.h"
 #include "config/ResultRollback.h"
@@ -195,20 +196,6 @@ void dropComments(std::vector<CiscoCommandLine*>& records) {
                                [](const CiscoCommandLine* record) { return record->getFlag() == CMD_TEXT; }),
                 records.end());
   QxParserUtil::deleteCommands(comments);
-}
-
-// `text` with its NUL bytes as blanks: the text itself where it has none,
-// else a copy in `copy`.
-const std::string& nulAsBlank(const std::string& text, std::string& copy) {
-  if (text.find('\0') == std::string::npos) return text;
-  copy = text;
-  std::replace(copy.begin(), copy.end(), '\0', ' ');
-  return copy;
-}
-
-std::string nulAsBlank(std::string text) {
-  std::replace(text.begin(), text.end(), '\0', ' ');
-  return text;
 }
 
 }  // namespace

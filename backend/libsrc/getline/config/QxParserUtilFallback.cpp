@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "config/CommandMatchIndex.h"
+#include "config/NulBytes.h"
 #include "config/QxParserUtil.h"
 #include "config/RecordCopy.h"
 #include "config/SideReading.h"
@@ -28,16 +29,6 @@ CiscoCommandLine* QxParserUtil::createNoCommand(CiscoCommandLine* command) {
   return negated.release();
 }
 
-namespace {
-
-// The writer's NUL indent bytes as blanks, so that a reader takes the text whole.
-std::string blanksForNul(std::string text) {
-  std::replace(text.begin(), text.end(), '\0', ' ');
-  return text;
-}
-
-}  // namespace
-
 std::string QxParserUtil::fallbackConfigCmds(const std::string& first, const std::string& second, unsigned int mode) {
   return fallbackNormalised(first, second, mode, false, Readers());
 }
@@ -51,7 +42,8 @@ std::string QxParserUtil::readTyped(const std::string& text, bool allLevels, std
                                     const TypedReading& reading) {
   // Over every level, a text that is itself a merge result (NUL indent bytes
   // included) is read whole as well.
-  const std::string given = allLevels ? blanksForNul(text) : text;
+  std::string copy;
+  const std::string& given = allLevels ? nulAsBlank(text, copy) : text;
   const bool handedOn = typed != nullptr && reading.records != nullptr;
   // Where the caller keeps the whole reading, its top level is only lent.
   std::vector<CiscoCommandLine*> topLevel;
@@ -74,7 +66,7 @@ std::string QxParserUtil::readTyped(const std::string& text, bool allLevels, std
     // Text read as typed is read back the same way: a banner closed on its
     // last text line ("text ^C") stays closed.
     std::string form = expandMergedCmds(topLevel, 0);
-    if (allLevels) form = blanksForNul(std::move(form));
+    if (allLevels) form = nulAsBlank(std::move(form));
     if (!handedOn) deleteTopLevel(topLevel);
     return form;
   } catch (...) {

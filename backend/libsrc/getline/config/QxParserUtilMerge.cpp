@@ -169,24 +169,52 @@ void QxParserUtil::SortCiscoCommands(std::vector<CiscoCommandLine*>& commands) {
   sortByDeviceOrder(commands);
 }
 
+namespace {
+
+// The length of what appendMerged writes for `commands` at `depth`.
+size_t mergedLength(const std::vector<CiscoCommandLine*>& commands, size_t depth) {
+  size_t length = 0;
+  for (const CiscoCommandLine* command : commands) {
+    length += depth + command->getOriginalCmd().size();
+    length += mergedLength(command->getChildCommands(), depth + 1);
+    if (command->hasFlags(CMDBIT_OPENS_MODE)) length += depth + 2;
+  }
+  return length;
+}
+
+// Writes `commands` and the commands below them into `text`; `indent` is
+// the indent of their level and grows by one NUL byte per level below.
+void appendMerged(std::string& text, const std::vector<CiscoCommandLine*>& commands, std::string& indent) {
+  for (const CiscoCommandLine* command : commands) {
+    text += indent;
+    text += command->getOriginalCmd();
+    if (!command->getChildCommands().empty()) {
+      const size_t kept = indent.size();
+      indent.push_back(kept == 0 ? ' ' : '\0');
+      appendMerged(text, command->getChildCommands(), indent);
+      indent.resize(kept);
+    }
+    if (command->hasFlags(CMDBIT_OPENS_MODE)) {
+      text += indent;
+      text += "!\n";
+    }
+  }
+}
+
+}  // namespace
+
 std::string QxParserUtil::expandMergedCmds(const std::vector<CiscoCommandLine*>& commands, int depth) {
   // The indent comes from a constant of one blank followed by NUL bytes, and
-  // the NULs go into the text as they are.
+  // the NULs go into the text as they are. The text is written in one piece,
+  // its length taken first.
   std::string indent;
   if (depth > 0) {
     indent.assign(1, ' ');
     indent.append(static_cast<size_t>(depth - 1), '\0');
   }
   std::string text;
-  for (const CiscoCommandLine* command : commands) {
-    text += indent;
-    text += command->getOriginalCmd();
-    if (!command->getChildCommands().empty()) text += expandMergedCmds(command->getChildCommands(), depth + 1);
-    if (command->hasFlags(CMDBIT_OPENS_MODE)) {
-      text += indent;
-      text += "!\n";
-    }
-  }
+  text.reserve(mergedLength(commands, indent.size()));
+  appendMerged(text, commands, indent);
   return text;
 }
 
