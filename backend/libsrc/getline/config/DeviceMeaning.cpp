@@ -623,7 +623,11 @@ bool isRouteOption(std::string_view word) {
 // or interface (both when given); distance, name, tag and the other options
 // are its settings. "" for any other line.
 std::string routeIdentity(std::string_view line) {
-  if (line.find("route") == std::string_view::npos) return {};
+  // Only a line whose first word is "ip" can be a route: most lines are
+  // turned away by their first letters.
+  size_t lead = 0;
+  while (lead < line.size() && meaning::isWordBreak(line[lead])) ++lead;
+  if (line.compare(lead, 2, "ip") != 0 || lead + 2 >= line.size() || !meaning::isWordBreak(line[lead + 2])) return {};
   meaning::WordCursor words(line);
   std::string_view word;
   if (!words.next(word) || word != "ip") return {};
