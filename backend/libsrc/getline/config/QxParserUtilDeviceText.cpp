@@ -4,6 +4,7 @@
 #include <set>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "config/AccessListMeaning.h"
 #include "config/BgpNeighbourMeaning.h"
@@ -198,6 +199,25 @@ void dropComments(std::vector<CiscoCommandLine*>& records) {
   QxParserUtil::deleteCommands(comments);
 }
 
+// The two texts of a rollback settled (DeviceMeaning::settleText): each is
+// the text itself where no line of it is undone, else its settled copy in
+// `firstSettled` or `secondSettled`. Long texts are settled at once, the
+// second on a thread of its own.
+std::pair<const std::string*, const std::string*> settledTexts(const std::string& first, const std::string& second,
+                                                               std::string& firstSettled,
+                                                               std::string& secondSettled) {
+  bool secondChanged = false;
+  SideReading secondSettling([&]() { secondChanged = DeviceMeaning::settleText(second, secondSettled); });
+  bool firstChanged = false;
+  {
+    SideThread side;
+    if (SideReading::worthAThread(first) && SideReading::worthAThread(second)) side.post(secondSettling);
+    firstChanged = DeviceMeaning::settleText(first, firstSettled);
+    secondSettling.wait();
+  }
+  return {firstChanged ? &firstSettled : &first, secondChanged ? &secondSettled : &second};
+}
+
 }  // namespace
 
 std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config,
@@ -303,20 +323,11 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     }
     return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
-  // Long texts are settled at once, the second on a thread of its own.
   std::string firstSettled;
   std::string secondSettled;
-  bool secondChanged = false;
-  SideReading secondSettling([&]() { secondChanged = DeviceMeaning::settleText(secondGiven, secondSettled); });
-  bool firstChanged = false;
-  {
-    SideThread side;
-    if (SideReading::worthAThread(firstGiven) && SideReading::worthAThread(secondGiven)) side.post(secondSettling);
-    firstChanged = DeviceMeaning::settleText(firstGiven, firstSettled);
-    secondSettling.wait();
-  }
-  const std::string& first = firstChanged ? firstSettled : firstGiven;
-  const std::string& second = secondChanged ? secondSettled : secondGiven;
+  const auto [firstKept, secondKept] = settledTexts(firstGiven, secondGiven, firstSettled, secondSettled);
+  const std::string& first = *firstKept;
+  const std::string& second = *secondKept;
   // The comparison's typed readings of the two texts serve again, for the
   // typed lines and the lines the comparison leaves out: no text is read a
   // third time. (The first text's is wanted only where it is a whole
