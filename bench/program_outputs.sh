@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Writes what the program prints for every whole-program job (parse, parse
 # --json, merge, fallback --file/--delta, sort, three queries) over the corpus
-# folders and a generated pair, one file per run, into OUT. Two such folders
+# folders and a generated pair, and the library's own merge and fallback forms
+# (--merge-form, --cut-at-deep-levels) over the generated pair, one file per
+# run, into OUT. Two such folders
 # compared with `diff -r` show whether a change to the program changed any
 # output byte. Usage: bench/program_outputs.sh PROGRAM OUT [LINES]
 set -uo pipefail
@@ -58,5 +60,12 @@ run generated.merge merge "$generated/intended.cfg" "$generated/running.cfg"
 run generated.fallback-file fallback --file "$generated/running.cfg" "$generated/intended.cfg"
 run generated.fallback-delta fallback --delta "$generated/intended.cfg" "$generated/running.cfg"
 run generated.merge-form merge --merge-form "$generated/intended.cfg" "$generated/running.cfg"
+for mode in file delta; do
+  first="$generated/running.cfg"
+  second="$generated/intended.cfg"
+  [ "$mode" = delta ] && { first="$generated/intended.cfg"; second="$generated/running.cfg"; }
+  run "generated.fallback-$mode-merge-form" fallback "--$mode" --merge-form "$first" "$second"
+  run "generated.fallback-$mode-cut" fallback "--$mode" --cut-at-deep-levels --merge-form "$first" "$second"
+done
 run empty.parse-stats parse -j 1 --stats /dev/null
 echo "$(find "$out" -maxdepth 1 -name '*.txt' | wc -l) outputs in $out"
