@@ -213,6 +213,7 @@ void VTYModel::popLevel() {
 void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, std::string& errorText) {
   mCompleteLine.clear();
   mInfoLine.clear();
+  mValueMarks.clear();
   mCurrentNode = mLevels->nodes.back();
   mPrompt = promptSuffixOf(mCurrentNode);
   if (bannerStep(line)) {
@@ -285,6 +286,7 @@ void VTYModel::walkLine(const std::string& line, int& modeResult, int& status, s
     ++at;
   }
   if (status == 0) {
+    buildInfoLine();
     finishCommand(isNo, modeResult);
   } else if (status == 1) {
     errorText = kIncomplete;
@@ -361,28 +363,39 @@ void VTYModel::recordToken(const std::string& token, bool isValue, ParserTreeNod
       word = &node->mText;
     }
   }
-  // Appended piece by piece: this runs for every word of every line.
-  for (std::string* text : {&mInfoLine, &mCompleteLine}) {
-    if (prefix) {
-      text->append(*prefix);
-      text->push_back(' ');
-    }
+  // Only the complete line is written word by word; the info line is the
+  // same text with each value in angle brackets, made once the line is read
+  // (buildInfoLine) from the places of the values noted here.
+  if (prefix) {
+    mCompleteLine.append(*prefix);
+    mCompleteLine.push_back(' ');
   }
   if (token == kEndToken) {
-    mInfoLine.push_back('\n');
     mCompleteLine.push_back('\n');
     return;
   }
   if (isValue) {
-    mInfoLine.push_back('<');
-    mInfoLine.append(*word);
-    mInfoLine.push_back('>');
-  } else {
-    mInfoLine.append(*word);
+    mValueMarks.push_back(static_cast<uint32_t>(mCompleteLine.size()));
+    mValueMarks.push_back(static_cast<uint32_t>(word->size()));
   }
-  mInfoLine.push_back(' ');
   mCompleteLine.append(*word);
   mCompleteLine.push_back(' ');
+}
+
+void VTYModel::buildInfoLine() {
+  mInfoLine.clear();
+  mInfoLine.reserve(mCompleteLine.size() + mValueMarks.size());
+  size_t at = 0;
+  for (size_t mark = 0; mark + 1 < mValueMarks.size(); mark += 2) {
+    const size_t start = mValueMarks[mark];
+    const size_t length = mValueMarks[mark + 1];
+    mInfoLine.append(mCompleteLine, at, start - at);
+    mInfoLine.push_back('<');
+    mInfoLine.append(mCompleteLine, start, length);
+    mInfoLine.push_back('>');
+    at = start + length;
+  }
+  mInfoLine.append(mCompleteLine, at, std::string::npos);
 }
 
 ParserTreeNode* VTYModel::splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo) {

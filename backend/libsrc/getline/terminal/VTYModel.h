@@ -62,7 +62,11 @@ class VTYModel {
   std::string mPrompt;
   std::string mSavedPrompt;
   std::string mCompleteLine;
+  // mCompleteLine with each value in angle brackets; written when a walk
+  // ends well (buildInfoLine), from mValueMarks: the start and length of
+  // each value word in mCompleteLine, in pairs.
   std::string mInfoLine;
+  std::vector<uint32_t> mValueMarks;
   char mBannerDelimiter = '"';
   bool mInsideBanner = false;
   bool mCliMode = false;
@@ -88,6 +92,8 @@ class VTYModel {
   ParserTreeNode* splitInterfaceToken(const std::string& token, bool& flag, std::string& key, bool isNo);
   bool bannerStep(const std::string& line);
   void finishCommand(bool isNo, int& modeResult);
+  // mInfoLine from mCompleteLine and mValueMarks.
+  void buildInfoLine();
   bool cliExitCommands(const std::string& line, int& modeResult, int& status);
   void popLevel();
   void linkToParent();
