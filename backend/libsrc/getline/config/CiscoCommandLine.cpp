@@ -27,6 +27,7 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
       flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
+      mCurrentIsOriginal(other.mCurrentIsOriginal),
       treeNodes(other.treeNodes),
       mRawText(other.mRawText) {
   copyTexts(other);
@@ -51,6 +52,7 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   flag = other.flag;
   orderNo = other.orderNo;
   flags = other.flags;
+  mCurrentIsOriginal = other.mCurrentIsOriginal;
   treeNodes = other.treeNodes;
   mRawText = other.mRawText;
   copyTexts(other);
@@ -154,7 +156,7 @@ void CiscoCommandLine::setParentCommand(CiscoCommandLine* parent, bool addToChil
   if (parent && addToChildren) parent->childCommands.push_back(this);
 }
 
-void CiscoCommandLine::flagTheCmd() { flag = ParserToolCase::getCmdFlag(currentCommand); }
+void CiscoCommandLine::flagTheCmd() { flag = ParserToolCase::getCmdFlag(getCurrentCommand()); }
 
 void CiscoCommandLine::clearVisitedOption() {
   orderNo = 0;
@@ -266,6 +268,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
 
 const std::string& CiscoCommandLine::genCommandStr() {
   keepReadForm();
+  keepCurrentCommand();
   originalCmd.clear();
   bool firstElement = true;
   for (const auto& entry : treeNodes) {
@@ -286,7 +289,7 @@ const std::string& CiscoCommandLine::genCommandStr() {
 }
 
 bool CiscoCommandLine::isExactlyMatch(CiscoCommandLine* other) const {
-  return other && currentCommand == other->currentCommand;
+  return other && getCurrentCommand() == other->getCurrentCommand();
 }
 
 bool CiscoCommandLine::isComparable(const CiscoCommandLine* other) const {

@@ -67,12 +67,24 @@ class VTYCONF_API CiscoCommandLine {
   void setFlag(CiscoCommandLineFlag value) { flag = value; }
   unsigned int getFlags() const { return flags; }
 
-  const std::string& getCurrentCommand() const { return currentCommand; }
-  void setCurrentCommand(const std::string& text) { currentCommand = text; }
+  const std::string& getCurrentCommand() const { return mCurrentIsOriginal ? originalCmd : currentCommand; }
+  void setCurrentCommand(const std::string& text) {
+    currentCommand = text;
+    mCurrentIsOriginal = false;
+  }
   const std::string& getOriginalCmd() const { return originalCmd; }
   void setOriginalCmd(const std::string& text) {
     keepReadForm();
+    keepCurrentCommand();
     originalCmd = text;
+  }
+  // vtyconf's own: both texts set to `text` at once, as a reading gives them
+  // (the walk's two texts are the same); the record holds it once.
+  void setCommandTexts(const std::string& text) {
+    keepReadForm();
+    originalCmd = text;
+    std::string().swap(currentCommand);
+    mCurrentIsOriginal = true;
   }
   const std::string& getOriginalStr() const;
   void setOriginalStr(const std::string& text);
@@ -170,6 +182,13 @@ class VTYCONF_API CiscoCommandLine {
     if (mRare) mRare->readForm.reset();
   }
   CiscoCommandLine* currentSub() const { return mRare ? mRare->currentSubCommand : nullptr; }
+  // Before originalCmd changes: a current command that was the original one
+  // keeps the text it had.
+  void keepCurrentCommand() {
+    if (!mCurrentIsOriginal) return;
+    currentCommand = originalCmd;
+    mCurrentIsOriginal = false;
+  }
 
   int level = 0;
   int lineNo = 0;
@@ -181,6 +200,9 @@ class VTYCONF_API CiscoCommandLine {
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
+  // vtyconf's own: the current command is originalCmd (setCommandTexts), and
+  // currentCommand is empty.
+  bool mCurrentIsOriginal = false;
   CiscoCommandLine* parentCommand = nullptr;
   std::vector<CiscoCommandLine*> childCommands;
   // Each node appears once in the path; a repeated node adds words to its

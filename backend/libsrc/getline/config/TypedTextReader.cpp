@@ -206,8 +206,7 @@ class Reading {
         std::string context;
         record->getMajorCmdStr(context);
         refused->setMajorCommands(context);
-        refused->setCurrentCommand(record->getOriginalCmd());
-        refused->setOriginalCmd(record->getOriginalCmd());
+        refused->setCommandTexts(record->getOriginalCmd());
         discard(record);
         record = std::move(refused);
       }
@@ -241,8 +240,7 @@ class Reading {
       refuse(number, text, mVty.lastErrorOffset(), mVty.lastError());
       size_t start = text.find_first_not_of(kBlanks);
       const std::string shown = (start == std::string::npos ? std::string() : text.substr(start)) + "\n";
-      record->setCurrentCommand(shown);
-      record->setOriginalCmd(shown);
+      record->setCommandTexts(shown);
     }
     mCommands.push_back(record.release());
   }

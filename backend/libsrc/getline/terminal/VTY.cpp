@@ -266,8 +266,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
       command->setMajorCommands(sharedContext(context));
       size_t start = line.find_first_not_of(" \t");
       std::string shown = (start == std::string::npos ? std::string() : line.substr(start)) + "\n";
-      command->setCurrentCommand(shown);
-      command->setOriginalCmd(shown);
+      command->setCommandTexts(shown);
       commands.push_back(command.release());
       continue;
     }
@@ -277,8 +276,7 @@ bool VTY::getComLineInfo(const std::string& text, std::vector<CiscoCommandLine*>
     }
     wasNew = model->mNewLevel;
     if (!model->mInfoLine.empty()) {
-      command->setCurrentCommand(model->mInfoLine);
-      command->setOriginalCmd(model->mCompleteLine);
+      setWalkedTexts(*command, *model);
       command->setMajorCommands(sharedContext(context));
       command->setLevel(level);
     } else {

@@ -146,6 +146,9 @@ class VTYCONF_API VTY : public std::stringstream {
   std::shared_ptr<const std::string> sharedContext(const std::string& text);
   // The same for the level text of `model` (VTYModel::levelText).
   std::shared_ptr<const std::string> sharedLevelText(const VTYModel& model, bool allLevels);
+  // The command texts a walk of `model` gives `command` (info line and
+  // complete line).
+  static void setWalkedTexts(CiscoCommandLine& command, const VTYModel& model);
 
   std::stringstream mOutput;
   std::string mConfigFile;

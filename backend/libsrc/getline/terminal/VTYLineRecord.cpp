@@ -27,6 +27,17 @@ void VTY::setCliMode(bool cliMode) {
   }
 }
 
+void VTY::setWalkedTexts(CiscoCommandLine& command, const VTYModel& model) {
+  // The info line is the complete line unless a value was marked: then the
+  // record holds the text once.
+  if (model.mInfoLine == model.mCompleteLine) {
+    command.setCommandTexts(model.mCompleteLine);
+    return;
+  }
+  command.setCurrentCommand(model.mInfoLine);
+  command.setOriginalCmd(model.mCompleteLine);
+}
+
 bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
   const bool ok = parse(line, true, &command);
   VTYModel* model = currentModel();
@@ -39,13 +50,11 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
     const bool opened = model && model->mNewLevel;
     command.setLevel(level + (opened ? 1 : 0));
     command.setMajorCommands(model ? sharedLevelText(*model, opened) : std::shared_ptr<const std::string>());
-    command.setCurrentCommand(shown);
-    command.setOriginalCmd(shown);
+    command.setCommandTexts(shown);
     return false;
   }
   if (model && !model->mInfoLine.empty()) {
-    command.setCurrentCommand(model->mInfoLine);
-    command.setOriginalCmd(model->mCompleteLine);
+    setWalkedTexts(command, *model);
     command.setMajorCommands(sharedLevelText(*model, false));
     command.setLevel(level);
   } else {
