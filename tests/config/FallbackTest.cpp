@@ -28,7 +28,10 @@ TEST_F(FallbackTest, CreateNoCommandAddsOrCutsThePrefix) {
   std::unique_ptr<CiscoCommandLine> added(QxParserUtilPeer::no(top[0]));
   EXPECT_EQ(added->getOriginalCmd(), "no logging host 1.1.1.1 \n");
   EXPECT_TRUE(added->hasFlags(CMDBIT_NO));
+  // The current command stays the line as read, though the record held it
+  // once with the original command until the prefix came.
   EXPECT_EQ(added->getCurrentCommand(), top[0]->getCurrentCommand());
+  EXPECT_EQ(added->getCurrentCommand(), "logging host 1.1.1.1 \n");
   std::unique_ptr<CiscoCommandLine> cut(QxParserUtilPeer::no(top[1]));
   EXPECT_EQ(cut->getOriginalCmd(), "snmp trap 1.1.1.1 \n");
   EXPECT_TRUE(cut->hasFlags(CMDBIT_NO)) << "the mark stays on a cut no form";
