@@ -11,27 +11,13 @@ Usage: bench/program_ab.py BEFORE AFTER INPUTS [--lines N] [--pairs K] [--resour
 import argparse
 import os
 import sys
-import time
+
+from program_bench import jobs, measure
 
 
-def run(program, arguments, resources):
-    """One run: wall seconds, CPU seconds and peak MiB, output thrown away."""
-    command = [program, "--quiet"] + (["--resources", resources] if resources else []) + arguments
-    started = time.perf_counter()
-    pid = os.fork()
-    if pid == 0:
-        null = os.open(os.devnull, os.O_WRONLY)
-        os.dup2(null, 1)
-        os.dup2(null, 2)
-        try:
-            os.execv(program, command)
-        finally:
-            os._exit(127)
-    _, status, usage = os.wait4(pid, 0)
-    wall = time.perf_counter() - started
-    if os.WIFEXITED(status) and os.WEXITSTATUS(status) > 1:
-        sys.exit(f"{program} {' '.join(arguments)}: exit status {os.WEXITSTATUS(status)}")
-    return wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024
+def with_resources(command, resources):
+    """command (program, --quiet, job...) with --resources DIR behind the program where given."""
+    return command[:1] + (["--resources", resources] if resources else []) + command[1:]
 
 
 def main():
@@ -48,19 +34,15 @@ def main():
     for path in (running, intended):
         if not os.path.isfile(path):
             sys.exit(f"{path}: no such file (bench/program_bench.py makes the generated pairs)")
-    jobs = [
-        ("parse --stats", ["parse", "--stats", running]),
-        ("merge", ["merge", intended, running]),
-        ("fallback --file", ["fallback", "--file", running, intended]),
-        ("fallback --delta", ["fallback", "--delta", intended, running]),
-    ]
     print(f"| job, {options.lines:,} lines | before: wall / CPU / MiB | after: wall / CPU / MiB |")
     print("|---|---:|---:|")
-    for name, arguments in jobs:
+    before = jobs(options.before, running, intended)
+    after = jobs(options.after, running, intended)
+    for (name, first), (_, second) in zip(before, after):
         runs = {"before": [], "after": []}
         for _ in range(options.pairs):
-            runs["before"].append(run(options.before, arguments, options.resources))
-            runs["after"].append(run(options.after, arguments, options.resources))
+            runs["before"].append(measure(with_resources(first, options.resources)))
+            runs["after"].append(measure(with_resources(second, options.resources)))
         cells = []
         for build in ("before", "after"):
             wall = min(r[0] for r in runs[build])

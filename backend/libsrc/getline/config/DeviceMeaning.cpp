@@ -63,10 +63,7 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
   }
 }
 
-std::string lastLineOf(const std::string& raw) {
-  const size_t cut = raw.rfind('\n');
-  return cut == std::string::npos ? raw : raw.substr(cut + 1);
-}
+std::string lastLineOf(const std::string& raw) { return std::string(meaning::lastLine(raw)); }
 
 }  // namespace
 
@@ -89,8 +86,7 @@ namespace {
 // ("" when it has no such place).
 std::string numberedKind(const CiscoCommandLine& record, std::vector<long>& numbers) {
   // The text without the blanks and line end behind it, looked at in place.
-  std::string_view text(record.getOriginalCmd());
-  text = text.substr(0, text.find_last_not_of(" \r\n") + 1);
+  const std::string_view text = meaning::bare(record.getOriginalCmd());
   std::string_view kind;
   size_t from = 0;
   if (startsWith(text, "vlan ")) {
@@ -278,7 +274,7 @@ void heldKeys(const ReadingSketch& sketch, size_t begin, size_t stop, std::strin
     if (!sketch.hasPath(at)) continue;
     const std::string_view text = sketch.command(at);
     key.resize(mode);
-    key.append(text.substr(0, text.find_last_not_of(" \r\n") + 1));
+    key.append(meaning::bare(text));
     if (keys.asked.count(key)) held.insert(key);
     if (sketch.end(at) == at + 1) continue;
     key += '\n';
@@ -356,7 +352,7 @@ void DeviceMeaning::graft(std::vector<CiscoCommandLine*>& extra, std::vector<Cis
   const auto known = [&](CiscoCommandLine* record) {
     const std::string& text = record->getOriginalCmd();
     if (record->hasFlags(CMDBIT_OPENS_MODE) && wantedHeads.count(text)) heads.emplace(text, record);
-    const std::string_view bare = std::string_view(text).substr(0, text.find_last_not_of(" \r\n") + 1);
+    const std::string_view bare = meaning::bare(text);
     if (wantedTexts.count(bare)) texts.emplace(bare);
   };
   for (CiscoCommandLine* record : into) known(record);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 
+#include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
 
 namespace qxparser {
@@ -68,15 +69,7 @@ bool togglesBanner(std::string_view line, char delimiter) {
   return std::count(line.begin(), line.end(), delimiter) % 2 == 1;
 }
 
-std::string lastLine(const std::string& raw) {
-  const size_t cut = raw.rfind('\n');
-  return cut == std::string::npos ? raw : raw.substr(cut + 1);
-}
-
-std::string_view lastLineView(const std::string& raw) {
-  const size_t cut = raw.rfind('\n');
-  return cut == std::string::npos ? std::string_view(raw) : std::string_view(raw).substr(cut + 1);
-}
+std::string lastLine(const std::string& raw) { return std::string(meaning::lastLine(raw)); }
 
 // Makes `record` a child of `owner`, in line order among the children (the
 // owner may have taken children read after it already).
@@ -151,7 +144,7 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
   CiscoCommandLine* banner = nullptr;
   char delimiter = '\0';
   for (CiscoCommandLine* record : records) {
-    std::string_view line = lastLineView(record->getRawText());
+    std::string_view line = meaning::lastLine(record->getRawText());
     if (banner != nullptr) {
       // Body and closing line go with the banner command; an empty line
       // inside a banner is part of its text, elsewhere it is not kept.
@@ -165,7 +158,7 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
     if (!raw.empty() && raw[0] == '\n') {
       const size_t text = raw.find_first_not_of('\n');
       record->setRawText(text == std::string::npos ? std::string() : raw.substr(text));
-      line = lastLineView(record->getRawText());
+      line = meaning::lastLine(record->getRawText());
     }
     if (record->getFlag() != CMD_TEXT && record->getParentCommand() == nullptr && record->getLevel() > 0 &&
         lastCommand != nullptr && (keepRefused || takesData(lastCommand))) {

@@ -1,6 +1,7 @@
 // MeaningText: the small text and record helpers that the device-meaning
 // rules (AccessListMeaning, BgpNeighbourMeaning, DeviceMeaning,
-// InterfaceRangeMeaning, RouteFilterMeaning, VlanListMeaning) share.
+// InterfaceRangeMeaning, RouteFilterMeaning, VlanListMeaning) and the
+// device-text reader and its sketches share.
 // Internal to the library; plain inline functions without state.
 #pragma once
 
@@ -18,6 +19,16 @@ namespace meaning {
 inline std::string trimmed(std::string text) {
   text.erase(text.find_last_not_of(" \r\n") + 1);
   return text;
+}
+
+// The same without a copy.
+inline std::string_view bare(std::string_view text) { return text.substr(0, text.find_last_not_of(" \r\n") + 1); }
+
+// The last line of a raw text (all of it behind its last line feed), without
+// a copy.
+inline std::string_view lastLine(std::string_view raw) {
+  const size_t cut = raw.rfind('\n');
+  return cut == std::string_view::npos ? raw : raw.substr(cut + 1);
 }
 
 inline bool startsWith(std::string_view text, std::string_view lead) {

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "config/DeviceMeaning.h"
+#include "config/MeaningText.h"
 
 namespace qxparser {
 
@@ -12,17 +13,8 @@ namespace {
 
 // The last line of a raw text, trailing blanks and tabs cut.
 std::string_view typedLineOf(const std::string& raw) {
-  std::string_view line(raw);
-  const size_t cut = line.rfind('\n');
-  if (cut != std::string_view::npos) line.remove_prefix(cut + 1);
-  const size_t last = line.find_last_not_of(" \t");
-  return line.substr(0, last == std::string_view::npos ? 0 : last + 1);
-}
-
-// A command's text without its trailing blanks and line end.
-std::string_view bareCommand(std::string_view command) {
-  const size_t last = command.find_last_not_of(" \r\n");
-  return command.substr(0, last == std::string_view::npos ? 0 : last + 1);
+  const std::string_view line = meaning::lastLine(raw);
+  return line.substr(0, line.find_last_not_of(" \t") + 1);
 }
 
 // How many records `records` and those below them hold, and the length of
@@ -70,7 +62,7 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   } else if (!record.getRawText().empty()) {
     const std::string_view line = typedLineOf(record.getRawText());
     const size_t indent = line.find_first_not_of(' ');
-    if (indent != std::string_view::npos && line.substr(indent) == bareCommand(command)) {
+    if (indent != std::string_view::npos && line.substr(indent) == meaning::bare(command)) {
       entry.typed = Typed::Indented;
       entry.lineAt = static_cast<uint32_t>(indent);
     } else {
@@ -96,7 +88,7 @@ std::string ReadingSketch::typedLine(size_t at) const {
       break;
   }
   std::string line(entry.lineAt, ' ');
-  line.append(bareCommand(command(at)));
+  line.append(meaning::bare(command(at)));
   return line;
 }
 
