@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "grammar/DefinitionLine.h"
+#include "grammar/HelpTextStore.h"
 #include "grammar/NodeLookup.h"
 #include "grammar/NodePool.h"
 #include "grammar/ParserException.h"
@@ -212,9 +213,14 @@ void putEntry(Map& map, std::string_view key, const Value& value) {
   if (!placed.second) placed.first->second = value;
 }
 
-void putWord(ParserTreeNode::WordMap& map, std::string_view key, std::string_view value) {
-  auto placed = map.emplace(key, value);
-  if (!placed.second) placed.first->second.assign(value.data(), value.size());
+// `kept`: a view the help text store gave.
+void putKeptWord(ParserTreeNode::WordMap& map, std::string_view key, std::string_view kept) {
+  auto placed = map.emplace(key, kept);
+  if (!placed.second) placed.first->second = kept;
+}
+
+void putWord(ParserTreeNode::WordMap& map, std::string_view key, std::string_view help) {
+  putKeptWord(map, key, HelpTextStore::keep(help));
 }
 
 // A child enters the map of its parent that its kind asks for; the parent
@@ -542,7 +548,6 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
                       root->mSpareChildren.size() + root->mOptions.size());
   // Every map of the root in the order nextChild walks them, a child's help
   // from the root's help table ("" where it has none).
-  static const std::string kNoHelp;
   const ParserTreeNode::NodeMap* maps[] = {&root->mChildren, &root->mOptionalChildren, &root->mSpareChildren,
                                            &root->mOptions};
   for (int m = 0; m < 4; ++m) {
@@ -557,7 +562,7 @@ void linkModeFile(ParserTree&, ParserTreeNode* root, ParserTreeNode* node) {
       if (!child->mIsComplex) {
         while (help != root->mHelp.end() && help->first < key) ++help;
         const bool found = help != root->mHelp.end() && help->first == key;
-        putWord(node->mHelp, key, found ? help->second : kNoHelp);
+        putKeptWord(node->mHelp, key, found ? help->second : std::string_view());
       }
       if (!child->mParent) child->mParent = node;
     }

@@ -5,6 +5,8 @@
 #include <new>
 #include <vector>
 
+#include "grammar/HelpTextStore.h"
+
 namespace qxparser {
 
 ParserTreeNode::ParserTreeNode() : mComplexCounter(std::rand()) {}
@@ -14,7 +16,7 @@ std::string ParserTreeNode::firstKeyword() const {
 }
 
 std::string ParserTreeNode::firstKeywordHelp() const {
-  return mKeywords.empty() ? std::string() : mKeywords.begin()->second;
+  return mKeywords.empty() ? std::string() : std::string(mKeywords.begin()->second);
 }
 
 namespace {
@@ -67,6 +69,7 @@ void NodePool::releaseAll() {
   for (void* block : p.blocks) ::operator delete(block);
   p.blocks.clear();
   p.next = 0;
+  HelpTextStore::releaseAll();
 }
 
 }  // namespace qxparser

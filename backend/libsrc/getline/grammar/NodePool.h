@@ -23,7 +23,8 @@ class VTYCONF_API NodePool {
   static ParserTreeNode* newNode();
   // Number of nodes handed out so far.
   static size_t used();
-  // vtyconf's own: takes every node back and starts the pool over, for a host
+  // vtyconf's own: takes every node back (and the help texts the nodes held,
+  // HelpTextStore) and starts the pool over, for a host
   // that loads grammars again and again in one process (a fuzzer, a test).
   // Only safe when nothing refers to a node any more: no tree, no record, no
   // loader table (clearLoaderTables) and no command-order table.

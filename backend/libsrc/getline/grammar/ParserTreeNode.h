@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "grammar/FlatMap.h"
 #include "grammar/FlatSet.h"
@@ -50,9 +51,10 @@ enum ParserNodeFlag : uint32_t {
 class VTYCONF_API ParserTreeNode {
  public:
   // Sorted flat containers (FlatMap.h): iterated in key order like the tree
-  // maps they stand for, but an insertion may move their entries.
+  // maps they stand for, but an insertion may move their entries. A word's
+  // help text is a view of the one copy HelpTextStore keeps.
   using NodeMap = FlatMap<std::string, ParserTreeNode*>;
-  using WordMap = FlatMap<std::string, std::string>;
+  using WordMap = FlatMap<std::string, std::string_view>;
   using WordSet = FlatSet<std::string>;
 
   ParserTreeNode();
