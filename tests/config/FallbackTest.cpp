@@ -32,6 +32,15 @@ TEST_F(FallbackTest, CreateNoCommandAddsOrCutsThePrefix) {
   // once with the original command until the prefix came.
   EXPECT_EQ(added->getCurrentCommand(), top[0]->getCurrentCommand());
   EXPECT_EQ(added->getCurrentCommand(), "logging host 1.1.1.1 \n");
+  // Copies keep the two texts apart too, and an assignment of a record that
+  // holds one text makes both that text again.
+  CiscoCommandLine copied(*added);
+  EXPECT_EQ(copied.getCurrentCommand(), "logging host 1.1.1.1 \n");
+  EXPECT_EQ(copied.getOriginalCmd(), "no logging host 1.1.1.1 \n");
+  copied = *top[1];
+  EXPECT_EQ(copied.getCurrentCommand(), "no snmp trap 1.1.1.1 \n");
+  copied = *added;
+  EXPECT_EQ(copied.getCurrentCommand(), "logging host 1.1.1.1 \n");
   std::unique_ptr<CiscoCommandLine> cut(QxParserUtilPeer::no(top[1]));
   EXPECT_EQ(cut->getOriginalCmd(), "snmp trap 1.1.1.1 \n");
   EXPECT_TRUE(cut->hasFlags(CMDBIT_NO)) << "the mark stays on a cut no form";

@@ -22,7 +22,6 @@ CiscoCommandLine::CiscoCommandLine() = default;
 CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
     : level(other.level),
       majorCmdStr(other.majorCmdStr),
-      currentCommand(other.currentCommand),
       originalCmd(other.originalCmd),
       flag(other.flag),
       orderNo(other.orderNo),
@@ -47,7 +46,6 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   if (this == &other) return *this;
   level = other.level;
   majorCmdStr = other.majorCmdStr;
-  currentCommand = other.currentCommand;
   originalCmd = other.originalCmd;
   flag = other.flag;
   orderNo = other.orderNo;
@@ -71,18 +69,26 @@ CiscoCommandLine::~CiscoCommandLine() {
   for (auto& entry : *mRare->subCommands) delete entry.second;
 }
 
+const std::string& CiscoCommandLine::noText() {
+  static const std::string kNone;
+  return kNone;
+}
+
 void CiscoCommandLine::copyTexts(const CiscoCommandLine& other) {
   const Rare* theirs = other.mRare.get();
   const bool str = theirs && theirs->originalStr;
   const bool read = theirs && theirs->readForm;
-  if (!str && !read) {
+  const bool current = theirs && !theirs->currentCommand.empty();
+  if (!str && !read && !current) {
     if (mRare) {
+      mRare->currentCommand.clear();
       mRare->originalStr.reset();
       mRare->readForm.reset();
     }
     return;
   }
   Rare& mine = rare();
+  mine.currentCommand = current ? theirs->currentCommand : std::string();
   mine.originalStr = str ? std::make_unique<std::string>(*theirs->originalStr) : nullptr;
   mine.readForm = read ? std::make_unique<std::string>(*theirs->readForm) : nullptr;
 }

@@ -67,10 +67,13 @@ class VTYCONF_API CiscoCommandLine {
   void setFlag(CiscoCommandLineFlag value) { flag = value; }
   unsigned int getFlags() const { return flags; }
 
-  const std::string& getCurrentCommand() const { return mCurrentIsOriginal ? originalCmd : currentCommand; }
+  const std::string& getCurrentCommand() const {
+    if (mCurrentIsOriginal) return originalCmd;
+    return mRare ? mRare->currentCommand : noText();
+  }
   void setCurrentCommand(const std::string& text) {
-    currentCommand = text;
     mCurrentIsOriginal = false;
+    if (mRare || !text.empty()) rare().currentCommand = text;
   }
   const std::string& getOriginalCmd() const { return originalCmd; }
   void setOriginalCmd(const std::string& text) {
@@ -83,7 +86,7 @@ class VTYCONF_API CiscoCommandLine {
   void setCommandTexts(const std::string& text) {
     keepReadForm();
     originalCmd = text;
-    std::string().swap(currentCommand);
+    if (mRare) std::string().swap(mRare->currentCommand);
     mCurrentIsOriginal = true;
   }
   const std::string& getOriginalStr() const;
@@ -161,10 +164,12 @@ class VTYCONF_API CiscoCommandLine {
   void copyTexts(const CiscoCommandLine& other);
   // What few records hold, in one block that only they allocate: the text of
   // a line that is no command (made when set), the nested option commands
-  // (made with the first), and the form originalCmd had when the text was
-  // read (kept only once originalCmd is about to change; until then it is
-  // originalCmd itself).
+  // (made with the first), the form originalCmd had when the text was read
+  // (kept only once originalCmd is about to change; until then it is
+  // originalCmd itself), and the current command where it is not originalCmd
+  // (a reading gives both the same text; they part when originalCmd changes).
   struct Rare {
+    std::string currentCommand;
     std::unique_ptr<std::string> originalStr;
     std::unique_ptr<std::string> readForm;
     std::unique_ptr<SubCommands> subCommands;
@@ -186,22 +191,22 @@ class VTYCONF_API CiscoCommandLine {
   // keeps the text it had.
   void keepCurrentCommand() {
     if (!mCurrentIsOriginal) return;
-    currentCommand = originalCmd;
     mCurrentIsOriginal = false;
+    if (!originalCmd.empty()) rare().currentCommand = originalCmd;
   }
+  static const std::string& noText();
 
   int level = 0;
   int lineNo = 0;
   // The rebuilt texts of the commands that opened the modes around this one
   // (null when there are none).
   std::shared_ptr<const std::string> majorCmdStr;
-  std::string currentCommand;
   std::string originalCmd;
   CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
-  // vtyconf's own: the current command is originalCmd (setCommandTexts), and
-  // currentCommand is empty.
+  // vtyconf's own: the current command is originalCmd (setCommandTexts);
+  // otherwise it is the Rare block's (empty where there is no block).
   bool mCurrentIsOriginal = false;
   CiscoCommandLine* parentCommand = nullptr;
   std::vector<CiscoCommandLine*> childCommands;
