@@ -19,7 +19,8 @@ std::string dump(const ParserTreeNode* node, int depth) {
   std::string out;
   for (const auto& [key, child] : node->mChildren) {
     auto help = node->mHelp.find(key);
-    std::string line = (key == "\n" ? "<cr>" : key) + ": " + std::string(help == node->mHelp.end() ? std::string_view() : help->second);
+    std::string line = (key == "\n" ? "<cr>" : key) + ": " +
+                       std::string(help == node->mHelp.end() ? std::string_view() : help->second);
     if (child->mIsComplex) {
       line = "{block";
       for (const auto& word : child->mKeywords) line += " " + word.first;

@@ -20,7 +20,6 @@ struct Store {
   // The text kept last: a definition line gives its help text to its word
   // and to the parent's table one after the other.
   std::string_view last;
-  std::size_t count = 0;
 
   std::string_view copy(std::string_view text) {
     if (text.size() > room) {
@@ -51,11 +50,8 @@ std::string_view HelpTextStore::keep(std::string_view text) {
   Store& s = store();
   if (text == s.last) return s.last;
   s.last = s.copy(text);
-  ++s.count;
   return s.last;
 }
-
-std::size_t HelpTextStore::size() { return store().count; }
 
 void HelpTextStore::releaseAll() {
   Store& s = store();
@@ -63,7 +59,6 @@ void HelpTextStore::releaseAll() {
   s.free = nullptr;
   s.room = 0;
   s.last = std::string_view();
-  s.count = 0;
 }
 
 }  // namespace qxparser

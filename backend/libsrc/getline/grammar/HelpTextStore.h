@@ -21,11 +21,9 @@ namespace qxparser {
 
 class HelpTextStore {
  public:
-  // A view of the one kept copy of `text` (an empty view for an empty text),
-  // valid until the process ends.
+  // A view of a kept copy of `text` (an empty view for an empty text), valid
+  // until the process ends or releaseAll.
   static std::string_view keep(std::string_view text);
-  // Number of texts kept so far (for measurements).
-  static std::size_t size();
   // Frees every text (NodePool::releaseAll calls it with the nodes gone).
   static void releaseAll();
 };

@@ -52,7 +52,7 @@ class VTYCONF_API ParserTreeNode {
  public:
   // Sorted flat containers (FlatMap.h): iterated in key order like the tree
   // maps they stand for, but an insertion may move their entries. A word's
-  // help text is a view of the one copy HelpTextStore keeps.
+  // help text is a view of a text HelpTextStore keeps.
   using NodeMap = FlatMap<std::string, ParserTreeNode*>;
   using WordMap = FlatMap<std::string, std::string_view>;
   using WordSet = FlatSet<std::string>;
