@@ -113,8 +113,7 @@ void CiscoCommandLine::setMajorCommands(const std::string& text) {
 }
 
 const std::string& CiscoCommandLine::getOriginalStr() const {
-  static const std::string kNone;
-  return mRare && mRare->originalStr ? *mRare->originalStr : kNone;
+  return mRare && mRare->originalStr ? *mRare->originalStr : noText();
 }
 
 void CiscoCommandLine::setOriginalStr(const std::string& text) {

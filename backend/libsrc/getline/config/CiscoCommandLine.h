@@ -160,7 +160,8 @@ class VTYCONF_API CiscoCommandLine {
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
   SubCommands& ownSubCommands();
-  // The line text and read form of `other`, as copies.
+  // The texts of `other`'s rare block (line text, read form, a current
+  // command of its own), as copies.
   void copyTexts(const CiscoCommandLine& other);
   // What few records hold, in one block that only they allocate: the text of
   // a line that is no command (made when set), the nested option commands
@@ -194,6 +195,7 @@ class VTYCONF_API CiscoCommandLine {
     mCurrentIsOriginal = false;
     if (!originalCmd.empty()) rare().currentCommand = originalCmd;
   }
+  // The empty text a getter answers with where the record holds none.
   static const std::string& noText();
 
   int level = 0;
