@@ -1,6 +1,11 @@
 #include "config/CiscoCommandLine.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
+#include <new>
+#include <stdexcept>
+#include <utility>
 
 #include "grammar/ParserTreeNode.h"
 #include "toolkit/ParserToolCase.h"
@@ -12,6 +17,8 @@ namespace {
 const std::string kEndWord = "\n";
 // Nodes on the path of a typical command.
 constexpr size_t kUsualPathLength = 4;
+// The most room a path's hint reserves at once.
+constexpr size_t kLongPathHint = 64;
 
 bool nodeHas(const ParserTreeNode* node, uint32_t flag) { return node && node->hasFlag(flag); }
 
@@ -23,12 +30,12 @@ CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
     : level(other.level),
       majorCmdStr(other.majorCmdStr),
       originalCmd(other.originalCmd),
-      flag(other.flag),
       orderNo(other.orderNo),
       flags(other.flags),
+      flag(other.flag),
       mCurrentIsOriginal(other.mCurrentIsOriginal),
-      treeNodes(other.treeNodes),
       mRawText(other.mRawText) {
+  copyPathFrom(other);
   copyTexts(other);
   for (CiscoCommandLine* child : other.childCommands) {
     auto copy = std::make_unique<CiscoCommandLine>(*child);
@@ -51,7 +58,7 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
   orderNo = other.orderNo;
   flags = other.flags;
   mCurrentIsOriginal = other.mCurrentIsOriginal;
-  treeNodes = other.treeNodes;
+  copyPathFrom(other);
   mRawText = other.mRawText;
   copyTexts(other);
   if (!other.mRare || !other.mRare->subCommands) return *this;
@@ -65,6 +72,7 @@ CiscoCommandLine& CiscoCommandLine::operator=(const CiscoCommandLine& other) {
 }
 
 CiscoCommandLine::~CiscoCommandLine() {
+  clearPath(false);
   if (!mRare || !mRare->subCommands) return;
   for (auto& entry : *mRare->subCommands) delete entry.second;
 }
@@ -72,6 +80,54 @@ CiscoCommandLine::~CiscoCommandLine() {
 const std::string& CiscoCommandLine::noText() {
   static const std::string kNone;
   return kNone;
+}
+
+void CiscoCommandLine::reservePath(size_t nodes) {
+  // A hint (the words left on the line): a line of many words repeats its
+  // nodes, so a long hint is cut and the path grows by itself if need be.
+  nodes = std::min(nodes, kLongPathHint);
+  if (nodes > mPathCapacity) regrowPath(nodes);
+}
+
+void CiscoCommandLine::regrowPath(size_t capacity) {
+  if (capacity > UINT16_MAX) throw std::length_error("command path longer than 65535 grammar nodes");
+  auto* block = static_cast<CmdPathEntry*>(::operator new(capacity * sizeof(CmdPathEntry)));
+  for (uint16_t i = 0; i < mPathSize; ++i) {
+    ::new (static_cast<void*>(block + i)) CmdPathEntry(std::move(mPath[i]));
+    mPath[i].~CmdPathEntry();
+  }
+  ::operator delete(mPath);
+  mPath = block;
+  mPathCapacity = static_cast<uint16_t>(capacity);
+}
+
+CmdPathEntry& CiscoCommandLine::appendPathEntry() {
+  if (mPathSize == mPathCapacity) {
+    // Most paths are a handful of nodes long: room for them at once.
+    regrowPath(mPathCapacity == 0 ? kUsualPathLength : 2 * static_cast<size_t>(mPathCapacity));
+  }
+  CmdPathEntry* entry = ::new (static_cast<void*>(mPath + mPathSize)) CmdPathEntry();
+  ++mPathSize;
+  return *entry;
+}
+
+void CiscoCommandLine::clearPath(bool keep) {
+  for (uint16_t i = 0; i < mPathSize; ++i) mPath[i].~CmdPathEntry();
+  mPathSize = 0;
+  if (keep) return;
+  ::operator delete(mPath);
+  mPath = nullptr;
+  mPathCapacity = 0;
+}
+
+void CiscoCommandLine::copyPathFrom(const CiscoCommandLine& other) {
+  if (this == &other) return;
+  clearPath(true);
+  reservePath(other.mPathSize);
+  for (uint16_t i = 0; i < other.mPathSize; ++i) {
+    ::new (static_cast<void*>(mPath + i)) CmdPathEntry(other.mPath[i]);
+    ++mPathSize;
+  }
 }
 
 void CiscoCommandLine::copyTexts(const CiscoCommandLine& other) {
@@ -167,7 +223,7 @@ void CiscoCommandLine::clearVisitedOption() {
   orderNo = 0;
   flags = 0;
   parentCommand = nullptr;
-  treeNodes.clear();
+  clearPath(true);
   // Nested commands of a dropped walk would otherwise receive the words of
   // the next attempt at another level.
   if (!mRare) return;
@@ -197,7 +253,8 @@ void CiscoCommandLine::takeFlagFrom(const ParserTreeNode* node) {
 }
 
 void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) {
-  for (auto& entry : treeNodes) {
+  for (CmdPathEntry* at = mPath; at != pathEnd(); ++at) {
+    CmdPathEntry& entry = *at;
     if (entry.node != node) continue;
     if (node->hasFlag(NODE_FLAG_WA) && !entry.words.empty()) {
       // Prose keeps its typed order: the words join the first one.
@@ -209,17 +266,15 @@ void CiscoCommandLine::enterNode(ParserTreeNode* node, const std::string& word) 
     }
     return;
   }
-  // Most paths are a handful of nodes long: room for them at once.
-  if (treeNodes.empty()) treeNodes.reserve(kUsualPathLength);
   // Made in place: an element moved in would cost a move and a destruction.
-  CmdPathEntry& entry = treeNodes.emplace_back();
+  CmdPathEntry& entry = appendPathEntry();
   entry.node = node;
   entry.words.insert(word);
 }
 
 void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo) {
   if (!node) return;
-  if (node->mIsOption && !treeNodes.empty() && node->mParent == treeNodes.back().node) {
+  if (node->mIsOption && mPathSize > 0 && node->mParent == mPath[mPathSize - 1].node) {
     SubCommands& subs = ownSubCommands();
     auto existing = subs.find(node);
     if (existing != subs.end()) {
@@ -249,7 +304,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
   }
   if (isNo) {
     flags |= CMDBIT_NO;
-    if (treeNodes.empty()) flags &= ~CMDBIT_STORED;
+    if (mPathSize == 0) flags &= ~CMDBIT_STORED;
     if (node->hasFlag(NODE_FLAG_SN) || node->hasFlag(NODE_FLAG_SB)) flags |= CMDBIT_STORED;
     if (node->hasFlag(NODE_FLAG_NE)) flags |= CMDBIT_NO_ENDS_ANYWHERE;
     bool noComplete = !(flags & CMDBIT_NO_ENDS_ANYWHERE) &&
@@ -261,7 +316,7 @@ void CiscoCommandLine::addTreeNodes(ParserTreeNode* node, const std::string& wor
     }
     if ((flags & CMDBIT_SUB) && parentCommand) parentCommand->setNoCompleteCmd(noComplete);
   } else {
-    if (treeNodes.empty()) flags |= CMDBIT_STORED;
+    if (mPathSize == 0) flags |= CMDBIT_STORED;
     if (node->hasFlag(NODE_FLAG_SN)) flags &= ~CMDBIT_STORED;
     if (node->hasFlag(NODE_FLAG_SB)) flags |= CMDBIT_STORED;
   }
@@ -276,7 +331,7 @@ const std::string& CiscoCommandLine::genCommandStr() {
   keepCurrentCommand();
   originalCmd.clear();
   bool firstElement = true;
-  for (const auto& entry : treeNodes) {
+  for (const CmdPathEntry& entry : getTreeNodes()) {
     for (const auto& word : entry.words) {
       if (!firstElement) originalCmd += ' ';
       originalCmd += word;
@@ -298,37 +353,43 @@ bool CiscoCommandLine::isExactlyMatch(CiscoCommandLine* other) const {
 }
 
 bool CiscoCommandLine::isComparable(const CiscoCommandLine* other) const {
-  if (!other || (flags & CMDBIT_REMOVED) || treeNodes.empty()) return false;
-  auto mine = treeNodes.begin();
-  auto theirs = other->treeNodes.begin();
-  for (; mine != treeNodes.end() && theirs != other->treeNodes.end(); ++mine, ++theirs) {
+  const CmdPathView myPath = getTreeNodes();
+  if (!other || (flags & CMDBIT_REMOVED) || myPath.empty()) return false;
+  const CmdPathView theirPath = other->getTreeNodes();
+  auto mine = myPath.begin();
+  auto theirs = theirPath.begin();
+  for (; mine != myPath.end() && theirs != theirPath.end(); ++mine, ++theirs) {
     if (!nodeHas(mine->node, NODE_FLAG_K) && !nodeHas(theirs->node, NODE_FLAG_K)) continue;
     if (mine->node != theirs->node || mine->words != theirs->words) return false;
   }
-  for (; mine != treeNodes.end(); ++mine) {
+  for (; mine != myPath.end(); ++mine) {
     if (nodeHas(mine->node, NODE_FLAG_K)) return false;
   }
-  for (; theirs != other->treeNodes.end(); ++theirs) {
+  for (; theirs != theirPath.end(); ++theirs) {
     if (nodeHas(theirs->node, NODE_FLAG_K)) return false;
   }
   return true;
 }
 
 bool CiscoCommandLine::isConflictWith(CiscoCommandLine* other) const {
-  if (!other || !(flags & CMDBIT_CONFLICT) || treeNodes.empty()) return false;
-  auto theirs = other->treeNodes.begin();
-  for (auto mine = treeNodes.begin(); mine != treeNodes.end(); ++mine, ++theirs) {
-    if (theirs == other->treeNodes.end() || mine->node != theirs->node) return false;
+  const CmdPathView myPath = getTreeNodes();
+  if (!other || !(flags & CMDBIT_CONFLICT) || myPath.empty()) return false;
+  const CmdPathView theirPath = other->getTreeNodes();
+  auto theirs = theirPath.begin();
+  for (auto mine = myPath.begin(); mine != myPath.end(); ++mine, ++theirs) {
+    if (theirs == theirPath.end() || mine->node != theirs->node) return false;
     if (nodeHas(mine->node, NODE_FLAG_CF) && mine->words != theirs->words) return true;
   }
   return false;
 }
 
 bool CiscoCommandLine::isNoable(const CiscoCommandLine* no) const {
-  if (!no || (flags & CMDBIT_REMOVED) || treeNodes.empty()) return false;
-  auto mine = treeNodes.begin();
-  auto theirs = no->treeNodes.begin();
-  for (; mine != treeNodes.end() && theirs != no->treeNodes.end(); ++mine, ++theirs) {
+  const CmdPathView myPath = getTreeNodes();
+  if (!no || (flags & CMDBIT_REMOVED) || myPath.empty()) return false;
+  const CmdPathView theirPath = no->getTreeNodes();
+  auto mine = myPath.begin();
+  auto theirs = theirPath.begin();
+  for (; mine != myPath.end() && theirs != theirPath.end(); ++mine, ++theirs) {
     if (mine->words.count(kEndWord) || theirs->words.count(kEndWord)) break;
     if (mine->node != theirs->node) return false;
     if (nodeHas(mine->node, NODE_FLAG_NE)) return true;
@@ -336,10 +397,10 @@ bool CiscoCommandLine::isNoable(const CiscoCommandLine* no) const {
                    (nodeHas(mine->node, NODE_FLAG_N) && !nodeHas(mine->node, NODE_FLAG_M));
     if (compare && mine->words != theirs->words) return false;
   }
-  for (; theirs != no->treeNodes.end(); ++theirs) {
+  for (; theirs != theirPath.end(); ++theirs) {
     if (nodeHas(theirs->node, NODE_FLAG_N)) return false;
   }
-  for (; mine != treeNodes.end(); ++mine) {
+  for (; mine != myPath.end(); ++mine) {
     if (nodeHas(mine->node, NODE_FLAG_NK)) return false;
   }
   return true;
@@ -348,9 +409,10 @@ bool CiscoCommandLine::isNoable(const CiscoCommandLine* no) const {
 bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
   if (!other || flag != CMD_MERGEABLE || other->flag != CMD_MERGEABLE) return true;
   const bool negated = (other->flags & CMDBIT_NO) != 0;
-  auto mine = treeNodes.begin();
-  auto theirs = other->treeNodes.begin();
-  for (; mine != treeNodes.end() && theirs != other->treeNodes.end(); ++mine, ++theirs) {
+  const CmdPathView theirPath = other->getTreeNodes();
+  CmdPathEntry* mine = mPath;
+  auto theirs = theirPath.begin();
+  for (; mine != pathEnd() && theirs != theirPath.end(); ++mine, ++theirs) {
     if (!nodeHas(theirs->node, NODE_FLAG_M) || nodeHas(theirs->node, NODE_FLAG_K) ||
         !nodeHas(mine->node, NODE_FLAG_M)) {
       continue;
@@ -401,11 +463,11 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     genCommandStr();
     return true;
   }
-  if (!nestedN && !other->treeNodes.empty()) {
-    auto last = other->treeNodes.end();
+  if (!nestedN && !theirPath.empty()) {
+    auto last = theirPath.end();
     --last;
     bool options = last->node && !last->node->mOptions.empty();
-    if (!options && last != other->treeNodes.begin()) {
+    if (!options && last != theirPath.begin()) {
       --last;
       options = last->node && !last->node->mOptions.empty();
     }
@@ -415,8 +477,8 @@ bool CiscoCommandLine::mergeCommand(CiscoCommandLine* other) {
     genCommandStr();
     return true;
   }
-  if (!treeNodes.empty()) {
-    const CmdPathEntry& last = treeNodes.back();
+  if (mPathSize > 0) {
+    const CmdPathEntry& last = mPath[mPathSize - 1];
     if (last.words.count(kEndWord) || (last.node && last.node->mChildren.count(kEndWord))) {
       genCommandStr();
       return true;

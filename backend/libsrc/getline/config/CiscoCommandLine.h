@@ -14,6 +14,7 @@
 // alone. Not thread-safe.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <set>
@@ -22,19 +23,12 @@
 #include <vector>
 
 #include "config/CiscoCommandLineFlag.h"
-#include "config/PathWords.h"
+#include "config/CmdPath.h"
 #include "platform/Export.h"
 
 namespace qxparser {
 
 class ParserTreeNode;
-
-// One element of a command's path: a grammar node and the sorted words that
-// matched it. The end of a line is the word "\n" on the end-of-line node.
-struct CmdPathEntry {
-  ParserTreeNode* node = nullptr;
-  PathWords words;
-};
 
 enum CiscoCommandBits : unsigned int {
   CMDBIT_NO = 0x1,                 // entered in its "no" form
@@ -63,8 +57,8 @@ class VTYCONF_API CiscoCommandLine {
   void setLineNo(int value) { lineNo = value; }
   int getOrderNo() const { return orderNo; }
   void setOrderNo(int value) { orderNo = value; }
-  CiscoCommandLineFlag getFlag() const { return flag; }
-  void setFlag(CiscoCommandLineFlag value) { flag = value; }
+  CiscoCommandLineFlag getFlag() const { return static_cast<CiscoCommandLineFlag>(flag); }
+  void setFlag(CiscoCommandLineFlag value) { flag = static_cast<uint8_t>(value); }
   unsigned int getFlags() const { return flags; }
 
   const std::string& getCurrentCommand() const {
@@ -124,9 +118,9 @@ class VTYCONF_API CiscoCommandLine {
   // Appends all descendants, depth first, each ahead of its own children.
   void getAllChildCommands(std::vector<CiscoCommandLine*>& out) const;
   CiscoCommandLine* getParentCommand() const { return parentCommand; }
-  const std::vector<CmdPathEntry>& getTreeNodes() const { return treeNodes; }
+  CmdPathView getTreeNodes() const { return CmdPathView(mPath, mPathSize); }
   const std::map<ParserTreeNode*, CiscoCommandLine*>& getSubCommands() const;
-  int getTreeNodeSize() const { return static_cast<int>(treeNodes.size()); }
+  int getTreeNodeSize() const { return mPathSize; }
 
   void setFlags(unsigned int bits, bool recursive);
   // Clears bits (vtyconf's own counterpart of setFlags, used by merges).
@@ -139,7 +133,7 @@ class VTYCONF_API CiscoCommandLine {
   void delOnlyChildCmds();
 
   // Room for a path of `nodes` nodes (a hint of the terminal's walk).
-  void reservePath(size_t nodes) { treeNodes.reserve(nodes); }
+  void reservePath(size_t nodes);
   // Extends the path by a matched word (called by the terminal's walk).
   void addTreeNodes(ParserTreeNode* node, const std::string& word, bool isNo);
   // Takes the order number from the command-order table for the mode opened
@@ -159,6 +153,15 @@ class VTYCONF_API CiscoCommandLine {
 
   void enterNode(ParserTreeNode* node, const std::string& word);
   void takeFlagFrom(const ParserTreeNode* node);
+  // The path's block: entries [0, mPathSize) built, room for mPathCapacity.
+  CmdPathEntry* pathEnd() { return mPath + mPathSize; }
+  // A new last element, built empty (the block grows when full).
+  CmdPathEntry& appendPathEntry();
+  // Room for `capacity` elements in a new block, the elements moved over.
+  void regrowPath(size_t capacity);
+  // The elements destroyed; the block stays (keep) or goes.
+  void clearPath(bool keep);
+  void copyPathFrom(const CiscoCommandLine& other);
   SubCommands& ownSubCommands();
   // The texts of `other`'s rare block (line text, read form, a current
   // command of its own), as copies.
@@ -204,17 +207,24 @@ class VTYCONF_API CiscoCommandLine {
   // (null when there are none).
   std::shared_ptr<const std::string> majorCmdStr;
   std::string originalCmd;
-  CiscoCommandLineFlag flag = CMD_ADDITIVE;
   int orderNo = 0;
   unsigned int flags = 0;
+  // A CiscoCommandLineFlag; the small members stand together so that the
+  // record has no padding to spare.
+  uint8_t flag = CMD_ADDITIVE;
   // vtyconf's own: the current command is originalCmd (setCommandTexts);
   // otherwise it is the Rare block's (empty where there is no block).
   bool mCurrentIsOriginal = false;
+  // The path (see mPath): its length and room. Each node appears once in a
+  // path (a repeated node adds words to its element), so a path is never
+  // longer than the grammar has nodes; the loader's grammars stay far below
+  // the 65535 these hold, and a longer path is refused (std::length_error).
+  uint16_t mPathSize = 0;
+  uint16_t mPathCapacity = 0;
   CiscoCommandLine* parentCommand = nullptr;
   std::vector<CiscoCommandLine*> childCommands;
-  // Each node appears once in the path; a repeated node adds words to its
-  // element.
-  std::vector<CmdPathEntry> treeNodes;
+  // The path's elements in a block of their own (null while it has none).
+  CmdPathEntry* mPath = nullptr;
   // vtyconf's own (copied and assigned with the strings above).
   std::string mRawText;
   std::unique_ptr<Rare> mRare;

@@ -183,7 +183,7 @@ bool templateFits(const CiscoCommandLine& templ, const CiscoCommandLine& command
 }
 
 void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
-  if (!modeNode || treeNodes.empty() || gCmdOrderTable().empty()) return;
+  if (!modeNode || mPathSize == 0 || gCmdOrderTable().empty()) return;
   static const std::string kTopFile = "configuration_mod.cfm";
   const std::string& key = modeNode->mFileName.empty() ? kTopFile : modeNode->mFileName.str();
   const std::vector<CiscoCommandLine*>* table = nullptr;
@@ -193,7 +193,7 @@ void CiscoCommandLine::setOrderNo(ParserTreeNode* modeNode) {
   const std::vector<CiscoCommandLine*>& templates = *table;
   const OrderIndex& index = *planned;
   static const std::vector<size_t> kNone;
-  auto same = index.byFirstNode.find(treeNodes.front().node);
+  auto same = index.byFirstNode.find(mPath[0].node);
   const std::vector<size_t>& first = same == index.byFirstNode.end() ? kNone : same->second;
   const std::vector<size_t>& any = index.anyFirstNode;
   auto a = first.begin();

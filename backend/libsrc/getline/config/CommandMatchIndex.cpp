@@ -33,7 +33,7 @@ uint64_t mix(uint64_t hash, uint64_t value) {
 
 bool isKey(const CmdPathEntry& entry) { return entry.node && entry.node->hasFlag(NODE_FLAG_K); }
 
-size_t nextKey(const std::vector<CmdPathEntry>& path, size_t from) {
+size_t nextKey(CmdPathView path, size_t from) {
   while (from < path.size() && !isKey(path[from])) ++from;
   return from;
 }
@@ -63,7 +63,7 @@ std::string CommandMatchIndex::signature(const CiscoCommandLine* command) {
 }
 
 uint64_t CommandMatchIndex::keyHash(const CiscoCommandLine* command) {
-  const std::vector<CmdPathEntry>& path = command->getTreeNodes();
+  const CmdPathView path = command->getTreeNodes();
   uint64_t hash = 0;
   for (size_t i = nextKey(path, 0); i < path.size(); i = nextKey(path, i + 1)) {
     hash = mix(hash, i);
@@ -75,8 +75,8 @@ uint64_t CommandMatchIndex::keyHash(const CiscoCommandLine* command) {
 }
 
 bool CommandMatchIndex::sameKey(const CiscoCommandLine* a, const CiscoCommandLine* b) {
-  const std::vector<CmdPathEntry>& left = a->getTreeNodes();
-  const std::vector<CmdPathEntry>& right = b->getTreeNodes();
+  const CmdPathView left = a->getTreeNodes();
+  const CmdPathView right = b->getTreeNodes();
   size_t i = nextKey(left, 0);
   size_t j = nextKey(right, 0);
   for (; i < left.size() && j < right.size(); i = nextKey(left, i + 1), j = nextKey(right, j + 1)) {
@@ -349,7 +349,7 @@ uint32_t CommandMatchIndex::firstMember(const Bucket& bucket) const {
 void CommandMatchIndex::describe(uint32_t id) {
   Slot& data = mSlots[id];
   const CiscoCommandLine* record = data.record;
-  const std::vector<CmdPathEntry>& path = record->getTreeNodes();
+  const CmdPathView path = record->getTreeNodes();
   data.live = !record->hasFlags(CMDBIT_REMOVED) && !path.empty();
   data.bucket = kNone;
   data.negated = record->hasFlags(CMDBIT_NO);

@@ -14,14 +14,14 @@ size_t mix(size_t hash, const ParserTreeNode* node) {
   return (hash ^ (reinterpret_cast<std::uintptr_t>(node) >> 4)) * 0x100000001B3ull;
 }
 
-size_t hashOf(const ParserTreeNode* modeNode, const std::vector<CmdPathEntry>& path) {
+size_t hashOf(const ParserTreeNode* modeNode, CmdPathView path) {
   size_t hash = mix(path.size(), modeNode);
   for (const CmdPathEntry& entry : path) hash = mix(hash, entry.node);
   return hash;
 }
 
 bool sameNodes(const std::vector<const ParserTreeNode*>& nodes, const ParserTreeNode* modeNode,
-               const std::vector<CmdPathEntry>& path) {
+               CmdPathView path) {
   if (nodes.size() != path.size() + 1 || nodes[0] != modeNode) return false;
   for (size_t i = 0; i < path.size(); ++i) {
     if (nodes[i + 1] != path[i].node) return false;
