@@ -86,40 +86,44 @@ bool CommandMatchIndex::sameKey(const CiscoCommandLine* a, const CiscoCommandLin
 }
 
 void CommandMatchIndex::GapList::moveGap(size_t position) {
-  if (position < mGapBegin) {
-    std::move_backward(mData.begin() + static_cast<std::ptrdiff_t>(position),
-                       mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin),
-                       mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd));
-    mGapEnd -= static_cast<uint32_t>(mGapBegin - position);
-    mGapBegin = static_cast<uint32_t>(position);
-  } else if (position > mGapBegin) {
-    const uint32_t shift = static_cast<uint32_t>(position - mGapBegin);
-    std::move(mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd),
-              mData.begin() + static_cast<std::ptrdiff_t>(mGapEnd + shift),
-              mData.begin() + static_cast<std::ptrdiff_t>(mGapBegin));
-    mGapBegin += shift;
-    mGapEnd += shift;
+  Spill& held = *mSpill;
+  std::vector<uint32_t>& data = held.data;
+  if (position < held.gapBegin) {
+    std::move_backward(data.begin() + static_cast<std::ptrdiff_t>(position),
+                       data.begin() + static_cast<std::ptrdiff_t>(held.gapBegin),
+                       data.begin() + static_cast<std::ptrdiff_t>(held.gapEnd));
+    held.gapEnd -= static_cast<uint32_t>(held.gapBegin - position);
+    held.gapBegin = static_cast<uint32_t>(position);
+  } else if (position > held.gapBegin) {
+    const uint32_t shift = static_cast<uint32_t>(position - held.gapBegin);
+    std::move(data.begin() + static_cast<std::ptrdiff_t>(held.gapEnd),
+              data.begin() + static_cast<std::ptrdiff_t>(held.gapEnd + shift),
+              data.begin() + static_cast<std::ptrdiff_t>(held.gapBegin));
+    held.gapBegin += shift;
+    held.gapEnd += shift;
   }
 }
 
 bool CommandMatchIndex::GapList::spill(uint32_t value) {
-  if (!mData.empty()) return true;
+  if (spilled()) return true;
   if (mOne == kNone) {
     mOne = value;
     return false;
   }
-  mData.push_back(mOne);
+  Spill& held = block();
+  held.data.push_back(mOne);
   mOne = kNone;
-  mGapBegin = mGapEnd = 1;
+  held.gapBegin = held.gapEnd = 1;
   return true;
 }
 
 void CommandMatchIndex::GapList::push_back(uint32_t value) {
   if (!spill(value)) return;
-  if (mGapBegin == mGapEnd) {
+  Spill& held = *mSpill;
+  if (held.gapBegin == held.gapEnd) {
     // No gap: a plain vector.
-    mData.push_back(value);
-    mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
+    held.data.push_back(value);
+    held.gapBegin = held.gapEnd = static_cast<uint32_t>(held.data.size());
     return;
   }
   insert(size(), value);
@@ -127,8 +131,9 @@ void CommandMatchIndex::GapList::push_back(uint32_t value) {
 
 void CommandMatchIndex::GapList::insert(size_t position, uint32_t value) {
   if (!spill(value)) return;
-  if (mGapBegin == mGapEnd) {
-    if (position == mData.size()) {
+  Spill& held = *mSpill;
+  if (held.gapBegin == held.gapEnd) {
+    if (position == held.data.size()) {
       push_back(value);
       return;
     }
@@ -137,23 +142,23 @@ void CommandMatchIndex::GapList::insert(size_t position, uint32_t value) {
     const size_t gap = count / 4 + 4;
     std::vector<uint32_t> wider(count + gap, kNone);
     for (size_t i = 0; i < count; ++i) wider[i < position ? i : i + gap] = (*this)[i];
-    mData.swap(wider);
-    mGapBegin = static_cast<uint32_t>(position);
-    mGapEnd = static_cast<uint32_t>(position + gap);
+    held.data.swap(wider);
+    held.gapBegin = static_cast<uint32_t>(position);
+    held.gapEnd = static_cast<uint32_t>(position + gap);
   } else {
     moveGap(position);
   }
-  mData[mGapBegin++] = value;
-  if (mGapBegin == mGapEnd) mGapBegin = mGapEnd = static_cast<uint32_t>(mData.size());
+  held.data[held.gapBegin++] = value;
+  if (held.gapBegin == held.gapEnd) held.gapBegin = held.gapEnd = static_cast<uint32_t>(held.data.size());
 }
 
 void CommandMatchIndex::GapList::erase(size_t position) {
-  if (mData.empty()) {
+  if (!spilled()) {
     mOne = kNone;
     return;
   }
   moveGap(position);
-  ++mGapEnd;
+  ++mSpill->gapEnd;
 }
 
 CommandMatchIndex::KeySet::KeySet(const std::vector<CiscoCommandLine*>& commands) {

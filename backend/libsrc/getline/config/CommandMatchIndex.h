@@ -115,30 +115,41 @@ class CommandMatchIndex {
 
   // A sequence with a gap at the place of the last change: changes that
   // follow one another nearby move little. A single value is held in place
-  // until a second one comes (most buckets hold one command).
+  // until a second one comes (most buckets hold one command, and a bucket
+  // holds three lists): the list is then sixteen bytes, and its values, once
+  // spilled, stand in a block of their own with the gap's place.
   class GapList {
    public:
     size_t size() const {
-      return mData.empty() ? (mOne != kNone ? 1 : 0) : mData.size() - (mGapEnd - mGapBegin);
+      return spilled() ? mSpill->data.size() - (mSpill->gapEnd - mSpill->gapBegin) : (mOne != kNone ? 1 : 0);
     }
     bool empty() const { return size() == 0; }
     uint32_t operator[](size_t position) const {
-      if (mData.empty()) return mOne;
-      return mData[position < mGapBegin ? position : position + (mGapEnd - mGapBegin)];
+      if (!spilled()) return mOne;
+      const Spill& held = *mSpill;
+      return held.data[position < held.gapBegin ? position : position + (held.gapEnd - held.gapBegin)];
     }
-    void reserve(size_t count) { mData.reserve(count); }
+    void reserve(size_t count) { block().data.reserve(count); }
     void push_back(uint32_t value);
     void insert(size_t position, uint32_t value);
     void erase(size_t position);
 
    private:
+    struct Spill {
+      std::vector<uint32_t> data;
+      uint32_t gapBegin = 0;
+      uint32_t gapEnd = 0;
+    };
+    bool spilled() const { return mSpill && !mSpill->data.empty(); }
+    Spill& block() {
+      if (!mSpill) mSpill = std::make_unique<Spill>();
+      return *mSpill;
+    }
     // False when the value went in place.
     bool spill(uint32_t value);
     void moveGap(size_t position);
-    std::vector<uint32_t> mData;
+    std::unique_ptr<Spill> mSpill;
     uint32_t mOne = kNone;
-    uint32_t mGapBegin = 0;
-    uint32_t mGapEnd = 0;
   };
 
   // What the index knows of one record. Ranks grow with the position in the
