@@ -1,6 +1,7 @@
 #include "config/CiscoCommandLine.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -24,16 +25,21 @@ bool nodeHas(const ParserTreeNode* node, uint32_t flag) { return node && node->h
 
 }  // namespace
 
-CiscoCommandLine::CiscoCommandLine() = default;
+CiscoCommandLine::CiscoCommandLine() : flags(0), flag(CMD_ADDITIVE), mCurrentIsOriginal(false) {}
+
+void CiscoCommandLine::setLevel(int value) {
+  if (value < INT16_MIN || value > INT16_MAX) throw std::out_of_range("mode level out of range");
+  level = static_cast<int16_t>(value);
+}
 
 CiscoCommandLine::CiscoCommandLine(const CiscoCommandLine& other)
-    : level(other.level),
+    : orderNo(other.orderNo),
       majorCmdStr(other.majorCmdStr),
       originalCmd(other.originalCmd),
-      orderNo(other.orderNo),
       flags(other.flags),
       flag(other.flag),
       mCurrentIsOriginal(other.mCurrentIsOriginal),
+      level(other.level),
       mRawText(other.mRawText) {
   copyPathFrom(other);
   copyTexts(other);
@@ -164,7 +170,7 @@ void CiscoCommandLine::setMajorCommands(const std::string& text) {
   if (text.empty()) {
     majorCmdStr.reset();
   } else {
-    majorCmdStr = std::make_shared<const std::string>(text);
+    majorCmdStr = SharedText(text);
   }
 }
 

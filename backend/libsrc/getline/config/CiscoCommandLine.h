@@ -24,6 +24,7 @@
 
 #include "config/CiscoCommandLineFlag.h"
 #include "config/CmdPath.h"
+#include "config/SharedText.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -52,13 +53,15 @@ class VTYCONF_API CiscoCommandLine {
   ~CiscoCommandLine();
 
   int getLevel() const { return level; }
-  void setLevel(int value) { level = value; }
+  // Levels are mode depths, a handful deep; one beyond what the record holds
+  // is refused (std::out_of_range).
+  void setLevel(int value);
   int getLineNo() const { return lineNo; }
   void setLineNo(int value) { lineNo = value; }
   int getOrderNo() const { return orderNo; }
   void setOrderNo(int value) { orderNo = value; }
   CiscoCommandLineFlag getFlag() const { return static_cast<CiscoCommandLineFlag>(flag); }
-  void setFlag(CiscoCommandLineFlag value) { flag = static_cast<uint8_t>(value); }
+  void setFlag(CiscoCommandLineFlag value) { flag = static_cast<uint16_t>(value); }
   unsigned int getFlags() const { return flags; }
 
   const std::string& getCurrentCommand() const {
@@ -95,7 +98,7 @@ class VTYCONF_API CiscoCommandLine {
   void setMajorCommands(const std::string& text);
   // The same text, shared with the records that stand in the same modes (the
   // text is never changed in place).
-  void setMajorCommands(std::shared_ptr<const std::string> text) { majorCmdStr = std::move(text); }
+  void setMajorCommands(SharedText text) { majorCmdStr = std::move(text); }
   std::vector<std::string> getMajorCommands() const;
   // vtyconf's own: the line as it was read, with any empty lines that stood
   // before it ("\n" each). Setting it remembers originalCmd as well, so that
@@ -201,20 +204,22 @@ class VTYCONF_API CiscoCommandLine {
   // The empty text a getter answers with where the record holds none.
   static const std::string& noText();
 
-  int level = 0;
+  // The small members stand together, in as few bytes as their values need,
+  // so that a record (136 bytes) takes a malloc block of 144.
   int lineNo = 0;
+  int orderNo = 0;
   // The rebuilt texts of the commands that opened the modes around this one
   // (null when there are none).
-  std::shared_ptr<const std::string> majorCmdStr;
+  SharedText majorCmdStr;
   std::string originalCmd;
-  int orderNo = 0;
-  unsigned int flags = 0;
-  // A CiscoCommandLineFlag; the small members stand together so that the
-  // record has no padding to spare.
-  uint8_t flag = CMD_ADDITIVE;
+  // The CMDBIT_* bits (all nine of them); bits beyond are not kept.
+  uint16_t flags : 9;
+  // A CiscoCommandLineFlag (1 to 6).
+  uint16_t flag : 3;
   // vtyconf's own: the current command is originalCmd (setCommandTexts);
   // otherwise it is the Rare block's (empty where there is no block).
-  bool mCurrentIsOriginal = false;
+  uint16_t mCurrentIsOriginal : 1;
+  int16_t level = 0;
   // The path (see mPath): its length and room. Each node appears once in a
   // path (a repeated node adds words to its element), so a path is never
   // longer than the grammar has nodes; the loader's grammars stay far below

@@ -95,13 +95,13 @@ VTYModel* VTY::currentModel() const {
   return found == mModels.end() ? nullptr : found->second;
 }
 
-std::shared_ptr<const std::string> VTY::sharedContext(const std::string& text) {
-  if (text.empty()) return nullptr;
-  if (!mLastContext || *mLastContext != text) mLastContext = std::make_shared<const std::string>(text);
+SharedText VTY::sharedContext(const std::string& text) {
+  if (text.empty()) return SharedText();
+  if (!mLastContext || *mLastContext != text) mLastContext = SharedText(text);
   return mLastContext;
 }
 
-std::shared_ptr<const std::string> VTY::sharedLevelText(const VTYModel& model, bool allLevels) {
+SharedText VTY::sharedLevelText(const VTYModel& model, bool allLevels) {
   if (mLastContext && model.levelTextIs(*mLastContext, allLevels)) return mLastContext;
   std::string text;
   model.levelText(text, allLevels);

@@ -22,6 +22,7 @@
 #include <string>
 #include <vector>
 
+#include "config/SharedText.h"
 #include "platform/Export.h"
 
 namespace qxparser {
@@ -143,9 +144,9 @@ class VTYCONF_API VTY : public std::stringstream {
   VTYModel* currentModel() const;
   // The context text for a record: the one handed out last when it is the
   // same text, so that the records of one mode share it.
-  std::shared_ptr<const std::string> sharedContext(const std::string& text);
+  SharedText sharedContext(const std::string& text);
   // The same for the level text of `model` (VTYModel::levelText).
-  std::shared_ptr<const std::string> sharedLevelText(const VTYModel& model, bool allLevels);
+  SharedText sharedLevelText(const VTYModel& model, bool allLevels);
   // The command texts a walk of `model` gives `command` (info line and
   // complete line).
   static void setWalkedTexts(CiscoCommandLine& command, const VTYModel& model);
@@ -165,7 +166,7 @@ class VTYCONF_API VTY : public std::stringstream {
   std::map<VTYModeType, VTYModel*> mModels;
   std::deque<VTYModeType> mModeStack;
   std::vector<std::string> mRemovedInterfaces;
-  std::shared_ptr<const std::string> mLastContext;
+  SharedText mLastContext;
 };
 
 }  // namespace qxparser

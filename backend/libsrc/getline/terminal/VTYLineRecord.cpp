@@ -49,7 +49,7 @@ bool VTY::parseRecordLine(const std::string& line, CiscoCommandLine& command) {
     // that mode, as getComLineInfo places it.
     const bool opened = model && model->mNewLevel;
     command.setLevel(level + (opened ? 1 : 0));
-    command.setMajorCommands(model ? sharedLevelText(*model, opened) : std::shared_ptr<const std::string>());
+    command.setMajorCommands(model ? sharedLevelText(*model, opened) : SharedText());
     command.setCommandTexts(shown);
     return false;
   }

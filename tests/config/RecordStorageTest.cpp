@@ -1,6 +1,8 @@
-// A record's path kept in its own block: grown, copied, assigned and cleared
-// as the vector it replaced was.
+// A record's compact storage: its path kept in a block of its own (grown,
+// copied, assigned and cleared as the vector it replaced was), and its small
+// members packed side by side without stepping on one another.
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "ConfigFixture.h"
@@ -8,7 +10,7 @@
 namespace qxparser {
 namespace {
 
-class RecordPathTest : public ConfigFixture {};
+class RecordStorageTest : public ConfigFixture {};
 
 std::string pathOf(const CiscoCommandLine& record) {
   std::ostringstream out;
@@ -20,7 +22,7 @@ std::string pathOf(const CiscoCommandLine& record) {
   return out.str();
 }
 
-TEST_F(RecordPathTest, GrowsCopiesAndClearsLikeAVector) {
+TEST_F(RecordStorageTest, GrowsCopiesAndClearsLikeAVector) {
   TopLevel top("ip route 10.0.0.0 255.0.0.0 1.1.1.1\nlogging host 1.1.1.1\n");
   ASSERT_EQ(top.get().size(), 2u);
   const CiscoCommandLine& route = *top[0];
@@ -49,6 +51,27 @@ TEST_F(RecordPathTest, GrowsCopiesAndClearsLikeAVector) {
   copied.clearVisitedOption();
   EXPECT_TRUE(copied.getTreeNodes().empty());
   EXPECT_EQ(pathOf(route), routePath) << "the original keeps its own block";
+}
+
+TEST_F(RecordStorageTest, SmallMembersKeepTheirOwnValues) {
+  CiscoCommandLine record;
+  EXPECT_EQ(record.getFlag(), CMD_ADDITIVE);
+  const unsigned int all = CMDBIT_NO | CMDBIT_STORED | CMDBIT_OPENS_MODE | CMDBIT_REMOVED | CMDBIT_NO_ENDS_ANYWHERE |
+                           CMDBIT_NO_COMPLETE | CMDBIT_SUB | CMDBIT_CONFLICT | CMDBIT_FROM_CHANGES;
+  record.setFlag(CMD_TEXT);
+  record.setFlags(all, false);
+  record.setLevel(-1);
+  record.setCommandTexts("logging host 1.1.1.1 \n");
+  EXPECT_EQ(record.getFlags(), all);
+  EXPECT_EQ(record.getFlag(), CMD_TEXT);
+  EXPECT_EQ(record.getLevel(), -1);
+  record.clearFlags(all);
+  EXPECT_EQ(record.getFlags(), 0u);
+  EXPECT_EQ(record.getFlag(), CMD_TEXT) << "clearing the bits leaves the kind";
+  EXPECT_EQ(record.getCurrentCommand(), "logging host 1.1.1.1 \n") << "and the one-text mark";
+  record.setLevel(32767);
+  EXPECT_EQ(record.getLevel(), 32767);
+  EXPECT_THROW(record.setLevel(40000), std::out_of_range);
 }
 
 }  // namespace
