@@ -1,7 +1,10 @@
 // ReadingSketch against the reading it sketches: for every record, depth
 // first, the same full text, the same typed line (of a record with a grammar
 // path), the same path flag and the same children; and the banners. On a typed text with abbreviations, tabs,
-// carriage returns and a banner, and on every file of the public corpus.
+// carriage returns and a banner, and on every file of the public corpus; each
+// sketched alone, beside the reading's merge form (whose texts it then holds
+// as views), and beside a form that holds a stranger line.
+#include "ConfigFixture.h"
 #include "ShippedGrammar.h"
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
@@ -40,12 +43,31 @@ size_t compare(const std::vector<CiscoCommandLine*>& records, const ReadingSketc
   return at;
 }
 
+// The length of the command texts of `records` and those below them.
+size_t commandBytes(const std::vector<CiscoCommandLine*>& records) {
+  size_t bytes = 0;
+  for (const CiscoCommandLine* record : records) {
+    bytes += record->getOriginalCmd().size() + commandBytes(record->getChildCommands());
+  }
+  return bytes;
+}
+
 void checkSketch(const std::string& text, const std::string& where) {
   std::vector<CiscoCommandLine*> records;
   DeviceTextReader::read(text, records);
-  const ReadingSketch sketch(records);
-  EXPECT_EQ(compare(records, sketch, 0, where), sketch.size()) << where;
-  EXPECT_EQ(sketch.banners(), DeviceMeaning::bannersOf(records)) << where;
+  const std::string form = QxParserUtilPeer::expand(records, 0);
+  const size_t half = form.find('\n', form.size() / 2) + 1;
+  const std::string stranger = form.substr(0, half) + "stranger line\n" + form.substr(half);
+  const ReadingSketch alone(records);
+  const ReadingSketch beside(records, std::make_shared<const std::string>(form));
+  const ReadingSketch besideStranger(records, std::make_shared<const std::string>(stranger));
+  for (const ReadingSketch* sketch : {&alone, &beside, &besideStranger}) {
+    EXPECT_EQ(compare(records, *sketch, 0, where), sketch->size()) << where;
+    EXPECT_EQ(sketch->banners(), DeviceMeaning::bannersOf(records)) << where;
+  }
+  // Beside its own form, no command text is copied: the sketch holds only
+  // the typed lines that differ from their commands.
+  EXPECT_EQ(beside.ownTextBytes(), alone.ownTextBytes() - commandBytes(records)) << where;
   QxParserUtil::deleteCommands(records);
 }
 

@@ -15,6 +15,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -170,8 +171,10 @@ class VTYCONF_API QxParserUtil {
     // Filled with the typed reading of the text (all levels, in line order)
     // instead of its being freed at once; owned by the caller then.
     std::vector<CiscoCommandLine*>* records = nullptr;
-    // On the thread that read the text, right after it.
-    std::function<void()> read;
+    // On the thread that read the text, right after it, with the text the
+    // reading was written into in the merge form; the hook may keep that
+    // text (the fallback reads it once more and then lets go of it).
+    std::function<void(const std::shared_ptr<const std::string>& form)> read;
     // On the same thread, once `bothRead` and `bothReadBeside` are done and
     // before the text is read again.
     std::function<void()> release;

@@ -354,11 +354,11 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
                               ReadingSketch& sketch) {
     TypedReading reading;
     reading.records = &records;
-    reading.read = [&text, &records, &sketch]() {
+    reading.read = [&text, &records, &sketch](const std::shared_ptr<const std::string>& form) {
       std::vector<CiscoCommandLine*> all;
       all.swap(records);
       DeviceTextReader::settle(text, all, records);
-      sketch = ReadingSketch(records);
+      sketch = ReadingSketch(records, form);
     };
     reading.release = [&records]() { deleteTopLevel(records); };
     return reading;

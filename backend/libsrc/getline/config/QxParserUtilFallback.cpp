@@ -115,12 +115,12 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
         readers.second->insert(readers.second->end(), secondLines.begin(), secondLines.end());
       };
       // First as typed, written in the merge form...
-      std::string firstForm;
-      std::string secondForm;
+      std::shared_ptr<const std::string> firstForm;
+      std::shared_ptr<const std::string> secondForm;
       const TypedReading& secondReading = readers.secondTyped;
       SideReading secondTypedRead([&]() {
-        secondForm = readTyped(second, allLevels, secondTyped, secondReading);
-        if (secondReading.read) secondReading.read();
+        secondForm = std::make_shared<const std::string>(readTyped(second, allLevels, secondTyped, secondReading));
+        if (secondReading.read) secondReading.read(secondForm);
       });
       // ...then that form read, once the typed readings have served.
       // The comparison's index of the second text's top level is made by
@@ -128,16 +128,16 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       std::optional<CommandMatchIndex> secondIndex;
       SideReading secondFormRead([&]() {
         if (secondReading.release) secondReading.release();
-        readMergeForm(secondForm, secondTyped != nullptr, secondCmds);
-        std::string().swap(secondForm);
+        readMergeForm(*secondForm, secondTyped != nullptr, secondCmds);
+        secondForm.reset();
         if (beside) secondIndex.emplace(secondCmds);
       });
       // Each thread frees the records it read for the comparison.
       SideReading secondFreed([&]() { deleteTopLevel(secondCmds); });
       SideThread side;
       if (beside) side.post(secondTypedRead);
-      firstForm = readTyped(first, allLevels, readers.first, readers.firstTyped);
-      if (readers.firstTyped.read) readers.firstTyped.read();
+      firstForm = std::make_shared<const std::string>(readTyped(first, allLevels, readers.first, readers.firstTyped));
+      if (readers.firstTyped.read) readers.firstTyped.read(firstForm);
       try {
         secondTypedRead.wait();
       } catch (...) {
@@ -150,8 +150,8 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       if (readers.bothReadBeside) readers.bothReadBeside->wait();
       if (beside) side.post(secondFormRead);
       if (readers.firstTyped.release) readers.firstTyped.release();
-      readMergeForm(firstForm, readers.first != nullptr, firstCmds);
-      std::string().swap(firstForm);
+      readMergeForm(*firstForm, readers.first != nullptr, firstCmds);
+      firstForm.reset();
       secondFormRead.wait();
       if (beside && readers.besideComparison) side.post(*readers.besideComparison);
       CommandMatchIndex* index = secondIndex ? &*secondIndex : nullptr;

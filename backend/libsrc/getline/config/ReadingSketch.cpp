@@ -29,14 +29,16 @@ void measure(const std::vector<CiscoCommandLine*>& records, size_t& count, size_
 
 }  // namespace
 
-ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel) {
+ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel, std::shared_ptr<const std::string> form)
+    : mForm(std::move(form)) {
   size_t count = 0;
   size_t texts = 0;
   measure(topLevel, count, texts);
   mEntries.reserve(count);
   // Typed lines other than their commands' texts are few in a configuration
-  // (interface heads, abbreviations).
-  mTexts.reserve(texts + texts / 8);
+  // (interface heads, abbreviations); so are commands the form does not
+  // hold in turn (comments, lines the settling moved).
+  mTexts.reserve(mForm ? texts / 16 : texts + texts / 8);
   for (const CiscoCommandLine* record : topLevel) add(*record);
   mBanners = DeviceMeaning::bannersOf(topLevel);
 }
@@ -53,7 +55,8 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   mEntries.emplace_back();
   Entry entry;
   const std::string& command = record.getOriginalCmd();
-  entry.commandAt = keep(command);
+  entry.commandInForm = findInForm(command, entry.commandAt);
+  if (!entry.commandInForm) entry.commandAt = keep(command);
   entry.commandSize = static_cast<uint32_t>(command.size());
   entry.hasPath = record.getTreeNodeSize() > 0;
   if (!record.getRawText().empty() && !entry.hasPath) {
@@ -74,6 +77,31 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   for (const CiscoCommandLine* child : record.getChildCommands()) add(*child);
   entry.end = static_cast<uint32_t>(mEntries.size());
   mEntries[at] = entry;
+}
+
+bool ReadingSketch::findInForm(std::string_view command, uint32_t& at) {
+  if (!mForm || command.empty()) return false;
+  const std::string_view form(*mForm);
+  // Past the indent (a blank, then NUL bytes) and the "!" lines that close
+  // modes, which no record of a settled reading holds. A command may begin
+  // with blanks itself (a banner's line), so each place in the last indent
+  // is tried, from its start.
+  size_t indent = mFormAt;
+  size_t from = mFormAt;
+  for (;;) {
+    while (from < form.size() && (form[from] == ' ' || form[from] == '\0')) ++from;
+    if (form.compare(from, 2, "!\n") != 0 || command == "!\n") break;
+    from += 2;
+    indent = from;
+  }
+  for (size_t place = indent; place <= from; ++place) {
+    if (place + command.size() > form.size() || form.compare(place, command.size(), command) != 0) continue;
+    if (place > UINT32_MAX) return false;
+    at = static_cast<uint32_t>(place);
+    mFormAt = place + command.size();
+    return true;
+  }
+  return false;
 }
 
 std::string ReadingSketch::typedLine(size_t at) const {

@@ -13,14 +13,19 @@
 //
 // Entries stand in the reading's order, each followed by those of its
 // children (depth first): entry `i`'s children are `i + 1`, then `end` of
-// that one, and so on while below `end(i)`. The texts live in one buffer of
-// the sketch; a typed line that is its command's text behind blanks of
-// indent (the usual case in a configuration the device wrote) is not stored
-// again. Immutable once made; safe to read from several threads.
+// that one, and so on while below `end(i)`. A command's text is a view of
+// the text the reading was written into in the merge form where it stands
+// there in turn (that text is kept with the sketch; the fallback reads it
+// once more and lets go of it, so it costs the sketch nothing of its own),
+// else it lives in one buffer of the sketch; a typed line that is its
+// command's text behind blanks of indent (the usual case in a configuration
+// the device wrote) is not stored again. Immutable once made; safe to read
+// from several threads.
 #pragma once
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,7 +39,10 @@ class ReadingSketch {
   ReadingSketch() = default;
   // The sketch of a reading's top-level records (as DeviceTextReader::read
   // gives them) and everything below them.
-  explicit ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel);
+  // `form`, where given: the reading written in the merge form
+  // (QxParserUtil::expandMergedCmds) before it was settled.
+  explicit ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel,
+                         std::shared_ptr<const std::string> form = nullptr);
 
   size_t size() const { return mEntries.size(); }
   // The index behind entry `at`'s children, grandchildren and so on.
@@ -42,7 +50,8 @@ class ReadingSketch {
   // The record's getOriginalCmd().
   std::string_view command(size_t at) const {
     const Entry& entry = mEntries[at];
-    return std::string_view(mTexts).substr(entry.commandAt, entry.commandSize);
+    const std::string_view held = entry.commandInForm ? std::string_view(*mForm) : std::string_view(mTexts);
+    return held.substr(entry.commandAt, entry.commandSize);
   }
   // Whether the record had a grammar path (getTreeNodeSize() > 0).
   bool hasPath(size_t at) const { return mEntries[at].hasPath; }
@@ -51,6 +60,8 @@ class ReadingSketch {
   // The line the record was typed as, trailing blanks and tabs cut; empty
   // for a record without a grammar path (a comment, a refused line).
   std::string typedLine(size_t at) const;
+  // Bytes of text the sketch holds in a buffer of its own (not in the form).
+  size_t ownTextBytes() const { return mTexts.size(); }
   // The banners by kind ("banner motd"), each as the device shows it.
   const std::map<std::string, std::string>& banners() const { return mBanners; }
 
@@ -66,14 +77,21 @@ class ReadingSketch {
     uint32_t lineSize = 0;
     uint32_t end = 0;
     bool hasPath = false;
+    // The command's text is in mForm (else in mTexts).
+    bool commandInForm = false;
     Typed typed = Typed::None;
   };
 
   void add(const CiscoCommandLine& record);
   uint32_t keep(std::string_view text);
+  // The command's place in mForm at the reading position, moved past it;
+  // false (and no move) where the form does not hold it there.
+  bool findInForm(std::string_view command, uint32_t& at);
 
   std::vector<Entry> mEntries;
   std::string mTexts;
+  std::shared_ptr<const std::string> mForm;
+  size_t mFormAt = 0;
   std::map<std::string, std::string> mBanners;
 };
 
