@@ -31,33 +31,56 @@ size_t lineEnd(const std::string& text, size_t from) {
   return back == nullptr ? end : static_cast<size_t>(static_cast<const char*>(back) - text.data());
 }
 
-// The non-empty lines of `text`, numbered as the terminal numbers them (cut at
-// carriage returns and line feeds, empty pieces dropped), each with the count
-// of empty lines that stood before it.
-std::vector<ReadLine> nonEmptyLines(const std::string& text) {
-  std::vector<ReadLine> lines;
-  size_t position = 0;
-  int breaks = 0;
-  int returns = 0;
-  while (position < text.size()) {
-    const char c = text[position];
-    if (c == '\n' || c == '\r') {
-      (c == '\n' ? breaks : returns)++;
-      ++position;
-      continue;
+// The non-empty lines of `text` one after the other, numbered as the
+// terminal numbers them (cut at carriage returns and line feeds, empty pieces
+// dropped), each with the count of empty lines that stood before it. Walks
+// on from the last line asked for, so that asking in line order reads the
+// text once and keeps no list of its lines.
+class LineWalk {
+ public:
+  explicit LineWalk(const std::string& text) : mText(text) {}
+
+  // The line numbered `number` (from 1); false past the last line. Walks on
+  // from the last line found; a smaller number starts over.
+  bool find(int number, ReadLine& line) {
+    if (number < mNumber) {
+      mPosition = 0;
+      mNumber = 0;
     }
-    size_t end = lineEnd(text, position);
-    ReadLine line;
-    line.start = position;
-    line.length = end - position;
-    line.emptyBefore = lines.empty() ? 0 : std::max(0, std::max(breaks, returns) - 1);
-    lines.push_back(line);
-    breaks = 0;
-    returns = 0;
-    position = end;
+    while (mNumber < number) {
+      if (!next()) return false;
+    }
+    line = mLine;
+    return mNumber > 0;
   }
-  return lines;
-}
+
+ private:
+  bool next() {
+    int breaks = 0;
+    int returns = 0;
+    while (mPosition < mText.size()) {
+      const char c = mText[mPosition];
+      if (c == '\n' || c == '\r') {
+        (c == '\n' ? breaks : returns)++;
+        ++mPosition;
+        continue;
+      }
+      const size_t end = lineEnd(mText, mPosition);
+      mLine.start = mPosition;
+      mLine.length = end - mPosition;
+      mLine.emptyBefore = mNumber == 0 ? 0 : std::max(0, std::max(breaks, returns) - 1);
+      ++mNumber;
+      mPosition = end;
+      return true;
+    }
+    return false;
+  }
+
+  const std::string& mText;
+  size_t mPosition = 0;
+  int mNumber = 0;
+  ReadLine mLine;
+};
 
 bool isCommand(const CiscoCommandLine* record) {
   return record->getFlag() != CMD_TEXT && record->getTreeNodeSize() > 0;
@@ -103,11 +126,12 @@ char DeviceTextReader::bannerDelimiter(const std::string& line) {
 }
 
 void DeviceTextReader::attachRawText(const std::string& text, const std::vector<CiscoCommandLine*>& records) {
-  const std::vector<ReadLine> lines = nonEmptyLines(text);
+  // Records come in line order: one walk over the text.
+  LineWalk walk(text);
   for (CiscoCommandLine* record : records) {
     const int number = record->getLineNo();
-    if (number < 1 || static_cast<size_t>(number) > lines.size()) continue;
-    const ReadLine& line = lines[static_cast<size_t>(number) - 1];
+    ReadLine line;
+    if (number < 1 || !walk.find(number, line)) continue;
     if (line.emptyBefore == 0) {
       record->setRawText(text.substr(line.start, line.length));
       continue;

@@ -2,6 +2,7 @@
 // reads after the comparison.
 #include "config/ReadingSketch.h"
 
+#include <cstring>
 #include <stdexcept>
 
 #include "config/DeviceMeaning.h"
@@ -55,23 +56,26 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   mEntries.emplace_back();
   Entry entry;
   const std::string& command = record.getOriginalCmd();
-  entry.commandInForm = findInForm(command, entry.commandAt);
-  if (!entry.commandInForm) entry.commandAt = keep(command);
+  if (command.size() > kLongestCommand) throw std::length_error("command too long to sketch");
+  uint32_t commandAt = 0;
+  entry.commandInForm = findInForm(command, commandAt);
+  entry.commandAt = entry.commandInForm ? commandAt : keep(command);
   entry.commandSize = static_cast<uint32_t>(command.size());
   entry.hasPath = record.getTreeNodeSize() > 0;
   if (!record.getRawText().empty() && !entry.hasPath) {
     // Comments and refused lines: nobody looks their typed lines up.
-    entry.typed = Typed::Unkept;
+    entry.typed = static_cast<uint32_t>(Typed::Unkept);
   } else if (!record.getRawText().empty()) {
     const std::string_view line = typedLineOf(record.getRawText());
     const size_t indent = line.find_first_not_of(' ');
     if (indent != std::string_view::npos && line.substr(indent) == meaning::bare(command)) {
-      entry.typed = Typed::Indented;
+      entry.typed = static_cast<uint32_t>(Typed::Indented);
       entry.lineAt = static_cast<uint32_t>(indent);
     } else {
-      entry.typed = Typed::Stored;
-      entry.lineAt = keep(line);
-      entry.lineSize = static_cast<uint32_t>(line.size());
+      entry.typed = static_cast<uint32_t>(Typed::Stored);
+      const auto length = static_cast<uint32_t>(line.size());
+      entry.lineAt = keep(std::string_view(reinterpret_cast<const char*>(&length), sizeof(length)));
+      keep(line);
     }
   }
   for (const CiscoCommandLine* child : record.getChildCommands()) add(*child);
@@ -106,12 +110,15 @@ bool ReadingSketch::findInForm(std::string_view command, uint32_t& at) {
 
 std::string ReadingSketch::typedLine(size_t at) const {
   const Entry& entry = mEntries[at];
-  switch (entry.typed) {
+  switch (static_cast<Typed>(entry.typed)) {
     case Typed::None:
     case Typed::Unkept:
       return std::string();
-    case Typed::Stored:
-      return mTexts.substr(entry.lineAt, entry.lineSize);
+    case Typed::Stored: {
+      uint32_t length = 0;
+      std::memcpy(&length, mTexts.data() + entry.lineAt, sizeof(length));
+      return mTexts.substr(entry.lineAt + sizeof(length), length);
+    }
     case Typed::Indented:
       break;
   }

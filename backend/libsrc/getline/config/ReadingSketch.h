@@ -54,9 +54,9 @@ class ReadingSketch {
     return held.substr(entry.commandAt, entry.commandSize);
   }
   // Whether the record had a grammar path (getTreeNodeSize() > 0).
-  bool hasPath(size_t at) const { return mEntries[at].hasPath; }
+  bool hasPath(size_t at) const { return mEntries[at].hasPath != 0; }
   // Whether the record was read from a line (its raw text is not empty).
-  bool wasTyped(size_t at) const { return mEntries[at].typed != Typed::None; }
+  bool wasTyped(size_t at) const { return static_cast<Typed>(mEntries[at].typed) != Typed::None; }
   // The line the record was typed as, trailing blanks and tabs cut; empty
   // for a record without a grammar path (a comment, a refused line).
   std::string typedLine(size_t at) const;
@@ -68,19 +68,25 @@ class ReadingSketch {
  private:
   // None: not read from a line. Unkept: read from one, not kept (no path).
   enum class Typed : uint8_t { None, Unkept, Stored, Indented };
+  // Sixteen bytes an entry: a sketch has one per record.
   struct Entry {
+    Entry() : commandSize(0), hasPath(false), commandInForm(false), typed(0) {}
     uint32_t commandAt = 0;
-    uint32_t commandSize = 0;
-    // Stored: the typed line's place in mTexts. Indented: `lineAt` blanks,
-    // then the command's text without its trailing blanks and line end.
-    uint32_t lineAt = 0;
-    uint32_t lineSize = 0;
-    uint32_t end = 0;
-    bool hasPath = false;
+    // Below kLongestCommand.
+    uint32_t commandSize : 28;
+    uint32_t hasPath : 1;
     // The command's text is in mForm (else in mTexts).
-    bool commandInForm = false;
-    Typed typed = Typed::None;
+    uint32_t commandInForm : 1;
+    // A Typed.
+    uint32_t typed : 2;
+    // Stored: the place in mTexts of the typed line's length (four bytes),
+    // which its characters follow. Indented: `lineAt` blanks, then the
+    // command's text without its trailing blanks and line end.
+    uint32_t lineAt = 0;
+    uint32_t end = 0;
   };
+  static_assert(sizeof(Entry) == 16, "a sketch entry is sixteen bytes");
+  static constexpr size_t kLongestCommand = (size_t{1} << 28) - 1;
 
   void add(const CiscoCommandLine& record);
   uint32_t keep(std::string_view text);
