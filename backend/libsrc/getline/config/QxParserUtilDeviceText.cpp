@@ -321,6 +321,9 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
       IntermediateRecords freed;
       result = mergeConfigCmdsDeviceText(firstGiven, secondGiven, firstRefused, secondRefused);
     }
+    // Written line by line, the text has room to spare; it is kept while the
+    // rollback reads it twice, so in its own size.
+    result.shrink_to_fit();
     return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
   }
   std::string firstSettled;
