@@ -1,10 +1,13 @@
 // Merge and fallback written as device text.
 #include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <set>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "config/AccessListMeaning.h"
 #include "config/BgpNeighbourMeaning.h"
@@ -86,20 +89,55 @@ void wantTypedLines(const std::vector<CiscoCommandLine*>& records, TypedLines& l
   }
 }
 
-// Finds the wanted forms in `sketch` (of a reading of a text), all levels:
-// the top level first, then the commands below each, depth first.
-void collectTypedLines(const ReadingSketch& sketch, TypedLines& lines) {
-  const auto look = [&sketch, &lines](size_t at) {
-    if (!sketch.hasPath(at) || !sketch.wasTyped(at)) return;
-    const auto wanted = lines.find(withoutNoView(sketch.command(at)));
-    if (wanted == lines.end() || wanted->second.found) return;
-    wanted->second = TypedLine{true, std::string(sketch.command(at)), sketch.typedLine(at)};
-  };
-  for (size_t at = 0; at < sketch.size(); at = sketch.end(at)) look(at);
-  for (size_t top = 0; top < sketch.size(); top = sketch.end(top)) {
-    for (size_t at = top + 1; at < sketch.end(top); ++at) look(at);
+// Where each form first stands in a sketch (of a reading of a text), all
+// levels, in the order the rollback looks: the top level first, then the
+// commands below each, depth first; only typed commands with a grammar path.
+// Made beside the comparison, so that the rollback only looks forms up.
+// Eight bytes an entry (it is made while the compared readings are alive):
+// the form's hash, cut to 32 bits, and the entry's place, sorted by hash
+// and, within a hash, in that order; the forms themselves are compared.
+class TypedLineIndex {
+ public:
+  TypedLineIndex() = default;
+  explicit TypedLineIndex(const ReadingSketch& sketch) : mSketch(&sketch) {
+    mEntries.reserve(sketch.size());
+    const auto note = [this, &sketch](size_t at) {
+      if (!sketch.hasPath(at) || !sketch.wasTyped(at)) return;
+      mEntries.emplace_back(hashOf(withoutNoView(sketch.command(at))), static_cast<uint32_t>(at));
+    };
+    for (size_t at = 0; at < sketch.size(); at = sketch.end(at)) note(at);
+    for (size_t top = 0; top < sketch.size(); top = sketch.end(top)) {
+      for (size_t at = top + 1; at < sketch.end(top); ++at) note(at);
+    }
+    std::stable_sort(mEntries.begin(), mEntries.end(),
+                     [](const Entry& a, const Entry& b) { return a.first < b.first; });
   }
-}
+
+  // Fills the wanted forms of `lines` not found yet.
+  void collect(TypedLines& lines) const {
+    if (mSketch == nullptr) return;
+    for (auto& [form, typed] : lines) {
+      if (typed.found) continue;
+      const uint32_t hash = hashOf(form);
+      auto at = std::lower_bound(mEntries.begin(), mEntries.end(), hash,
+                                 [](const Entry& entry, uint32_t sought) { return entry.first < sought; });
+      for (; at != mEntries.end() && at->first == hash; ++at) {
+        if (withoutNoView(mSketch->command(at->second)) != form) continue;
+        typed = TypedLine{true, std::string(mSketch->command(at->second)), mSketch->typedLine(at->second)};
+        break;
+      }
+    }
+  }
+
+ private:
+  using Entry = std::pair<uint32_t, uint32_t>;
+  static uint32_t hashOf(std::string_view form) {
+    return static_cast<uint32_t>(std::hash<std::string_view>()(form) >> 32);
+  }
+
+  const ReadingSketch* mSketch = nullptr;
+  std::vector<Entry> mEntries;
+};
 
 // A command that an input holds as it stands comes out as that input wrote
 // it; any other is spelled anew, in the words an input typed for it.
@@ -383,11 +421,15 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     kept.bothRead = [&]() { readingChanges.missed = DeviceMeaning::missedCommands(firstRead, secondRead); };
     kept.bothReadBeside = &namedLists;
   }
+  TypedLineIndex firstTypedLines;
+  TypedLineIndex secondTypedLines;
   SideReading numberedLists([&]() {
     if (mode != 0) {
       readingChanges.numberedLists =
           AccessListMeaning::changedNumberedLists(firstText, secondText, readingChanges.numbers);
+      firstTypedLines = TypedLineIndex(firstSketch);
     }
+    secondTypedLines = TypedLineIndex(secondSketch);
   });
   kept.besideComparison = &numberedLists;
   // The records the texts were compared by are freed on the second thread
@@ -422,8 +464,8 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   VlanListMeaning::dropReplacedLists(out);
   DeviceMeaning::settingsAheadOfSubModes(out, false);
   wantTypedLines(out, typedLines);
-  collectTypedLines(secondSketch, typedLines);
-  if (mode != 0) collectTypedLines(firstSketch, typedLines);
+  secondTypedLines.collect(typedLines);
+  firstTypedLines.collect(typedLines);
   lendTypedLines(out, typedLines);
   return DeviceTextWriter::write(out, DeviceTextWriter::kCloseEveryBlock);
 }
