@@ -3,12 +3,15 @@
 // path), the same path flag and the same children; and the banners. On a typed text with abbreviations, tabs,
 // carriage returns and a banner, and on every file of the public corpus; each
 // sketched alone, beside the reading's merge form (whose texts it then holds
-// as views), and beside a form that holds a stranger line.
+// as views), beside a form that holds a stranger line, and from the same
+// reading settled without raw texts (its lines found in the text's lines).
 #include "ConfigFixture.h"
 #include "ShippedGrammar.h"
 #include "config/DeviceMeaning.h"
 #include "config/DeviceTextReader.h"
 #include "config/ReadingSketch.h"
+#include "config/TextLines.h"
+#include "config/TypedTextReader.h"
 
 namespace qxparser {
 namespace {
@@ -52,6 +55,20 @@ size_t commandBytes(const std::vector<CiscoCommandLine*>& records) {
   return bytes;
 }
 
+// The sketch of `text` read as typed and settled without raw texts, each
+// typed line found in the text's lines instead.
+ReadingSketch sketchByLines(const std::string& text) {
+  std::vector<CiscoCommandLine*> all;
+  std::vector<RefusedLine> refused;
+  TypedTextReader::read(text, all, refused);
+  const TextLines lines(text);
+  std::vector<CiscoCommandLine*> records;
+  DeviceTextReader::settleByLines(lines, all, records);
+  ReadingSketch sketch(records, nullptr, &lines);
+  QxParserUtil::deleteCommands(records);
+  return sketch;
+}
+
 void checkSketch(const std::string& text, const std::string& where) {
   std::vector<CiscoCommandLine*> records;
   DeviceTextReader::read(text, records);
@@ -61,7 +78,8 @@ void checkSketch(const std::string& text, const std::string& where) {
   const ReadingSketch alone(records);
   const ReadingSketch beside(records, std::make_shared<const std::string>(form));
   const ReadingSketch besideStranger(records, std::make_shared<const std::string>(stranger));
-  for (const ReadingSketch* sketch : {&alone, &beside, &besideStranger}) {
+  const ReadingSketch byLines = sketchByLines(text);
+  for (const ReadingSketch* sketch : {&alone, &beside, &besideStranger, &byLines}) {
     EXPECT_EQ(compare(records, *sketch, 0, where), sketch->size()) << where;
     EXPECT_EQ(sketch->banners(), DeviceMeaning::bannersOf(records)) << where;
   }
@@ -85,7 +103,11 @@ TEST_F(ReadingSketchTest, HoldsWhatTheReadingHolds) {
       "!\n"
       "banner motd ^C\n"
       "Authorised use only\n"
+      "\n"
+      "\r\n"
+      "  Disconnect now\n"
       "^C\n"
+      "\n"
       "router ospf 1\n"
       " network 10.0.0.0 0.0.0.255 area 0\n"
       "line vty 0 4\n"

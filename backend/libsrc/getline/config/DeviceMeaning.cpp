@@ -63,7 +63,7 @@ void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<Cisco
   }
 }
 
-std::string lastLineOf(const std::string& raw) { return std::string(meaning::lastLine(raw)); }
+std::string lastLineOf(std::string_view raw) { return std::string(meaning::lastLine(raw)); }
 
 }  // namespace
 
@@ -516,10 +516,13 @@ std::string bannerKind(const CiscoCommandLine& record) {
 }
 
 // The banner as the device shows it: its line, its text, its closing line.
-std::string bannerText(const CiscoCommandLine& record) {
-  std::string text = lastLineOf(record.getRawText().empty() ? record.getOriginalCmd() : record.getRawText()) + "\n";
+std::string bannerText(const CiscoCommandLine& record, const DeviceMeaning::RawTextOf& rawText) {
+  const std::string_view raw = rawText(record);
+  std::string text = lastLineOf(raw.empty() ? std::string_view(record.getOriginalCmd()) : raw) + "\n";
   for (const CiscoCommandLine* line : record.getChildCommands()) {
-    text += (line->getRawText().empty() ? line->getOriginalCmd() : line->getRawText()) + "\n";
+    const std::string_view lineRaw = rawText(*line);
+    text += lineRaw.empty() ? std::string_view(line->getOriginalCmd()) : lineRaw;
+    text += '\n';
   }
   return text;
 }
@@ -527,10 +530,15 @@ std::string bannerText(const CiscoCommandLine& record) {
 }  // namespace
 
 std::map<std::string, std::string> DeviceMeaning::bannersOf(const std::vector<CiscoCommandLine*>& records) {
+  return bannersOf(records, [](const CiscoCommandLine& record) { return std::string_view(record.getRawText()); });
+}
+
+std::map<std::string, std::string> DeviceMeaning::bannersOf(const std::vector<CiscoCommandLine*>& records,
+                                                            const RawTextOf& rawText) {
   std::map<std::string, std::string> banners;
   for (const CiscoCommandLine* record : records) {
     const std::string kind = bannerKind(*record);
-    if (!kind.empty() && !record->hasFlags(CMDBIT_NO)) banners[kind] = bannerText(*record);
+    if (!kind.empty() && !record->hasFlags(CMDBIT_NO)) banners[kind] = bannerText(*record, rawText);
   }
   return banners;
 }

@@ -11,9 +11,11 @@
 // BgpNeighbourMeaning. Same threading rule as every reading operation.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "config/CiscoCommandLine.h"
@@ -81,6 +83,11 @@ class DeviceMeaning {
   // The banners among `records` (a top level) by kind ("banner motd"), each
   // as the device shows it: its line, its text, its closing line.
   static std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records);
+  // The same for records whose raw texts `rawText` gives (a record's own
+  // where it has one).
+  using RawTextOf = std::function<std::string_view(const CiscoCommandLine&)>;
+  static std::map<std::string, std::string> bannersOf(const std::vector<CiscoCommandLine*>& records,
+                                                      const RawTextOf& rawText);
 
   // Takes every banner line out of a rollback `out` and returns, as text,
   // what turns the banners `before` into those `after` (both as bannersOf

@@ -8,79 +8,11 @@
 
 #include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
+#include "config/TextLines.h"
 
 namespace qxparser {
 
 namespace {
-
-// Where a non-empty line stands in the text, and how many empty lines stood
-// before it.
-struct ReadLine {
-  size_t start = 0;
-  size_t length = 0;
-  int emptyBefore = 0;
-};
-
-// Where the line that starts at `from` ends: at the first carriage return or
-// line feed, else at the end. Two searches for one character each (a search
-// for either looks every character up in a set).
-size_t lineEnd(const std::string& text, size_t from) {
-  size_t end = text.find('\n', from);
-  if (end == std::string::npos) end = text.size();
-  const void* back = std::memchr(text.data() + from, '\r', end - from);
-  return back == nullptr ? end : static_cast<size_t>(static_cast<const char*>(back) - text.data());
-}
-
-// The non-empty lines of `text` one after the other, numbered as the
-// terminal numbers them (cut at carriage returns and line feeds, empty pieces
-// dropped), each with the count of empty lines that stood before it. Walks
-// on from the last line asked for, so that asking in line order reads the
-// text once and keeps no list of its lines.
-class LineWalk {
- public:
-  explicit LineWalk(const std::string& text) : mText(text) {}
-
-  // The line numbered `number` (from 1); false past the last line. Walks on
-  // from the last line found; a smaller number starts over.
-  bool find(int number, ReadLine& line) {
-    if (number < mNumber) {
-      mPosition = 0;
-      mNumber = 0;
-    }
-    while (mNumber < number) {
-      if (!next()) return false;
-    }
-    line = mLine;
-    return mNumber > 0;
-  }
-
- private:
-  bool next() {
-    int breaks = 0;
-    int returns = 0;
-    while (mPosition < mText.size()) {
-      const char c = mText[mPosition];
-      if (c == '\n' || c == '\r') {
-        (c == '\n' ? breaks : returns)++;
-        ++mPosition;
-        continue;
-      }
-      const size_t end = lineEnd(mText, mPosition);
-      mLine.start = mPosition;
-      mLine.length = end - mPosition;
-      mLine.emptyBefore = mNumber == 0 ? 0 : std::max(0, std::max(breaks, returns) - 1);
-      ++mNumber;
-      mPosition = end;
-      return true;
-    }
-    return false;
-  }
-
-  const std::string& mText;
-  size_t mPosition = 0;
-  int mNumber = 0;
-  ReadLine mLine;
-};
 
 bool isCommand(const CiscoCommandLine* record) {
   return record->getFlag() != CMD_TEXT && record->getTreeNodeSize() > 0;
@@ -91,8 +23,6 @@ bool isCommand(const CiscoCommandLine* record) {
 bool togglesBanner(std::string_view line, char delimiter) {
   return std::count(line.begin(), line.end(), delimiter) % 2 == 1;
 }
-
-std::string lastLine(const std::string& raw) { return std::string(meaning::lastLine(raw)); }
 
 // Makes `record` a child of `owner`, in line order among the children (the
 // owner may have taken children read after it already).
@@ -148,9 +78,9 @@ void DeviceTextReader::attachRawText(const std::string& text, const std::vector<
 // the innermost command around `last` that opens a mode named by the line's
 // last word (family, interface, topology, policy, session). The line then
 // stays with that mode, so that it is written back where it stood.
-CiscoCommandLine* closedMode(const CiscoCommandLine* record, CiscoCommandLine* last) {
+CiscoCommandLine* closedMode(const CiscoCommandLine* record, std::string_view line, CiscoCommandLine* last) {
   if (record->getFlag() != CMD_TEXT || last == nullptr) return nullptr;
-  std::string text = lastLine(record->getRawText());
+  std::string text(line);
   text.erase(0, text.find_first_not_of(" \t"));
   if (text.compare(0, 5, "exit-") != 0) return nullptr;
   const std::string named = text.substr(text.rfind('-') + 1);
@@ -164,15 +94,32 @@ CiscoCommandLine* closedMode(const CiscoCommandLine* record, CiscoCommandLine* l
 }
 
 void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& records, bool keepRefused) {
+  attachDataLines(records, keepRefused, nullptr);
+}
+
+void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& records, bool keepRefused,
+                                       const TextLines* lines) {
+  // Each record's line: the last line of its raw text, or where the records
+  // have none, the line of its number in `lines`.
+  const auto lineOf = [lines](const CiscoCommandLine* record) {
+    if (lines == nullptr) return meaning::lastLine(record->getRawText());
+    std::string_view line;
+    return lines->find(record->getLineNo(), line) ? line : std::string_view();
+  };
   CiscoCommandLine* lastCommand = nullptr;
   CiscoCommandLine* banner = nullptr;
   char delimiter = '\0';
   for (CiscoCommandLine* record : records) {
-    std::string_view line = meaning::lastLine(record->getRawText());
+    std::string_view line = lineOf(record);
     if (banner != nullptr) {
       // Body and closing line go with the banner command; an empty line
       // inside a banner is part of its text, elsewhere it is not kept.
       adopt(banner, record);
+      if (lines != nullptr && !line.empty()) {
+        // The empty lines before it are the only raw text such a reading keeps.
+        const int empty = lines->emptyBefore(record->getLineNo());
+        if (empty > 0) record->setRawText(std::string(static_cast<size_t>(empty), '\n').append(line));
+      }
       if (togglesBanner(line, delimiter)) banner = nullptr;
       continue;
     }
@@ -189,7 +136,7 @@ void DeviceTextReader::attachDataLines(const std::vector<CiscoCommandLine*>& rec
       adopt(lastCommand, record);
       continue;
     }
-    if (CiscoCommandLine* closed = closedMode(record, lastCommand)) {
+    if (CiscoCommandLine* closed = closedMode(record, line, lastCommand)) {
       adopt(closed, record);
       continue;
     }
@@ -229,6 +176,16 @@ void DeviceTextReader::settle(const std::string& text, std::vector<CiscoCommandL
     throw;
   }
   attachDataLines(all, keepRefused);
+  keepTopLevel(all, commands);
+}
+
+void DeviceTextReader::settleByLines(const TextLines& lines, std::vector<CiscoCommandLine*>& all,
+                                     std::vector<CiscoCommandLine*>& commands, bool keepRefused) {
+  attachDataLines(all, keepRefused, &lines);
+  keepTopLevel(all, commands);
+}
+
+void DeviceTextReader::keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands) {
   for (CiscoCommandLine* record : all) {
     if (record->getParentCommand() == nullptr && record->getLevel() == 0) commands.push_back(record);
   }

@@ -29,6 +29,8 @@
 
 namespace qxparser {
 
+class TextLines;
+
 class VTYCONF_API DeviceTextReader {
  public:
   // Reads `text`; appends the level-0 records, and the refused lines to
@@ -45,6 +47,14 @@ class VTYCONF_API DeviceTextReader {
   static void settle(const std::string& text, std::vector<CiscoCommandLine*>& all,
                      std::vector<CiscoCommandLine*>& commands, bool keepRefused = true);
 
+  // The same without copies of the lines: the records keep no raw text (but
+  // for the lines of a banner's text that had empty lines before them, which
+  // keep those), and each line is found in `lines`, the lines of the text
+  // that `all` was read from. For a reading that only looks lines up once it
+  // is settled (ReadingSketch), and so needs none of its own.
+  static void settleByLines(const TextLines& lines, std::vector<CiscoCommandLine*>& all,
+                            std::vector<CiscoCommandLine*>& commands, bool keepRefused = true);
+
   // Gives each record of `records` (all levels, as getCmdInfo returned them
   // for `text`) the line it was read from.
   static void attachRawText(const std::string& text, const std::vector<CiscoCommandLine*>& records);
@@ -56,6 +66,14 @@ class VTYCONF_API DeviceTextReader {
   // The delimiter that a banner command opens its text with ('\0' when the
   // line is no banner command); the character behind the line's second blank.
   static char bannerDelimiter(const std::string& line);
+
+ private:
+  // attachDataLines with each record's line found in `lines` where given.
+  static void attachDataLines(const std::vector<CiscoCommandLine*>& records, bool keepRefused,
+                              const TextLines* lines);
+  // Appends the level-0 records of `all` to `commands`, frees those nobody
+  // holds and empties `all`.
+  static void keepTopLevel(std::vector<CiscoCommandLine*>& all, std::vector<CiscoCommandLine*>& commands);
 };
 
 }  // namespace qxparser

@@ -21,6 +21,7 @@
 #include "config/ResultRollback.h"
 #include "config/RouteFilterMeaning.h"
 #include "config/SideReading.h"
+#include "config/TextLines.h"
 #include "config/VlanListMeaning.h"
 
 namespace qxparser {
@@ -398,8 +399,16 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     reading.read = [&text, &records, &sketch](const std::shared_ptr<const std::string>& form) {
       std::vector<CiscoCommandLine*> all;
       all.swap(records);
-      DeviceTextReader::settle(text, all, records);
-      sketch = ReadingSketch(records, form);
+      if (!TextLines::fits(text)) {
+        DeviceTextReader::settle(text, all, records);
+        sketch = ReadingSketch(records, form);
+        return;
+      }
+      // The sketch finds each typed line in the text: the reading, freed
+      // soon after, gets no copies of its lines.
+      const TextLines lines(text);
+      DeviceTextReader::settleByLines(lines, all, records);
+      sketch = ReadingSketch(records, form, &lines);
     };
     reading.release = [&records]() { deleteTopLevel(records); };
     return reading;

@@ -13,7 +13,7 @@ namespace qxparser {
 namespace {
 
 // The last line of a raw text, trailing blanks and tabs cut.
-std::string_view typedLineOf(const std::string& raw) {
+std::string_view typedLineOf(std::string_view raw) {
   const std::string_view line = meaning::lastLine(raw);
   return line.substr(0, line.find_last_not_of(" \t") + 1);
 }
@@ -30,8 +30,9 @@ void measure(const std::vector<CiscoCommandLine*>& records, size_t& count, size_
 
 }  // namespace
 
-ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel, std::shared_ptr<const std::string> form)
-    : mForm(std::move(form)) {
+ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel, std::shared_ptr<const std::string> form,
+                             const TextLines* lines)
+    : mForm(std::move(form)), mLines(lines) {
   size_t count = 0;
   size_t texts = 0;
   measure(topLevel, count, texts);
@@ -41,7 +42,15 @@ ReadingSketch::ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel, std
   // hold in turn (comments, lines the settling moved).
   mTexts.reserve(mForm ? texts / 16 : texts + texts / 8);
   for (const CiscoCommandLine* record : topLevel) add(*record);
-  mBanners = DeviceMeaning::bannersOf(topLevel);
+  mBanners = DeviceMeaning::bannersOf(topLevel,
+                                      [this](const CiscoCommandLine& record) { return rawTextOf(record); });
+  mLines = nullptr;
+}
+
+std::string_view ReadingSketch::rawTextOf(const CiscoCommandLine& record) const {
+  std::string_view raw = record.getRawText();
+  if (raw.empty() && mLines != nullptr) mLines->find(record.getLineNo(), raw);
+  return raw;
 }
 
 uint32_t ReadingSketch::keep(std::string_view text) {
@@ -62,11 +71,12 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   entry.commandAt = entry.commandInForm ? commandAt : keep(command);
   entry.commandSize = static_cast<uint32_t>(command.size());
   entry.hasPath = record.getTreeNodeSize() > 0;
-  if (!record.getRawText().empty() && !entry.hasPath) {
+  const std::string_view raw = rawTextOf(record);
+  if (!raw.empty() && !entry.hasPath) {
     // Comments and refused lines: nobody looks their typed lines up.
     entry.typed = static_cast<uint32_t>(Typed::Unkept);
-  } else if (!record.getRawText().empty()) {
-    const std::string_view line = typedLineOf(record.getRawText());
+  } else if (!raw.empty()) {
+    const std::string_view line = typedLineOf(raw);
     const size_t indent = line.find_first_not_of(' ');
     if (indent != std::string_view::npos && line.substr(indent) == meaning::bare(command)) {
       entry.typed = static_cast<uint32_t>(Typed::Indented);

@@ -6,7 +6,8 @@
 // and writes changed banners whole. For that it needs, of each record of a
 // typed reading: its full text (getOriginalCmd), the line it was typed as
 // (the last line of its raw text, trailing blanks cut; asked only of records
-// with a grammar path), whether it has a grammar path, and where it stands
+// with a grammar path; a reading settled without raw texts gives it from the
+// lines of its text), whether it has a grammar path, and where it stands
 // among the records of its mode; and the banners the reading holds. A sketch keeps exactly that, in a tenth of the
 // reading's memory, so that the reading can be freed before the texts are
 // read a second time for the comparison.
@@ -31,6 +32,7 @@
 #include <vector>
 
 #include "config/CiscoCommandLine.h"
+#include "config/TextLines.h"
 
 namespace qxparser {
 
@@ -41,8 +43,11 @@ class ReadingSketch {
   // gives them) and everything below them.
   // `form`, where given: the reading written in the merge form
   // (QxParserUtil::expandMergedCmds) before it was settled.
+  // `lines`, where given: the lines of the text the reading was read from,
+  // for a reading settled without raw texts (DeviceTextReader::settleByLines);
+  // only looked at while the sketch is made.
   explicit ReadingSketch(const std::vector<CiscoCommandLine*>& topLevel,
-                         std::shared_ptr<const std::string> form = nullptr);
+                         std::shared_ptr<const std::string> form = nullptr, const TextLines* lines = nullptr);
 
   size_t size() const { return mEntries.size(); }
   // The index behind entry `at`'s children, grandchildren and so on.
@@ -89,6 +94,9 @@ class ReadingSketch {
   static constexpr size_t kLongestCommand = (size_t{1} << 28) - 1;
 
   void add(const CiscoCommandLine& record);
+  // The record's raw text as a settling with raw texts gives it: its own, or
+  // else its line in mLines.
+  std::string_view rawTextOf(const CiscoCommandLine& record) const;
   uint32_t keep(std::string_view text);
   // The command's place in mForm at the reading position, moved past it;
   // false (and no move) where the form does not hold it there.
@@ -98,6 +106,7 @@ class ReadingSketch {
   std::string mTexts;
   std::shared_ptr<const std::string> mForm;
   size_t mFormAt = 0;
+  const TextLines* mLines = nullptr;
   std::map<std::string, std::string> mBanners;
 };
 
