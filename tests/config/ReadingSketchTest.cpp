@@ -1,6 +1,7 @@
 // ReadingSketch against the reading it sketches: for every record, depth
-// first, the same full text, the same typed line (of a record with a grammar
-// path), the same path flag and the same children; and the banners. On a typed text with abbreviations, tabs,
+// first, the same full and current text, the same typed line (of a record
+// with a grammar path), the same path, "no", stored and mode flags and the
+// same children; and the banners. On a typed text with abbreviations, tabs,
 // carriage returns and a banner, and on every file of the public corpus; each
 // sketched alone, beside the reading's merge form (whose texts it then holds
 // as views), beside a form that holds a stranger line, and from the same
@@ -35,7 +36,11 @@ size_t compare(const std::vector<CiscoCommandLine*>& records, const ReadingSketc
       return at;
     }
     EXPECT_EQ(sketch.command(at), record->getOriginalCmd());
+    EXPECT_EQ(sketch.currentCommand(at), record->getCurrentCommand());
     EXPECT_EQ(sketch.hasPath(at), record->getTreeNodeSize() > 0);
+    EXPECT_EQ(sketch.isNegated(at), record->hasFlags(CMDBIT_NO));
+    EXPECT_EQ(sketch.isStored(at), record->hasFlags(CMDBIT_STORED));
+    EXPECT_EQ(sketch.opensMode(at), record->hasFlags(CMDBIT_OPENS_MODE));
     EXPECT_EQ(sketch.wasTyped(at), !record->getRawText().empty());
     const bool kept = record->getTreeNodeSize() > 0 && !record->getRawText().empty();
     EXPECT_EQ(sketch.typedLine(at), kept ? typedLineOf(record->getRawText()) : "");

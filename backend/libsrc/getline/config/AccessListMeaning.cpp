@@ -11,6 +11,7 @@
 #include "config/DeviceTextReader.h"
 #include "config/MeaningText.h"
 #include "config/QxParserUtil.h"
+#include "config/ReadingSketch.h"
 
 namespace qxparser {
 
@@ -39,7 +40,7 @@ class HeadIndex {
   std::unordered_map<std::string_view, CiscoCommandLine*> mHeads;
 };
 
-bool isNamedList(const std::string& head) {
+bool isNamedList(std::string_view head) {
   return startsWith(head, "ip access-list ") || startsWith(head, "ipv6 access-list ");
 }
 
@@ -94,10 +95,10 @@ void placeBySequence(std::vector<CiscoCommandLine*>& entries) {
   }
 }
 
-std::vector<std::string> entryTexts(const CiscoCommandLine& list) {
+std::vector<std::string> entryTexts(const ReadingSketch& reading, size_t list) {
   std::vector<std::string> texts;
-  for (const CiscoCommandLine* entry : list.getChildCommands()) {
-    if (entry->getTreeNodeSize() > 0) texts.push_back(trimmed(entry->getOriginalCmd()));
+  for (size_t entry = list + 1; entry < reading.end(list); entry = reading.end(entry)) {
+    if (reading.hasPath(entry)) texts.push_back(trimmed(std::string(reading.command(entry))));
   }
   return texts;
 }
@@ -349,23 +350,29 @@ void AccessListMeaning::removeNamedEntries(std::vector<CiscoCommandLine*>& chang
   }
 }
 
-std::string AccessListMeaning::changedNamedLists(const std::vector<CiscoCommandLine*>& from,
-                                                 const std::vector<CiscoCommandLine*>& to,
+std::string AccessListMeaning::changedNamedLists(const ReadingSketch& from, const ReadingSketch& to,
                                                  std::vector<std::string>& heads) {
   std::string out;
-  std::unique_ptr<HeadIndex> toHeads;
-  for (const CiscoCommandLine* list : from) {
-    const std::string& head = list->getOriginalCmd();
+  // The top-level mode heads of `to` by their text, the first of each; made
+  // at the first named list.
+  std::unique_ptr<std::unordered_map<std::string_view, size_t>> toHeads;
+  for (size_t list = 0; list < from.size(); list = from.end(list)) {
+    const std::string_view head = from.command(list);
     if (!isNamedList(head)) continue;
-    if (!toHeads) toHeads = std::make_unique<HeadIndex>(to);
-    const CiscoCommandLine* other = toHeads->sameHead(*list);
-    if (!other) continue;
-    const auto before = entryTexts(*list);
-    const auto after = entryTexts(*other);
+    if (!toHeads) {
+      toHeads = std::make_unique<std::unordered_map<std::string_view, size_t>>();
+      for (size_t at = 0; at < to.size(); at = to.end(at)) {
+        if (to.opensMode(at)) toHeads->emplace(to.command(at), at);
+      }
+    }
+    const auto other = toHeads->find(head);
+    if (other == toHeads->end()) continue;
+    const auto before = entryTexts(from, list);
+    const auto after = entryTexts(to, other->second);
     if (before == after) continue;
-    heads.push_back(head);
+    heads.emplace_back(head);
     const std::string lines = entryEdits(before, after);
-    if (!lines.empty()) out += trimmed(head) + "\n" + lines;
+    if (!lines.empty()) out += trimmed(std::string(head)) + "\n" + lines;
   }
   return out;
 }

@@ -7,8 +7,8 @@
 // edited entry by entry: "no <entry>" and "no <sequence>" take one entry, an
 // entry with a sequence number stands by its number (`removeNamedEntries`,
 // `entriesBySequence`, `changedNamedLists`). The functions work on records as
-// DeviceTextReader returns them, or on device text; they own nothing they are
-// given. A numbered list edited in its named form ("ip access-list extended
+// DeviceTextReader returns them, on their sketches (ReadingSketch) or on
+// device text; they own nothing they are given. A numbered list edited in its named form ("ip access-list extended
 // 101") and "ip access-list resequence" are applied to the configuration's
 // list (`numberedThroughNamed`, `resequence`). Same threading rule as every reading operation.
 #pragma once
@@ -19,6 +19,8 @@
 #include "config/CiscoCommandLine.h"
 
 namespace qxparser {
+
+class ReadingSketch;
 
 class AccessListMeaning {
  public:
@@ -49,8 +51,7 @@ class AccessListMeaning {
   // For each named access list that `from` and `to` both hold with other
   // entries: its head, "no <entry>" for each entry that goes and each entry
   // that comes, as text. The heads go to `heads` (their full form).
-  static std::string changedNamedLists(const std::vector<CiscoCommandLine*>& from,
-                                       const std::vector<CiscoCommandLine*>& to,
+  static std::string changedNamedLists(const ReadingSketch& from, const ReadingSketch& to,
                                        std::vector<std::string>& heads);
 
   // Each "ip access-list standard|extended N" block of `changes` that edits a

@@ -26,39 +26,39 @@ using meaning::trimmed;
 
 // Ordered lists and BGP have rules of their own (whole numbered lists,
 // entries by sequence, neighbours): their lines are never added one by one.
-bool keptWhole(const CiscoCommandLine& command) {
+bool keptWhole(std::string_view text) {
   static const char* const kinds[] = {"access-list ",        "ip access-list ", "ipv6 access-list ", "ip prefix-list ",
                                       "ipv6 prefix-list ",   "route-map ",      "router bgp ",       "object-group ",
                                       "ip as-path ",         "ip community-list ", "ip extcommunity-list ", "banner "};
-  const std::string& text = command.getOriginalCmd();
   for (const char* kind : kinds) {
-    if (text.compare(0, std::char_traits<char>::length(kind), kind) == 0) return true;
+    if (startsWith(text, kind)) return true;
   }
   return false;
 }
 
-void collect(const std::vector<CiscoCommandLine*>& from, const std::vector<CiscoCommandLine*>& to,
-             const std::string& heads, int depth, std::string& out) {
+// The commands of one mode of `to` (entries `toAt` to `toEnd`, siblings)
+// that the same mode of `from` (`fromAt` to `fromEnd`) misses; see
+// missedCommands.
+void collect(const ReadingSketch& from, size_t fromAt, size_t fromEnd, const ReadingSketch& to, size_t toAt,
+             size_t toEnd, const std::string& heads, int depth, std::string& out) {
   const std::string indent(static_cast<size_t>(depth), ' ');
   // The commands of `from` by their text, the first of each.
-  std::unordered_map<std::string_view, const CiscoCommandLine*> given;
-  given.reserve(from.size());
-  for (const CiscoCommandLine* record : from) {
-    if (record->getTreeNodeSize() > 0) given.emplace(record->getCurrentCommand(), record);
+  std::unordered_map<std::string_view, size_t> given;
+  for (size_t at = fromAt; at < fromEnd; at = from.end(at)) {
+    if (from.hasPath(at)) given.emplace(from.currentCommand(at), at);
   }
-  for (CiscoCommandLine* command : to) {
-    if (command->getTreeNodeSize() == 0 || command->hasFlags(CMDBIT_NO) || !command->hasFlags(CMDBIT_STORED)) {
-      continue;
-    }
-    const auto found = given.find(command->getCurrentCommand());
-    const CiscoCommandLine* same = found == given.end() ? nullptr : found->second;
-    if (same) {
-      if (command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
-        collect(same->getChildCommands(), command->getChildCommands(),
-                heads + indent + trimmed(command->getOriginalCmd()) + "\n", depth + 1, out);
+  for (size_t at = toAt; at < toEnd; at = to.end(at)) {
+    if (!to.hasPath(at) || to.isNegated(at) || !to.isStored(at)) continue;
+    const std::string_view command = to.command(at);
+    const auto found = given.find(to.currentCommand(at));
+    if (found != given.end()) {
+      if (to.opensMode(at) && !keptWhole(command)) {
+        const size_t same = found->second;
+        collect(from, same + 1, from.end(same), to, at + 1, to.end(at),
+                heads + indent + trimmed(std::string(command)) + "\n", depth + 1, out);
       }
-    } else if (!command->hasFlags(CMDBIT_OPENS_MODE) && !keptWhole(*command)) {
-      out += heads + indent + trimmed(command->getOriginalCmd()) + "\n";
+    } else if (!to.opensMode(at) && !keptWhole(command)) {
+      out += heads + indent + trimmed(std::string(command)) + "\n";
     }
   }
 }
@@ -323,10 +323,9 @@ void DeviceMeaning::dropUnchangedNegations(std::vector<CiscoCommandLine*>& out, 
   dropIn(out, "", before, after);
 }
 
-std::string DeviceMeaning::missedCommands(const std::vector<CiscoCommandLine*>& from,
-                                          const std::vector<CiscoCommandLine*>& to) {
+std::string DeviceMeaning::missedCommands(const ReadingSketch& from, const ReadingSketch& to) {
   std::string out;
-  collect(from, to, "", 0, out);
+  collect(from, 0, from.size(), to, 0, to.size(), "", 0, out);
   return out;
 }
 

@@ -5,9 +5,10 @@
 // that the other configuration holds positive (" shutdown") is the same kind
 // of command to the comparison, so a fallback from the first to the second
 // writes nothing for it; the device needs the positive line. `missedCommands`
-// finds such lines, `graft` puts records under the mode heads of another list.
-// Both work on records as DeviceTextReader returns them; they own nothing they
-// are given. Ordered lists have AccessListMeaning, BGP neighbours
+// finds such lines in the sketches of two readings (ReadingSketch), `graft`
+// puts records under the mode heads of another list. The functions work on
+// records as DeviceTextReader returns them or on their sketches; they own
+// nothing they are given. Ordered lists have AccessListMeaning, BGP neighbours
 // BgpNeighbourMeaning. Same threading rule as every reading operation.
 #pragma once
 
@@ -32,8 +33,8 @@ class DeviceMeaning {
   // comparison by grammar path takes the two for one command and writes only
   // the "no" of the old one (a static route given a distance). Ordered lists,
   // BGP and banners are left to their own rules.
-  static std::string missedCommands(const std::vector<CiscoCommandLine*>& from,
-                                    const std::vector<CiscoCommandLine*>& to);
+  // Both are sketches of readings as DeviceTextReader returns them.
+  static std::string missedCommands(const ReadingSketch& from, const ReadingSketch& to);
 
   // An "exit-address-family" line (and its kind) read with a mode block stays
   // the block's last line when a merge added commands to the block.

@@ -157,16 +157,16 @@ class VTYCONF_API QxParserUtil {
   // Typed texts (non-null refused lists) are read by TypedTextReader, the
   // others replayed. Long texts are read at once, the second on a thread of
   // the call's own. Each text is read twice: as typed, then in the form a
-  // merge writes (see fallbackNormalised). A caller may look at the typed
+  // merge writes (see fallbackNormalised); each thread reads its text both
+  // times without waiting for the other. A caller may look at the typed
   // readings before they go (TypedReading); `bothRead` (where set) runs on
-  // this thread once both texts are read as typed, and `bothReadBeside` on
-  // the second thread at the same time (one after the other where the texts
-  // are read one after the other). `besideComparison` (where set) is posted
-  // to the second thread once both texts are read in the merge form, to run
-  // while the texts are compared; texts read one after the other leave it to
-  // its owner's wait(). Where `compared` is set, the top-level records the
-  // texts were compared by are moved there, for the caller to free, instead
-  // of being freed before the call returns.
+  // this thread once both texts are read as typed (and the first in the
+  // merge form as well), after both `read` hooks. `besideComparison` (where
+  // set) is posted to the second thread once both texts are read in the
+  // merge form, to run while the texts are compared; texts read one after
+  // the other leave it to its owner's wait(). Where `compared` is set, the
+  // top-level records the texts were compared by are moved there, for the
+  // caller to free, instead of being freed before the call returns.
   struct TypedReading {
     // Filled with the typed reading of the text (all levels, in line order)
     // instead of its being freed at once; owned by the caller then.
@@ -175,8 +175,7 @@ class VTYCONF_API QxParserUtil {
     // reading was written into in the merge form; the hook may keep that
     // text (the fallback reads it once more and then lets go of it).
     std::function<void(const std::shared_ptr<const std::string>& form)> read;
-    // On the same thread, once `bothRead` and `bothReadBeside` are done and
-    // before the text is read again.
+    // On the same thread, right after `read`, before the text is read again.
     std::function<void()> release;
   };
   struct Readers {
@@ -185,7 +184,6 @@ class VTYCONF_API QxParserUtil {
     TypedReading firstTyped;
     TypedReading secondTyped;
     std::function<void()> bothRead;
-    SideReading* bothReadBeside = nullptr;
     SideReading* besideComparison = nullptr;
     std::vector<CiscoCommandLine*>* compared = nullptr;
   };

@@ -417,18 +417,16 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
   kept.secondTyped = keptReading(secondText, secondRead, secondSketch);
   if (mode != 0) kept.firstTyped = keptReading(firstText, firstRead, firstSketch);
   // Of a configuration's rollback, what needs both readings is worked out
-  // on the two threads while both are at hand; what needs the texts alone,
-  // on the second thread while this one compares.
+  // from their sketches on this thread, while the second may still be
+  // reading its text again; what needs the texts alone, on the second thread
+  // while this one compares.
   ReadingChanges readingChanges;
-  SideReading namedLists([&]() {
-    if (mode != 0) {
-      readingChanges.namedLists =
-          AccessListMeaning::changedNamedLists(firstRead, secondRead, readingChanges.namedHeads);
-    }
-  });
   if (mode != 0) {
-    kept.bothRead = [&]() { readingChanges.missed = DeviceMeaning::missedCommands(firstRead, secondRead); };
-    kept.bothReadBeside = &namedLists;
+    kept.bothRead = [&]() {
+      readingChanges.missed = DeviceMeaning::missedCommands(firstSketch, secondSketch);
+      readingChanges.namedLists =
+          AccessListMeaning::changedNamedLists(firstSketch, secondSketch, readingChanges.namedHeads);
+    };
   }
   TypedLineIndex firstTypedLines;
   TypedLineIndex secondTypedLines;

@@ -118,40 +118,45 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       std::shared_ptr<const std::string> firstForm;
       std::shared_ptr<const std::string> secondForm;
       const TypedReading& secondReading = readers.secondTyped;
-      SideReading secondTypedRead([&]() {
+      bool secondTypedRead = false;
+      SideReading secondTypedReading([&]() {
         secondForm = std::make_shared<const std::string>(readTyped(second, allLevels, secondTyped, secondReading));
         if (secondReading.read) secondReading.read(secondForm);
+        if (secondReading.release) secondReading.release();
+        secondTypedRead = true;
       });
-      // ...then that form read, once the typed readings have served.
+      // ...then that form read, once the typed reading has served.
       // The comparison's index of the second text's top level is made by
       // the thread that read it, while the other may still be reading.
       std::optional<CommandMatchIndex> secondIndex;
       SideReading secondFormRead([&]() {
-        if (secondReading.release) secondReading.release();
+        // Nothing to read where the typed reading failed (its wait() throws).
+        if (!secondTypedRead) return;
         readMergeForm(*secondForm, secondTyped != nullptr, secondCmds);
         secondForm.reset();
         if (beside) secondIndex.emplace(secondCmds);
       });
       // Each thread frees the records it read for the comparison.
       SideReading secondFreed([&]() { deleteTopLevel(secondCmds); });
+      // Each thread reads its text twice without waiting for the other.
       SideThread side;
-      if (beside) side.post(secondTypedRead);
+      if (beside) {
+        side.post(secondTypedReading);
+        side.post(secondFormRead);
+      }
       firstForm = std::make_shared<const std::string>(readTyped(first, allLevels, readers.first, readers.firstTyped));
       if (readers.firstTyped.read) readers.firstTyped.read(firstForm);
+      if (readers.firstTyped.release) readers.firstTyped.release();
+      readMergeForm(*firstForm, readers.first != nullptr, firstCmds);
+      firstForm.reset();
       try {
-        secondTypedRead.wait();
+        secondTypedReading.wait();
       } catch (...) {
         handOn();
         throw;
       }
       handOn();
-      if (readers.bothReadBeside && beside) side.post(*readers.bothReadBeside);
       if (readers.bothRead) readers.bothRead();
-      if (readers.bothReadBeside) readers.bothReadBeside->wait();
-      if (beside) side.post(secondFormRead);
-      if (readers.firstTyped.release) readers.firstTyped.release();
-      readMergeForm(*firstForm, readers.first != nullptr, firstCmds);
-      firstForm.reset();
       secondFormRead.wait();
       if (beside && readers.besideComparison) side.post(*readers.besideComparison);
       CommandMatchIndex* index = secondIndex ? &*secondIndex : nullptr;

@@ -71,6 +71,10 @@ void ReadingSketch::add(const CiscoCommandLine& record) {
   entry.commandAt = entry.commandInForm ? commandAt : keep(command);
   entry.commandSize = static_cast<uint32_t>(command.size());
   entry.hasPath = record.getTreeNodeSize() > 0;
+  entry.negated = record.hasFlags(CMDBIT_NO);
+  entry.stored = record.hasFlags(CMDBIT_STORED);
+  entry.opensMode = record.hasFlags(CMDBIT_OPENS_MODE);
+  if (record.getCurrentCommand() != command) mCurrent.emplace(at, record.getCurrentCommand());
   const std::string_view raw = rawTextOf(record);
   if (!raw.empty() && !entry.hasPath) {
     // Comments and refused lines: nobody looks their typed lines up.
@@ -116,6 +120,12 @@ bool ReadingSketch::findInForm(std::string_view command, uint32_t& at) {
     return true;
   }
   return false;
+}
+
+std::string_view ReadingSketch::currentCommand(size_t at) const {
+  if (mCurrent.empty()) return command(at);
+  const auto found = mCurrent.find(at);
+  return found == mCurrent.end() ? command(at) : std::string_view(found->second);
 }
 
 std::string ReadingSketch::typedLine(size_t at) const {

@@ -58,8 +58,15 @@ class ReadingSketch {
     const std::string_view held = entry.commandInForm ? std::string_view(*mForm) : std::string_view(mTexts);
     return held.substr(entry.commandAt, entry.commandSize);
   }
+  // The record's getCurrentCommand() (a reading gives it the same text as
+  // getOriginalCmd(), which the sketch then keeps once).
+  std::string_view currentCommand(size_t at) const;
   // Whether the record had a grammar path (getTreeNodeSize() > 0).
   bool hasPath(size_t at) const { return mEntries[at].hasPath != 0; }
+  // Its CMDBIT_NO, CMDBIT_STORED and CMDBIT_OPENS_MODE flags.
+  bool isNegated(size_t at) const { return mEntries[at].negated != 0; }
+  bool isStored(size_t at) const { return mEntries[at].stored != 0; }
+  bool opensMode(size_t at) const { return mEntries[at].opensMode != 0; }
   // Whether the record was read from a line (its raw text is not empty).
   bool wasTyped(size_t at) const { return static_cast<Typed>(mEntries[at].typed) != Typed::None; }
   // The line the record was typed as, trailing blanks and tabs cut; empty
@@ -75,11 +82,16 @@ class ReadingSketch {
   enum class Typed : uint8_t { None, Unkept, Stored, Indented };
   // Sixteen bytes an entry: a sketch has one per record.
   struct Entry {
-    Entry() : commandSize(0), hasPath(false), commandInForm(false), typed(0) {}
+    Entry()
+        : commandSize(0), hasPath(false), negated(false), stored(false), opensMode(false), commandInForm(false),
+          typed(0) {}
     uint32_t commandAt = 0;
     // Below kLongestCommand.
-    uint32_t commandSize : 28;
+    uint32_t commandSize : 25;
     uint32_t hasPath : 1;
+    uint32_t negated : 1;
+    uint32_t stored : 1;
+    uint32_t opensMode : 1;
     // The command's text is in mForm (else in mTexts).
     uint32_t commandInForm : 1;
     // A Typed.
@@ -91,7 +103,7 @@ class ReadingSketch {
     uint32_t end = 0;
   };
   static_assert(sizeof(Entry) == 16, "a sketch entry is sixteen bytes");
-  static constexpr size_t kLongestCommand = (size_t{1} << 28) - 1;
+  static constexpr size_t kLongestCommand = (size_t{1} << 25) - 1;
 
   void add(const CiscoCommandLine& record);
   // The record's raw text as a settling with raw texts gives it: its own, or
@@ -108,6 +120,9 @@ class ReadingSketch {
   size_t mFormAt = 0;
   const TextLines* mLines = nullptr;
   std::map<std::string, std::string> mBanners;
+  // The current commands that are not their records' original ones, by
+  // entry (none from a reading).
+  std::map<size_t, std::string> mCurrent;
 };
 
 }  // namespace qxparser
