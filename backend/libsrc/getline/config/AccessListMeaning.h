@@ -8,9 +8,10 @@
 // entry with a sequence number stands by its number (`removeNamedEntries`,
 // `entriesBySequence`, `changedNamedLists`). The functions work on records as
 // DeviceTextReader returns them, on their sketches (ReadingSketch) or on
-// device text; they own nothing they are given. A numbered list edited in its named form ("ip access-list extended
-// 101") and "ip access-list resequence" are applied to the configuration's
-// list (`numberedThroughNamed`, `resequence`). Same threading rule as every reading operation.
+// device text; they own nothing they are given. A numbered list edited in its
+// named form ("ip access-list extended 101") and "ip access-list resequence"
+// are applied to the configuration's list (`numberedThroughNamed`,
+// `resequence`). Same threading rule as every reading operation.
 #pragma once
 
 #include <string>

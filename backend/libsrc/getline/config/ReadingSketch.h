@@ -3,14 +3,18 @@
 //
 // The rollback spells each command it writes in the words an input typed for
 // it, leaves out the negations of lines that stand unchanged in both inputs,
-// and writes changed banners whole. For that it needs, of each record of a
-// typed reading: its full text (getOriginalCmd), the line it was typed as
-// (the last line of its raw text, trailing blanks cut; asked only of records
-// with a grammar path; a reading settled without raw texts gives it from the
-// lines of its text), whether it has a grammar path, and where it stands
-// among the records of its mode; and the banners the reading holds. A sketch keeps exactly that, in a tenth of the
-// reading's memory, so that the reading can be freed before the texts are
-// read a second time for the comparison.
+// writes changed banners whole, and adds the lines the comparison misses and
+// the edits of changed named lists, found from two sketches. For that it
+// needs, of each record of a typed reading: its full and current text
+// (getOriginalCmd, getCurrentCommand), the line it was typed as (the last
+// line of its raw text, trailing blanks cut; asked only of records with a
+// grammar path; a reading settled without raw texts gives it from the lines
+// of its text), whether it has a grammar path, its "no", stored and mode
+// flags, and where it stands among the records of its mode; and the banners
+// the reading holds. A sketch keeps exactly that, in a tenth of the reading's
+// memory, so that the reading can be freed before the texts are read a
+// second time for the comparison. A command longer than kLongestCommand (32
+// MiB) cannot be sketched (std::length_error).
 //
 // Entries stand in the reading's order, each followed by those of its
 // children (depth first): entry `i`'s children are `i + 1`, then `end` of
