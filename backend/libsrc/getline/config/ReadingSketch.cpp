@@ -62,6 +62,7 @@ uint32_t ReadingSketch::keep(std::string_view text) {
 
 void ReadingSketch::add(const CiscoCommandLine& record) {
   const size_t at = mEntries.size();
+  if (at >= kMostEntries) throw std::length_error("reading too large to sketch");
   mEntries.emplace_back();
   Entry entry;
   const std::string& command = record.getOriginalCmd();

@@ -13,7 +13,7 @@
 // flags, and where it stands among the records of its mode; and the banners
 // the reading holds. A sketch keeps exactly that, in a tenth of the reading's
 // memory, so that the reading can be freed before the texts are read a
-// second time for the comparison. A command longer than kLongestCommand (32
+// second time for the comparison. A command longer than kLongestCommand (256
 // MiB) cannot be sketched (std::length_error).
 //
 // Entries stand in the reading's order, each followed by those of its
@@ -87,15 +87,12 @@ class ReadingSketch {
   // Sixteen bytes an entry: a sketch has one per record.
   struct Entry {
     Entry()
-        : commandSize(0), hasPath(false), negated(false), stored(false), opensMode(false), commandInForm(false),
-          typed(0) {}
+        : commandSize(0), hasPath(false), commandInForm(false), typed(0), end(0), negated(false), stored(false),
+          opensMode(false) {}
     uint32_t commandAt = 0;
     // Below kLongestCommand.
-    uint32_t commandSize : 25;
+    uint32_t commandSize : 28;
     uint32_t hasPath : 1;
-    uint32_t negated : 1;
-    uint32_t stored : 1;
-    uint32_t opensMode : 1;
     // The command's text is in mForm (else in mTexts).
     uint32_t commandInForm : 1;
     // A Typed.
@@ -104,10 +101,17 @@ class ReadingSketch {
     // which its characters follow. Indented: `lineAt` blanks, then the
     // command's text without its trailing blanks and line end.
     uint32_t lineAt = 0;
-    uint32_t end = 0;
+    // Below kMostEntries.
+    uint32_t end : 29;
+    uint32_t negated : 1;
+    uint32_t stored : 1;
+    uint32_t opensMode : 1;
   };
   static_assert(sizeof(Entry) == 16, "a sketch entry is sixteen bytes");
-  static constexpr size_t kLongestCommand = (size_t{1} << 25) - 1;
+  static constexpr size_t kLongestCommand = (size_t{1} << 28) - 1;
+  // More records than a reading can hold in memory (each takes more than a
+  // hundred bytes).
+  static constexpr size_t kMostEntries = (size_t{1} << 29) - 1;
 
   void add(const CiscoCommandLine& record);
   // The record's raw text as a settling with raw texts gives it: its own, or
