@@ -13,6 +13,7 @@
 #include "ShippedGrammar.h"
 #include "support/CaseFile.h"
 #include "config/DeviceTextReader.h"
+#include "config/ResultRollback.h"
 #include "CorpusEdits.h"
 
 namespace qxparser {
@@ -251,6 +252,30 @@ TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
     EXPECT_GE(fileShare, folder.fileFloor) << folder.path;
     EXPECT_GE(deltaShare, folder.deltaFloor) << folder.path;
   }
+}
+
+// A change set undone through the configuration it gives is undone as the
+// file rollback from the merged text to the configuration: the merge's own
+// reading of the configuration, which that rollback takes over where the
+// change set is small, gives what reading the text again gives.
+TEST_F(DeviceMeaningTest, DeltaThroughTheResultIsTheRollbackOfTheMergedText) {
+  const std::string folder = std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/";
+  const auto names = filesOf(folder, "", ".cfg");
+  if (names.empty()) GTEST_SKIP() << "no corpus in " << folder;
+  int throughResult = 0;
+  for (const std::string& name : names) {
+    const std::string a = readWholeFile(folder + name);
+    for (int seed = 0; seed < 3; ++seed) {
+      const std::string changes = rollback(a, corpusedits::edited(a, seed));
+      if (!ResultRollback::needed(changes)) continue;
+      ++throughResult;
+      const std::string merged = QxParserUtil::mergeConfigCmdsDeviceText(changes, a);
+      EXPECT_EQ(QxParserUtil::fallbackConfigCmdsDeviceText(changes, a, 0),
+                QxParserUtil::fallbackConfigCmdsDeviceText(merged, a, 1))
+          << name << " seed " << seed;
+    }
+  }
+  EXPECT_GT(throughResult, 20) << "change sets undone through their result";
 }
 
 }  // namespace

@@ -186,7 +186,27 @@ class VTYCONF_API QxParserUtil {
     std::function<void()> bothRead;
     SideReading* besideComparison = nullptr;
     std::vector<CiscoCommandLine*>* compared = nullptr;
+    // The second text's merge form where the caller has read the text as
+    // typed already (as readTyped over all levels would): the second text is
+    // then not read as typed again, and `secondTyped` is not called.
+    std::shared_ptr<const std::string> secondForm;
   };
+  // A configuration's typed reading that a merge keeps for the rollback that
+  // reads the same text next (the delta rollback through the merge's
+  // result): its merge form and its sketch. Defined with the device-text
+  // operations.
+  struct KeptReading;
+  // mergeConfigCmdsDeviceText, keeping the reading of `config` in
+  // `keptConfig` where given.
+  static std::string mergeDeviceText(const std::string& changes, const std::string& config,
+                                     std::vector<RefusedLine>* changesRefused,
+                                     std::vector<RefusedLine>* configRefused, KeptReading* keptConfig);
+  // fallbackConfigCmdsDeviceText, taking the reading of `second` from
+  // `keptSecond` where given and where it is the reading this call would
+  // make.
+  static std::string rollbackDeviceText(const std::string& first, const std::string& second, unsigned int mode,
+                                        std::vector<RefusedLine>* firstRefused,
+                                        std::vector<RefusedLine>* secondRefused, KeptReading* keptSecond);
   static std::string fallbackWithReaders(const std::string& first, const std::string& second, unsigned int mode,
                                          std::vector<RefusedLine>* firstRefused,
                                          std::vector<RefusedLine>* secondRefused, Readers readers);

@@ -259,9 +259,20 @@ std::pair<const std::string*, const std::string*> settledTexts(const std::string
 
 }  // namespace
 
+struct QxParserUtil::KeptReading {
+  std::shared_ptr<const std::string> form;
+  ReadingSketch sketch;
+};
+
 std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, const std::string& config,
                                                     std::vector<RefusedLine>* changesRefused,
                                                     std::vector<RefusedLine>* configRefused) {
+  return mergeDeviceText(changes, config, changesRefused, configRefused, nullptr);
+}
+
+std::string QxParserUtil::mergeDeviceText(const std::string& changes, const std::string& config,
+                                          std::vector<RefusedLine>* changesRefused,
+                                          std::vector<RefusedLine>* configRefused, KeptReading* keptConfig) {
   std::vector<CiscoCommandLine*> changeCmds;
   std::vector<CiscoCommandLine*> configCmds;
   RecordsGuard changeGuard(changeCmds, true);
@@ -290,7 +301,28 @@ std::string QxParserUtil::mergeConfigCmdsDeviceText(const std::string& changes, 
   const bool beside = ownLists && !VlanListMeaning::needsConfig(changes) && SideReading::worthAThread(changes) &&
                       SideReading::worthAThread(config);
   if (beside) side.post(changeReading);
-  DeviceTextReader::read(config, configCmds, configRefused);
+  if (keptConfig == nullptr) {
+    DeviceTextReader::read(config, configCmds, configRefused);
+  } else {
+    // Read as DeviceTextReader::read reads it; on the way, the merge form
+    // (as readTyped writes it over all levels) and the sketch of the reading
+    // are kept for the rollback that reads the text next.
+    std::vector<CiscoCommandLine*> all;
+    std::vector<RefusedLine> unwanted;
+    try {
+      getCmdInfoTyped(config, all, configRefused ? *configRefused : unwanted);
+      std::vector<CiscoCommandLine*> topLevel;
+      for (CiscoCommandLine* record : all) {
+        if (record->getLevel() == 0) topLevel.push_back(record);
+      }
+      keptConfig->form = std::make_shared<const std::string>(nulAsBlank(expandMergedCmds(topLevel, 0)));
+    } catch (...) {
+      deleteCommands(all);
+      throw;
+    }
+    DeviceTextReader::settle(config, all, configCmds);
+    keptConfig->sketch = ReadingSketch(configCmds, keptConfig->form);
+  }
   if (!changeReading.posted() && VlanListMeaning::needsConfig(changes)) {
     resolvedText = VlanListMeaning::resolvedChanges(changes, configCmds);
     resolved = &resolvedText;
@@ -355,16 +387,30 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     // Undone through the configuration the changes give (see ResultRollback).
     // That merge is a step on the way: its records go before the rollback
     // reads, whatever the caller asked for the records of its result.
+    // The merge's reading of the configuration serves the rollback, which
+    // reads the same text, where the change set is at most half the
+    // configuration's size: the merge holds the change set's reading beside
+    // the configuration's, and with a larger change set the merge form and
+    // sketch kept on top (one and a half times the text) would raise the
+    // job's peak of memory.
     std::string result;
+    KeptReading config;
+    const bool keep = firstGiven.size() <= secondGiven.size() / 2;
     {
       IntermediateRecords freed;
-      result = mergeConfigCmdsDeviceText(firstGiven, secondGiven, firstRefused, secondRefused);
+      result = mergeDeviceText(firstGiven, secondGiven, firstRefused, secondRefused, keep ? &config : nullptr);
     }
     // Written line by line, the text has room to spare; it is kept while the
     // rollback reads it twice, so in its own size.
     result.shrink_to_fit();
-    return fallbackConfigCmdsDeviceText(result, secondGiven, 1);
+    return rollbackDeviceText(result, secondGiven, 1, nullptr, nullptr, &config);
   }
+  return rollbackDeviceText(firstGiven, secondGiven, mode, firstRefused, secondRefused, nullptr);
+}
+
+std::string QxParserUtil::rollbackDeviceText(const std::string& firstGiven, const std::string& secondGiven,
+                                             unsigned int mode, std::vector<RefusedLine>* firstRefused,
+                                             std::vector<RefusedLine>* secondRefused, KeptReading* keptSecond) {
   std::string firstSettled;
   std::string secondSettled;
   const auto [firstKept, secondKept] = settledTexts(firstGiven, secondGiven, firstSettled, secondSettled);
@@ -414,7 +460,16 @@ std::string QxParserUtil::fallbackConfigCmdsDeviceText(const std::string& firstG
     return reading;
   };
   Readers kept;
-  kept.secondTyped = keptReading(secondText, secondRead, secondSketch);
+  // A reading kept by the merge serves where the text stands as the merge
+  // read it (nothing settled, no NUL byte) and its refused lines are not
+  // wanted again.
+  if (keptSecond != nullptr && keptSecond->form && &second == &secondGiven && &secondText == &second &&
+      secondRefused == nullptr) {
+    secondSketch = std::move(keptSecond->sketch);
+    kept.secondForm = std::move(keptSecond->form);
+  } else {
+    kept.secondTyped = keptReading(secondText, secondRead, secondSketch);
+  }
   if (mode != 0) kept.firstTyped = keptReading(firstText, firstRead, firstSketch);
   // Of a configuration's rollback, what needs both readings is worked out
   // from their sketches on this thread, while the second may still be

@@ -120,6 +120,11 @@ std::string QxParserUtil::fallbackNormalised(const std::string& first, const std
       const TypedReading& secondReading = readers.secondTyped;
       bool secondTypedRead = false;
       SideReading secondTypedReading([&]() {
+        if (readers.secondForm) {
+          secondForm = readers.secondForm;
+          secondTypedRead = true;
+          return;
+        }
         secondForm = std::make_shared<const std::string>(readTyped(second, allLevels, secondTyped, secondReading));
         if (secondReading.read) secondReading.read(secondForm);
         if (secondReading.release) secondReading.release();
