@@ -8,6 +8,8 @@ its changed copy, then runs the program of BUILD on them:
   merge INTENDED RUNNING             (the whole intended file as change set)
   fallback --file RUNNING INTENDED
   fallback --delta INTENDED RUNNING
+  fallback --delta SMALL RUNNING     (a change set of seven lines: an access-list entry, a
+                                      description and the hostname, as people send them)
   parse --stats EMPTY                (start-up and grammar load alone)
 Each job takes the best of --repeat runs (one at 1M); wall time, CPU time
 (user + system) and peak resident memory come from wait4's resource usage.
@@ -52,13 +54,39 @@ def generate(folder, lines):
     return running, intended
 
 
+def small_changes(running):
+    """A change set of seven lines for the configuration RUNNING, written beside it: an entry
+    added to its first extended access list, its first interface described anew, the hostname."""
+    path = running.with_name(running.stem + ".small-changes.cfg")
+    if not path.exists():
+        acl, interface = None, None
+        with open(running, encoding="utf-8", errors="replace") as text:
+            for line in text:
+                if acl is None and line.startswith("ip access-list extended "):
+                    acl = line.rstrip()
+                if interface is None and line.startswith("interface "):
+                    interface = line.rstrip()
+                if acl and interface:
+                    break
+        lines = []
+        if acl:
+            lines += [acl, " permit tcp any any eq 2222", "!"]
+        if interface:
+            lines += [interface, " description edited by change", "!"]
+        lines.append("hostname edited-router")
+        path.write_text("\n".join(lines) + "\n")
+    return path
+
+
 def jobs(program, running, intended):
     base = [str(program), "--quiet"]
+    small = small_changes(pathlib.Path(running))
     return [
         ("parse --stats", base + ["parse", "-j", "1", "--stats", str(running)]),
         ("merge", base + ["merge", str(intended), str(running)]),
         ("fallback --file", base + ["fallback", "--file", str(running), str(intended)]),
         ("fallback --delta", base + ["fallback", "--delta", str(intended), str(running)]),
+        ("fallback --delta, 7-line change set", base + ["fallback", "--delta", str(small), str(running)]),
     ]
 
 

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Writes what the program prints for every whole-program job (parse, parse
 # --json, merge, fallback --file/--delta, sort, three queries) over the corpus
-# folders and a generated pair, and the library's own merge and fallback forms
-# (--merge-form, --cut-at-deep-levels) over the generated pair, one file per
-# run, into OUT. Two such folders
-# compared with `diff -r` show whether a change to the program changed any
-# output byte. Usage: bench/program_outputs.sh PROGRAM OUT [LINES]
+# folders and a generated pair, the delta rollback of a change set of a few
+# lines over each of those files, and the library's own merge and fallback
+# forms (--merge-form, --cut-at-deep-levels) over the generated pair, one file
+# per run, into OUT. Two such folders compared with `diff -r` show whether a
+# change to the program changed any output byte.
+# Usage: bench/program_outputs.sh PROGRAM OUT [LINES]
 set -uo pipefail
 program="$1"
 out="$2"
@@ -39,6 +40,22 @@ python3 "$shared/tools/gen_config.py" --lines "$lines" --seed 1 --change-pct 1 \
   --running "$generated/running.cfg" --intended "$generated/intended.cfg" >/dev/null
 files+=("$generated/running.cfg" "$generated/intended.cfg")
 
+# A change set of a few lines for the configuration FILE, as people send one:
+# an entry for its first named access list (or a numbered one), its first
+# interface described anew, the hostname. Its access-list line has it undone
+# through the configuration it gives. Written to OUT.
+small_changes() {
+  local acl interface
+  acl="$(grep -m 1 -E '^ip access-list (standard|extended) ' "$1")"
+  interface="$(grep -m 1 '^interface ' "$1")"
+  {
+    if [ -n "$acl" ]; then printf '%s\n remark vtyconf check\n!\n' "$acl"; else echo "access-list 99 remark vtyconf check"; fi
+    if [ -n "$interface" ]; then printf '%s\n description vtyconf check\n no shutdown\n!\n' "$interface"; fi
+    echo "hostname vtyconf-check"
+  } > "$2"
+}
+mkdir -p "$generated/small"
+
 previous="${files[${#files[@]}-1]}"
 for f in "${files[@]}"; do
   name="$(basename "$(dirname "$f")")__$(basename "$f")"
@@ -54,6 +71,8 @@ for f in "${files[@]}"; do
   run "$name.merge" merge "$previous" "$f"
   run "$name.fallback-file" fallback --file "$previous" "$f"
   run "$name.fallback-delta" fallback --delta "$previous" "$f"
+  small_changes "$f" "$generated/small/$name"
+  run "$name.fallback-delta-small" fallback --delta "$generated/small/$name" "$f"
   previous="$f"
 done
 run generated.merge merge "$generated/intended.cfg" "$generated/running.cfg"
