@@ -257,7 +257,8 @@ TEST_F(DeviceMeaningTest, RoundTripOverCorpora) {
 // A change set undone through the configuration it gives is undone as the
 // file rollback from the merged text to the configuration: the merge's own
 // reading of the configuration, which that rollback takes over where the
-// change set is small, gives what reading the text again gives.
+// change set is small, gives what reading the text again gives. Figure when
+// the floor was set: 100 such change sets in the public folder.
 TEST_F(DeviceMeaningTest, DeltaThroughTheResultIsTheRollbackOfTheMergedText) {
   const std::string folder = std::string(VTYCONF_SHARED_CORPUS_DIR) + "/public/";
   const auto names = filesOf(folder, "", ".cfg");
@@ -275,7 +276,8 @@ TEST_F(DeviceMeaningTest, DeltaThroughTheResultIsTheRollbackOfTheMergedText) {
           << name << " seed " << seed;
     }
   }
-  EXPECT_GT(throughResult, 20) << "change sets undone through their result";
+  std::cout << folder << ": " << throughResult << " change sets undone through their result\n";
+  EXPECT_GT(throughResult, 50) << "change sets undone through their result";
 }
 
 }  // namespace
