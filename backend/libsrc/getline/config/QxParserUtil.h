@@ -215,6 +215,9 @@ class VTYCONF_API QxParserUtil {
   // merge writes, which it returns.
   static std::string readTyped(const std::string& text, bool allLevels, std::vector<RefusedLine>* typed,
                                const TypedReading& reading);
+  // The form readTyped writes: the records in the merge form, over every
+  // level with blanks for indent.
+  static std::string mergeForm(const std::vector<CiscoCommandLine*>& topLevel, bool allLevels);
   // The second: that form read into its top-level records, by indent where
   // the text was typed.
   static void readMergeForm(const std::string& form, bool typed, std::vector<CiscoCommandLine*>& commands);

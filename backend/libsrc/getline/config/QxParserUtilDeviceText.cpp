@@ -315,7 +315,7 @@ std::string QxParserUtil::mergeDeviceText(const std::string& changes, const std:
       for (CiscoCommandLine* record : all) {
         if (record->getLevel() == 0) topLevel.push_back(record);
       }
-      keptConfig->form = std::make_shared<const std::string>(nulAsBlank(expandMergedCmds(topLevel, 0)));
+      keptConfig->form = std::make_shared<const std::string>(mergeForm(topLevel, true));
     } catch (...) {
       deleteCommands(all);
       throw;

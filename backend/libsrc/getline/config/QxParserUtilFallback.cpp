@@ -65,14 +65,19 @@ std::string QxParserUtil::readTyped(const std::string& text, bool allLevels, std
     // comments are gone and repeated words stand in one order.
     // Text read as typed is read back the same way: a banner closed on its
     // last text line ("text ^C") stays closed.
-    std::string form = expandMergedCmds(topLevel, 0);
-    if (allLevels) form = nulAsBlank(std::move(form));
+    std::string form = mergeForm(topLevel, allLevels);
     if (!handedOn) deleteTopLevel(topLevel);
     return form;
   } catch (...) {
     if (!handedOn) deleteTopLevel(topLevel);
     throw;
   }
+}
+
+std::string QxParserUtil::mergeForm(const std::vector<CiscoCommandLine*>& topLevel, bool allLevels) {
+  std::string form = expandMergedCmds(topLevel, 0);
+  if (allLevels) return nulAsBlank(std::move(form));
+  return form;
 }
 
 void QxParserUtil::readMergeForm(const std::string& form, bool typed, std::vector<CiscoCommandLine*>& commands) {
